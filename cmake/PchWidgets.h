@@ -1,0 +1,15 @@
+#pragma once
+#include "PchCore.h"
+#include <QAction>
+#include <QApplication>
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QEvent>
+#include <QFrame>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+#include <QWidget>

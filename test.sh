@@ -1,0 +1,7 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds everything, and runs all tests off-screen.
+set -euo pipefail
+cd "$(dirname "$0")"
+. packaging/setup.sh
+build_program
+ctest --test-dir build/release --output-on-failure "$@"
