@@ -1,0 +1,93 @@
+#include "output/Channel.h"
+
+#include <utility>
+
+#include "output/CodePage.h"
+#include "output/Ports.h"
+#include "output/Sink.h"
+
+using namespace Qt::StringLiterals;
+
+namespace output {
+
+namespace {
+
+// A receipt or a fiscal sale fits, so that who reads the file meanwhile sees it whole or not at all.
+constexpr qsizetype BufferSize = 64 * 1024;
+
+}  // namespace
+
+Channel::Channel() = default;
+
+Channel::~Channel() {
+    Abandon();
+}
+
+void Channel::RequireClosed() const {
+    if (sink_) throw OutputError(ChannelInUse, u"Channel 1 is already open."_s);
+}
+
+void Channel::RequireOpen() const {
+    if (!sink_) throw OutputError(ChannelNotOpen, u"Channel 1 is not open."_s);
+}
+
+void Channel::OpenPort(const QString& port) {
+    RequireClosed();
+    sink_ = OpenPortSink(port);
+}
+
+void Channel::OpenForOutput(const QString& path) {
+    RequireClosed();
+    sink_ = OpenFileForOutput(path);
+}
+
+void Channel::OpenForAppend(const QString& path) {
+    RequireClosed();
+    sink_ = OpenFileForAppend(path);
+}
+
+void Channel::WriteLine(const QString& line) {
+    WriteBytes(ToCodePage(line) + "\r\n");
+}
+
+void Channel::WriteBytes(const QByteArray& bytes) {
+    RequireOpen();
+    pending_ += bytes;
+    if (pending_.size() >= BufferSize) Flush();
+}
+
+// What a failed write left over is dropped: nobody knows how much of it went out, and a second try would double it.
+void Channel::Flush() {
+    const QByteArray bytes = std::exchange(pending_, {});
+    if (!bytes.isEmpty()) sink_->Write(bytes);
+}
+
+void Channel::Sync() {
+    RequireOpen();
+    Flush();
+    sink_->Sync();
+}
+
+void Channel::Close() {
+    RequireOpen();
+    const auto sink = std::move(sink_);
+    const QByteArray bytes = std::exchange(pending_, {});
+    if (!bytes.isEmpty()) sink->Write(bytes);
+    sink->Close();
+}
+
+void Channel::Abandon() {
+    if (!sink_) return;
+    try {
+        Close();
+    } catch (const OutputError&) {
+        // The error that brought us here is the one to tell.
+    }
+}
+
+Channel& Channel1() {
+    static Channel channel;
+    return channel;
+}
+
+}  // namespace output

@@ -1,0 +1,90 @@
+#include "output/CodePage.h"
+
+#include <QHash>
+#include <array>
+
+#include <iconv.h>
+
+#include "output/Channel.h"
+#include "values/Locale.h"
+
+using namespace Qt::StringLiterals;
+
+namespace output {
+
+namespace {
+
+// A code page by its 256 characters; a byte without a character stands for the control code of its number.
+struct CodePage {
+    explicit CodePage(const char* name);
+    std::array<char16_t, 256> characters;
+    QHash<char16_t, char> bytes;
+};
+
+CodePage::CodePage(const char* name) {
+    const iconv_t converter = iconv_open("UTF-16LE", name);
+    if (converter == reinterpret_cast<iconv_t>(-1))
+        throw OutputError(DeviceUnavailable, u"This system lacks the code page %1."_s.arg(QLatin1StringView(name)));
+    for (size_t code = 0; code < characters.size(); ++code) {
+        char in = static_cast<char>(code);
+        uchar out[4] = {};
+        char* from = &in;
+        char* to = reinterpret_cast<char*>(out);
+        size_t inLeft = 1;
+        size_t outLeft = sizeof out;
+        const bool known = iconv(converter, &from, &inLeft, &to, &outLeft) != static_cast<size_t>(-1);
+        characters[code] = static_cast<char16_t>(known ? out[0] | out[1] << 8 : code);
+        bytes.insert(characters[code], static_cast<char>(code));
+    }
+    iconv_close(converter);
+}
+
+bool IsCentralEuropean(const QLocale& locale) {
+    switch (locale.language()) {
+        case QLocale::Croatian:
+        case QLocale::Slovenian:
+        case QLocale::Czech:
+        case QLocale::Slovak:
+        case QLocale::Polish:
+        case QLocale::Hungarian:
+        case QLocale::Romanian:
+        case QLocale::Albanian:
+            return true;
+        case QLocale::Bosnian:
+        case QLocale::Serbian:
+            return locale.script() == QLocale::LatinScript;
+        default:
+            // Montenegrin, which is not known as a language of its own everywhere.
+            return locale.territory() == QLocale::Montenegro && locale.script() == QLocale::LatinScript;
+    }
+}
+
+const CodePage& UserPage() {
+    static const CodePage central("CP1250");
+    static const CodePage western("CP1252");
+    return IsCentralEuropean(values::UserLocale()) ? central : western;
+}
+
+}  // namespace
+
+QByteArray ToCodePage(QStringView text) {
+    const CodePage& page = UserPage();
+    QByteArray result;
+    result.reserve(text.size());
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        result += page.bytes.value(text[i].unicode(), '?');
+        const bool isPair = text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
+        if (isPair) ++i;
+    }
+    return result;
+}
+
+QString FromCodePage(const QByteArray& bytes) {
+    const CodePage& page = UserPage();
+    QString result;
+    result.reserve(bytes.size());
+    for (const char byte : bytes) result += QChar(page.characters[static_cast<uchar>(byte)]);
+    return result;
+}
+
+}  // namespace output

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+
+#include "output/Sink.h"
+
+namespace output {
+
+// What stands behind "lpt1:" or "lpt2:": the entry of ports.ini in the program's folder, else /dev/lp0 or /dev/lp1.
+//
+//     [ports]
+//     lpt1=/dev/usb/lp0             a device
+//     lpt2=file:lpt2.prn            a spool file, below the program's folder or absolute, appended to
+//     lpt2=tcp:192.168.1.40:9100    a printer on the network; an IPv6 address stands in brackets
+std::unique_ptr<Sink> OpenPortSink(const QString& port);
+
+}  // namespace output

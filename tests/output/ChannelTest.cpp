@@ -1,0 +1,181 @@
+#include <QDir>
+#include <thread>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "OutputFixture.h"
+
+using namespace Qt::StringLiterals;
+using namespace output;
+
+namespace {
+
+class ChannelTest : public OutputFixture {
+protected:
+    Channel& channel = Channel1();
+};
+
+TEST_F(ChannelTest, LinesEndWithCrLfAndBytesStandAsTheyAre) {
+    channel.OpenForOutput(Path(u"a.txt"_s));
+    channel.WriteBytes("\x1B\x70\x00\x3C\x78"_ba);
+    channel.WriteLine(u"one"_s);
+    channel.WriteLine({});
+    channel.WriteLine(u"two\r\nthree\n"_s);
+    channel.Close();
+    EXPECT_EQ(Read(u"a.txt"_s), "\x1B\x70\x00\x3C\x78one\r\n\r\ntwo\r\nthree\n\r\n"_ba);
+}
+
+TEST_F(ChannelTest, OutputEmptiesAFileAndAppendKeepsIt) {
+    const QString path = Path(u"a.txt"_s);
+    for (const auto& line : {u"made"_s, u"more"_s}) {
+        channel.OpenForAppend(path);
+        channel.WriteLine(line);
+        channel.Close();
+    }
+    EXPECT_EQ(Read(u"a.txt"_s), "made\r\nmore\r\n");
+    channel.OpenForOutput(path);
+    channel.WriteLine(u"new"_s);
+    channel.Close();
+    EXPECT_EQ(Read(u"a.txt"_s), "new\r\n");
+}
+
+TEST_F(ChannelTest, AFileThatIsOpenedAndClosedExists) {
+    channel.OpenForAppend(Path(u"empty.txt"_s));
+    channel.Close();
+    EXPECT_EQ(Read(u"empty.txt"_s), "");
+}
+
+TEST_F(ChannelTest, MoreThanOneBufferGoesOutWhole) {
+    QByteArray expected;
+    channel.OpenForOutput(Path(u"long.txt"_s));
+    for (int i = 0; i < 30000; ++i) {
+        channel.WriteLine(QString::number(i));
+        expected += QByteArray::number(i) + "\r\n";
+    }
+    channel.Sync();
+    EXPECT_EQ(Read(u"long.txt"_s), expected);
+    channel.Close();
+    EXPECT_EQ(Read(u"long.txt"_s), expected);
+}
+
+TEST_F(ChannelTest, OnlyOneThingIsOpenAtATime) {
+    EXPECT_EQ(ErrorOf([&] { channel.WriteLine(u"x"_s); }), ChannelNotOpen);
+    EXPECT_EQ(ErrorOf([&] { channel.Close(); }), ChannelNotOpen);
+    channel.OpenForOutput(Path(u"a.txt"_s));
+    EXPECT_EQ(ErrorOf([&] { channel.OpenForAppend(Path(u"b.txt"_s)); }), ChannelInUse);
+    EXPECT_FALSE(Exists(u"b.txt"_s));
+    channel.WriteLine(u"still a"_s);
+    channel.Close();
+    EXPECT_FALSE(channel.IsOpen());
+    EXPECT_EQ(Read(u"a.txt"_s), "still a\r\n");
+}
+
+TEST_F(ChannelTest, AbandonClosesAndKeepsWhatWasWritten) {
+    channel.OpenForOutput(Path(u"a.txt"_s));
+    channel.WriteLine(u"begun"_s);
+    channel.Abandon();
+    channel.Abandon();
+    EXPECT_FALSE(channel.IsOpen());
+    EXPECT_EQ(Read(u"a.txt"_s), "begun\r\n");
+}
+
+TEST_F(ChannelTest, PlacesThatCannotBeOpenedAreToldApart) {
+    QDir(Path(u"."_s)).mkdir(u"folder"_s);
+    Write(u"file"_s, "");
+    EXPECT_EQ(ErrorOf([&] { channel.OpenForOutput(Path(u"missing/a.txt"_s)); }), PathNotFound);
+    EXPECT_EQ(ErrorOf([&] { channel.OpenForAppend(Path(u"file/a.txt"_s)); }), PathNotFound);
+    EXPECT_EQ(ErrorOf([&] { channel.OpenForAppend(Path(u"folder"_s)); }), PathNotAFile);
+    EXPECT_FALSE(channel.IsOpen());
+}
+
+TEST_F(ChannelTest, AFullDeviceIsReportedByWhoeverFindsIt) {
+    for (const int lines : {1, 30000}) {
+        const int error = ErrorOf([&] {
+            channel.OpenForOutput(u"/dev/full"_s);
+            for (int i = 0; i < lines; ++i) channel.WriteLine(u"a line"_s);
+            channel.Close();
+        });
+        EXPECT_EQ(error, DiskFull) << lines;
+        channel.Abandon();
+    }
+    channel.OpenForOutput(u"/dev/full"_s);
+    channel.WriteLine(u"a line"_s);
+    EXPECT_EQ(ErrorOf([&] { channel.Close(); }), DiskFull);
+    EXPECT_FALSE(channel.IsOpen()) << "a failed close must not block the next output";
+}
+
+TEST_F(ChannelTest, PortsFollowTheirEntries) {
+    struct Case {
+        QByteArray entries;
+        QString port;
+        QString file;
+    };
+    QDir(Path(u"."_s)).mkdir(u"spool"_s);
+    const Case cases[] = {
+        {"lpt1=file:lpt1.prn\nlpt2=file:lpt2.prn\n", u"lpt1:"_s, u"lpt1.prn"_s},
+        {"lpt1=file:lpt1.prn\nlpt2=file:lpt2.prn\n", u"lpt2:"_s, u"lpt2.prn"_s},
+        {"; lpt1=file:no.prn\r\nLPT1 = file:spool\\a, b.prn \r\n", u"LPT1:"_s, u"spool/a, b.prn"_s},
+        {"lpt1=file:" + Path(u"absolute.prn"_s).toUtf8() + "\n[other]\nlpt1=file:no.prn\n", u"lpt1:"_s,
+         u"absolute.prn"_s},
+    };
+    for (const auto& [entries, port, file] : cases) {
+        SetPorts(entries);
+        for (const auto& line : {u"first"_s, u"second"_s}) {
+            channel.OpenPort(port);
+            channel.WriteLine(line);
+            channel.Close();
+        }
+        EXPECT_EQ(Read(file), "first\r\nsecond\r\n") << entries.toStdString();
+        EXPECT_FALSE(Exists(u"no.prn"_s));
+        QFile::remove(Path(file));
+    }
+}
+
+TEST_F(ChannelTest, PortsWithoutAPrinterAreRefusedAndNothingIsMade) {
+    const QByteArray entries[] = {"lpt1=/dev/no-such-printer\n", "lpt1=printer.dev\n",
+                                  "lpt1=tcp:localhost\n",        "lpt1=tcp::9100\n",
+                                  "lpt1=tcp:host:99999\n",       "lpt1=file:\n"};
+    for (const auto& entry : entries) {
+        SetPorts(entry);
+        EXPECT_EQ(ErrorOf([&] { channel.OpenPort(u"lpt1:"_s); }), DeviceUnavailable) << entry.toStdString();
+    }
+    EXPECT_EQ(ErrorOf([&] { channel.OpenPort(u"lpt3:"_s); }), DeviceUnavailable);
+    EXPECT_FALSE(channel.IsOpen());
+    EXPECT_FALSE(Exists(u"printer.dev"_s));
+}
+
+TEST_F(ChannelTest, APipeWithoutAReaderIsRefusedAndOneThatHangsUpIsReported) {
+    const QByteArray pipe = Path(u"pipe"_s).toUtf8();
+    ASSERT_EQ(::mkfifo(pipe.constData(), 0600), 0);
+    SetPorts("lpt1=pipe\n");
+    EXPECT_EQ(ErrorOf([&] { channel.OpenPort(u"lpt1:"_s); }), DeviceUnavailable);
+
+    const int reader = ::open(pipe.constData(), O_RDONLY | O_NONBLOCK);
+    channel.OpenPort(u"lpt1:"_s);
+    channel.WriteLine(u"nobody reads this"_s);
+    ::close(reader);
+    EXPECT_EQ(ErrorOf([&] { channel.Close(); }), DeviceError);
+}
+
+TEST_F(ChannelTest, ASlowPipeGetsEveryByte) {
+    const QByteArray pipe = Path(u"pipe"_s).toUtf8();
+    ASSERT_EQ(::mkfifo(pipe.constData(), 0600), 0);
+    SetPorts("lpt2=pipe\n");
+    const int reader = ::open(pipe.constData(), O_RDONLY | O_NONBLOCK);
+    ::fcntl(reader, F_SETFL, 0);
+    qsizetype taken = 0;
+    std::thread slow([&] {
+        char buffer[4096];
+        for (ssize_t count; (count = ::read(reader, buffer, sizeof buffer)) != 0; taken += count) ::usleep(500);
+    });
+    channel.OpenPort(u"lpt2:"_s);
+    channel.WriteBytes(QByteArray(500'000, 'x'));
+    channel.Close();
+    slow.join();
+    ::close(reader);
+    EXPECT_EQ(taken, 500'000);
+}
+
+}  // namespace

@@ -1,0 +1,56 @@
+#include "output/CodePage.h"
+
+#include <gtest/gtest.h>
+
+#include "values/Locale.h"
+
+using namespace Qt::StringLiterals;
+using namespace output;
+
+namespace {
+
+struct Case {
+    const char* locale;
+    QString text;
+    QByteArray bytes;
+};
+
+TEST(CodePage, FollowsTheLanguageOfTheUser) {
+    const Case cases[] = {
+        {"hr_HR", u"čćžšđ ČĆŽŠĐ €"_s, "\xE8\xE6\x9E\x9A\xF0 \xC8\xC6\x8E\x8A\xD0 \x80"_ba},
+        {"bs_BA", u"šećer"_s, "\x9A\x65\xE6\x65\x72"_ba},
+        {"sr_Latn_ME", u"šećer"_s, "\x9A\x65\xE6\x65\x72"_ba},
+        {"sl_SI", u"čaj"_s, "\xE8\x61\x6A"_ba},
+        {"hu_HU", u"őű"_s, "\xF5\xFB"_ba},
+        {"sr_Cyrl_RS", u"ш"_s, "?"_ba},
+        {"en_US", u"šž čćđ é €"_s, "\x9A\x9E ??? \xE9 \x80"_ba},
+        {"de_DE", u"äöüß ñ"_s, "\xE4\xF6\xFC\xDF \xF1"_ba},
+    };
+    for (const auto& [locale, text, bytes] : cases) {
+        values::SetUserLocale(QLocale(QLatin1StringView(locale)));
+        EXPECT_EQ(ToCodePage(text).toHex(' '), bytes.toHex(' ')) << locale;
+        if (!bytes.contains('?')) {
+            EXPECT_EQ(FromCodePage(bytes), text) << locale;
+        }
+    }
+}
+
+TEST(CodePage, LosesNoPlaceInALine) {
+    values::SetUserLocale(QLocale(u"hr_HR"_s));
+    EXPECT_EQ(ToCodePage(u"a😀b日c"_s), "a?b?c");
+    EXPECT_EQ(ToCodePage(QString(QChar(0xD83D)) + u'x'), "?x");
+    EXPECT_EQ(ToCodePage(QString(QChar(0xDE00)) + QChar(0xD83D)), "??");
+    EXPECT_EQ(ToCodePage(QString(QChar(0)) + u"\r\n\x1B"_s), "\0\r\n\x1B"_ba);
+    EXPECT_EQ(ToCodePage({}), "");
+}
+
+TEST(CodePage, EveryByteComesBackAsItWas) {
+    QByteArray all;
+    for (int code = 0; code < 256; ++code) all += static_cast<char>(code);
+    for (const auto* locale : {"hr_HR", "en_US"}) {
+        values::SetUserLocale(QLocale(QLatin1StringView(locale)));
+        EXPECT_EQ(ToCodePage(FromCodePage(all)), all) << locale;
+    }
+}
+
+}  // namespace
