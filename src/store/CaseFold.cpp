@@ -1,0 +1,85 @@
+#include "store/CaseFold.h"
+
+#include <algorithm>
+#include <array>
+
+namespace store {
+
+namespace {
+
+struct FoldRange {
+    char32_t first;
+    char32_t last;
+    quint32 step;
+    qint32 distance;
+};
+
+constexpr FoldRange FoldRanges[] = {
+#include "store/CaseFold.inc"
+};
+
+constexpr char32_t FoldByRange(char32_t codePoint) {
+    const auto* range = std::ranges::lower_bound(FoldRanges, codePoint, {}, &FoldRange::last);
+    if (range == std::end(FoldRanges) || codePoint < range->first) return codePoint;
+    if ((codePoint - range->first) % range->step != 0) return codePoint;
+    return static_cast<char32_t>(static_cast<qint32>(codePoint) + range->distance);
+}
+
+// Latin letters are nearly all there is; they are looked up directly.
+constexpr auto LatinFolds = [] {
+    std::array<char16_t, 0x250> folds{};
+    for (char32_t i = 0; i < folds.size(); ++i) folds[i] = static_cast<char16_t>(FoldByRange(i));
+    return folds;
+}();
+
+constexpr bool IsAscii(char byte) {
+    return static_cast<unsigned char>(byte) < 0x80;
+}
+
+}  // namespace
+
+char32_t FoldCase(char32_t codePoint) {
+    return codePoint < LatinFolds.size() ? LatinFolds[codePoint] : FoldByRange(codePoint);
+}
+
+char32_t TakeCodePoint(QByteArrayView& text) {
+    constexpr char32_t broken = 0xFFFD;
+    const auto byteAt = [&text](qsizetype i) { return static_cast<unsigned char>(text[i]); };
+    const unsigned lead = byteAt(0);
+    const int length = lead < 0x80 ? 1 : lead >= 0xF0 && lead < 0xF8 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 0;
+    if (length == 0 || lead >= 0xF8 || text.size() < length) {
+        text = text.sliced(1);
+        return broken;
+    }
+    char32_t codePoint = length == 1 ? lead : lead & (0x7Fu >> length);
+    for (int i = 1; i < length; ++i) {
+        if ((byteAt(i) & 0xC0) != 0x80) {
+            text = text.sliced(i);
+            return broken;
+        }
+        codePoint = (codePoint << 6) | (byteAt(i) & 0x3Fu);
+    }
+    text = text.sliced(length);
+    return codePoint;
+}
+
+int CompareFolded(QByteArrayView a, QByteArrayView b) {
+    while (!a.empty() && !b.empty()) {
+        const qsizetype common = std::min(a.size(), b.size());
+        qsizetype i = 0;
+        for (; i < common && IsAscii(a[i]) && IsAscii(b[i]); ++i) {
+            const int difference = LatinFolds[static_cast<size_t>(a[i])] - LatinFolds[static_cast<size_t>(b[i])];
+            if (difference != 0) return difference;
+        }
+        a = a.sliced(i);
+        b = b.sliced(i);
+        if (a.empty() || b.empty()) break;
+
+        const char32_t left = FoldCase(TakeCodePoint(a));
+        const char32_t right = FoldCase(TakeCodePoint(b));
+        if (left != right) return left < right ? -1 : 1;
+    }
+    return static_cast<int>(!a.empty()) - static_cast<int>(!b.empty());
+}
+
+}  // namespace store

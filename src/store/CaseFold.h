@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QByteArrayView>
+
+namespace store {
+
+// Text comparison of the stores: by code points after Unicode simple case folding, so that "Čaj" equals "čaj" and no
+// locale plays a part. Indexes on disk depend on it. Texts are UTF-8.
+char32_t FoldCase(char32_t codePoint);
+int CompareFolded(QByteArrayView a, QByteArrayView b);  // below 0, 0 or above 0
+
+// Takes the next code point off the front of a text that is not empty; a broken sequence gives U+FFFD.
+char32_t TakeCodePoint(QByteArrayView& text);
+
+}  // namespace store

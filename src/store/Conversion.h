@@ -1,0 +1,22 @@
+#pragma once
+
+#include "store/RowBlock.h"
+#include "store/dialect/Plan.h"
+
+namespace store {
+
+// Between the values of fields and the way an engine stores them (Schema.h).
+
+// A value as a column of this type stores it. Texts are read in the user's locale. What is no such value throws 3421, a
+// number out of range 6; null stays null.
+dialect::BoundValue ToStored(const values::Value& value, Type type);
+
+// A cell as the field of an output column shows it; exact products of two scaled numbers become doubles.
+values::Value FromStored(const RowBlock& rows, const RowBlock::Cell& cell, const dialect::OutputColumn& column);
+// A value that waits to be stored, read back.
+values::Value FromStored(const dialect::BoundValue& stored, Type type);
+
+// The type of value that FromStored gives for an output column.
+Type ShownType(const dialect::OutputColumn& column);
+
+}  // namespace store

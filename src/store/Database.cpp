@@ -1,0 +1,99 @@
+#include "store/Database.h"
+
+#include "store/RecordsetImpl.h"
+#include "store/sqlite/OpenSqlite.h"
+
+using namespace Qt::StringLiterals;
+
+namespace store {
+
+struct Database::Internals {
+    Internals(const Schema& itsSchema, QString itsPath)
+        : schema(itsSchema), path(std::move(itsPath)), compiler(schema) {}
+
+    Schema schema;
+    QString path;
+    dialect::Compiler compiler;
+};
+
+Database::Database(std::unique_ptr<Engine> engine, const Schema& schema, QString path)
+    : engine_(std::move(engine)), internals_(std::make_unique<Internals>(schema, std::move(path))) {}
+
+Database::~Database() = default;
+
+std::unique_ptr<Database> Database::Open(const QString& path, const Schema& schema) {
+    return std::unique_ptr<Database>(new Database(sqlite::OpenFile(path, schema), schema, path));
+}
+
+std::unique_ptr<Database> Database::Create(const QString& path, const Schema& schema) {
+    return std::unique_ptr<Database>(new Database(sqlite::CreateFile(path, schema), schema, path));
+}
+
+Recordset Database::OpenRecordset(const QString& query) {
+    dialect::Compiler& compiler = internals_->compiler;
+    dialect::Query compiled = compiler.Compile(query);
+    if (compiled.plan->kind != dialect::Plan::Kind::Select)
+        throw StoreError(NotSupported, u"An action query gives no rows."_s);
+    return Recordset(std::make_unique<Recordset::Impl>(*engine_, compiler, std::move(compiled)));
+}
+
+qint64 Database::Execute(const QString& query) {
+    const dialect::Query compiled = internals_->compiler.Compile(query);
+    if (compiled.plan->kind == dialect::Plan::Kind::Select)
+        throw StoreError(NotSupported, u"A SELECT cannot be executed."_s);
+    return engine_->Execute(compiled);
+}
+
+const Schema& Database::GetSchema() const {
+    return internals_->schema;
+}
+
+const QString& Database::Path() const {
+    return internals_->path;
+}
+
+QStringList Database::CheckIntegrity() {
+    return engine_->CheckIntegrity();
+}
+
+void Database::BackupTo(const QString& path) {
+    engine_->BackupTo(path);
+}
+
+QString Database::ExplainPlan(const QString& query) {
+    return engine_->Explain(internals_->compiler.Compile(query));
+}
+
+Database::Batch::Batch(Database& database) : database_(database) {
+    database_.engine_->Begin();
+}
+
+Database::Batch::~Batch() {
+    if (open_) database_.engine_->Rollback();
+}
+
+void Database::Batch::Commit() {
+    if (!open_) return;
+    database_.engine_->Commit();
+    open_ = false;
+}
+
+Burst::Burst(Database& database) : database_(database) {
+    database_.engine_->BeginBurst();
+}
+
+Burst::~Burst() {
+    try {
+        End();
+    } catch (const values::Error&) {
+        // A destructor has nobody to tell; whoever needs to know calls End().
+    }
+}
+
+void Burst::End() {
+    if (!open_) return;
+    open_ = false;
+    database_.engine_->EndBurst();
+}
+
+}  // namespace store

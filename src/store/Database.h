@@ -1,0 +1,78 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+
+#include "store/Recordset.h"
+#include "store/Schema.h"
+
+namespace store {
+
+class Engine;
+
+// One open store. Several processes may hold one store open at once; each writes one commit an Update.
+class Database {
+public:
+    // Opens an existing store for shared reading and writing, carrying an older one forward to the schema's version.
+    // 3024 missing, 3343 foreign, damaged, empty or newer, 3356 held exclusively, 3027 not writable.
+    static std::unique_ptr<Database> Open(const QString& path, const Schema& schema);
+    // Makes a new, empty store; an existing file of that name is refused (3204).
+    static std::unique_ptr<Database> Create(const QString& path, const Schema& schema);
+    ~Database();
+
+    Recordset OpenRecordset(const QString& query);
+    // Runs an action query (UPDATE, DELETE) as one commit; gives the number of rows it touched.
+    qint64 Execute(const QString& query);
+
+    const Schema& GetSchema() const;
+    const QString& Path() const;
+
+    // Many rows, all or none: between Begin and Commit the Updates of all cursors are one commit. For tools that fill
+    // stores; screens never use it.
+    class Batch {
+    public:
+        explicit Batch(Database& database);
+        ~Batch();  // rolls back what was not committed
+        Batch(const Batch&) = delete;
+        Batch& operator=(const Batch&) = delete;
+        void Commit();
+
+    private:
+        Database& database_;
+        bool open_ = true;
+    };
+
+    // The engine's own integrity check: empty when the file is sound, else one line a fault.
+    QStringList CheckIntegrity();
+    // A consistent copy while others write; the file must not exist. It is opened again and checked.
+    void BackupTo(const QString& path);
+    // How the engine would run a query text, one line a step; for tests.
+    QString ExplainPlan(const QString& query);
+
+    Engine& GetEngine() { return *engine_; }
+
+private:
+    Database(std::unique_ptr<Engine> engine, const Schema& schema, QString path);
+    friend class Recordset;
+    friend class Burst;
+    struct Internals;
+    std::unique_ptr<Engine> engine_;
+    std::unique_ptr<Internals> internals_;
+};
+
+// While it lives, commits are visible and kept in order at once, but reach the disk together: at the latest when End()
+// returns. A killed process loses nothing of what was acknowledged; a power cut in the middle keeps a prefix of it.
+class Burst {
+public:
+    explicit Burst(Database& database);
+    ~Burst();  // ends the burst if End() was not called; a failure there is swallowed
+    Burst(const Burst&) = delete;
+    Burst& operator=(const Burst&) = delete;
+    void End();
+
+private:
+    Database& database_;
+    bool open_ = true;
+};
+
+}  // namespace store

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QStringList>
+#include <array>
+#include <span>
+#include <vector>
+
+#include "store/RowBlock.h"
+#include "store/dialect/Plan.h"
+
+namespace store {
+
+// A moment in a store's history. Rows read at a moment are current for as long as the engine still stands there.
+struct Stamp {
+    std::array<quint64, 6> commits = {};  // the engine's own mark of the last commit by anybody
+    quint64 writes = 0;                   // what this connection wrote, committed or not
+    bool known = false;
+};
+
+// One field of a row to be written: a position in the table's columns, and its value as the engine stores it.
+struct FieldChange {
+    int column = 0;
+    dialect::BoundValue value;
+};
+
+// What a store asks of the engine beneath it. A row's identity is a number above 0 that is never used again.
+// Every call finishes what it starts: no read transaction outlives it. Failures are StoreErrors.
+class Engine {
+public:
+    virtual ~Engine() = default;
+
+    // All rows of a join or an aggregate.
+    virtual void ReadAll(const dialect::Query& query, RowBlock& rows) = 0;
+    // The identities of all rows of a one-table query in its order, and the data of the first `withData` of them.
+    virtual void ReadKeyset(const dialect::Query& query, int withData, std::vector<qint64>& keys, RowBlock& rows) = 0;
+    // Up to `limit` rows with after < identity <= upTo, by identity; the query's own condition and order are left out.
+    // Their identities are added to `keys`.
+    virtual void ReadAfter(const dialect::Query& query, qint64 after, qint64 upTo, int limit, std::vector<qint64>& keys,
+                           RowBlock& rows) = 0;
+    // The rows of these identities, in this order; one that is gone is marked so.
+    virtual void ReadRows(const dialect::Query& query, std::span<const qint64> keys, RowBlock& rows) = 0;
+    // The identities of a table with after < identity <= upTo are added to `keys`.
+    virtual void ReadKeys(const Table& table, qint64 after, qint64 upTo, std::vector<qint64>& keys) = 0;
+    // The identities of the rows that meet a criteria, rising.
+    virtual std::vector<qint64> FindRows(const Table& table, const dialect::Query& criteria) = 0;
+    // The highest identity of a table, 0 when it is empty.
+    virtual qint64 LastRow(const Table& table) = 0;
+
+    // Writes; each is a commit of its own outside Begin and Commit. Fields come in the order of the columns.
+    virtual qint64 Insert(const Table& table, std::span<const FieldChange> fields) = 0;
+    // False when the row is gone, or when a field is no longer exactly as expected.
+    virtual bool Change(const Table& table, qint64 row, std::span<const FieldChange> fields,
+                        std::span<const FieldChange> expected) = 0;
+    virtual bool Remove(const Table& table, qint64 row) = 0;
+    virtual qint64 Execute(const dialect::Query& action) = 0;
+
+    virtual void Begin() = 0;  // takes the right to write at once
+    virtual void Commit() = 0;
+    virtual void Rollback() noexcept = 0;
+    virtual bool InTransaction() const = 0;
+
+    // Bursts may be nested; the outermost one counts.
+    virtual void BeginBurst() = 0;
+    virtual void EndBurst() = 0;
+
+    virtual Stamp Now() = 0;
+    virtual bool StillAt(const Stamp& stamp) = 0;
+
+    virtual QStringList CheckIntegrity() = 0;
+    virtual void BackupTo(const QString& path) = 0;
+    virtual QString Explain(const dialect::Query& query) = 0;
+};
+
+}  // namespace store

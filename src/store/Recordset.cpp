@@ -1,0 +1,148 @@
+#include "store/Recordset.h"
+
+#include "store/Conversion.h"
+#include "store/RecordsetImpl.h"
+
+using namespace Qt::StringLiterals;
+
+namespace store {
+
+values::Value Field::Get() const {
+    return recordset_.Open().Get(column_);
+}
+
+void Field::Set(const values::Value& value) {
+    recordset_.Open().Set(column_, value);
+}
+
+Recordset::Recordset() = default;
+Recordset::Recordset(std::unique_ptr<Impl> impl) : impl_(std::move(impl)) {}
+Recordset::Recordset(Recordset&&) noexcept = default;
+Recordset& Recordset::operator=(Recordset&&) noexcept = default;
+Recordset::~Recordset() = default;
+
+Recordset::Impl& Recordset::Open() const {
+    if (!impl_) throw StoreError(NoCurrentRow, u"The cursor is closed."_s);
+    return *impl_;
+}
+
+bool Recordset::Updatable() const {
+    return Open().keyset != nullptr;
+}
+
+bool Recordset::AtEOF() const {
+    return Open().position == Impl::Position::After;
+}
+
+bool Recordset::AtBOF() const {
+    return Open().position == Impl::Position::Before || Open().IsEmpty();
+}
+
+void Recordset::MoveFirst() {
+    Open().MoveTo(Open().rows->First());
+}
+
+void Recordset::MoveLast() {
+    Open().MoveTo(Open().rows->Last());
+}
+
+void Recordset::MoveNext() {
+    Open().Move(1);
+}
+
+void Recordset::MovePrevious() {
+    Open().Move(-1);
+}
+
+void Recordset::Move(int rows) {
+    Open().Move(rows);
+}
+
+qint64 Recordset::RecordCount() const {
+    return Open().rows->KnownCount();
+}
+
+Field Recordset::operator[](QStringView name) {
+    return {*this, Open().Resolve(name)};
+}
+
+Field Recordset::operator[](int position) {
+    Open().CheckColumn(position);
+    return {*this, position};
+}
+
+int Recordset::FieldCount() const {
+    return static_cast<int>(Open().query.plan->output.size());
+}
+
+QString Recordset::FieldName(int position) const {
+    Open().CheckColumn(position);
+    return Open().Output(position).name;
+}
+
+Type Recordset::FieldType(int position) const {
+    Open().CheckColumn(position);
+    return ShownType(Open().Output(position));
+}
+
+void Recordset::AddNew() {
+    Open().AddNew();
+}
+
+void Recordset::Edit() {
+    Open().Edit();
+}
+
+void Recordset::Update() {
+    Open().Update();
+}
+
+void Recordset::CancelUpdate() {
+    Open().DropEdit();
+}
+
+void Recordset::Delete() {
+    Open().Delete();
+}
+
+EditState Recordset::EditMode() const {
+    return Open().edit;
+}
+
+void Recordset::LockEdits(bool pessimistic) {
+    Open().isPessimistic = pessimistic;
+}
+
+void Recordset::FindFirst(const QString& criteria) {
+    Open().FindFirst(criteria);
+}
+
+bool Recordset::NoMatch() const {
+    return Open().noMatch;
+}
+
+store::Bookmark Recordset::Bookmark() const {
+    return {Open().CurrentRow()};
+}
+
+void Recordset::SetBookmark(store::Bookmark bookmark) {
+    Open().SetBookmark(bookmark.row);
+}
+
+store::Bookmark Recordset::LastModified() const {
+    if (!Open().lastModified) throw StoreError(NoCurrentRow, u"This cursor has not changed any row."_s);
+    return {*Open().lastModified};
+}
+
+void Recordset::Close() {
+    impl_.reset();
+}
+
+Recordset::Iterator Recordset::begin() {
+    Impl& impl = Open();
+    const CursorRows::Place first = impl.rows->First();
+    if (first != CursorRows::Nowhere) impl.MoveTo(first);
+    return Iterator(this);
+}
+
+}  // namespace store

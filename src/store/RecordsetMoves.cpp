@@ -1,0 +1,98 @@
+#include "store/RecordsetImpl.h"
+
+using namespace Qt::StringLiterals;
+
+namespace store {
+
+namespace {
+
+[[noreturn]] void ThrowNoCurrentRow() {
+    throw StoreError(NoCurrentRow, u"No current row."_s);
+}
+
+std::unique_ptr<KeysetRows> MakeKeyset(Engine& engine, const dialect::Query& query) {
+    return query.plan->table == nullptr ? nullptr : std::make_unique<KeysetRows>(engine, query);
+}
+
+}  // namespace
+
+Recordset::Impl::Impl(Engine& itsEngine, dialect::Compiler& itsCompiler, dialect::Query itsQuery)
+    : engine(itsEngine), compiler(itsCompiler), query(std::move(itsQuery)) {
+    if (auto updatable = MakeKeyset(engine, query)) {
+        keyset = updatable.get();
+        rows = std::move(updatable);
+    } else {
+        rows = std::make_unique<SnapshotRows>(engine, query);
+    }
+    place = rows->First();
+    if (place == CursorRows::Nowhere) return;
+    position = Position::OnRow;
+    data = rows->Load(place);
+}
+
+void Recordset::Impl::RequireRow() const {
+    if (position == Position::Before || position == Position::After) ThrowNoCurrentRow();
+}
+
+qint64 Recordset::Impl::CurrentRow() const {
+    RequireRow();
+    if (position == Position::Deleted) throw StoreError(RowDeleted, u"The row was deleted."_s);
+    return rows->RowAt(place);
+}
+
+void Recordset::Impl::MoveTo(CursorRows::Place target) {
+    if (target == CursorRows::Nowhere) ThrowNoCurrentRow();
+    DropEdit();
+    data = {};
+    place = target;
+    position = Position::OnRow;
+    data = rows->Load(place);
+}
+
+void Recordset::Impl::Move(int count) {
+    DropEdit();
+    if (count == 0) RequireRow();
+    if (count > 0 && position == Position::After) ThrowNoCurrentRow();
+    if (count < 0 && (position == Position::Before || IsEmpty())) ThrowNoCurrentRow();
+
+    data = {};
+    for (; count > 0 && position != Position::After; --count) StepForward();
+    for (; count < 0 && position != Position::Before; ++count) StepBack();
+    if (position == Position::OnRow) data = rows->Load(place);
+}
+
+void Recordset::Impl::StepForward() {
+    CursorRows::Place next;
+    if (position == Position::Before)
+        next = rows->First();
+    else
+        next = rows->Next(position == Position::Deleted ? place - 1 : place);
+    position = next == CursorRows::Nowhere ? Position::After : Position::OnRow;
+    place = next;
+}
+
+void Recordset::Impl::StepBack() {
+    const CursorRows::Place previous = position == Position::After ? rows->Last() : rows->Previous(place);
+    position = previous == CursorRows::Nowhere ? Position::Before : Position::OnRow;
+    place = previous;
+}
+
+void Recordset::Impl::SetBookmark(qint64 row) {
+    const CursorRows::Place target = rows->Find(row, place);
+    if (target == CursorRows::Nowhere) throw StoreError(RowDeleted, u"The marked row is not in this cursor."_s);
+    MoveTo(target);
+}
+
+void Recordset::Impl::FindFirst(const QString& criteria) {
+    if (keyset == nullptr) throw StoreError(NotSupported, u"This cursor cannot be searched."_s);
+    const Table& table = *query.plan->table;
+    const std::vector<qint64> found = engine.FindRows(table, compiler.CompileCriteria(criteria, table));
+    const CursorRows::Place target = keyset->FirstOf(found);
+    noMatch = target == CursorRows::Nowhere;
+    if (noMatch)
+        DropEdit();
+    else
+        MoveTo(target);
+}
+
+}  // namespace store

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QStringList>
+
+#include "values/Error.h"
+
+namespace store {
+
+// The error numbers of the store; screens compare some of them (3022, 3200, 3356), people look the others up.
+enum ErrorNumber : int {
+    NoEditPending = 3020,  // Update or a field write without AddNew or Edit
+    NoCurrentRow = 3021,
+    DuplicateKey = 3022,
+    FileNotFound = 3024,
+    DiskFull = 3026,
+    ReadOnly = 3027,   // a join, an aggregate, a store on read-only ground
+    DiskError = 3043,  // the disk or the network refused to read or write
+    UnknownField = 3061,
+    SyntaxError = 3075,
+    UnknownTable = 3078,
+    AmbiguousName = 3079,
+    NotInAggregate = 3122,  // a column that is neither grouped nor inside an aggregate
+    RowDeleted = 3167,
+    RowChanged = 3197,
+    RelatedRows = 3200,
+    FileExists = 3204,
+    StoreLocked = 3218,  // another writer holds the store for longer than we wait
+    NotSupported = 3251,
+    TableLocked = 3260,
+    ItemNotFound = 3265,  // a field name or position that the cursor does not have
+    NotAStore = 3343,     // foreign, damaged, empty, or of a newer version
+    HeldExclusively = 3356,
+    ConversionFailed = 3421,
+};
+
+class StoreError : public values::Error {
+public:
+    using values::Error::Error;
+};
+
+// A place in a query text, in UTF-16 units from its start.
+struct Span {
+    int offset = 0;
+    int length = 0;
+};
+
+// Where on its road a query text failed.
+enum class Stage { Lexer, Parser, Binder, Literal };
+
+// An error in a query text. Description() is one line; Rendered() adds the line of the query and a caret under the
+// span.
+class QueryError : public StoreError {
+public:
+    QueryError(Stage stage, int number, Span span, QString message, QString queryText, QStringList near = {});
+
+    Stage GetStage() const { return stage_; }
+    Span GetSpan() const { return span_; }
+    // Known names close to an unknown one, best first; may be empty.
+    const QStringList& NearNames() const { return near_; }
+    QString Rendered() const;
+
+private:
+    Stage stage_;
+    Span span_;
+    QString queryText_;
+    QStringList near_;
+};
+
+}  // namespace store

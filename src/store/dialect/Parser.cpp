@@ -1,0 +1,162 @@
+#include "store/dialect/Parser.h"
+
+#include "store/dialect/ExprParser.h"
+#include "store/dialect/Limits.h"
+#include "store/dialect/Nesting.h"
+
+using namespace Qt::StringLiterals;
+
+namespace store::dialect {
+
+namespace {
+
+class Parser {
+public:
+    Parser(const QString& text, const std::vector<Token>& tokens) : reader_(text, tokens), exprs_(reader_) {}
+
+    Statement Whole() {
+        Statement statement = One();
+        reader_.ExpectEnd();
+        return statement;
+    }
+
+    ExprPtr Criteria() {
+        ExprPtr condition = exprs_.Expression();
+        if (!reader_.Sees(Lexeme::End)) reader_.FailExpected(u"the end of the text");
+        return condition;
+    }
+
+private:
+    Statement One() {
+        if (reader_.Take(Lexeme::Select)) return SelectStatement();
+        if (reader_.Take(Lexeme::Update)) return UpdateStatement();
+        if (reader_.Take(Lexeme::Delete)) return DeleteStatement();
+        reader_.FailExpected(u"SELECT, UPDATE or DELETE");
+    }
+
+    Select SelectStatement() {
+        Select select;
+        do {
+            select.items.push_back(Item());
+        } while (reader_.Take(Lexeme::Comma));
+        reader_.Expect(Lexeme::From, u"FROM");
+        select.from = Tables();
+        select.where = Where();
+        if (reader_.Take(Lexeme::Group)) {
+            reader_.Expect(Lexeme::By, u"BY");
+            select.group = exprs_.List();
+        }
+        if (reader_.Take(Lexeme::Having)) select.having = exprs_.Expression();
+        if (reader_.Take(Lexeme::Order)) select.order = Sortings();
+        return select;
+    }
+
+    SelectItem Item() {
+        const int offset = reader_.Peek().span.offset;
+        SelectItem item;
+        if (!reader_.Take(Lexeme::Star) && !TableStar(item)) {
+            item.expr = exprs_.Expression();
+            if (reader_.Take(Lexeme::As)) item.alias = Name(u"an alias");
+        }
+        item.span = reader_.SpanFrom(offset);
+        return item;
+    }
+
+    bool TableStar(SelectItem& item) {
+        if (!reader_.SeesAhead({Lexeme::Name, Lexeme::Dot, Lexeme::Star})) return false;
+        const Token& table = reader_.Advance();
+        reader_.Advance();
+        reader_.Advance();
+        item.starTable = NameOf(reader_.Text(), table).toString();
+        item.starTableSpan = table.span;
+        return true;
+    }
+
+    Source Tables() {
+        const Nesting nesting(nesting_, reader_);
+        Source source = TableOrBrackets();
+        for (;;) {
+            const bool left = reader_.Take(Lexeme::Left);
+            if (left) reader_.Take(Lexeme::Outer);
+            if (!left && !reader_.Take(Lexeme::Inner)) return source;
+            reader_.Expect(Lexeme::Join, u"JOIN");
+            auto joined = std::make_unique<JoinedTables>();
+            joined->left = left;
+            joined->first = std::move(source);
+            joined->second = TableOrBrackets();
+            reader_.Expect(Lexeme::On, u"ON");
+            joined->on = exprs_.Expression();
+            source = std::move(joined);
+        }
+    }
+
+    Source TableOrBrackets() {
+        if (!reader_.Take(Lexeme::Open)) return Table();
+        Source source = Tables();
+        reader_.Expect(Lexeme::Close, u")");
+        return source;
+    }
+
+    TableRef Table() {
+        const Token& name = reader_.ExpectName(u"a table name");
+        if (++tables_ > MaxTables) reader_.Fail()(SyntaxError, name.span, u"A query joins too many tables."_s);
+        TableRef table{name.span, NameOf(reader_.Text(), name).toString(), {}};
+        if (reader_.Take(Lexeme::As)) table.alias = Name(u"an alias");
+        return table;
+    }
+
+    QString Name(QStringView what) { return NameOf(reader_.Text(), reader_.ExpectName(what)).toString(); }
+
+    ExprPtr Where() { return reader_.Take(Lexeme::Where) ? exprs_.Expression() : nullptr; }
+
+    std::vector<Sorting> Sortings() {
+        reader_.Expect(Lexeme::By, u"BY");
+        std::vector<Sorting> sortings;
+        do {
+            Sorting sorting{exprs_.Expression()};
+            sorting.descending = reader_.Take(Lexeme::Desc);
+            if (!sorting.descending) reader_.Take(Lexeme::Asc);
+            sortings.push_back(std::move(sorting));
+        } while (reader_.Take(Lexeme::Comma));
+        return sortings;
+    }
+
+    Update UpdateStatement() {
+        Update update;
+        update.table = Table();
+        reader_.Expect(Lexeme::Set, u"SET");
+        do {
+            ExprPtr target = exprs_.FieldName();
+            reader_.Expect(Lexeme::Equal, u"=");
+            update.set.push_back({std::move(target), exprs_.Expression()});
+        } while (reader_.Take(Lexeme::Comma));
+        update.where = Where();
+        return update;
+    }
+
+    Delete DeleteStatement() {
+        reader_.Take(Lexeme::Star);
+        reader_.Expect(Lexeme::From, u"FROM");
+        Delete statement;
+        statement.table = Table();
+        statement.where = Where();
+        return statement;
+    }
+
+    TokenReader reader_;
+    ExprParser exprs_;
+    int nesting_ = 0;
+    int tables_ = 0;
+};
+
+}  // namespace
+
+Statement Parse(const QString& text, const std::vector<Token>& tokens) {
+    return Parser(text, tokens).Whole();
+}
+
+ExprPtr ParseCriteria(const QString& text, const std::vector<Token>& tokens) {
+    return Parser(text, tokens).Criteria();
+}
+
+}  // namespace store::dialect

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <QString>
+#include <chrono>
+#include <memory>
+
+namespace store::sqlite {
+
+// An open file with the text rules and a limit to how long it waits for others. Statements share it, so that none of
+// them outlives the connection it was prepared on.
+class Connection {
+public:
+    using Patience = std::chrono::milliseconds;
+
+    // An existing file is opened for reading and writing; `create` makes one. SQLite::Exception when that fails.
+    Connection(const QString& path, bool create, Patience patience);
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+    SQLite::Database& Database() { return database_; }
+    sqlite3* Handle() { return database_.getHandle(); }
+    void SetPatience(Patience patience) { patience_ = patience; }
+    // Runs a statement without rows; a StoreError when it fails.
+    void Run(const char* sql);
+
+private:
+    static int WaitForOthers(void* self, int tries);
+
+    SQLite::Database database_;
+    Patience patience_;
+    std::chrono::steady_clock::time_point waitingSince_;
+};
+
+}  // namespace store::sqlite

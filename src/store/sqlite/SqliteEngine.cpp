@@ -1,0 +1,76 @@
+#include "store/sqlite/SqliteEngine.h"
+
+#include <sqlite3.h>
+
+#include "store/sqlite/SqliteError.h"
+
+using namespace Qt::StringLiterals;
+
+namespace store::sqlite {
+
+SqliteEngine::SqliteEngine(std::shared_ptr<Connection> connection)
+    : connection_(std::move(connection)), log_(Handle()) {}
+
+void SqliteEngine::Begin() {
+    if (InTransaction()) throw StoreError(NotSupported, u"A batch is open already."_s);
+    connection_->Run("BEGIN IMMEDIATE");
+}
+
+void SqliteEngine::Commit() {
+    connection_->Run("COMMIT");
+    if (bursts_ == 0) EndRelaxed();
+}
+
+void SqliteEngine::Rollback() noexcept {
+    ++writes_;
+    if (!InTransaction()) return;
+    sqlite3_exec(Handle(), "ROLLBACK", nullptr, nullptr, nullptr);
+    try {
+        if (bursts_ == 0) EndRelaxed();
+    } catch (const StoreError&) {
+        // What was committed before stays committed; the disk's refusal shows again at the next commit.
+    }
+}
+
+bool SqliteEngine::InTransaction() const {
+    return sqlite3_get_autocommit(Handle()) == 0;
+}
+
+// Inside a batch there is one commit only, and nothing to put off.
+void SqliteEngine::BeginBurst() {
+    if (bursts_++ > 0 || isRelaxed_ || InTransaction()) return;
+    try {
+        connection_->Run("PRAGMA synchronous = NORMAL");
+    } catch (...) {
+        --bursts_;
+        throw;
+    }
+    isRelaxed_ = true;
+    writesWhenRelaxed_ = writes_;
+}
+
+void SqliteEngine::EndBurst() {
+    if (--bursts_ == 0 && !InTransaction()) EndRelaxed();
+}
+
+void SqliteEngine::EndRelaxed() {
+    if (!isRelaxed_) return;
+    const int code = writes_ == writesWhenRelaxed_ ? SQLITE_OK : log_.Sync();
+    connection_->Run("PRAGMA synchronous = FULL");
+    isRelaxed_ = false;
+    if (code != SQLITE_OK)
+        ThrowCode(code, QString::fromUtf8(sqlite3_errstr(code)), u"bringing a burst of changes to the disk"_s);
+}
+
+Stamp SqliteEngine::Now() {
+    Stamp stamp;
+    stamp.writes = writes_;
+    stamp.known = log_.Read(stamp.commits);
+    return stamp;
+}
+
+bool SqliteEngine::StillAt(const Stamp& stamp) {
+    return stamp.known && stamp.writes == writes_ && log_.IsAt(stamp.commits);
+}
+
+}  // namespace store::sqlite

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <map>
+
+#include "store/Engine.h"
+#include "store/sqlite/Connection.h"
+#include "store/sqlite/Statement.h"
+#include "store/sqlite/WalWatch.h"
+
+namespace store::sqlite {
+
+// The embedded engine: one file, a write-ahead log, one connection.
+class SqliteEngine : public Engine {
+public:
+    explicit SqliteEngine(std::shared_ptr<Connection> connection);
+
+    void ReadAll(const dialect::Query& query, RowBlock& rows) override;
+    void ReadKeyset(const dialect::Query& query, int withData, std::vector<qint64>& keys, RowBlock& rows) override;
+    void ReadAfter(const dialect::Query& query, qint64 after, qint64 upTo, int limit, std::vector<qint64>& keys,
+                   RowBlock& rows) override;
+    void ReadRows(const dialect::Query& query, std::span<const qint64> keys, RowBlock& rows) override;
+    void ReadKeys(const Table& table, qint64 after, qint64 upTo, std::vector<qint64>& keys) override;
+    std::vector<qint64> FindRows(const Table& table, const dialect::Query& criteria) override;
+    qint64 LastRow(const Table& table) override;
+
+    qint64 Insert(const Table& table, std::span<const FieldChange> fields) override;
+    bool Change(const Table& table, qint64 row, std::span<const FieldChange> fields,
+                std::span<const FieldChange> expected) override;
+    bool Remove(const Table& table, qint64 row) override;
+    qint64 Execute(const dialect::Query& action) override;
+
+    void Begin() override;
+    void Commit() override;
+    void Rollback() noexcept override;
+    bool InTransaction() const override;
+
+    void BeginBurst() override;
+    void EndBurst() override;
+
+    Stamp Now() override;
+    bool StillAt(const Stamp& stamp) override;
+
+    QStringList CheckIntegrity() override;
+    void BackupTo(const QString& path) override;
+    QString Explain(const dialect::Query& query) override;
+
+private:
+    struct Prepared;
+    enum class Shape { LastRow, Keys, Insert, Change, Remove };
+    // A statement of the engine's own for one table, and for sets of its columns where they play a part.
+    struct ShapeKey {
+        Shape shape;
+        const Table* table;
+        quint64 columns = 0;
+        quint64 expected = 0;
+        auto operator<=>(const ShapeKey&) const = default;
+    };
+
+    static std::string SqlOf(const ShapeKey& key);
+    static Prepared& PreparedFor(const dialect::Plan& plan, const std::shared_ptr<Connection>& connection);
+    Statement& StatementFor(const ShapeKey& key);
+    void EndRelaxed();
+    sqlite3* Handle() const { return connection_->Handle(); }
+
+    std::shared_ptr<Connection> connection_;
+    WalWatch log_;
+    std::map<ShapeKey, Statement> statements_;
+    quint64 writes_ = 0;
+    int bursts_ = 0;
+    bool isRelaxed_ = false;  // commits reach the disk later
+    quint64 writesWhenRelaxed_ = 0;
+};
+
+}  // namespace store::sqlite

@@ -1,0 +1,88 @@
+#include "store/sqlite/SqliteError.h"
+
+#include <sqlite3.h>
+
+#include "store/StoreError.h"
+
+using namespace Qt::StringLiterals;
+
+namespace store::sqlite {
+
+namespace {
+
+// Errors without a code of their own are told apart by the engine's fixed words.
+int NumberOfPlainError(const QString& message) {
+    if (message.contains(u"integer overflow")) return values::Overflow;
+    return NotSupported;
+}
+
+int NumberOfConstraint(int extendedCode) {
+    switch (extendedCode) {
+        case SQLITE_CONSTRAINT_DATATYPE:
+            return ConversionFailed;
+        default:
+            return DuplicateKey;
+    }
+}
+
+int NumberOf(int extendedCode, const QString& message) {
+    switch (extendedCode & 0xFF) {
+        case SQLITE_BUSY:
+        case SQLITE_LOCKED:
+        case SQLITE_PROTOCOL:
+            return StoreLocked;
+        case SQLITE_CONSTRAINT:
+            return NumberOfConstraint(extendedCode);
+        case SQLITE_MISMATCH:
+            return ConversionFailed;
+        case SQLITE_FULL:
+            return DiskFull;
+        case SQLITE_CORRUPT:
+        case SQLITE_NOTADB:
+            return NotAStore;
+        case SQLITE_READONLY:
+        case SQLITE_PERM:
+            return ReadOnly;
+        case SQLITE_IOERR:
+        case SQLITE_CANTOPEN:
+            return DiskError;
+        default:
+            return NumberOfPlainError(message);
+    }
+}
+
+QString Words(int number) {
+    switch (number) {
+        case values::Overflow:
+            return u"Overflow"_s;
+        case StoreLocked:
+            return u"The store is locked by another user"_s;
+        case DuplicateKey:
+            return u"A row with this key exists already"_s;
+        case ConversionFailed:
+            return u"A value does not fit the type of its column"_s;
+        case DiskFull:
+            return u"There is no room left on the disk"_s;
+        case NotAStore:
+            return u"The store is damaged"_s;
+        case ReadOnly:
+            return u"The store cannot be written to"_s;
+        case DiskError:
+            return u"The disk or the network refused the access"_s;
+        default:
+            return u"The store refused the operation"_s;
+    }
+}
+
+}  // namespace
+
+void ThrowCode(int extendedCode, const QString& message, const QString& doing) {
+    const int number = NumberOf(extendedCode, message);
+    throw StoreError(number, u"%1, %2 (%3)."_s.arg(Words(number), doing, message));
+}
+
+void ThrowLast(sqlite3* connection, const QString& doing) {
+    ThrowCode(sqlite3_extended_errcode(connection), QString::fromUtf8(sqlite3_errmsg(connection)), doing);
+}
+
+}  // namespace store::sqlite

@@ -1,0 +1,88 @@
+#include "store/sqlite/SqliteSchema.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include "store/Conversion.h"
+#include "store/sqlite/Migrations.h"
+
+using namespace Qt::StringLiterals;
+
+namespace store::sqlite {
+
+namespace {
+
+std::string TypeSql(Type type) {
+    if (type == Type::Text) return "TEXT COLLATE VELTON";
+    if (type == Type::Double) return "REAL";
+    return "INTEGER";
+}
+
+// Defaults are numbers and flags; a text default would need quoting.
+std::string DefaultSql(const Column& column) {
+    const dialect::BoundValue value = ToStored(column.byDefault, column.type);
+    const auto* number = std::get_if<qint64>(&value);
+    return number == nullptr ? std::string() : " DEFAULT " + std::to_string(*number);
+}
+
+void SetVersion(SQLite::Database& database, int version) {
+    database.exec("PRAGMA user_version = " + std::to_string(version));
+}
+
+int VersionOf(SQLite::Database& database) {
+    return database.execAndGet("PRAGMA user_version").getInt();
+}
+
+}  // namespace
+
+std::string Quoted(const QString& name) {
+    return u"\"%1\""_s.arg(name).toStdString();
+}
+
+// Row identities must never come back, since cursors remember them; hence AUTOINCREMENT.
+std::string TableSql(const Table& table) {
+    const bool numbersItself = std::ranges::any_of(table.columns, &Column::selfNumbering);
+    std::string columns = numbersItself ? "" : "\"RowKey\" INTEGER PRIMARY KEY AUTOINCREMENT";
+    for (const Column& column : table.columns) {
+        if (!columns.empty()) columns += ", ";
+        columns += Quoted(column.name) + " ";
+        columns +=
+            column.selfNumbering ? "INTEGER PRIMARY KEY AUTOINCREMENT" : TypeSql(column.type) + DefaultSql(column);
+    }
+    return "CREATE TABLE " + Quoted(table.name) + " (" + columns + ") STRICT";
+}
+
+std::string IndexSql(const Table& table, const Index& index) {
+    const QString kind = index.unique ? u"Key"_s : index.overVal ? u"Val"_s : u"By"_s;
+    std::string terms;
+    for (const QString& column : index.columns) {
+        if (!terms.empty()) terms += ", ";
+        terms += index.overVal ? "velton_val(" + Quoted(column) + ")" : Quoted(column);
+    }
+    return std::string("CREATE ") + (index.unique ? "UNIQUE " : "") + "INDEX " +
+           Quoted(table.name + kind + index.columns.join(QString())) + " ON " + Quoted(table.name) + " (" + terms + ")";
+}
+
+void BuildSchema(SQLite::Database& database, const Schema& schema) {
+    SQLite::Transaction transaction(database);
+    for (const Table& table : schema.tables) {
+        database.exec(TableSql(table));
+        for (const Index& index : table.indexes) database.exec(IndexSql(table, index));
+    }
+    database.exec("PRAGMA application_id = " + std::to_string(schema.applicationId));
+    SetVersion(database, schema.version);
+    transaction.commit();
+}
+
+void MigrateSchema(SQLite::Database& database, const Schema& schema) {
+    while (VersionOf(database) < schema.version) {
+        SQLite::Transaction transaction(database, SQLite::TransactionBehavior::IMMEDIATE);
+        const int version = VersionOf(database);
+        if (version < schema.version) {
+            MigrationFrom(schema, version)(database);
+            SetVersion(database, version + 1);
+        }
+        transaction.commit();
+    }
+}
+
+}  // namespace store::sqlite

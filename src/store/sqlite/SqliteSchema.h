@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+#include "store/Schema.h"
+
+namespace SQLite {
+class Database;
+}
+
+namespace store::sqlite {
+
+// A schema in the engine's own words.
+std::string Quoted(const QString& name);
+std::string TableSql(const Table& table);
+std::string IndexSql(const Table& table, const Index& index);
+
+// Writes a whole schema into an empty file, as one commit.
+void BuildSchema(SQLite::Database& database, const Schema& schema);
+// Takes an older file to the schema's version, one commit a step; other processes may try the same at once.
+void MigrateSchema(SQLite::Database& database, const Schema& schema);
+
+}  // namespace store::sqlite

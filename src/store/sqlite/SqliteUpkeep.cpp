@@ -1,0 +1,75 @@
+#include <SQLiteCpp/Backup.h>
+#include <sqlite3.h>
+
+#include "store/sqlite/Disk.h"
+#include "store/sqlite/QuerySql.h"
+#include "store/sqlite/SqliteEngine.h"
+#include "store/sqlite/SqliteError.h"
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace store::sqlite {
+
+namespace {
+
+QStringList FaultsOf(Connection& connection) {
+    QStringList faults;
+    try {
+        Statement check(connection.Handle(), "PRAGMA integrity_check");
+        while (check.Step()) faults += check.Text(0);
+    } catch (const StoreError& error) {
+        faults += error.Description();
+    }
+    if (faults == QStringList{u"ok"_s}) faults.clear();
+    return faults;
+}
+
+// Page by page in one read of the source, so that it is of one moment; then made to stand without a log beside it.
+void CopyInto(const QString& path, SQLite::Database& source) {
+    Connection copy(path, true, 0ms);
+    copy.Run("PRAGMA synchronous = OFF");  // it is brought to the disk as a whole
+    {
+        SQLite::Backup backup(copy.Database(), source);
+        if (backup.executeStep(-1) != SQLITE_DONE)
+            throw StoreError(StoreLocked, u"The store is locked by another user and could not be copied."_s);
+    }
+    copy.Run("PRAGMA journal_mode = DELETE");
+}
+
+void CheckCopy(const QString& path) {
+    Connection copy(path, false, 0ms);
+    const QStringList faults = FaultsOf(copy);
+    if (!faults.empty()) throw StoreError(NotAStore, u"The copy is damaged: %1"_s.arg(faults.first()));
+}
+
+}  // namespace
+
+QStringList SqliteEngine::CheckIntegrity() {
+    return FaultsOf(*connection_);
+}
+
+void SqliteEngine::BackupTo(const QString& path) {
+    if (InTransaction()) throw StoreError(NotSupported, u"No copy can be made while a batch is open."_s);
+    NewFile file(path);
+    try {
+        CopyInto(file.Path(), connection_->Database());
+        CheckCopy(file.Path());
+    } catch (const SQLite::Exception& error) {
+        ThrowCode(error.getExtendedErrorCode(), QString::fromUtf8(error.what()), u"copying to %1"_s.arg(path));
+    }
+    file.Finish();
+}
+
+QString SqliteEngine::Explain(const dialect::Query& query) {
+    const dialect::Plan& plan = *query.plan;
+    const bool isSelect = plan.kind == dialect::Plan::Kind::Select;
+    const std::string sql = isSelect ? SelectSql(plan, plan.table != nullptr) : ActionSql(plan);
+    Statement statement(Handle(), "EXPLAIN QUERY PLAN " + sql);
+    constexpr int detail = 3;
+    QStringList steps;
+    while (statement.Step()) steps += statement.Text(detail);
+    return steps.join(u'\n');
+}
+
+}  // namespace store::sqlite

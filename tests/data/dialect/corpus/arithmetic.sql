@@ -1,0 +1,1 @@
+SELECT Qty*UnitPrice+1.5-Tab/2, -(Qty), Val(Unit)*2 AS v, v-1 FROM Products ORDER BY v DESC

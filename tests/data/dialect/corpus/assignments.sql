@@ -1,0 +1,1 @@
+UPDATE Products SET Qty = Qty * 1.17, Tab = Tab / 2, Unit = Tab & 'x', Pict = '5', TaxPercent = Val(Unit)

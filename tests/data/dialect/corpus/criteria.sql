@@ -1,0 +1,1 @@
+UserName = 'ana' OR ProdCode LIKE '38*' AND Qty - 1 > Tab

@@ -1,0 +1,1 @@
+SELECT Unit & 'x' AS u, Count(*) AS n, Max(Unit) FROM Products GROUP BY Unit & 'x' HAVING Sum(Qty) > 1 AND u <> 'a' ORDER BY n

@@ -1,0 +1,1 @@
+SELECT * FROM (Sales LEFT JOIN Invoices ON Sales.SalesID = Invoices.SalesID) LEFT JOIN (SalesDetails INNER JOIN Tax AS t ON SalesDetails.TaxID = t.TaxID) ON Invoices.InvoiceID = SalesDetails.InvoiceID

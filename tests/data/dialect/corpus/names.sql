@@ -1,0 +1,1 @@
+SELECT [a b].[Qty] AS [group by], [a b].* FROM Products AS [a b] ORDER BY [group by]

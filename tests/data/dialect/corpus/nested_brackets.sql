@@ -1,0 +1,1 @@
+SELECT * FROM Products WHERE ((((Qty))) = ((1)) AND (NOT (Tab = 2)))

@@ -1,0 +1,1 @@
+SELECT Tab FROM Products WHERE Qty BETWEEN 1 AND Tab AND Unit NOT LIKE Pict & '*' AND Tab NOT IN (1, 2.5, Null) OR Pict IS NOT NULL

@@ -1,0 +1,1 @@
+SELECT Max(Val([LoginNo])) AS [current] FROM Login

@@ -1,0 +1,1 @@
+SELECT Max(Val(Sales.SalesID)) AS [current] FROM Sales

@@ -1,0 +1,1 @@
+SELECT * FROM Products WHERE ProdCode = '3850104003217'

@@ -1,0 +1,1 @@
+Select ProdDescription, ProdCode, UnitPrice, Tab, Pict from Products where tab > -1

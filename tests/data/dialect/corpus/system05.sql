@@ -1,0 +1,1 @@
+SELECT InvoiceID, Val(OrNo) as No, DateSold, TimeSold, CashAmount, TaxTotal, CashierName FROM Invoices  ORDER BY Val(OrNo)

@@ -1,0 +1,1 @@
+SELECT * FROM Tax WHERE TaxID = 'P'

@@ -1,0 +1,1 @@
+UPDATE Products SET  ProdCode = '3850104003217', ProdDescription = 'Mlijeko 1 l', Qty = '12', Unit = 'pcs', UnitPrice = '1.95', UnitPricebezPDV = '0.00', VPUnitPrice = '0.00', VPUnitPricebezPDV = '0.00', TaxPercent = '17.00', Pict = 'mlijeko.bmp', TaxID = 'P' WHERE ProdCode = '3850104003217'

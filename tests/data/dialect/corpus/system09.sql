@@ -1,0 +1,1 @@
+UPDATE Products SET  Tab = 17 WHERE ProdCode = '3850104003217'

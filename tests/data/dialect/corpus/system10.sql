@@ -1,0 +1,1 @@
+SELECT * FROM Custumer WHERE Naziv LIKE '*doo*'

@@ -1,0 +1,1 @@
+SELECT DateStoped, TimeStoped FROM Sales WHERE Grupni = 4

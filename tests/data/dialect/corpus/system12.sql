@@ -1,0 +1,1 @@
+SELECT Kas, DateGenerated, TimeGenerated, ' ' as TimeStoped, TotalSales FROM Sales WHERE Closed = False

@@ -1,0 +1,1 @@
+SELECT Invoices.CashierID, Invoices.CashierName, '' as tri, '' as cetri,  Sum(Invoices.CashAmount) AS SumOfCashAmount FROM Sales LEFT JOIN Invoices ON Sales.SalesID = Invoices.SalesID WHERE Grupni = 4 GROUP BY Invoices.CashierID, Invoices.CashierName

@@ -1,0 +1,1 @@
+SELECT Invoices.Kas, Invoices.OrNo, Invoices.DateSold, Invoices.TimeSold, Invoices.CashAmount, Invoices.TaxTotal, Invoices.InvoiceID FROM Sales INNER JOIN Invoices ON Sales.SalesID = Invoices.SalesID WHERE Grupni = 4 ORDER BY Invoices.InvoiceID

@@ -1,0 +1,1 @@
+SELECT Invoices.CashierID, Users.UserName, '' as DateSold, Sum(CashAmount) AS SumOfCashAmount FROM Invoices LEFT JOIN Users ON Invoices.CashierID = Users.UserID  WHERE DateSold = #03-25-2024# GROUP BY Invoices.CashierID, Users.UserName

@@ -1,0 +1,1 @@
+SELECT ' ' AS OrNo, DateSold, ' ' AS TimeSold, Sum(CashAmount) AS IznosSaPorezom, Sum(TaxTotal) AS Porez, [IznosSaPorezom]-[Porez] AS IznosBezPoreza FROM Invoices WHERE DateSold = #03-25-2024# GROUP BY DateSold

@@ -1,0 +1,1 @@
+SELECT OrNo, DateSold, TimeSold, CashAmount as IznosSaPorezom, TaxTotal as Porez, [IznosSaPorezom]-[Porez] AS IznosBezPoreza FROM Invoices WHERE DateSold = #03-25-2024#

@@ -1,0 +1,1 @@
+SELECT DateSold, Min(Val([OrNo])) AS Mini, Max(Val([OrNo])) AS Maxi, Sum(CashAmount) AS Ukupno, Sum(TaxTotal) AS PDV, [ukupno]-[pdv] AS IznosBezPDV From Invoices WHERE DateSold = #03-25-2024# GROUP BY DateSold

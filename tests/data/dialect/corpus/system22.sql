@@ -1,0 +1,1 @@
+SELECT Kas, SalesID, DateGenerated, TimeGenerated, TimeStoped, TotalSales FROM Sales  WHERE DateGenerated = #03-25-2024#

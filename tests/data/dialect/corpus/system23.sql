@@ -1,0 +1,1 @@
+SELECT ' ' as Kas, ' ' as SalesID, DateGenerated, ' ' as TimeGenerated, ' ' as TimeStoped, Sum(TotalSales) as Total FROM Sales  WHERE DateGenerated = #03-25-2024# GROUP BY DateGenerated

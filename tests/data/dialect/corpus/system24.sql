@@ -1,0 +1,1 @@
+SELECT Val(OrNo), CashierName, DateSold, TimeSold, CashAmount, InvoiceID FROM Invoices WHERE DateSold = #03-25-2024# ORDER BY Val(OrNo)

@@ -1,0 +1,1 @@
+SELECT * FROM Tax; DELETE * FROM Login

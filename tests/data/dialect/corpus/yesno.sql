@@ -1,0 +1,1 @@
+UPDATE Sales SET Closed = Grupni > 1, Payed = -1, Grupni = Closed, DateStoped = '1/2/2024' WHERE Closed = (Payed = True)

@@ -1,0 +1,200 @@
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <csignal>
+#include <thread>
+
+#include "store/StoreTestBase.h"
+
+namespace store::test {
+
+class DurabilityTest : public StoreTest {
+protected:
+    // Runs work in a process of its own with a connection of its own; it ends with 0 when nothing was thrown. No
+    // connection may be open here, since the child would inherit what the engine knows of its locks.
+    pid_t InChild(const std::function<void(Database&)>& work) {
+        store.reset();
+        const pid_t child = fork();
+        if (child != 0) return child;
+        try {
+            work(*OpenAgain());
+        } catch (const values::Error& error) {
+            fprintf(stderr, "%s\n", error.what());
+            _exit(1);
+        }
+        _exit(0);
+    }
+    static int ExitOf(pid_t child) {
+        int status = 0;
+        waitpid(child, &status, 0);
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+    static void AddInvoice(Recordset& invoices, int number) {
+        invoices.AddNew();
+        invoices[u"InvoiceID"] = number;
+        invoices[u"CashierName"] = QString(300, u'x');
+        invoices.Update();
+    }
+};
+
+TEST_F(DurabilityTest, ABatchIsAllOrNone) {
+    AddTaxes({u"A"_s});
+    const auto other = OpenAgain();
+    const auto seen = [&] { return Column(*other, u"SELECT TaxID FROM Tax"_s).size(); };
+    {
+        Database::Batch batch(*store);
+        AddTaxes({u"B"_s, u"C"_s});
+        EXPECT_EQ(ErrorOf([&] { AddTax(u"b"_s, {}); }), DuplicateKey);
+        EXPECT_EQ(ErrorOf([&] { Database::Batch second(*store); }), NotSupported);
+        EXPECT_EQ(Column(u"SELECT TaxID FROM Tax"_s).size(), 3);
+        EXPECT_EQ(seen(), 1);
+    }
+    EXPECT_EQ(seen(), 1);
+    EXPECT_EQ(Column(u"SELECT TaxID FROM Tax"_s).size(), 1);
+    Database::Batch batch(*store);
+    AddTaxes({u"B"_s, u"C"_s});
+    batch.Commit();
+    EXPECT_EQ(seen(), 3);
+    AddTaxes({u"D"_s});
+    EXPECT_EQ(seen(), 4);
+}
+
+TEST_F(DurabilityTest, BurstsMayBeEmptyNestedAndMixedWithBatches) {
+    const auto other = OpenAgain();
+    Burst(*store).End();
+    {
+        Burst outer(*store);
+        AddTaxes({u"A"_s});
+        {
+            Burst inner(*store);
+            AddTaxes({u"B"_s});
+            inner.End();
+            inner.End();
+        }
+        AddTaxes({u"C"_s});
+        EXPECT_EQ(Column(*other, u"SELECT TaxID FROM Tax"_s).size(), 3) << "commits of a burst are seen at once";
+        Database::Batch batch(*store);
+        AddTaxes({u"D"_s});
+        batch.Commit();
+    }
+    {
+        Database::Batch batch(*store);
+        Burst burst(*store);
+        AddTaxes({u"E"_s});
+        burst.End();
+        batch.Commit();
+    }
+    {
+        auto burst = std::make_unique<Burst>(*store);
+        Database::Batch batch(*store);
+        AddTaxes({u"F"_s});
+        burst.reset();
+        batch.Commit();
+    }
+    AddTaxes({u"G"_s});
+    EXPECT_EQ(Column(*other, u"SELECT TaxID FROM Tax"_s).size(), 7);
+}
+
+TEST_F(DurabilityTest, AKilledProcessLosesNothingThatWasAcknowledged) {
+    int last = 0;
+    for (int round = 0; round < 3; ++round) {
+        int ends[2];
+        ASSERT_EQ(pipe(ends), 0);
+        const pid_t child = InChild([&](Database& database) {
+            auto invoices = database.OpenRecordset(u"SELECT * FROM Invoices"_s);
+            for (int number = last + 1;;) {
+                Burst burst(database);
+                for (const int end = number + 7; number < end; ++number) {
+                    AddInvoice(invoices, number);
+                    if (write(ends[1], &number, sizeof number) != sizeof number) _exit(1);
+                }
+                burst.End();
+            }
+        });
+        close(ends[1]);
+        int number = 0;
+        while (number < last + 200 && read(ends[0], &number, sizeof number) == sizeof number) continue;
+        kill(child, SIGKILL);
+        while (read(ends[0], &number, sizeof number) == sizeof number) continue;
+        close(ends[0]);
+        EXPECT_EQ(ExitOf(child), -1);
+
+        store = OpenAgain();
+        EXPECT_TRUE(store->CheckIntegrity().empty());
+        const qsizetype stored = Column(u"SELECT InvoiceID FROM Invoices"_s).size();
+        EXPECT_GE(stored, number);
+        EXPECT_LE(stored, number + 1) << "only the one in work may be there without an acknowledgement";
+        last = static_cast<int>(stored);
+    }
+    EXPECT_GE(last, 600);
+}
+
+TEST_F(DurabilityTest, EightRegistersSellOneProductToTheLastPiece) {
+    constexpr int registers = 8;
+    constexpr int sales = 40;
+    AddProduct(u"1"_s, u"Coffee"_s, Money::FromWhole(100));
+    std::vector<pid_t> children;
+    for (int i = 0; i < registers; ++i)
+        children.push_back(InChild([&](Database& database) {
+            for (int sale = 0; sale < sales; ++sale) {
+                auto product = database.OpenRecordset(u"SELECT * FROM Products WHERE ProdCode = '1'"_s);
+                for (;;) {
+                    product.LockEdits(false);
+                    product.Edit();
+                    product[u"Qty"] = product[u"Qty"].Money() - Units(5000);
+                    ErrorOf([&] { product.Update(); });
+                    if (product.EditMode() == EditState::None) break;
+                    product.CancelUpdate();
+                    product.Move(0);
+                }
+                product.SetBookmark(product.LastModified());
+            }
+        }));
+    for (const pid_t child : children) EXPECT_EQ(ExitOf(child), 0);
+    store = OpenAgain();
+    EXPECT_EQ(Column(u"SELECT Qty FROM Products"_s), QStringList{u"-60"_s});
+}
+
+TEST_F(DurabilityTest, ABackupIsOfOneMomentWhileOthersWrite) {
+    const pid_t writer = InChild([](Database& database) {
+        auto invoices = database.OpenRecordset(u"SELECT * FROM Invoices"_s);
+        auto details = database.OpenRecordset(u"SELECT * FROM SalesDetails"_s);
+        for (int number = 1;; ++number) {
+            Database::Batch batch(database);
+            AddInvoice(invoices, number);
+            details.AddNew();
+            details[u"InvoiceID"] = number;
+            details.Update();
+            batch.Commit();
+        }
+    });
+    store = OpenAgain();
+    while (Column(u"SELECT Max(Val(InvoiceID)) FROM Invoices"_s).first().toInt() < 50)
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    int before = 0;
+    for (int i = 0; i < 5; ++i) {
+        const QString path = PathOf(u"copy%1.pos"_s.arg(i));
+        store->BackupTo(path);
+        EXPECT_FALSE(QFile::exists(path + u"-wal"_s));
+        EXPECT_FALSE(QFile::exists(path + u".part"_s));
+        const auto copy = Database::Open(path, MainSchema());
+        const auto invoices = Column(*copy, u"SELECT InvoiceID FROM Invoices"_s);
+        EXPECT_EQ(invoices, Column(*copy, u"SELECT InvoiceID FROM SalesDetails"_s));
+        EXPECT_GE(invoices.size(), before);
+        before = static_cast<int>(invoices.size());
+    }
+    EXPECT_GE(before, 50);
+    kill(writer, SIGKILL);
+    ExitOf(writer);
+}
+
+TEST_F(DurabilityTest, ABackupReplacesNoFileAndLeavesNoneWhenItFails) {
+    EXPECT_EQ(ErrorOf([&] { store->BackupTo(StorePath()); }), FileExists);
+    EXPECT_NE(ErrorOf([&] { store->BackupTo(PathOf(u"nowhere/copy.pos"_s)); }), 0);
+    Database::Batch batch(*store);
+    EXPECT_EQ(ErrorOf([&] { store->BackupTo(PathOf(u"copy.pos"_s)); }), NotSupported);
+    EXPECT_FALSE(QFile::exists(PathOf(u"copy.pos"_s)));
+}
+
+}  // namespace store::test
