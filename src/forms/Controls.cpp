@@ -1,0 +1,89 @@
+#include "forms/Controls.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QIcon>
+#include <QImageReader>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPixmap>
+#include <QPlainTextEdit>
+#include <QTextEdit>
+
+namespace forms {
+
+namespace {
+
+// Beyond any thumbnail, but far from what would bring a till to its knees.
+constexpr int largestSide = 2000;
+constexpr int largestPictureInMegabytes = 64;
+
+QPixmap ReadPicture(const QString& path) {
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    QImageReader::setAllocationLimit(largestPictureInMegabytes);
+    const QSize size = reader.size();
+    if (size.width() > largestSide || size.height() > largestSide)
+        reader.setScaledSize(size.scaled(largestSide, largestSide, Qt::KeepAspectRatio));
+    return QPixmap::fromImage(reader.read());
+}
+
+}  // namespace
+
+QWidget* Control(QWidget* form, QStringView name) {
+    auto* control = form->findChild<QWidget*>(name.toString());
+    Q_ASSERT_X(control, "forms::Control", qPrintable(name.toString()));
+    return control;
+}
+
+QString TextOf(const QWidget* control) {
+    if (const auto* box = qobject_cast<const QLineEdit*>(control)) return box->text();
+    if (const auto* box = qobject_cast<const QComboBox*>(control)) return box->currentText();
+    if (const auto* label = qobject_cast<const QLabel*>(control)) return label->text();
+    if (const auto* button = qobject_cast<const QAbstractButton*>(control)) return button->text();
+    if (const auto* view = qobject_cast<const QPlainTextEdit*>(control)) return view->toPlainText();
+    if (const auto* view = qobject_cast<const QTextEdit*>(control)) return view->toPlainText();
+    return {};
+}
+
+void SetText(QWidget* control, const QString& text) {
+    if (auto* box = qobject_cast<QLineEdit*>(control)) return box->setText(text);
+    if (auto* box = qobject_cast<QComboBox*>(control)) return box->setCurrentText(text);
+    if (auto* label = qobject_cast<QLabel*>(control)) return label->setText(text);
+    if (auto* button = qobject_cast<QAbstractButton*>(control)) return button->setText(text);
+    if (auto* view = qobject_cast<QPlainTextEdit*>(control)) return view->setPlainText(text);
+    if (auto* view = qobject_cast<QTextEdit*>(control)) return view->setPlainText(text);
+}
+
+void SendTab(QWidget* from) {
+    // The parent moves the focus on even where the control itself would take a tab as a character.
+    QWidget* receiver = from->isWindow() ? from : from->parentWidget();
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+    QCoreApplication::sendEvent(receiver, &press);
+}
+
+void SelectAll(QLineEdit* box) {
+    box->selectAll();
+}
+
+void CaretToEnd(QLineEdit* box) {
+    box->end(false);
+}
+
+bool LoadPicture(QWidget* control, const QString& path) {
+    const QPixmap picture = ReadPicture(path);
+    if (picture.isNull()) return false;
+    if (auto* button = qobject_cast<QAbstractButton*>(control)) {
+        button->setIcon(QIcon(picture));
+        return true;
+    }
+    auto* label = qobject_cast<QLabel*>(control);
+    if (!label) return false;
+    label->setPixmap(picture);
+    return true;
+}
+
+}  // namespace forms

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+class QLineEdit;
+class QWidget;
+
+// Controls by name and by text, whatever their kind, and the keys that the screens send themselves.
+namespace forms {
+
+// A named control of a form; asserts that it exists.
+QWidget* Control(QWidget* form, QStringView name);
+
+// The text of a line edit, combo box, label, button or text view.
+QString TextOf(const QWidget* control);
+void SetText(QWidget* control, const QString& text);
+
+// {tab}: the focus moves on as the Tab key does.
+void SendTab(QWidget* from);
+// {home}+{end}: the whole text is selected. {end}: the caret goes to the end.
+void SelectAll(QLineEdit* box);
+void CaretToEnd(QLineEdit* box);
+
+// The control's picture from a file; false (and nothing changes) when the file is missing or is no picture.
+bool LoadPicture(QWidget* control, const QString& path);
+
+}  // namespace forms

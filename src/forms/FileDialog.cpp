@@ -1,0 +1,58 @@
+#include "forms/FileDialog.h"
+
+#include <QFileDialog>
+#include <QPointer>
+#include <QRegularExpression>
+
+#include "forms/FocusReturn.h"
+#include "forms/Program.h"
+
+using namespace Qt::StringLiterals;
+
+namespace forms {
+
+namespace {
+
+// "txt" for a filter that begins with "Report (*.txt)".
+QString FirstSuffix(const QString& filter) {
+    static const QRegularExpression pattern(u"\\*\\.(\\w+)"_s);
+    return pattern.match(filter).captured(1);
+}
+
+QString AskName(QFileDialog* made) {
+    if (ProgramIsEnding()) throw ProgramEnds{};
+    const FocusReturn focus;
+    const QPointer<QFileDialog> dialog = made;
+    // A missing name is no business of the dialog: the screens have their own words for it.
+    dialog->setFileMode(QFileDialog::AnyFile);
+    const bool chosen = dialog->exec() == QDialog::Accepted && dialog;
+    const QStringList names = chosen ? dialog->selectedFiles() : QStringList();
+    delete dialog;
+    if (ProgramIsEnding()) throw ProgramEnds{};
+    focus.GiveBack();
+    return names.value(0);
+}
+
+QFileDialog* NewDialog(QWidget* parent, const QString& title, const QString& filter) {
+    auto* dialog = new QFileDialog(parent ? parent->window() : nullptr, title, QString(), filter);
+    dialog->setOption(QFileDialog::DontUseNativeDialog);
+    dialog->setOption(QFileDialog::DontConfirmOverwrite);
+    return dialog;
+}
+
+}  // namespace
+
+QString AskSaveName(QWidget* parent, const QString& title, const QString& filter) {
+    QFileDialog* dialog = NewDialog(parent, title, filter);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix(FirstSuffix(filter));
+    return AskName(dialog);
+}
+
+QString AskOpenName(QWidget* parent, const QString& title, const QString& filter) {
+    QFileDialog* dialog = NewDialog(parent, title, filter);
+    dialog->setAcceptMode(QFileDialog::AcceptOpen);
+    return AskName(dialog);
+}
+
+}  // namespace forms

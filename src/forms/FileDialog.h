@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+// Qt's own file dialogs (never the platform's), so that they look and answer alike everywhere.
+namespace forms {
+
+// The chosen path, or "" when the user cancels. `filter` in Qt's form, "Report (*.txt)"; several joined by ";;".
+QString AskSaveName(QWidget* parent, const QString& title, const QString& filter);
+QString AskOpenName(QWidget* parent, const QString& title, const QString& filter);
+
+}  // namespace forms

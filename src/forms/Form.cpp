@@ -1,0 +1,206 @@
+#include "forms/Form.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QPointer>
+#include <QScreen>
+#include <QTimer>
+#include <QWindow>
+
+#include "forms/Behaviours.h"
+#include "forms/Frame.h"
+#include "forms/KeyDispatcher.h"
+
+namespace forms {
+
+namespace {
+
+QList<Form*> loadedForms;
+// The form in front; message boxes and file dialogs above it change nothing about that.
+QPointer<Form> frontForm;
+
+QRect RoomAround(const QWidget* window) {
+    if (window && window->isVisible()) return window->frameGeometry();
+    return QGuiApplication::primaryScreen()->availableGeometry();
+}
+
+void CentreOver(QWidget* form, const QWidget* window) {
+    const QRect screen = form->screen()->availableGeometry();
+    form->resize(form->size().expandedTo(form->minimumSizeHint()).boundedTo(screen.size()));
+    QRect place = form->geometry();
+    place.moveCenter(RoomAround(window).center());
+    place.moveLeft(qBound(screen.left(), place.left(), qMax(screen.left(), screen.right() - place.width())));
+    place.moveTop(qBound(screen.top(), place.top(), qMax(screen.top(), screen.bottom() - place.height())));
+    form->move(place.topLeft());
+}
+
+}  // namespace
+
+Form::Form(QWidget* parent) : QWidget(parent), behaviours_(std::make_unique<Behaviours>(*this)) {
+    KeyDispatcher::Install();
+    if (!parent) setWindowFlags(Qt::Dialog);
+}
+
+Form::~Form() {
+    loadedForms.removeOne(this);
+}
+
+void Form::Load() {
+    if (loaded_) return;
+    if (objectName().isEmpty()) setObjectName(QString::fromLatin1(metaObject()->className()));
+    loaded_ = true;
+    loadedForms.append(this);
+    try {
+        Form_Load();
+    } catch (...) {
+        Leave();
+        if (deletesItself_) deleteLater();
+        throw;
+    }
+}
+
+void Form::Show() {
+    if (ProgramIsEnding()) throw ProgramEnds{};
+    Load();
+    if (!loaded_) return;
+    setWindowModality(Qt::NonModal);
+    Present();
+}
+
+void Form::ShowModal() {
+    if (ProgramIsEnding()) throw ProgramEnds{};
+    Load();
+    if (!loaded_) return;
+    if (isVisible()) hide();
+    setWindowModality(Qt::ApplicationModal);
+
+    QEventLoop loop;
+    behaviours_->modalLoop = &loop;
+    const QPointer<Form> alive = this;
+    Present();
+    if (alive && loaded_) loop.exec(QEventLoop::DialogExec);
+
+    const bool unloaded = !alive || !loaded_;
+    if (alive) {
+        behaviours_->modalLoop = nullptr;
+        // Only now, so that the caller may still look at what the form leaves behind.
+        if (deletesItself_) deleteLater();
+    }
+    if (unloaded && !ProgramIsEnding()) return;
+    if (!unloaded) Leave();
+    EndProgram(ProgramExitCode());
+}
+
+bool Form::Unload() {
+    if (!loaded_ || behaviours_->unloading) return true;
+    behaviours_->unloading = true;
+    bool agreed = true;
+    try {
+        agreed = Form_Unload();
+    } catch (...) {
+        behaviours_->unloading = false;
+        throw;
+    }
+    behaviours_->unloading = false;
+    if (!agreed) return false;
+
+    const bool wasInFront = isActiveWindow();
+    Leave();
+    if (wasInFront && behaviours_->cameFrom) behaviours_->cameFrom->GiveBack();
+    behaviours_->cameFrom.reset();
+    if (behaviours_->modalLoop)
+        behaviours_->modalLoop->quit();
+    else if (deletesItself_)
+        deleteLater();
+    return true;
+}
+
+void Form::Leave() {
+    loaded_ = false;
+    loadedForms.removeOne(this);
+    if (frontForm == this) frontForm = nullptr;
+    behaviours_->focused = nullptr;
+    hide();
+    if (qobject_cast<Frame*>(window())) setParent(nullptr, Qt::Dialog);
+}
+
+bool Form::Form_KeyDown(QKeyEvent& key) {
+    return behaviours_->FormKey(key);
+}
+
+void Form::closeEvent(QCloseEvent* event) {
+    bool unloaded = false;
+    Run([&] { unloaded = Unload(); });
+    event->setAccepted(unloaded);
+}
+
+void Form::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (!isWindow() && window()->isActiveWindow()) ComeToFront();
+}
+
+bool Form::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate) ComeToFront();
+    return QWidget::event(event);
+}
+
+void Form::ComeToFront() {
+    if (!loaded_ || frontForm == this) return;
+    frontForm = this;
+    // Not from within Qt's own work on the window: the handler may open boxes.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (loaded_ && frontForm == this) Run([this] { Form_Activate(); });
+        },
+        Qt::QueuedConnection);
+}
+
+void Form::Present() {
+    if (!isWindow()) {
+        show();
+        return;
+    }
+    QWidget* below = QApplication::activeWindow();
+    if (!isVisible()) {
+        if (below != this) behaviours_->cameFrom.emplace();
+        winId();
+        if (below && below != this) windowHandle()->setTransientParent(below->windowHandle());
+        CentreOver(this, below);
+    }
+    show();
+    raise();
+    activateWindow();
+    // A window that was in front when it was hidden, and has had no follower, is taken for active still.
+    if (QGuiApplication::focusWindow() == windowHandle()) QApplication::setActiveWindow(this);
+}
+
+void Form::ConnectTimer(QTimer* timer, std::function<void()> handler) {
+    connect(timer, &QTimer::timeout, this, std::move(handler));
+}
+
+const QList<Form*>& LoadedForms() {
+    return loadedForms;
+}
+
+bool IsFormLoaded(const Form* form) {
+    return std::find(loadedForms.begin(), loadedForms.end(), form) != loadedForms.end();
+}
+
+Form* FindForm(QStringView className) {
+    for (Form* form : loadedForms)
+        if (form->objectName() == className || QString::fromLatin1(form->metaObject()->className()) == className)
+            return form;
+    return nullptr;
+}
+
+void DropLoadedForms() {
+    const auto all = loadedForms;
+    for (Form* form : all) {
+        form->Leave();
+        if (form->deletesItself_) form->deleteLater();
+    }
+}
+
+}  // namespace forms

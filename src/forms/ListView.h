@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QTreeView>
+#include <vector>
+
+namespace forms {
+
+class RowModel;
+
+// One column of a list: its heading, which side it is aligned to, and its width in pixels; width 0 hides it, a
+// negative width takes what the others leave.
+struct ListColumn {
+    QString heading;
+    Qt::Alignment align = Qt::AlignLeft;
+    int width = 100;
+};
+
+// The list of every screen: rows of texts, one row selected at a time, no sorting by heading. A hundred thousand rows
+// fill and paint at once. Rows and columns count from 0; column 0 is the item's own text.
+class ListView : public QTreeView {
+    Q_OBJECT
+
+public:
+    explicit ListView(QWidget* parent = nullptr);
+
+    void SetColumns(std::vector<ListColumn> columns);
+
+    int Count() const;
+    void Clear();
+    // Adds a row at the end; missing cells are empty. Returns its index.
+    int Add(QStringList cells);
+    void Remove(int row);
+    QString Text(int row, int column = 0) const;
+    void SetText(int row, int column, const QString& text);
+    // First row whose column 0 has this text exactly; -1 when none has.
+    int Find(QStringView text) const;
+
+    // -1 when no row is selected.
+    int Selected() const;
+    // Selects a row and makes it visible; -1 selects none.
+    void Select(int row);
+
+    // Many rows at once: between Begin and End nothing is repainted.
+    void BeginFill();
+    void EndFill();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event = nullptr) const override;
+
+private:
+    void LayOutColumns();
+    void GiveRestToFlexibleColumns();
+
+    RowModel* rows_;
+    std::vector<ListColumn> columns_;
+};
+
+}  // namespace forms
