@@ -1,0 +1,89 @@
+#include "core/dbModule.h"
+
+#include <QFileInfo>
+
+#include "forms/Form.h"
+#include "output/Channel.h"
+#include "output/Folder.h"
+#include "output/PagePrinter.h"
+#include "store/StorePath.h"
+#include "values/Numbers.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto LastGrupniQuery = u"SELECT Max(Grupni) AS zadnji FROM Sales"_s;
+
+constexpr int InvalidCall = 5;
+constexpr int StoreNotOpen = 91;
+
+std::unique_ptr<store::Database> mainStore;
+std::unique_ptr<store::Database> optionsStore;
+
+store::Database& Opened(const std::unique_ptr<store::Database>& database) {
+    if (!database) throw store::StoreError(StoreNotOpen, u"The store is not open."_s);
+    return *database;
+}
+
+}  // namespace
+
+void OpenOptionsStore() {
+    optionsStore = store::Database::Open(store::OptionsStorePath(output::ProgramFolder()), store::OptionsSchema());
+}
+
+void OpenMainStore() { mainStore = store::Database::Open(store::MainStorePath(output::ProgramFolder()), store::MainSchema()); }
+
+store::Database& OptionsStore() { return Opened(optionsStore); }
+
+store::Database& MainStore() { return Opened(mainStore); }
+
+void CloseStores() {
+    mainStore.reset();
+    optionsStore.reset();
+}
+
+void ExecuteSql(const QString& text) { MainStore().Execute(text); }
+
+QString ProperCase(const QString& text) {
+    if (text.isEmpty()) return {};
+    QString result = text;
+    const auto raise = [&](qsizetype at) {
+        if (at < result.size()) result[at] = result[at].toUpper();
+    };
+    raise(0);
+    for (qsizetype i = 0; i + 1 < result.size(); ++i) {
+        if (result[i] == u'\r' && result[i + 1] == u'\n') raise(i + 2);
+        if (result[i] == u' ') raise(i + 1);
+    }
+    return result;
+}
+
+void PrintToChannel(const QString& mode, const QString& line) {
+    if (mode == u"1" || mode == u"2") output::Channel1().WriteLine(line);
+    if (mode == u"3") output::ThePagePrinter().PrintLine(line);
+}
+
+void FeedBlankLines(qint16 count) {
+    for (int i = 0; i < count; ++i) output::Channel1().WriteLine({});
+}
+
+QString PadLeft(qint32 width, const QString& text) { return text.rightJustified(width); }
+
+QString PadRight(qint32 width, const QString& text) {
+    if (width < 0) throw values::Error(InvalidCall, u"A text does not fit its line."_s);
+    return text.leftJustified(width, u' ', true);
+}
+
+bool FileExists(const QString& path) {
+    const QFileInfo file(path);
+    return file.exists() && !file.isDir();
+}
+
+bool IsFormLoaded(const forms::Form* form) { return forms::IsFormLoaded(form); }
+
+qint16 LastEndReportNumber() {
+    auto rs = MainStore().OpenRecordset(LastGrupniQuery);
+    rs.MoveFirst();
+    return rs[u"zadnji"].IsNull() ? qint16{0} : values::CInt16(rs[u"zadnji"].Double());
+}

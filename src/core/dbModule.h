@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QString>
+
+#include "store/Database.h"
+
+namespace forms {
+class Form;
+}
+
+// The common module: the two stores, action queries, and the helpers on which receipts and reports rest.
+
+void OpenOptionsStore();
+void OpenMainStore();
+// The open stores; before they are opened a store error.
+store::Database& OptionsStore();
+store::Database& MainStore();
+// Tests close them between two starts.
+void CloseStores();
+
+// Runs an action query on the main store.
+void ExecuteSql(const QString& text);
+
+// Raises the first letter, and each letter behind a blank or a line break (CR LF); lowers nothing.
+QString ProperCase(const QString& text);
+
+// Writes a line where `mode` says: "1" and "2" to channel 1, "3" to the page printer, anything else nowhere.
+void PrintToChannel(const QString& mode, const QString& line);
+// Empty lines on channel 1, whatever the output.
+void FeedBlankLines(qint16 count);
+
+// Right-justified in `width` columns; a longer text stays whole.
+QString PadLeft(qint32 width, const QString& text);
+// Left-justified in `width` columns; a longer text is cut. A negative width is Error 5.
+QString PadRight(qint32 width, const QString& text);
+
+bool FileExists(const QString& path);
+bool IsFormLoaded(const forms::Form* form);
+
+// The number of the last End Report, 0 when there is none; Error 6 above 16 bits.
+qint16 LastEndReportNumber();

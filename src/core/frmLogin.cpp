@@ -1,0 +1,196 @@
+#include "core/frmLogin.h"
+
+#include "core/InstanceLock.h"
+#include "core/Session.h"
+#include "core/Settings.h"
+#include "core/dbModule.h"
+#include "core/mdiORVA.h"
+#include "forms/MsgBox.h"
+#include "output/Folder.h"
+#include "values/Clock.h"
+#include "values/Format.h"
+#include "values/Locale.h"
+#include "values/Numbers.h"
+
+using namespace Qt::StringLiterals;
+using values::Format;
+
+namespace {
+
+const auto OptionsQuery = u"SELECT * FROM Options"_s;
+const auto UsersQuery = u"SELECT * FROM Users"_s;
+const auto UserQuery = u"SELECT * FROM Users WHERE UserName = '%1'"_s;
+const auto UserCriteria = u"UserName = '%1'"_s;
+const auto LoginQuery = u"SELECT * FROM Login"_s;
+const auto LastLoginQuery = u"SELECT Max(Val([LoginNo])) AS [current] FROM Login"_s;
+
+const auto Refused = u"Wrong password.Login not allowed."_s;
+
+constexpr int Countdown = 59;
+
+}  // namespace
+
+frmLogin::frmLogin(std::function<void()> loggedIn)
+    : timer1_(new QTimer(this)), timer2_(new QTimer(this)), timer3_(new QTimer(this)), loggedIn_(std::move(loggedIn)) {
+    ui.setupUi(this);
+    ui.txtUserName->setCompleter(nullptr);
+    ui.txtUserName->setInsertPolicy(QComboBox::NoInsert);
+    ui.txtUserName->lineEdit()->setPlaceholderText(u"choose user"_s);
+    timer1_->setObjectName(u"Timer1"_s);
+    timer2_->setObjectName(u"Timer2"_s);
+    timer3_->setObjectName(u"Timer3"_s);
+
+    HighlightOnFocus({ui.txtUserName, ui.txtPassword});
+    EnterMovesOn({ui.txtUserName});
+    ControlKeys(ui.txtPassword, {{Qt::Key_Return, Guarded(&frmLogin::cmdOK_Click)}});
+    On(ui.cmdOK, &frmLogin::cmdOK_Click);
+    On(ui.cmdCancel, &frmLogin::cmdCancel_Click);
+    OnTimer(timer1_, &frmLogin::Timer1_Timer);
+}
+
+void frmLogin::Form_Load() {
+    timer1_->start(1000);
+    timer2_->setInterval(100);
+    timer3_->setInterval(1000);
+    try {
+        StartUp();
+    } catch (const values::Error& error) {
+        if (error.Number() == store::HeldExclusively) {
+            forms::Tell(u"Program VELTON already run."_s);
+            forms::EndProgram();
+        }
+        forms::Inform(forms::ErrorText(error), Caption());
+    }
+}
+
+void frmLogin::StartUp() {
+    if (!LockFolder(output::ProgramFolder())) {
+        forms::Tell(u"VELTON already works."_s);
+        forms::EndProgram();
+    }
+    TheSettings.DecimalSeparator = static_cast<qint16>(values::DecimalSeparatorChar().unicode());
+    OpenOptionsStore();
+    ReadSettings();
+    OpenMainStore();
+    rsUsers_ = MainStore().OpenRecordset(UsersQuery);
+    rsLogin_ = MainStore().OpenRecordset(LoginQuery);
+    FillUserList();
+    setWindowFlag(Qt::WindowCloseButtonHint, false);
+    Timer1_Timer();
+    SetCompanyHeading();
+    ProposeLoginNumber();
+    countdown_ = Countdown;
+}
+
+// In the order of the settings; a null that is not allowed for stops the reading where it stands.
+void frmLogin::ReadSettings() {
+    rsOptions_ = OptionsStore().OpenRecordset(OptionsQuery);
+    rsOptions_.MoveFirst();
+    const auto text = [&](QStringView name) { return rsOptions_[name].Text(); };
+    const auto yes = [&](QStringView name) { return rsOptions_[name].YesNo(); };
+
+    const qint16 separator = TheSettings.DecimalSeparator;
+    TheSettings = {};
+    TheSettings.DecimalSeparator = separator;
+    TheSettings.MjestoProdaje = rsOptions_[u"MjestoProdaje"].TextOrEmpty();
+    TheSettings.PrinterZaIzvjestaj = text(u"PrinterZaIzvjestaj");
+    TheSettings.VelFont = text(u"VelFont");
+    TheSettings.Font = text(u"Font");
+    TheSettings.Currency = text(u"Currency");
+    TheSettings.PraznihLinijaPoslijeRacuna = values::CInt16(rsOptions_[u"PraznihLinijaPoslijeRacuna"].Double());
+    TheSettings.StanjeKaseVidljivo = text(u"StanjeKaseVidljivo");
+    TheSettings.PrintKasir = text(u"PrintKasir");
+    TheSettings.TipRacuna = text(u"TipRacuna");
+    if (!rsOptions_[u"Kasa"].IsNull()) TheSettings.Kasa = values::CInt16(rsOptions_[u"Kasa"].Double());
+    TheSettings.ServerName = rsOptions_[u"ServerName"].TextOrEmpty();
+    TheSettings.RekapPoreza = text(u"RekapPoreza");
+    TheSettings.PrinterZaRacun = text(u"PrinterZaRacun");
+    TheSettings.Emulacija = text(u"Emulacija");
+    TheSettings.RezacPapira = text(u"RezacPapira");
+    TheSettings.SkenerPrimarno = text(u"SkenerPrimarno");
+    TheSettings.TrakaRacunaFile = u"invoices.txt"_s;
+    TheSettings.TrakaRacunaFileDA = yes(u"TrakaRacunaFileDA");
+    TheSettings.FiskalniFile = text(u"FiskalniFile");
+    TheSettings.FiskalniRacunDA = text(u"FiskalniRacunDA");
+    TheSettings.Footer = text(u"Footer");
+    TheSettings.DisplejKupca = yes(u"DisplejKupca");
+    TheSettings.Kusur = yes(u"Kusur");
+    TheSettings.POSMonitor = text(u"POSMonitor");
+    TheSettings.Kupac = yes(u"Kupac");
+    TheSettings.PonudiZakljucak = yes(u"PonudiZakljucak");
+    TheSettings.ChangeUser = text(u"ChangeUser");
+    TheSettings.NoviRacunAutomatski = yes(u"NoviRacunAutomatski");
+}
+
+void frmLogin::FillUserList() {
+    ui.txtUserName->clear();
+    for (auto& user : rsUsers_) ui.txtUserName->addItem(user[u"UserName"].TextOrEmpty());
+    ui.txtUserName->setCurrentIndex(-1);
+}
+
+void frmLogin::SetCompanyHeading() {
+    TheSettings.NazivFirme = u"VELTON Shop"_s;
+    TheSettings.Adresa = u"Main Street 1"_s;
+    TheSettings.JIB = u"ID: 4200000000000"_s;
+    TheSettings.Tel = u"Tel: 000 000 000"_s;
+}
+
+void frmLogin::ProposeLoginNumber() {
+    auto rs = MainStore().OpenRecordset(LastLoginQuery);
+    rs.MoveFirst();
+    const qint16 last =
+        rs[u"current"].IsNull() ? qint16{0} : values::CInt16(values::Val(rs[u"current"].Text()));
+    nextLogin_ = values::CInt16(last + 1);
+    ui.txtLogInNumber->setText(QString::number(nextLogin_));
+}
+
+void frmLogin::Timer1_Timer() {
+    ui.txtDate->setText(Format(values::Today(), u"dd.mm.yyyy"));
+    ui.txtTime->setText(Format(values::TimeNow(), u"hh:mm:ss"));
+}
+
+void frmLogin::cmdOK_Click() {
+    const QString name = ui.txtUserName->currentText();
+    rsUsers_ = MainStore().OpenRecordset(UsersQuery);
+    rsUsers_.FindFirst(UserCriteria.arg(name));
+    // One answer for both, so that nobody learns which of the two was wrong.
+    if (rsUsers_.NoMatch() || rsUsers_[u"Password"].IsNull() || rsUsers_[u"Password"].Text() != ui.txtPassword->text())
+        return forms::Tell(Refused, forms::Icon::Critical, Caption());
+
+    rsUsers_ = MainStore().OpenRecordset(UserQuery.arg(name));
+    timer1_->stop();
+    timer2_->stop();
+    ui.pb->setValue(2);
+    countdown_ = Countdown;
+    WriteLoginRow(rsUsers_);
+    StartSession(rsUsers_);
+
+    mdiORVA& main = mdiORVA::Window();
+    main.ShowRunningTotal(values::CBool(TheSettings.StanjeKaseVidljivo));
+    loggedIn_();
+    main.ApplyAccessLevel(rsUsers_[u"AccLevel"].TextOrEmpty());
+    Unload();
+}
+
+void frmLogin::WriteLoginRow(store::Recordset& user) {
+    rsLogin_ = MainStore().OpenRecordset(LoginQuery);
+    rsLogin_.AddNew();
+    rsLogin_[u"LogInNo"] = ui.txtLogInNumber->text();
+    rsLogin_[u"UserID"] = user[u"UserID"].Get();
+    rsLogin_[u"LoginTime"] = values::TimeNow();
+    rsLogin_[u"AccLevel"] = u"1"_s;  // for every user: the log does not tell levels
+    rsLogin_[u"Date"] = values::Today();
+    rsLogin_.Update();
+}
+
+void frmLogin::StartSession(store::Recordset& user) {
+    TheSession.LoginNumber = ui.txtLogInNumber->text();
+    TheSession.SessionUserID = user[u"UserID"].TextOrEmpty();
+    TheSession.SessionUserName = user[u"UserFullName"].TextOrEmpty();
+    TheSession.SessionUserPosition = user[u"UserPosition"].TextOrEmpty();
+}
+
+void frmLogin::cmdCancel_Click() {
+    Unload();
+    if (forms::LoadedForms().isEmpty()) forms::EndProgram();
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <functional>
+
+#include "forms/Form.h"
+#include "store/Recordset.h"
+#include "ui_frmLogin.h"
+
+// The start of the program: refuses a second instance, opens both stores, reads the settings, and asks who works.
+class frmLogin : public forms::Form {
+    Q_OBJECT
+
+public:
+    // `loggedIn` shows the sales screen; it runs within a good login, before the menu entries are switched off.
+    explicit frmLogin(std::function<void()> loggedIn);
+
+    void FillUserList();
+
+protected:
+    void Form_Load() override;
+
+private:
+    void cmdOK_Click();
+    void cmdCancel_Click();
+    void Timer1_Timer();
+
+    void StartUp();
+    void ReadSettings();
+    void SetCompanyHeading();
+    void ProposeLoginNumber();
+    void WriteLoginRow(store::Recordset& user);
+    void StartSession(store::Recordset& user);
+
+    Ui::frmLogin ui;
+    QTimer* timer1_;
+    QTimer* timer2_;
+    QTimer* timer3_;
+    store::Recordset rsOptions_;
+    store::Recordset rsUsers_;
+    store::Recordset rsLogin_;
+    qint16 nextLogin_ = 0;
+    int countdown_ = 0;  // the limit that the frame's caption promises; nothing counts it down
+    std::function<void()> loggedIn_;
+};
