@@ -1,0 +1,10 @@
+#pragma once
+
+class QApplication;
+
+// What ties the rooms together: the look, which screen a menu entry opens, and what follows a good login.
+
+// The theme and the process-wide settings; once a process.
+void PrepareApplication(QApplication& application);
+// Shows the login. False when the program already ended there.
+bool StartProgram();

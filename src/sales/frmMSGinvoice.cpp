@@ -1,0 +1,37 @@
+#include "sales/frmMSGinvoice.h"
+
+#include "core/Session.h"
+#include "core/mdiORVA.h"
+#include "forms/Controls.h"
+#include "forms/MsgBox.h"
+#include "values/Format.h"
+#include "values/Numbers.h"
+
+using namespace Qt::StringLiterals;
+using values::CMoney;
+using values::Format;
+
+frmMSGinvoice::frmMSGinvoice() {
+    ui.setupUi(this);
+    HighlightOnFocus({ui.txtCash});
+    NumericKeys({ui.txtCash});
+    ControlKeys(ui.txtCash, {{Qt::Key_Return, Guarded(&frmMSGinvoice::txtCash_Enter)}});
+    On(ui.cmdOK, &frmMSGinvoice::cmdOK_Click);
+}
+
+void frmMSGinvoice::Form_Load() {
+    ui.txtTotal->setText(forms::TextOf(forms::Control(CallerForm, u"txtTotalAmount")));
+}
+
+void frmMSGinvoice::txtCash_Enter() {
+    ui.txtCash->setText(Format(ui.txtCash->text(), u"0.00"));
+    if (!values::IsNumeric(ui.txtCash->text())) return;
+    ui.txtChange->setText(Format(CMoney(ui.txtCash->text()) - CMoney(ui.txtTotal->text()), u"0.00"));
+    if (CMoney(ui.txtChange->text()) >= values::Money()) return forms::SendTab(ui.txtCash);
+    forms::Inform(u"The amount is less than the invoice amount."_s, mdiORVA::Window().Caption());
+    ui.txtCash->setFocus();
+    forms::SelectAll(ui.txtCash);
+    ui.txtChange->clear();
+}
+
+void frmMSGinvoice::cmdOK_Click() { Unload(); }

@@ -1,0 +1,240 @@
+#include "sales/frmORVAtouch.h"
+
+#include "core/Session.h"
+#include "core/Settings.h"
+#include "core/dbModule.h"
+#include "core/mdiORVA.h"
+#include "forms/Controls.h"
+#include "forms/MsgBox.h"
+#include "masterdata/ClickTable.h"
+#include "masterdata/Module1.h"
+#include "output/Folder.h"
+#include "sales/LogOff.h"
+#include "values/Clock.h"
+#include "values/Format.h"
+#include "values/Numbers.h"
+
+using namespace Qt::StringLiterals;
+using values::CMoney;
+using values::Format;
+
+namespace {
+
+const auto DetailsQuery = u"SELECT * FROM SalesDetails"_s;
+const auto InvoicesQuery = u"SELECT * FROM Invoices"_s;
+const auto LastPeriodQuery = u"SELECT Max(Val(Sales.SalesID)) AS [current] FROM Sales"_s;
+const auto PeriodQuery = u"SELECT * FROM Sales WHERE SalesID = '%1'"_s;
+const auto LastInvoiceQuery = u"SELECT Max(Val([InvoiceID])) AS [current] FROM Invoices"_s;
+const auto LastOrNoQuery = u"SELECT orNo FROM Invoices WHERE InvoiceID = '%1'"_s;
+
+const auto NewCaption = u"F5-New"_s;
+const auto PrintCaption = u"F5-Print"_s;
+const auto RunningTotalPattern = u"###,###,##0.00"_s;
+
+}  // namespace
+
+frmORVAtouch::frmORVAtouch() {
+    ui.setupUi(this);
+    ui.lv1->SetColumns({{u"Code"_s, Qt::AlignLeft, 128}, {u"Product name"_s, Qt::AlignLeft, -1},
+                        {u"Price"_s, Qt::AlignRight, 78}, {u"Quantity"_s, Qt::AlignRight, 76},
+                        {u"Amount"_s, Qt::AlignRight, 76}, {u"Tax %"_s, Qt::AlignRight, 60},
+                        {u"Tax"_s, Qt::AlignRight, 0}, {u"Unit"_s, Qt::AlignLeft, 0},
+                        {u"TaxID"_s, Qt::AlignLeft, 0}, {u"ID"_s, Qt::AlignLeft, 0}});
+    ui.lvPorez->SetColumns({{u"TaxID"_s, Qt::AlignLeft, 70}, {{}, Qt::AlignLeft, 0}, {u"Rate"_s, Qt::AlignRight, 60},
+                            {u"Amount"_s, Qt::AlignRight, -1}, {u"Tax"_s, Qt::AlignRight, 70}});
+
+    FunctionKeys({{Qt::Key_Escape, ui.cmdESCponisti}, {Qt::Key_F1, ui.cmdHelp}, {Qt::Key_F2, ui.cmdF2izaberi},
+                  {Qt::Key_F5, ui.cmdNew}, {Qt::Key_F6, ui.cmdPrijava}, {Qt::Key_F7, ui.cmdOdjava},
+                  {Qt::Key_F8, ui.cmdTraka}, {Qt::Key_F9, ui.cmdOsvjezi}, {Qt::Key_F10, ui.cmdNoviArtikal},
+                  {Qt::Key_F12, ui.cmdLogOff}});
+    HighlightOnFocus({ui.txtProdCode, ui.txtQuantity, ui.txtKupac, ui.txtIB});
+    NumericKeys({ui.txtQuantity}, u"-"_s);
+    EnterMovesOn({ui.lv1, ui.txtKupac, ui.txtIB});
+    ControlKeys(ui.txtProdCode, {{Qt::Key_Return, Guarded(&frmORVAtouch::txtProdCode_Enter)}});
+    ControlKeys(ui.txtQuantity, {{Qt::Key_Return, Guarded(&frmORVAtouch::txtQuantity_Enter)}});
+    ListKeys(ui.lv1, {{Qt::Key_Delete, Guarded(&frmORVAtouch::DeleteLine)},
+                      {Qt::Key_Insert, Guarded(&frmORVAtouch::ChangeLineQuantity)}});
+
+    OnChange(ui.txtProdCode, &frmORVAtouch::txtProdCode_Change);
+    OnLostFocus(ui.txtProdCode, &frmORVAtouch::txtProdCode_LostFocus);
+    OnChange(ui.txtDescription, &frmORVAtouch::txtDescription_Change);
+    OnChange(ui.txtQuantity, &frmORVAtouch::txtQuantity_Change);
+    On(ui.cmdAddItem, &frmORVAtouch::cmdAddItem_Click);
+    OnMouseUp(ui.lv1, Qt::LeftButton, &frmORVAtouch::DeleteLine);
+    OnMouseUp(ui.lv1, Qt::RightButton, &frmORVAtouch::ChangeLineQuantity);
+    On(ui.cmdNew, &frmORVAtouch::cmdNew_Click);
+    On(ui.cmdESCponisti, &frmORVAtouch::cmdESCponisti_Click);
+    On(ui.cmdF2izaberi, &frmORVAtouch::cmdF2izaberi_Click);
+    On(ui.cmdPrijava, &frmORVAtouch::cmdPrijava_Click);
+    OnMouseUp(ui.txtUserFullName, Qt::LeftButton, &frmORVAtouch::cmdPrijava_Click);
+    OnMouseUp(ui.Frame10, Qt::LeftButton, &frmORVAtouch::cmdPrijava_Click);
+    On(ui.cmdOdjava, &frmORVAtouch::cmdOdjava_Click);
+    On(ui.cmdTraka, &frmORVAtouch::cmdTraka_Click);
+    On(ui.cmdOsvjezi, &frmORVAtouch::cmdOsvjezi_Click);
+    On(ui.cmdNoviArtikal, &frmORVAtouch::cmdNoviArtikal_Click);
+    On(ui.cmdLogOff, &frmORVAtouch::cmdLogOff_Click);
+    On(ui.cmdHelp, &frmORVAtouch::cmdHelp_Click);
+    connect(ui.clickTable, &ClickTable::Clicked, this, [this](int index) {
+        Run([&] { Command2_Click(index); });
+    });
+    CloseInvoice();
+    for (QWidget* customer : {static_cast<QWidget*>(ui.panelCustomer), static_cast<QWidget*>(ui.lblKupac),
+                              static_cast<QWidget*>(ui.txtKupac), static_cast<QWidget*>(ui.txtIB)})
+        customer->hide();
+}
+
+void frmORVAtouch::Form_Load() {
+    PType_ = 0;
+    CAmount_ = u"0"_s;
+    CNumber_ = u"0"_s;
+    Banko_ = u" "_s;
+    ui.Text1->setText(TheSession.LoginNumber);
+    ui.cboID->setEditText(TheSession.SessionUserID);
+    ui.txtUserFullName->setText(TheSession.SessionUserName);
+    rsSalesDetails_ = MainStore().OpenRecordset(DetailsQuery);
+    rsInvoices_ = MainStore().OpenRecordset(InvoicesQuery);
+    FindPeriod();
+    FindNumbers();
+    LoadTabCaptions(this);
+    LoadClickTable(this);
+    for (QWidget* customer : {static_cast<QWidget*>(ui.panelCustomer), static_cast<QWidget*>(ui.lblKupac),
+                              static_cast<QWidget*>(ui.txtKupac), static_cast<QWidget*>(ui.txtIB)})
+        customer->setVisible(TheSettings.Kupac);
+    cmdNew_Click();
+}
+
+// The open period goes on, with the total that its row holds; after a closed one, or none, a new one begins.
+void frmORVAtouch::FindPeriod() {
+    auto rs = MainStore().OpenRecordset(LastPeriodQuery);
+    rs.MoveFirst();
+    if (rs[u"current"].IsNull()) return NewPeriod(1);
+
+    const QString last = rs[u"current"].Text();
+    SalesPeriodID_ = values::CInt16(values::Val(last));
+    rsSales_ = MainStore().OpenRecordset(PeriodQuery.arg(last));
+    const bool closed = rsSales_[u"Closed"].YesNo();
+    const QString total = rsSales_[u"TotalSales"].Text();
+    if (closed) return NewPeriod(values::CInt16(SalesPeriodID_ + 1));
+    mdiORVA::Window().SetRunningTotal(Format(CMoney(total), RunningTotalPattern));
+}
+
+void frmORVAtouch::NewPeriod(qint16 number) {
+    SalesPeriodID_ = number;
+    mdiORVA::Window().SetRunningTotal(Format(values::Money(), RunningTotalPattern));
+    rsSales_ = MainStore().OpenRecordset(PeriodQuery.arg(number));
+    rsSales_.AddNew();
+    StartSalesPeriod();
+    rsSales_.Update();
+    rsSales_.SetBookmark(rsSales_.LastModified());
+}
+
+void frmORVAtouch::StartSalesPeriod() {
+    rsSales_[u"Kas"] = 0;  // the period belongs to the store, not to a register
+    rsSales_[u"SalesID"] = SalesPeriodID_;
+    rsSales_[u"TotalSales"] = Format(CMoney(mdiORVA::Window().RunningTotal()), u"0.00");
+    rsSales_[u"TimeGenerated"] = values::TimeNow();
+    rsSales_[u"DateGenerated"] = values::Today();
+    rsSales_[u"UserID"] = ui.cboID->currentText();
+}
+
+void frmORVAtouch::UpdateSalesPeriod() {
+    rsSales_[u"TotalSales"] = Format(CMoney(mdiORVA::Window().RunningTotal()), u"0.00");
+    rsSales_[u"DateStoped"] = values::Today();
+    rsSales_[u"TimeStoped"] = values::TimeNow();
+}
+
+void frmORVAtouch::FindNumbers() {
+    auto rs = MainStore().OpenRecordset(LastInvoiceQuery);
+    rs.MoveFirst();
+    if (rs[u"current"].IsNull()) {
+        RacunBroj_ = 0;
+        RacunOrNo = 0;
+        return;
+    }
+    RacunBroj_ = values::CInt32(values::Val(rs[u"current"].Text()));
+    auto last = MainStore().OpenRecordset(LastOrNoQuery.arg(RacunBroj_));
+    RacunOrNo = values::CInt32(values::Val(last[u"OrNo"].Text()));
+}
+
+void frmORVAtouch::cmdNew_Click() {
+    if (ui.cmdNew->text() == NewCaption) return OpenInvoice();
+    if (ui.cboID->currentText().isEmpty())
+        return forms::Inform(u"Choose cashier."_s, mdiORVA::Window().Caption());
+    if (ui.lv1->Count() == 0) {
+        forms::Inform(u"You did not enter a single item on the invoice."_s, mdiORVA::Window().Caption());
+        ui.txtProdCode->setFocus();
+        forms::SelectAll(ui.txtProdCode);
+        return;
+    }
+    PostInvoice();
+}
+
+void frmORVAtouch::OpenInvoice() {
+    ui.txtInvoiceNumber->setText(QString::number(RacunBroj_ + 1));
+    ui.txtORNumber->setText(QString::number(RacunOrNo + 1));
+    ui.Frame2->setEnabled(true);
+    ui.Frame3->setEnabled(true);
+    if (ui.txtProdCode->isEnabled()) ui.txtProdCode->setFocus();
+    ui.txtPosDisplay->setText(u"New Invoice"_s);
+    ShowOnButton(PrintCaption, u"\\images\\printer.gif"_s);
+}
+
+void frmORVAtouch::CloseInvoice() {
+    ui.Frame2->setEnabled(false);
+    ui.Frame3->setEnabled(false);
+    ShowOnButton(NewCaption, u"\\images\\pisi.gif"_s);
+}
+
+void frmORVAtouch::ShowOnButton(const QString& caption, const QString& picture) {
+    ui.cmdNew->setText(caption);
+    forms::LoadPicture(ui.cmdNew, output::InProgramFolder(picture));
+    ui.cmdNew->update();
+}
+
+void frmORVAtouch::cmdESCponisti_Click() {
+    if (!forms::Ask(u"Do you want cancel the invoice?"_s, mdiORVA::Window().Caption())) return;
+    ui.lv1->Clear();
+    for (QLineEdit* box : {ui.txtProdCode, ui.txtTotalAmount, ui.txtTaxTotal, ui.txtInvoiceNumber, ui.txtORNumber,
+                           ui.txtKupac, ui.txtIB, ui.txtTaxPercent, ui.txtUnitPrice, ui.txtQuantity, ui.txtPrice,
+                           ui.txtTaxAmount, ui.txtPosDisplay})
+        box->clear();
+    CloseInvoice();
+    if (TheSettings.NoviRacunAutomatski) cmdNew_Click();
+}
+
+void frmORVAtouch::cmdPrijava_Click() {
+    if (TheSettings.ChangeUser == u"1" || TheSettings.ChangeUser == u"2") mdiORVA::Window().TellStillToCome();
+}
+
+void frmORVAtouch::cmdOdjava_Click() {
+    ui.txtUserFullName->clear();
+    ui.cboID->setEditText({});
+}
+
+void frmORVAtouch::cmdTraka_Click() { mdiORVA::Window().Choose(u"mnuTrakaRacuna"_s); }
+
+void frmORVAtouch::cmdNoviArtikal_Click() { mdiORVA::Window().Choose(u"mnuPregledRacuna"_s); }
+
+void frmORVAtouch::cmdHelp_Click() { mdiORVA::Window().Choose(u"mnuHelp1"_s); }
+
+void frmORVAtouch::cmdLogOff_Click() { LogOff(); }
+
+void frmORVAtouch::cmdOsvjezi_Click() {
+    ui.clickTable->Clear();
+    LoadTabCaptions(this);
+    LoadClickTable(this);
+}
+
+void frmORVAtouch::Command2_Click(int index) {
+    const QString code = ui.clickTable->Button(index)->Tag();
+    if (code.isEmpty()) return;
+    ui.txtProdCode->setText(code);
+    if (ui.txtDescription->text().isEmpty()) {
+        forms::Tell(u"Product has meanwhile been deleted or does not exist."_s);
+        ui.txtProdCode->clear();
+        return;
+    }
+    ui.txtQuantity->setText(u"1"_s);
+    ui.txtQuantity->setFocus();
+    cmdAddItem_Click();
+}

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "forms/Form.h"
+#include "receipts/InvoiceText.h"
+#include "store/Recordset.h"
+#include "ui_frmORVAtouch.h"
+#include "values/Money.h"
+
+// The sales screen: the invoice from opening to posting. The invoice in progress lives in these controls alone; the
+// state of the screen is the caption of cmdNew.
+class frmORVAtouch : public forms::Form {
+    Q_OBJECT
+
+public:
+    frmORVAtouch();
+
+    // Counter of the last receipt number; the settings dialog moves it.
+    qint32 RacunOrNo = 0;
+
+    void cmdNew_Click();
+
+protected:
+    void Form_Load() override;
+
+private:
+    // The period and the numbers (frmORVAtouch.cpp).
+    void FindPeriod();
+    void NewPeriod(qint16 number);
+    void StartSalesPeriod();
+    void UpdateSalesPeriod();
+    void FindNumbers();
+    void OpenInvoice();
+    void CloseInvoice();
+    void ShowOnButton(const QString& caption, const QString& picture);
+    void cmdESCponisti_Click();
+    void cmdPrijava_Click();
+    void cmdOdjava_Click();
+    void cmdTraka_Click();
+    void cmdOsvjezi_Click();
+    void cmdNoviArtikal_Click();
+    void cmdLogOff_Click();
+    void cmdHelp_Click();
+    void Command2_Click(int index);
+
+    // Item entry (frmORVAtouchItems.cpp).
+    void txtProdCode_Change();
+    void txtProdCode_LostFocus();
+    void txtProdCode_Enter();
+    void txtQuantity_Change();
+    void txtQuantity_Enter();
+    void txtDescription_Change();
+    void cmdF2izaberi_Click();
+    bool FindProduct(const QString& code);
+    void ShowProduct();
+    void EmptyProduct();
+    void ToggleAddButton();
+    void CheckProductFound();
+    void LimitQuantity();
+    void ShowAmount();
+    void ShowTax();
+
+    // The lines of the invoice (frmORVAtouchLines.cpp).
+    void cmdAddItem_Click();
+    void AddLine();
+    void MergeInto(int row);
+    void NextEntry();
+    void AddToTaxRecap(int index);
+    void RecomputeInvoice();
+    void DeleteLine();
+    void ChangeLineQuantity();
+
+    // Posting (frmORVAtouchPosting.cpp).
+    void PostInvoice();
+    void RaiseRunningTotal();
+    void StoreInvoice();
+    void StoreLine(int row);
+    InvoiceText TakeInvoiceText() const;
+
+    Ui::frmORVAtouch ui;
+
+    qint32 RacunBroj_ = 0;
+    qint16 SalesPeriodID_ = 0;
+    quint8 PType_ = 0;
+    QString CAmount_;
+    QString CNumber_;
+    QString Banko_;
+    store::Recordset rsSalesDetails_;
+    store::Recordset rsInvoices_;
+    store::Recordset rsSales_;
+    store::Recordset rsProduct_;
+    double LineAmount_ = 0;
+    double TotalAmountValue_ = 0;
+    double TaxTotalValue_ = 0;
+};

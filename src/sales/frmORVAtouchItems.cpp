@@ -1,0 +1,161 @@
+// Item entry of the sales screen: from a code to a product, its quantity, and what the line would come to.
+
+#include "core/Session.h"
+#include "core/Settings.h"
+#include "core/dbModule.h"
+#include "core/mdiORVA.h"
+#include "forms/Controls.h"
+#include "forms/MsgBox.h"
+#include "sales/frmORVAtouch.h"
+#include "values/Format.h"
+#include "values/Numbers.h"
+
+using namespace Qt::StringLiterals;
+using values::CDouble;
+using values::CMoney;
+using values::Format;
+using values::Money;
+
+namespace {
+
+const auto ProductQuery = u"SELECT * FROM Products WHERE ProdCode = '%1'"_s;
+
+const auto UnknownProduct = u"Product with this ID-barcode does not exist."_s;
+// Printed on a card at the till: posts the invoice without touching the keyboard.
+const auto PostingBarcode = u"9999999999994"_s;
+const auto Pieces = u"pcs"_s;
+
+const auto QuantitySteps = Money::FromWhole(1000);
+
+}  // namespace
+
+bool frmORVAtouch::FindProduct(const QString& code) {
+    rsProduct_ = MainStore().OpenRecordset(ProductQuery.arg(code));
+    return !rsProduct_.AtEOF();
+}
+
+void frmORVAtouch::ShowProduct() {
+    ui.txtID->setText(rsProduct_[u"ID"].TextOrEmpty());
+    ui.txtSupply->setText(rsProduct_[u"Qty"].TextOrEmpty());
+    ui.txtDescription->setText(rsProduct_[u"ProdDescription"].TextOrEmpty());
+    ui.txtTaxPercent->setText(Format(rsProduct_[u"TaxPercent"], u"0.00"));
+    ui.txtUnitPrice->setText(Format(rsProduct_[u"UnitPrice"], u"0.00"));
+    ui.txtUnit->setText(rsProduct_[u"Unit"].TextOrEmpty());
+    ui.txtTaxID->setText(rsProduct_[u"TaxID"].TextOrEmpty());
+    ui.txtQuantity->setText(u"1"_s);
+    txtQuantity_Change();
+}
+
+void frmORVAtouch::EmptyProduct() {
+    for (QLineEdit* box : {ui.txtID, ui.txtSupply, ui.txtDescription, ui.txtTaxPercent, ui.txtUnitPrice, ui.txtPrice,
+                           ui.txtTaxAmount, ui.txtTaxID, ui.txtUnit, ui.txtQuantity})
+        box->clear();
+}
+
+void frmORVAtouch::ToggleAddButton() {
+    ui.cmdAddItem->setEnabled(!ui.txtProdCode->text().isEmpty() && !ui.txtQuantity->text().isEmpty() &&
+                              !ui.txtDescription->text().isEmpty());
+}
+
+// A query text that a typed character breaks is passed over: the fields keep what they had.
+void frmORVAtouch::txtProdCode_Change() {
+    ToggleAddButton();
+    const QString code = ui.txtProdCode->text();
+    if (code.isEmpty()) return EmptyProduct();
+    try {
+        if (FindProduct(code))
+            ShowProduct();
+        else
+            EmptyProduct();
+    } catch (const values::Error&) {
+    }
+}
+
+void frmORVAtouch::txtProdCode_LostFocus() { CheckProductFound(); }
+
+void frmORVAtouch::CheckProductFound() {
+    if (ui.txtProdCode->text().isEmpty() || !ui.txtDescription->text().isEmpty()) return;
+    forms::Inform(UnknownProduct, mdiORVA::Window().Caption());
+    ui.txtProdCode->clear();
+}
+
+void frmORVAtouch::txtProdCode_Enter() {
+    if (TheSettings.SkenerPrimarno != u"1") return forms::SendTab(ui.txtProdCode);
+    const QString code = ui.txtProdCode->text();
+    if (code == PostingBarcode) {
+        ui.txtProdCode->clear();
+        return cmdNew_Click();
+    }
+    if (code.isEmpty()) return;
+    if (!FindProduct(code)) {
+        forms::Inform(UnknownProduct, u"Product with this ID-barcode does not exist"_s);
+        ui.txtProdCode->setFocus();
+        forms::SelectAll(ui.txtProdCode);
+        return;
+    }
+    ShowProduct();
+    if (ui.txtUnit->text() == Pieces) return cmdAddItem_Click();
+    ui.txtQuantity->setCursorPosition(0);
+    ui.txtQuantity->setFocus();
+}
+
+void frmORVAtouch::txtDescription_Change() { ToggleAddButton(); }
+
+void frmORVAtouch::txtQuantity_Enter() {
+    ToggleAddButton();
+    if (ui.cmdAddItem->isEnabled()) return cmdAddItem_Click();
+    forms::SendTab(ui.txtQuantity);
+}
+
+void frmORVAtouch::txtQuantity_Change() {
+    ToggleAddButton();
+    if (ui.txtProdCode->text().isEmpty() || ui.txtQuantity->text().isEmpty() || ui.txtDescription->text().isEmpty()) {
+        ui.txtQuantity->clear();
+        ui.txtProdCode->setFocus();
+        return;
+    }
+    if (!values::IsNumeric(ui.txtQuantity->text())) {
+        if (ui.txtQuantity->text() == u"-") return;  // a negative number is being typed
+        ui.txtQuantity->clear();
+        ui.txtQuantity->setFocus();
+        return;
+    }
+    // An error in one of these steps does not keep the next from running.
+    for (auto step : {&frmORVAtouch::LimitQuantity, &frmORVAtouch::ShowAmount, &frmORVAtouch::ShowTax}) {
+        try {
+            (this->*step)();
+        } catch (const values::Error& error) {
+            if (error.Number() != values::Overflow) continue;
+            forms::Inform(u"Illogical quantity. "_s, u"CHANGE QUANTITY"_s);
+            ui.txtQuantity->setText(u"0"_s);
+            ui.txtQuantity->clear();
+            ui.txtQuantity->setCursorPosition(0);
+            ui.txtQuantity->setFocus();
+        }
+    }
+}
+
+// At most three decimals, cut and not rounded: a negative quantity is floored away from zero.
+void frmORVAtouch::LimitQuantity() {
+    const QString text = ui.txtQuantity->text();
+    const double limited = std::floor((CMoney(text) * QuantitySteps).ToDouble()) / 1000;
+    if (limited == CDouble(text)) return;
+    ui.txtQuantity->setText(values::NumberText(limited));
+    forms::CaretToEnd(ui.txtQuantity);
+}
+
+void frmORVAtouch::ShowAmount() {
+    ui.txtPrice->setText(Format(CMoney(ui.txtQuantity->text()) * CMoney(ui.txtUnitPrice->text()), u"0.00"));
+}
+
+// The tax is contained in the price.
+void frmORVAtouch::ShowTax() {
+    const double withoutTax = CDouble(ui.txtPrice->text()) / (1 + CDouble(ui.txtTaxPercent->text()) / 100);
+    ui.txtTaxAmount->setText(Format(CMoney(ui.txtPrice->text()) - Money::FromDouble(withoutTax), u"0.00"));
+}
+
+void frmORVAtouch::cmdF2izaberi_Click() {
+    ui.txtProdCode->clear();
+    CallerForm = this;
+    mdiORVA::Window().TellStillToCome();
+}

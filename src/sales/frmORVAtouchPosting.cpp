@@ -1,0 +1,92 @@
+// Posting: the invoice goes to the store, the goods off the stock, the paper out, and the screen clears.
+// Each row is a commit of its own; what is written stays written when a later step fails.
+
+#include "core/Session.h"
+#include "core/Settings.h"
+#include "core/dbModule.h"
+#include "core/mdiORVA.h"
+#include "receipts/PrintInvoice.h"
+#include "sales/Stock.h"
+#include "sales/frmMSGinvoice.h"
+#include "sales/frmORVAtouch.h"
+#include "values/Clock.h"
+#include "values/Format.h"
+#include "values/Numbers.h"
+
+using namespace Qt::StringLiterals;
+using values::CMoney;
+
+void frmORVAtouch::PostInvoice() {
+    RacunBroj_ += 1;
+    RacunOrNo += 1;
+    RaiseRunningTotal();
+    {
+        // All of it is on the disk before the paper moves.
+        store::Burst burst(MainStore());
+        StoreInvoice();
+        for (int row = 0; row < ui.lv1->Count(); ++row) StoreLine(row);
+        rsSales_.Edit();
+        UpdateSalesPeriod();
+        rsSales_.Update();
+        burst.End();
+    }
+    PrintInvoice(TakeInvoiceText());
+    ui.txtPosDisplay->clear();
+    if (TheSettings.Kusur) {
+        CallerForm = this;
+        frmMSGinvoice change;
+        change.ShowModal();
+    }
+    ui.lv1->Clear();
+    for (QLineEdit* box : {ui.txtTotalAmount, ui.txtInvoiceNumber, ui.txtORNumber, ui.txtTaxTotal, ui.txtKupac,
+                           ui.txtPosDisplay, ui.txtIB})
+        box->clear();
+    CloseInvoice();
+    if (TheSettings.NoviRacunAutomatski) cmdNew_Click();
+}
+
+void frmORVAtouch::RaiseRunningTotal() {
+    mdiORVA& main = mdiORVA::Window();
+    values::Money total = CMoney(ui.txtTotalAmount->text());
+    if (!main.RunningTotal().isEmpty()) total = CMoney(main.RunningTotal()) + total;
+    main.SetRunningTotal(values::Format(total, u"###,###,##0.00"));
+}
+
+void frmORVAtouch::StoreInvoice() {
+    rsInvoices_.AddNew();
+    rsInvoices_[u"Kas"] = 0;  // whatever the register's number: the reports see one register
+    rsInvoices_[u"SalesID"] = SalesPeriodID_;
+    rsInvoices_[u"InvoiceID"] = ui.txtInvoiceNumber->text();
+    rsInvoices_[u"OrNo"] = ui.txtORNumber->text();
+    rsInvoices_[u"CashierID"] = ui.cboID->currentText();
+    rsInvoices_[u"CashierName"] = ui.txtUserFullName->text();
+    rsInvoices_[u"PaymentType"] = PType_;
+    rsInvoices_[u"DateSold"] = values::Today();
+    rsInvoices_[u"TimeSold"] = values::TimeNow();
+    rsInvoices_[u"CashAmount"] = CMoney(ui.txtTotalAmount->text());
+    rsInvoices_[u"TaxTotal"] = CMoney(ui.txtTaxTotal->text());
+    rsInvoices_[u"CheckAmount"] = CMoney(CAmount_);
+    rsInvoices_[u"CheckNo"] = CMoney(CNumber_);
+    rsInvoices_[u"Bank"] = Banko_;
+    rsInvoices_[u"Kupac"] = ui.txtKupac->text();
+    rsInvoices_[u"IB"] = ui.txtIB->text();
+    rsInvoices_.Update();
+}
+
+void frmORVAtouch::StoreLine(int row) {
+    const auto text = [&](int column) { return ui.lv1->Text(row, column); };
+    rsSalesDetails_.AddNew();
+    rsSalesDetails_[u"Kas"] = 0;
+    rsSalesDetails_[u"InvoiceID"] = ui.txtInvoiceNumber->text();
+    rsSalesDetails_[u"ProdCode"] = text(0);
+    rsSalesDetails_[u"ProdDescription"] = text(1);
+    rsSalesDetails_[u"UnitPrice"] = CMoney(text(2));
+    rsSalesDetails_[u"QtySold"] = CMoney(text(3));
+    TakeOffStock(text(0), CMoney(text(3)));
+    rsSalesDetails_[u"Amount"] = CMoney(text(4));
+    rsSalesDetails_[u"TaxPercent"] = CMoney(text(5));
+    rsSalesDetails_[u"TaxAmount"] = CMoney(text(6));
+    rsSalesDetails_[u"Unit"] = text(7);
+    rsSalesDetails_[u"TaxID"] = text(8);
+    rsSalesDetails_.Update();
+}
