@@ -1,0 +1,136 @@
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QTemporaryDir>
+#include <filesystem>
+
+#include "delivery/Delivery.h"
+#include "delivery/FileError.h"
+
+using namespace Qt::StringLiterals;
+
+namespace delivery {
+
+namespace {
+
+const auto MainStore = u"ORVA.pos"_s;
+const auto OptionsStore = u"opt.pos"_s;
+const auto Program = u"velton"_s;
+const auto PortsIni = "[ports]\nlpt1=file:lpt1.prn\nlpt2=file:lpt2.prn\n"_ba;
+
+// Brings finished files into a folder and, unless Keep was called, takes them and the folders it made away again.
+class Placing {
+public:
+    explicit Placing(const QString& folder) : folder_(folder) { MakeFolder(folder); }
+    ~Placing() {
+        for (auto path = made_.crbegin(); path != made_.crend(); ++path)
+            QFileInfo(*path).isDir() ? QDir().rmdir(*path) : QFile::remove(*path);
+    }
+    Placing(const Placing&) = delete;
+    Placing& operator=(const Placing&) = delete;
+
+    void MakeFolder(const QString& path) {
+        if (QDir(path).exists()) return;
+        const QString parent = QFileInfo(path).absolutePath();
+        if (parent != path) MakeFolder(parent);
+        if (!QDir().mkdir(path)) throw FileError(PathFault, u"Cannot make the folder '%1'."_s.arg(path));
+        made_.append(path);
+    }
+
+    bool Has(const QString& name) const { return QFileInfo::exists(folder_ + u'/' + name); }
+
+    // Never onto a file that is there.
+    void Move(const QString& from, const QString& name) {
+        const QString target = folder_ + u'/' + name;
+        MakeFolder(QFileInfo(target).absolutePath());
+        QFile file(from);
+        if (!file.rename(target)) throw FileError(file, u"make '%1'"_s.arg(target));
+        made_.append(target);
+    }
+
+    // A program that is running may be replaced, but not overwritten.
+    void Replace(const QString& from, const QString& name) {
+        const QString target = folder_ + u'/' + name;
+        const bool isNew = !QFileInfo::exists(target);
+        std::error_code error;
+        std::filesystem::rename(from.toStdU16String(), target.toStdU16String(), error);
+        if (error)
+            throw FileError(PathFault, u"Cannot make '%1': %2"_s.arg(target, QString::fromStdString(error.message())));
+        if (isNew) made_.append(target);
+    }
+
+    void Keep() { made_.clear(); }
+
+private:
+    QString folder_;
+    QStringList made_;
+};
+
+// The log of a store that was lost would be taken for that of the new one.
+void RefuseStores(const QString& folder) {
+    for (const QString& store : {MainStore, OptionsStore})
+        for (const QString& rest : {u""_s, u"-wal"_s, u"-shm"_s, u"-journal"_s})
+            if (QFileInfo::exists(folder + u'/' + store + rest))
+                throw FileError(StoreExists, u"The folder '%1' holds a store already: %2"_s.arg(folder, store + rest));
+}
+
+void MakeStores(const QString& folder, bool withDemo) {
+    const auto main = store::Database::Create(folder + u'/' + MainStore, store::MainSchema());
+    const auto options = store::Database::Create(folder + u'/' + OptionsStore, store::OptionsSchema());
+    FillDelivered(*main, *options);
+    if (withDemo) FillDemo(*main, *options);
+}
+
+void WriteFile(const QString& path, const QByteArray& content) {
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.flush())
+        throw FileError(file, u"write '%1'"_s.arg(path));
+}
+
+// Pictures and help texts, as they lie in this program.
+QStringList WriteSupplies(const QString& folder) {
+    const QString root = u":/delivery/folder/"_s;
+    QStringList names;
+    for (QDirIterator files(root, QDir::Files, QDirIterator::Subdirectories); files.hasNext();) {
+        QFile supply(files.next());
+        if (!supply.open(QIODevice::ReadOnly)) throw FileError(supply, u"read '%1'"_s.arg(supply.fileName()));
+        names.append(supply.fileName().mid(root.size()));
+        WriteFile(folder + u'/' + names.last(), supply.readAll());
+    }
+    WriteFile(folder + u"/ports.ini"_s, PortsIni);
+    return names << u"ports.ini"_s;
+}
+
+void CopyProgram(const QString& from, const QString& folder) {
+    QFile program(from);
+    if (!program.copy(folder + u'/' + Program)) throw FileError(program, u"copy the program"_s);
+}
+
+}  // namespace
+
+void MakeProgramFolder(const QString& folder, bool withDemo, const QString& programPath) {
+    const QString target = QDir::cleanPath(QDir().absoluteFilePath(folder));
+    RefuseStores(target);
+    const bool withProgram = !programPath.isEmpty();
+    if (withProgram && !QFileInfo(programPath).isFile())
+        throw FileError(FileMissing, u"The program is missing: '%1'"_s.arg(programPath));
+
+    Placing placing(target);
+    // Everything is made ready inside the folder, on the same disk, and put in place only when all of it is there.
+    const QTemporaryDir workshop(target + u"/new-XXXXXX"_s);
+    if (!workshop.isValid())
+        throw FileError(PathFault, u"Cannot write to '%1': %2"_s.arg(target, workshop.errorString()));
+    MakeStores(workshop.path(), withDemo);
+    const QStringList supplies = WriteSupplies(workshop.path());
+    if (withProgram) CopyProgram(programPath, workshop.path());
+
+    for (const QString& name : supplies)
+        if (!placing.Has(name)) placing.Move(workshop.filePath(name), name);
+    if (withProgram) placing.Replace(workshop.filePath(Program), Program);
+    placing.Move(workshop.filePath(OptionsStore), OptionsStore);
+    placing.Move(workshop.filePath(MainStore), MainStore);
+    placing.Keep();
+}
+
+}  // namespace delivery

@@ -1,0 +1,103 @@
+#include "delivery/TableLoader.h"
+
+#include <QSet>
+
+#include "delivery/ValueText.h"
+
+using namespace Qt::StringLiterals;
+
+namespace delivery {
+
+namespace {
+
+class Loader {
+public:
+    Loader(store::Database& database, const QString& tableName, QIODevice& lines)
+        : table_(FindTable(database, tableName)), lines_(lines), rows_(OpenTable(database, table_)) {}
+
+    void Run() {
+        try {
+            if (!ReadLine()) throw store::StoreError(store::ItemNotFound, u"There is no line of field names."_s);
+            ReadHeader();
+            while (ReadLine()) AddRow();
+        } catch (const values::Error& error) {
+            throw store::StoreError(error.Number(), u"Line %1: %2"_s.arg(line_).arg(error.Description()));
+        }
+    }
+
+private:
+    // The cells of the next line; false at the end.
+    bool ReadLine() {
+        ++line_;
+        QByteArray line = lines_.readLine();
+        if (line.isEmpty()) return false;
+        if (line.endsWith('\n')) line.chop(1);
+        if (line.endsWith('\r')) line.chop(1);
+        if (line_ == 1 && line.startsWith("\xEF\xBB\xBF")) line.remove(0, 3);
+        if (line.contains('\r') || line.contains('\0'))
+            throw store::StoreError(store::ConversionFailed,
+                                    u"A control character inside a text is written \\r or \\0."_s);
+        cells_ = line.split('\t');
+        return true;
+    }
+
+    void ReadHeader() {
+        QSet<int> named;
+        for (const QByteArray& cell : cells_) {
+            const QString name = DecodeUtf8(cell);
+            const int column = FindField(table_, name);
+            if (named.contains(column))
+                throw store::StoreError(store::AmbiguousName, u"The field '%1' stands there twice."_s.arg(name));
+            named.insert(column);
+            columns_.append(column);
+        }
+    }
+
+    void AddRow() {
+        if (cells_.size() != columns_.size())
+            throw store::StoreError(store::ConversionFailed,
+                                    u"%1 cells for %2 fields."_s.arg(cells_.size()).arg(columns_.size()));
+        rows_.AddNew();
+        for (qsizetype i = 0; i < cells_.size(); ++i) SetField(rows_, table_.columns[columns_[i]], cells_[i]);
+        rows_.Update();
+    }
+
+    const store::Table& table_;
+    QIODevice& lines_;
+    store::Recordset rows_;
+    QList<int> columns_;
+    QList<QByteArray> cells_;
+    qint64 line_ = 0;
+};
+
+}  // namespace
+
+const store::Table& FindTable(const store::Database& database, const QString& name) {
+    if (const store::Table* table = database.GetSchema().Find(name)) return *table;
+    throw store::StoreError(store::UnknownTable, u"The store has no table '%1'."_s.arg(name));
+}
+
+store::Recordset OpenTable(store::Database& database, const store::Table& table) {
+    return database.OpenRecordset(u"SELECT * FROM [%1]"_s.arg(table.name));
+}
+
+int FindField(const store::Table& table, const QString& name) {
+    const int column = table.Find(name);
+    if (column < 0)
+        throw store::StoreError(store::UnknownField, u"The table %1 has no field '%2'."_s.arg(table.name, name));
+    return column;
+}
+
+void SetField(store::Recordset& row, const store::Column& column, const QByteArray& cell) {
+    try {
+        row[column.name] = ReadValue(cell, column.type);
+    } catch (const values::Error& error) {
+        throw store::StoreError(error.Number(), u"Field %1: %2"_s.arg(column.name, error.Description()));
+    }
+}
+
+void LoadRows(store::Database& database, const QString& tableName, QIODevice& lines) {
+    Loader(database, tableName, lines).Run();
+}
+
+}  // namespace delivery

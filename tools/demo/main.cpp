@@ -1,0 +1,64 @@
+// velton-demo [FOLDER]: plays a working day of the demo shop through the real screens, off-screen, in FOLDER (by
+// default demo-day here, made anew), and prints the receipts and the day's figures that it leaves there.
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <cstdio>
+
+#include "app/Start.h"
+#include "core/dbModule.h"
+#include "delivery/Delivery.h"
+#include "demo/DayReport.h"
+#include "demo/WorkingDay.h"
+#include "output/CodePage.h"
+#include "output/Folder.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A folder that an earlier day left; anything else is not ours to delete.
+void ClearFolder(const QString& path) {
+    QDir folder(path);
+    if (!folder.exists()) return;
+    if (!folder.isEmpty() && !folder.exists(u"ORVA.pos"_s))
+        throw std::runtime_error("The folder " + path.toStdString() + " holds something else than a shop.");
+    if (!folder.removeRecursively()) throw std::runtime_error("The folder " + path.toStdString() + " can't be cleared.");
+}
+
+void Print(const QString& title, const QString& text) {
+    std::printf("%s\n%s\n\n", qPrintable(title), qPrintable(text));
+}
+
+QString TextFile(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? output::FromCodePage(file.readAll()).remove(u'\r') : QString();
+}
+
+void Play(const QString& path) {
+    ClearFolder(path);
+    delivery::MakeProgramFolder(path, true);
+    output::SetProgramFolder(path);
+    const QString pictures = QDir(path).filePath(u"screens"_s);
+    PlayWorkingDay(pictures);
+    Print(u"The receipts of the day:"_s, TextFile(output::InProgramFolder(u"invoices.txt"_s)));
+    Print(u"The day in figures:"_s, DayReport(MainStore()));
+    std::printf("The shop lies in %s, the screenshots in %s.\n", qPrintable(QDir(path).absolutePath()),
+                qPrintable(QDir(pictures).absolutePath()));
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    PrepareApplication(application);
+    try {
+        Play(argc > 1 ? QString::fromLocal8Bit(argv[1]) : u"demo-day"_s);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "velton-demo: %s\n", error.what());
+        return 1;
+    }
+    return 0;
+}

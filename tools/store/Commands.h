@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QStringList>
+#include <memory>
+
+#include "store/Database.h"
+
+// The calls of velton-store, one a file. Each throws values::Error when it cannot do what it was asked for.
+namespace tool {
+
+enum class Which { Main, Options };
+
+void New(const QString& folder, bool withDemo);
+void Sql(const QString& folder, const QString& text, Which which);
+// `fields` are texts of the form FIELD=VALUE.
+void Insert(const QString& folder, const QString& table, const QStringList& fields, Which which);
+void Load(const QString& folder, const QString& table, const QString& file);
+void Check(const QString& folder);
+void Backup(const QString& folder, const QString& file);
+
+// The store of a program's folder, the main one where store.ini says.
+std::unique_ptr<store::Database> OpenStore(const QString& folder, Which which);
+
+}  // namespace tool

@@ -1,0 +1,125 @@
+#include <CLI/CLI.hpp>
+#include <QCoreApplication>
+#include <csignal>
+#include <cstdio>
+#include <new>
+
+#include "Commands.h"
+#include "Output.h"
+#include "delivery/FileError.h"
+#include "delivery/ValueText.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int OutOfMemory = 7;
+constexpr int InternalError = 51;
+
+constexpr auto ValuesHelp =
+    "Values, as sql prints them and insert and load take them: dates yyyy-mm-dd, times hh:mm:ss, numbers with a point\n"
+    "and no grouping, yes/no as True and False; nothing stands for null. Inside a text \\t, \\n, \\r, \\0 and \\\\ "
+    "stand for\n"
+    "tab, line feed, carriage return, the zero character and the backslash.\n"
+    "Exit code 0, or 1 with NUMBER: description on standard error.";
+
+int Report(int number, const QString& description) {
+    const QByteArray line = QByteArray::number(number) + ": " + description.toUtf8() + '\n';
+    std::fwrite(line.constData(), 1, static_cast<size_t>(line.size()), stderr);
+    return 1;
+}
+
+// What the command line gave, in bytes.
+struct Arguments {
+    std::string folder, table, file, text;
+    std::vector<std::string> fields;
+    bool withDemo = false;
+    bool options = false;
+
+    tool::Which Store() const { return options ? tool::Which::Options : tool::Which::Main; }
+};
+
+QString Text(const std::string& bytes) {
+    return delivery::DecodeUtf8(QByteArray::fromStdString(bytes));
+}
+
+QStringList Texts(const std::vector<std::string>& list) {
+    QStringList texts;
+    for (const std::string& bytes : list) texts.append(Text(bytes));
+    return texts;
+}
+
+CLI::App* AddCall(CLI::App& app, Arguments& arguments, const char* name, const char* description) {
+    CLI::App* call = app.add_subcommand(name, description);
+    call->add_option("FOLDER", arguments.folder, "The program's folder")->required();
+    return call;
+}
+
+void AddCalls(CLI::App& app, Arguments& a) {
+    CLI::App* call = AddCall(app, a, "new", "Makes a program folder: program, stores, pictures, help, ports.ini");
+    call->add_flag("--demo", a.withDemo, "With the demo shop");
+    call->callback([&a] { tool::New(Text(a.folder), a.withDemo); });
+
+    call =
+        AddCall(app, a, "sql", "Runs one query text; rows are printed as tab-separated lines under the column names");
+    call->add_option("TEXT", a.text, "SELECT, UPDATE or DELETE")->required();
+    call->add_flag("--options", a.options, "On the options store");
+    call->callback([&a] { tool::Sql(Text(a.folder), Text(a.text), a.Store()); });
+
+    call = AddCall(app, a, "insert", "Adds one row");
+    call->add_option("TABLE", a.table, "A table's name")->required();
+    call->add_option("FIELD=VALUE", a.fields, "A field and its value; FIELD= is a null")->required();
+    call->add_flag("--options", a.options, "Into the options store");
+    call->callback([&a] { tool::Insert(Text(a.folder), Text(a.table), Texts(a.fields), a.Store()); });
+
+    call = AddCall(app, a, "load", "Adds the rows of a tab-separated file, all or none");
+    call->add_option("TABLE", a.table, "A table's name")->required();
+    call->add_option("FILE", a.file, "A line of field names, then a line a row")->required();
+    call->callback([&a] { tool::Load(Text(a.folder), Text(a.table), Text(a.file)); });
+
+    call = AddCall(app, a, "check", "Looks both stores over; damage gives 1, notes alone give 0");
+    call->callback([&a] { tool::Check(Text(a.folder)); });
+
+    call = AddCall(app, a, "backup", "Copies the main store while registers work");
+    call->add_option("FILE", a.file, "The copy, a file that does not exist yet")->required();
+    call->callback([&a] { tool::Backup(Text(a.folder), Text(a.file)); });
+}
+
+int Run(int argc, char** argv) {
+    CLI::App app("The administrator's tool for the stores of VELTON", "velton-store");
+    app.footer(ValuesHelp);
+    app.require_subcommand(1);
+    Arguments arguments;
+    AddCalls(app, arguments);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::CallForHelp&) {
+        tool::Output output;
+        output.Write(QByteArray::fromStdString(app.help()));
+        output.Finish();
+    } catch (const CLI::ParseError& error) {
+        return Report(delivery::InvalidCall, QString::fromUtf8(error.what()) + u" (velton-store --help tells more)"_s);
+    }
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    tool::HoldStandardStreams();
+    std::signal(SIGPIPE, SIG_IGN);
+    // Standard error holds nothing but our own line.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    const QCoreApplication application(argc, argv);
+    try {
+        return Run(argc, argv);
+    } catch (const store::QueryError& error) {
+        return Report(error.Number(), error.Rendered());
+    } catch (const values::Error& error) {
+        return Report(error.Number(), error.Description());
+    } catch (const std::bad_alloc&) {
+        return Report(OutOfMemory, u"Out of memory."_s);
+    } catch (const std::exception& error) {
+        return Report(InternalError, QString::fromUtf8(error.what()));
+    }
+}
