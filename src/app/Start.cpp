@@ -16,6 +16,8 @@ void ShowSalesScreen() {
     mdiORVA& main = mdiORVA::Window();
     main.ShowChild(forms::Open<frmORVAtouch>());
     main.showMaximized();
+    main.raise();
+    main.activateWindow();
 }
 
 }  // namespace
@@ -30,5 +32,5 @@ void PrepareApplication(QApplication& application) {
 
 bool StartProgram() {
     forms::Run([] { forms::Open<frmLogin>(ShowSalesScreen)->Show(); }, u"VELTON"_s);
-    return !forms::ProgramIsEnding();
+    return !forms::ProgramIsEnding() && !forms::LoadedForms().isEmpty();
 }

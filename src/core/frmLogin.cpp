@@ -33,6 +33,7 @@ constexpr int Countdown = 59;
 frmLogin::frmLogin(std::function<void()> loggedIn)
     : timer1_(new QTimer(this)), timer2_(new QTimer(this)), timer3_(new QTimer(this)), loggedIn_(std::move(loggedIn)) {
     ui.setupUi(this);
+    setWindowFlag(Qt::WindowCloseButtonHint, false);
     ui.txtUserName->setCompleter(nullptr);
     ui.txtUserName->setInsertPolicy(QComboBox::NoInsert);
     ui.txtUserName->lineEdit()->setPlaceholderText(u"choose user"_s);
@@ -75,7 +76,6 @@ void frmLogin::StartUp() {
     rsUsers_ = MainStore().OpenRecordset(UsersQuery);
     rsLogin_ = MainStore().OpenRecordset(LoginQuery);
     FillUserList();
-    setWindowFlag(Qt::WindowCloseButtonHint, false);
     Timer1_Timer();
     SetCompanyHeading();
     ProposeLoginNumber();
@@ -169,6 +169,7 @@ void frmLogin::cmdOK_Click() {
     main.ShowRunningTotal(values::CBool(TheSettings.StanjeKaseVidljivo));
     loggedIn_();
     main.ApplyAccessLevel(rsUsers_[u"AccLevel"].TextOrEmpty());
+    done_ = true;
     Unload();
 }
 
@@ -191,6 +192,7 @@ void frmLogin::StartSession(store::Recordset& user) {
 }
 
 void frmLogin::cmdCancel_Click() {
+    done_ = true;
     Unload();
     if (forms::LoadedForms().isEmpty()) forms::EndProgram();
 }

@@ -18,6 +18,7 @@ public:
 
 protected:
     void Form_Load() override;
+    bool Form_Unload() override { return done_; }
 
 private:
     void cmdOK_Click();
@@ -40,5 +41,6 @@ private:
     store::Recordset rsLogin_;
     qint16 nextLogin_ = 0;
     int countdown_ = 0;  // the limit that the frame's caption promises; nothing counts it down
+    bool done_ = false;  // cancelled or logged in: nothing else closes the window
     std::function<void()> loggedIn_;
 };

@@ -123,6 +123,7 @@ void mdiORVA::BuildStatusBar() {
     for (int number = 1; number <= 5; ++number) {
         auto* panel = new QLabel;
         panel->setObjectName(u"st1Panel%1"_s.arg(number));
+        if (number == 5) panel->setProperty("role", u"figure"_s);
         panels_ << panel;
         if (number <= 3)
             statusBar()->addWidget(panel);
@@ -131,7 +132,6 @@ void mdiORVA::BuildStatusBar() {
     }
     panels_[0]->setText(u"VELTON"_s);
     panels_[3]->setText(u"Total: >>"_s);
-    panels_[4]->setProperty("role", u"figure"_s);
 }
 
 void mdiORVA::Timer1_Timer() {

@@ -21,6 +21,8 @@ int FocusReturn::Count() {
 void FocusReturn::GiveBack() const {
     if (!window_ || !window_->isVisible()) return;
     window_->activateWindow();
+    // At once, for what comes up next in the same handler; the window system takes its time.
+    QApplication::setActiveWindow(window_);
     if (!control_ || control_->window() != window_ || !control_->isVisible() || !control_->isEnabled()) return;
     const QWidget* wanted = window_->focusWidget();
     if (!wanted || wanted == control_) control_->setFocus(Qt::ActiveWindowFocusReason);

@@ -11,6 +11,7 @@
 #include "forms/Behaviours.h"
 #include "forms/Frame.h"
 #include "forms/KeyDispatcher.h"
+#include "forms/ShrinkToFit.h"
 
 namespace forms {
 
@@ -122,7 +123,10 @@ void Form::Leave() {
     if (frontForm == this) frontForm = nullptr;
     behaviours_->focused = nullptr;
     hide();
-    if (qobject_cast<Frame*>(window())) setParent(nullptr, Qt::Dialog);
+    if (!qobject_cast<Frame*>(window())) return;
+    // The frame would go on pointing at a control of ours that it believes to have the focus.
+    if (QWidget* last = window()->focusWidget(); last && isAncestorOf(last)) last->clearFocus();
+    setParent(nullptr, Qt::Dialog);
 }
 
 bool Form::Form_KeyDown(QKeyEvent& key) {
@@ -174,6 +178,10 @@ void Form::Present() {
     activateWindow();
     // A window that was in front when it was hidden, and has had no follower, is taken for active still.
     if (QGuiApplication::focusWindow() == windowHandle()) QApplication::setActiveWindow(this);
+}
+
+void Form::ShrinkFigures(std::initializer_list<QLineEdit*> boxes) {
+    for (QLineEdit* box : boxes) new ShrinkToFit(box);
 }
 
 void Form::ConnectTimer(QTimer* timer, std::function<void()> handler) {

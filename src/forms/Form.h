@@ -75,6 +75,8 @@ protected:
     // Enter moves on as the Tab key does: in the boxes given, or anywhere on the form (but not on buttons' clicks).
     void EnterMovesOn(std::initializer_list<QWidget*> boxes);
     void EnterMovesOn();
+    // Figures that take a smaller type when they would not fit their box.
+    void ShrinkFigures(std::initializer_list<QLineEdit*> boxes);
     // A store error that nobody traps ends the process on this screen.
     void StoreErrorsEndProgram() { fatal_ = true; }
 

@@ -53,7 +53,9 @@ void ListView::Clear() {
 }
 
 int ListView::Add(QStringList cells) {
-    return rows_->Add(std::move(cells));
+    const int row = rows_->Add(std::move(cells));
+    if (updatesEnabled()) WidenForNumbers();
+    return row;
 }
 
 void ListView::Remove(int row) {
@@ -69,6 +71,7 @@ QString ListView::Text(int row, int column) const {
 
 void ListView::SetText(int row, int column, const QString& text) {
     rows_->SetCell(row, column, text);
+    WidenForNumbers();
 }
 
 int ListView::Find(QStringView text) const {
@@ -88,12 +91,15 @@ void ListView::Select(int row) {
         selectionModel()->clear();
         return;
     }
-    // A hidden first column would not do as the current cell: the view could not scroll to it.
-    int column = 0;
-    while (column + 1 < static_cast<int>(columns_.size()) && header()->isSectionHidden(column)) ++column;
-    const QModelIndex index = rows_->index(row, column);
+    const QModelIndex index = rows_->index(row, FirstShownColumn());
     selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     scrollTo(index);
+}
+
+void ListView::BringIntoView(int row) {
+    if (row < 0 || row >= Count()) return;
+    rows_->Publish();
+    scrollTo(rows_->index(row, FirstShownColumn()));
 }
 
 void ListView::BeginFill() {
@@ -104,6 +110,7 @@ void ListView::BeginFill() {
 void ListView::EndFill() {
     rows_->EndFill();
     setUpdatesEnabled(true);
+    WidenForNumbers();
 }
 
 void ListView::resizeEvent(QResizeEvent* event) {
@@ -143,6 +150,28 @@ void ListView::LayOutColumns() {
         if (columns_[i].width > 0) header()->resizeSection(section, columns_[i].width);
     }
     GiveRestToFlexibleColumns();
+}
+
+// A number that does not show all its digits is a wrong number: columns of numbers grow with what they hold.
+void ListView::WidenForNumbers() {
+    const int digit = fontMetrics().horizontalAdvance(u'0');
+    bool widened = false;
+    for (size_t i = 0; i < columns_.size(); ++i) {
+        const int section = static_cast<int>(i);
+        if (columns_[i].width <= 0 || !(columns_[i].align & Qt::AlignRight)) continue;
+        const int needed = static_cast<int>(rows_->LongestText(section)) * digit + cellPadding;
+        if (needed <= header()->sectionSize(section)) continue;
+        header()->resizeSection(section, needed);
+        widened = true;
+    }
+    if (widened) GiveRestToFlexibleColumns();
+}
+
+// A hidden first column would not do as the current cell: the view could not scroll to it.
+int ListView::FirstShownColumn() const {
+    int column = 0;
+    while (column + 1 < static_cast<int>(columns_.size()) && header()->isSectionHidden(column)) ++column;
+    return column;
 }
 
 void ListView::GiveRestToFlexibleColumns() {

@@ -39,6 +39,8 @@ public:
     int Selected() const;
     // Selects a row and makes it visible; -1 selects none.
     void Select(int row);
+    // Makes a row visible without selecting it.
+    void BringIntoView(int row);
 
     // Many rows at once: between Begin and End nothing is repainted.
     void BeginFill();
@@ -53,6 +55,8 @@ protected:
 
 private:
     void LayOutColumns();
+    void WidenForNumbers();
+    int FirstShownColumn() const;
     void GiveRestToFlexibleColumns();
 
     RowModel* rows_;

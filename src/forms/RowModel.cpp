@@ -10,6 +10,7 @@ void RowModel::SetColumns(const std::vector<ListColumn>& columns) {
     beginResetModel();
     headings_ = columns;
     cells_.clear();
+    longest_.assign(columns.size(), 0);
     published_ = 0;
     endResetModel();
 }
@@ -22,6 +23,7 @@ void RowModel::Clear() {
     if (cells_.empty()) return;
     beginResetModel();
     cells_.clear();
+    longest_.assign(Width(), 0);
     published_ = 0;
     endResetModel();
 }
@@ -31,6 +33,7 @@ int RowModel::Add(QStringList cells) {
     for (size_t column = 0; column < Width(); ++column) {
         const auto at = static_cast<qsizetype>(column);
         cells_.push_back(at < cells.size() ? std::move(cells[at]) : QString());
+        longest_[column] = qMax(longest_[column], cells_.back().size());
     }
     if (fills_ == 0) Publish();
     return row;
@@ -55,6 +58,7 @@ void RowModel::SetCell(int row, int column, const QString& text) {
     const QString* cell = Cell(row, column);
     if (!cell) return;
     cells_[static_cast<size_t>(cell - cells_.data())] = text;
+    longest_[static_cast<size_t>(column)] = qMax(longest_[static_cast<size_t>(column)], text.size());
     if (row >= published_) return;
     const QModelIndex changed = index(row, column);
     Q_EMIT dataChanged(changed, changed, {Qt::DisplayRole});

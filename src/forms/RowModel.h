@@ -24,6 +24,9 @@ public:
     const QString* Cell(int row, int column) const;
     void SetCell(int row, int column, const QString& text);
 
+    // Characters of the longest text that a column has held since the list was last empty.
+    qsizetype LongestText(int column) const { return longest_[static_cast<size_t>(column)]; }
+
     void BeginFill() { ++fills_; }
     void EndFill();
     // Tells the view of rows that it does not know yet.
@@ -40,6 +43,7 @@ private:
 
     std::vector<ListColumn> headings_;
     std::vector<QString> cells_;
+    std::vector<qsizetype> longest_;
     int published_ = 0;
     int fills_ = 0;
 };

@@ -89,6 +89,12 @@ QHash<QString, QString> Names() {
         {u"entrySize"_s, Pixels(EntrySize)},
         {u"plainAccentSize"_s, Pixels(PlainAccentSize)},
         {u"totalSize"_s, Pixels(TotalSize)},
+        {u"entryFit1"_s, Pixels(EntrySizes[1])},
+        {u"entryFit2"_s, Pixels(EntrySizes[2])},
+        {u"entryFit3"_s, Pixels(EntrySizes[3])},
+        {u"totalFit1"_s, Pixels(TotalSizes[1])},
+        {u"totalFit2"_s, Pixels(TotalSizes[2])},
+        {u"totalFit3"_s, Pixels(TotalSizes[3])},
         {u"corner"_s, Pixels(Corner)},
         {u"fieldCorner"_s, Pixels(Corner - 2)},
         // A style sheet's heights do not count the borders.

@@ -12,6 +12,7 @@ namespace forms {
 //   labels    heading, muted, strong (18 px), figure (18 px, for numbers), accent
 //   frames    panel (paper, border, corners), night (the panel of the total), strip (the line of information)
 //   on night  total (46 px figure), nightText
+//   any button may be "tight" (property, true): less room beside its caption, for rows of many
 // Read-only boxes are grey of themselves; a box under HighlightOnFocus turns yellow with an ink border.
 void InstallTheme(QApplication& application);
 

@@ -24,6 +24,9 @@ QLineEdit[highlight="true"]:focus, QPlainTextEdit[highlight="true"]:focus, QText
 QLineEdit[role="entry"] { font-size: @entrySize; min-height: @entryHeight; }
 QLineEdit[role="entry"]:focus { min-height: @focusedEntryHeight; }
 QAbstractSpinBox { min-height: @spinHeight; }
+QLineEdit[role="entry"][fit="1"] { font-size: @entryFit1; }
+QLineEdit[role="entry"][fit="2"] { font-size: @entryFit2; }
+QLineEdit[role="entry"][fit="3"] { font-size: @entryFit3; }
 QComboBox[role="entry"] { font-size: @entrySize; }
 QLineEdit[role="plain"], QLineEdit[role="plain"]:read-only, QLineEdit[role="plain"]:disabled {
     background: transparent; border: none; padding: 0; min-height: 24px; color: @ink;
@@ -58,6 +61,7 @@ QPushButton[role="main"], QPushButton[role="post"] {
     background: @accent; color: @paper; border-color: @accentDark; font-weight: 500;
 }
 QPushButton[role="post"] { font-size: @entrySize; }
+QPushButton[tight="true"] { padding: 0 4px; }
 QPushButton[role="main"]:hover, QPushButton[role="post"]:hover, QPushButton[role="main"]:pressed, QPushButton[role="post"]:pressed { background: @accentDark; }
 QPushButton[role="main"]:focus, QPushButton[role="post"]:focus { border-color: @ink; }
 QPushButton[role="main"]:disabled, QPushButton[role="post"]:disabled { background: @pressed; color: @faint; border-color: @line; }
@@ -84,6 +88,9 @@ QLabel[role="accent"] { color: @accent; font-weight: 500; }
 QLabel[role="figure"] { font-size: @strongSize; font-weight: 500; }
 QLabel[role="nightText"], QLineEdit[role="nightText"] { color: @nightText; font-size: @textSize; }
 QLabel[role="total"], QLineEdit[role="total"] { color: @glow; font-size: @totalSize; font-weight: bold; }
+QLineEdit[role="total"][fit="1"] { font-size: @totalFit1; }
+QLineEdit[role="total"][fit="2"] { font-size: @totalFit2; }
+QLineEdit[role="total"][fit="3"] { font-size: @totalFit3; }
 QLineEdit[role="total"], QLineEdit[role="total"]:read-only, QLineEdit[role="total"]:disabled,
 QLineEdit[role="nightText"], QLineEdit[role="nightText"]:read-only, QLineEdit[role="nightText"]:disabled {
     background: transparent; border: none; padding: 0; min-height: 0;
@@ -154,7 +161,7 @@ QTabBar { font-size: @labelSize; }
 QTabBar::tab {
     background: @tabBehind; color: @ink; border: 1px solid @line; border-bottom: 1px solid @line;
     border-top-left-radius: @corner; border-top-right-radius: @corner;
-    min-height: 36px; padding: 0 8px; margin-right: 2px;
+    min-height: 42px; padding: 0 8px; margin-right: 2px;
 }
 QTabBar::tab:selected { background: @paper; border-bottom-color: @paper; font-weight: bold; }
 QTabBar::tab:hover:!selected { background: @hover; }

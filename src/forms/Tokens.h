@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <array>
 
 // The colours and measures of the look, named once; the style sheet and what is painted by hand take them from here.
 namespace forms::Tokens {
@@ -40,6 +41,9 @@ inline constexpr int PlainAccentSize = 16;
 inline constexpr int StrongSize = 18;
 inline constexpr int EntrySize = 20;
 inline constexpr int TotalSize = 46;
+// What a figure shrinks to that would not fit otherwise.
+inline constexpr std::array EntrySizes{EntrySize, 17, 14, 11};
+inline constexpr std::array TotalSizes{TotalSize, 36, 28, 20};
 inline constexpr int Corner = 6;
 inline constexpr int FieldHeight = 36;
 inline constexpr int EntryHeight = 46;

@@ -21,7 +21,8 @@ ClickTable::ClickTable(QWidget* parent) : QWidget(parent), tabs_(new QTabWidget(
     tabs_->setUsesScrollButtons(false);
     tabs_->setElideMode(Qt::ElideRight);
     tabs_->tabBar()->setExpanding(false);
-    tabs_->setFocusPolicy(Qt::ClickFocus);
+    tabs_->setFocusPolicy(Qt::NoFocus);
+    tabs_->tabBar()->setFocusPolicy(Qt::NoFocus);
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(tabs_);

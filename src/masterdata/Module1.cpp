@@ -6,6 +6,7 @@
 #include "forms/Form.h"
 #include "masterdata/ClickTable.h"
 #include "output/Folder.h"
+#include "values/Numbers.h"
 
 using namespace Qt::StringLiterals;
 
@@ -29,8 +30,8 @@ void LoadClickTable(const forms::Form* form) {
     ClickTable& table = TableOf(form);
     auto rs = MainStore().OpenRecordset(PlacedQuery);
     for (auto& product : rs) {
-        TouchButton* button = table.Button(static_cast<int>(product[u"Tab"].Whole()));
-        button->setText(TrimNull(product[u"ProdDescription"]) + u" = "_s + product[u"UnitPrice"].TextOrEmpty());
+        TouchButton* button = table.Button(values::CInt16(product[u"Tab"].Double()));
+        button->SetCaption(TrimNull(product[u"ProdDescription"]) + u" = "_s + product[u"UnitPrice"].TextOrEmpty());
         button->SetTag(product[u"ProdCode"].TextOrEmpty());
         if (product[u"Pict"].TextOrEmpty().isEmpty()) continue;
         forms::LoadPicture(button, output::InProgramFolder(u"\\img\\"_s + product[u"Pict"].Text()));

@@ -40,7 +40,7 @@ QString Wrapped(const QString& name, const QFontMetrics& metrics, int width, int
 
 TouchButton::TouchButton(QWidget* parent) : QAbstractButton(parent) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    setFocusPolicy(Qt::ClickFocus);
+    setFocusPolicy(Qt::NoFocus);  // a scanner types on, whatever was touched last
 }
 
 void TouchButton::SetTag(const QString& code) {
@@ -48,8 +48,13 @@ void TouchButton::SetTag(const QString& code) {
     update();
 }
 
+void TouchButton::SetCaption(const QString& caption) {
+    setText(caption);
+    setShortcut({});
+}
+
 void TouchButton::Clear() {
-    setText({});
+    SetCaption({});
     setIcon({});
     SetTag({});
 }

@@ -13,6 +13,8 @@ public:
 
     const QString& Tag() const { return tag_; }
     void SetTag(const QString& code);
+    // "name = price"; an ampersand in a name is no shortcut.
+    void SetCaption(const QString& caption);
     void Clear();
 
     QSize sizeHint() const override { return {96, 66}; }

@@ -17,7 +17,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const auto NumberLabel = u"INVOICE No:"_s;
-const auto RibbonFile = u"\\invoices.txt"_s;
 const auto RibbonMode = u"2"_s;
 constexpr qint16 RibbonBlankLines = 2;
 constexpr double NumberFontSize = 16;
@@ -57,7 +56,7 @@ void PrintReceipt(const InvoiceText& invoice) {
 }
 
 void AppendToRibbon(const InvoiceText& invoice) {
-    output::Channel1().OpenForAppend(output::InProgramFolder(RibbonFile));
+    output::Channel1().OpenForAppend(output::InProgramFolder(TheSettings.TrakaRacunaFile));
     PrintReceiptText(RibbonMode, invoice);
     FeedBlankLines(RibbonBlankLines);
     output::Channel1().Sync();

@@ -9,6 +9,7 @@
 #include "sales/frmORVAtouch.h"
 #include "values/Clock.h"
 #include "values/DateText.h"
+#include "values/Numbers.h"
 
 using namespace Qt::StringLiterals;
 
@@ -35,13 +36,13 @@ void CloseOpenPeriods(QDate date, QTime time, int number) {
 }
 
 void MakeEndReport() {
-    const QDate date = values::Today();
-    const QTime time = values::TimeNow();
-    const qint16 last = LastEndReportNumber();
+    const QDateTime now = values::Now();
+    const QTime time(now.time().hour(), now.time().minute(), now.time().second());
+    const qint16 number = values::CInt16(LastEndReportNumber() + 1);
     if (auto* screen = forms::FindForm(u"frmORVAtouch")) screen->Unload();
-    CloseOpenPeriods(date, time, last + 1);
+    CloseOpenPeriods(now.date(), time, number);
     forms::Tell(u"End Report is done?"_s, forms::Icon::Warning,
-                u"End Report "_s + values::DateText(date) + u" "_s + values::TimeText(time));
+                u"End Report "_s + values::DateText(now.date()) + u" "_s + values::TimeText(time));
 }
 
 void CompleteLogin() {
@@ -52,14 +53,22 @@ void CompleteLogin() {
     rs.Update();
 }
 
+void ShowSalesScreen() {
+    mdiORVA::Window().ShowChild(forms::Open<frmORVAtouch>());
+}
+
 }  // namespace
 
 void LogOff() {
+    const QString title = mdiORVA::Window().Caption();
+    constexpr bool fatal = true;
     if (TheSettings.PonudiZakljucak && forms::Ask(u"Do you want to make End Report?"_s, u"End Report? YES or NO"_s))
-        MakeEndReport();
+        forms::Run(MakeEndReport, title);
     if (forms::Ask(u"Close the program?"_s, u"END OF WORK"_s)) {
-        CompleteLogin();
-        forms::EndProgram();
+        // A row that somebody cleared away must not keep the program from ending.
+        forms::Run(CompleteLogin, title, fatal);
+        forms::EndProgram(forms::ProgramExitCode());
     }
-    if (!forms::FindForm(u"frmORVAtouch")) mdiORVA::Window().ShowChild(forms::Open<frmORVAtouch>());
+    // Without its sales screen the main window could be neither used nor closed.
+    if (!forms::FindForm(u"frmORVAtouch")) forms::Run(ShowSalesScreen, title, fatal);
 }

@@ -13,7 +13,9 @@ using values::Format;
 
 frmMSGinvoice::frmMSGinvoice() {
     ui.setupUi(this);
+    FunctionKeys({{Qt::Key_Escape, ui.cmdOK}, {Qt::Key_F12, ui.cmdOK}});
     HighlightOnFocus({ui.txtCash});
+    ShrinkFigures({ui.txtTotal, ui.txtChange});
     NumericKeys({ui.txtCash});
     ControlKeys(ui.txtCash, {{Qt::Key_Return, Guarded(&frmMSGinvoice::txtCash_Enter)}});
     On(ui.cmdOK, &frmMSGinvoice::cmdOK_Click);

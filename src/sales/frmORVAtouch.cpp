@@ -10,6 +10,7 @@
 #include "masterdata/Module1.h"
 #include "output/Folder.h"
 #include "sales/LogOff.h"
+#include "sales/frmChangeUser.h"
 #include "values/Clock.h"
 #include "values/Format.h"
 #include "values/Numbers.h"
@@ -48,6 +49,7 @@ frmORVAtouch::frmORVAtouch() {
                   {Qt::Key_F8, ui.cmdTraka}, {Qt::Key_F9, ui.cmdOsvjezi}, {Qt::Key_F10, ui.cmdNoviArtikal},
                   {Qt::Key_F12, ui.cmdLogOff}});
     HighlightOnFocus({ui.txtProdCode, ui.txtQuantity, ui.txtKupac, ui.txtIB});
+    ShrinkFigures({ui.txtQuantity, ui.txtUnitPrice, ui.txtPrice, ui.txtTotalAmount});
     NumericKeys({ui.txtQuantity}, u"-"_s);
     EnterMovesOn({ui.lv1, ui.txtKupac, ui.txtIB});
     ControlKeys(ui.txtProdCode, {{Qt::Key_Return, Guarded(&frmORVAtouch::txtProdCode_Enter)}});
@@ -156,6 +158,9 @@ void frmORVAtouch::FindNumbers() {
     RacunOrNo = values::CInt32(values::Val(last[u"OrNo"].Text()));
 }
 
+// Above 32 bits an overflow, not a number that counts on from below.
+qint32 frmORVAtouch::Next(qint32 number) { return values::CInt32(double{1} + number); }
+
 void frmORVAtouch::cmdNew_Click() {
     if (ui.cmdNew->text() == NewCaption) return OpenInvoice();
     if (ui.cboID->currentText().isEmpty())
@@ -170,8 +175,8 @@ void frmORVAtouch::cmdNew_Click() {
 }
 
 void frmORVAtouch::OpenInvoice() {
-    ui.txtInvoiceNumber->setText(QString::number(RacunBroj_ + 1));
-    ui.txtORNumber->setText(QString::number(RacunOrNo + 1));
+    ui.txtInvoiceNumber->setText(QString::number(Next(RacunBroj_)));
+    ui.txtORNumber->setText(QString::number(Next(RacunOrNo)));
     ui.Frame2->setEnabled(true);
     ui.Frame3->setEnabled(true);
     if (ui.txtProdCode->isEnabled()) ui.txtProdCode->setFocus();
@@ -203,7 +208,8 @@ void frmORVAtouch::cmdESCponisti_Click() {
 }
 
 void frmORVAtouch::cmdPrijava_Click() {
-    if (TheSettings.ChangeUser == u"1" || TheSettings.ChangeUser == u"2") mdiORVA::Window().TellStillToCome();
+    if (TheSettings.ChangeUser == u"1") frmChangeUser().ShowModal();
+    if (TheSettings.ChangeUser == u"2") frmChangeUserSimple().ShowModal();
 }
 
 void frmORVAtouch::cmdOdjava_Click() {

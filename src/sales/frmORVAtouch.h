@@ -29,6 +29,7 @@ private:
     void StartSalesPeriod();
     void UpdateSalesPeriod();
     void FindNumbers();
+    static qint32 Next(qint32 number);
     void OpenInvoice();
     void CloseInvoice();
     void ShowOnButton(const QString& caption, const QString& picture);
@@ -61,6 +62,7 @@ private:
 
     // The lines of the invoice (frmORVAtouchLines.cpp).
     void cmdAddItem_Click();
+    int FindLine() const;
     void AddLine();
     void MergeInto(int row);
     void NextEntry();

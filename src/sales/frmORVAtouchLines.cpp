@@ -3,6 +3,7 @@
 #include "core/mdiORVA.h"
 #include "forms/Controls.h"
 #include "sales/frmORVAtouch.h"
+#include "store/CaseFold.h"
 #include "values/Format.h"
 #include "values/Numbers.h"
 
@@ -20,20 +21,30 @@ enum TaxColumn { RecapTaxID, RecapNothing, RecapPercent, RecapAmount, RecapTax }
 }  // namespace
 
 void frmORVAtouch::cmdAddItem_Click() {
-    const int row = ui.lv1->Find(ui.txtProdCode->text());
+    const int row = FindLine();
     if (row < 0)
         AddLine();
     else
         MergeInto(row);
 }
 
+// One product has one line, however its code was typed: the store does not tell cases apart either.
+int frmORVAtouch::FindLine() const {
+    for (int row = 0; row < ui.lv1->Count(); ++row)
+        if (store::SameText(ui.lv1->Text(row, Code), ui.txtProdCode->text())) return row;
+    return -1;
+}
+
 void frmORVAtouch::AddLine() {
     LineAmount_ = (CMoney(ui.txtUnitPrice->text()) * CMoney(ui.txtQuantity->text())).ToDouble();
+    // Read before the line stands, so that a product without figures leaves no line that nobody can post.
+    const Money percent = CMoney(ui.txtTaxPercent->text());
+    const Money tax = CMoney(ui.txtTaxAmount->text());
     const int row = ui.lv1->Add({ui.txtProdCode->text(), ui.txtDescription->text(),
                                  Format(ui.txtUnitPrice->text(), u"0.00"), ui.txtQuantity->text(),
-                                 Format(LineAmount_, u"0.00"), Format(ui.txtTaxPercent->text(), u"0.00"),
-                                 Format(ui.txtTaxAmount->text(), u"0.00"), ui.txtUnit->text(), ui.txtTaxID->text(),
-                                 ui.txtID->text()});
+                                 Format(LineAmount_, u"0.00"), Format(percent, u"0.00"), Format(tax, u"0.00"),
+                                 ui.txtUnit->text(), ui.txtTaxID->text(), ui.txtID->text()});
+    ui.lv1->BringIntoView(row);
     ui.txtPosDisplay->setText(ui.lv1->Text(row, Quantity) + u" x "_s + ui.txtDescription->text() + u"   "_s +
                               ui.lv1->Text(row, UnitPrice) + u" = "_s + ui.lv1->Text(row, Amount));
     NextEntry();

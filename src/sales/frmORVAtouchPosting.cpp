@@ -17,8 +17,8 @@ using namespace Qt::StringLiterals;
 using values::CMoney;
 
 void frmORVAtouch::PostInvoice() {
-    RacunBroj_ += 1;
-    RacunOrNo += 1;
+    RacunBroj_ = Next(RacunBroj_);
+    RacunOrNo = Next(RacunOrNo);
     RaiseRunningTotal();
     {
         // All of it is on the disk before the paper moves.

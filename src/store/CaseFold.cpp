@@ -68,7 +68,8 @@ int CompareFolded(QByteArrayView a, QByteArrayView b) {
         const qsizetype common = std::min(a.size(), b.size());
         qsizetype i = 0;
         for (; i < common && IsAscii(a[i]) && IsAscii(b[i]); ++i) {
-            const int difference = LatinFolds[static_cast<size_t>(a[i])] - LatinFolds[static_cast<size_t>(b[i])];
+            const int difference =
+                LatinFolds[static_cast<unsigned char>(a[i])] - LatinFolds[static_cast<unsigned char>(b[i])];
             if (difference != 0) return difference;
         }
         a = a.sliced(i);
@@ -80,6 +81,10 @@ int CompareFolded(QByteArrayView a, QByteArrayView b) {
         if (left != right) return left < right ? -1 : 1;
     }
     return static_cast<int>(!a.empty()) - static_cast<int>(!b.empty());
+}
+
+bool SameText(const QString& a, const QString& b) {
+    return CompareFolded(a.toUtf8(), b.toUtf8()) == 0;
 }
 
 }  // namespace store

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArrayView>
+#include <QString>
 
 namespace store {
 
@@ -8,6 +9,9 @@ namespace store {
 // locale plays a part. Indexes on disk depend on it. Texts are UTF-8.
 char32_t FoldCase(char32_t codePoint);
 int CompareFolded(QByteArrayView a, QByteArrayView b);  // below 0, 0 or above 0
+
+// Whether two texts are one to the stores.
+bool SameText(const QString& a, const QString& b);
 
 // Takes the next code point off the front of a text that is not empty; a broken sequence gives U+FFFD.
 char32_t TakeCodePoint(QByteArrayView& text);

@@ -28,7 +28,7 @@ public:
     const QString& Path() const;
 
     // Many rows, all or none: between Begin and Commit the Updates of all cursors are one commit. For tools that fill
-    // stores; screens never use it.
+    // stores; screens never use it. Cursors that added rows in a batch that was rolled back are to be closed.
     class Batch {
     public:
         explicit Batch(Database& database);

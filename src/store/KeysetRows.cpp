@@ -9,7 +9,7 @@ namespace {
 constexpr int FirstReadAhead = 16;
 constexpr int LongestReadAhead = 256;
 // So many rows come with their data when a query with a condition or an order is opened.
-constexpr int OpeningRows = 128;
+constexpr int OpeningRows = 1024;
 
 }  // namespace
 

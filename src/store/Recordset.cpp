@@ -1,30 +1,16 @@
 #include "store/Recordset.h"
 
-#include "store/Conversion.h"
 #include "store/RecordsetImpl.h"
 
 using namespace Qt::StringLiterals;
 
 namespace store {
 
-values::Value Field::Get() const {
-    return recordset_.Open().Get(column_);
-}
-
-void Field::Set(const values::Value& value) {
-    recordset_.Open().Set(column_, value);
-}
-
 Recordset::Recordset() = default;
 Recordset::Recordset(std::unique_ptr<Impl> impl) : impl_(std::move(impl)) {}
 Recordset::Recordset(Recordset&&) noexcept = default;
 Recordset& Recordset::operator=(Recordset&&) noexcept = default;
 Recordset::~Recordset() = default;
-
-Recordset::Impl& Recordset::Open() const {
-    if (!impl_) throw StoreError(NoCurrentRow, u"The cursor is closed."_s);
-    return *impl_;
-}
 
 bool Recordset::Updatable() const {
     return Open().keyset != nullptr;
@@ -60,29 +46,6 @@ void Recordset::Move(int rows) {
 
 qint64 Recordset::RecordCount() const {
     return Open().rows->KnownCount();
-}
-
-Field Recordset::operator[](QStringView name) {
-    return {*this, Open().Resolve(name)};
-}
-
-Field Recordset::operator[](int position) {
-    Open().CheckColumn(position);
-    return {*this, position};
-}
-
-int Recordset::FieldCount() const {
-    return static_cast<int>(Open().query.plan->output.size());
-}
-
-QString Recordset::FieldName(int position) const {
-    Open().CheckColumn(position);
-    return Open().Output(position).name;
-}
-
-Type Recordset::FieldType(int position) const {
-    Open().CheckColumn(position);
-    return ShownType(Open().Output(position));
 }
 
 void Recordset::AddNew() {

@@ -24,6 +24,8 @@ struct Recordset::Impl {
     void SetBookmark(qint64 row);
     void FindFirst(const QString& criteria);
 
+    [[noreturn]] static void ThrowDeleted();
+
     // Fields
     const dialect::OutputColumn& Output(int column) const { return query.plan->output[column]; }
     int Resolve(QStringView name);

@@ -30,13 +30,17 @@ Recordset::Impl::Impl(Engine& itsEngine, dialect::Compiler& itsCompiler, dialect
     data = rows->Load(place);
 }
 
+void Recordset::Impl::ThrowDeleted() {
+    throw StoreError(RowDeleted, u"The row was deleted."_s);
+}
+
 void Recordset::Impl::RequireRow() const {
     if (position == Position::Before || position == Position::After) ThrowNoCurrentRow();
 }
 
 qint64 Recordset::Impl::CurrentRow() const {
     RequireRow();
-    if (position == Position::Deleted) throw StoreError(RowDeleted, u"The row was deleted."_s);
+    if (position == Position::Deleted) ThrowDeleted();
     return rows->RowAt(place);
 }
 

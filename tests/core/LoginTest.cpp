@@ -93,6 +93,12 @@ TEST_F(LoginTest, EndsTheProgramOnCancel) {
     EXPECT_EQ(forms::ProgramExitCode(), 0);
 }
 
+TEST_F(LoginTest, RefusesEveryOtherWayToClose) {
+    ShowLogin();
+    EXPECT_FALSE(Login().close());
+    EXPECT_TRUE(Login().isVisible());
+}
+
 TEST_F(LoginTest, ReportsAnApostropheInTheNameAndGoesOn) {
     ShowLogin();
     {

@@ -101,6 +101,7 @@ QString ShownLine(const QByteArray& line) {
 
 InvoiceText LoadShop(const QString& changes) {
     TheSettings = {};
+    TheSettings.TrakaRacunaFile = u"invoices.txt"_s;
     InvoiceText invoice;
     Apply(ReadData(u"shop"_s), invoice);
     Apply(changes, invoice);

@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QClipboard>
+#include <QLineEdit>
 
 #include "core/Settings.h"
 #include "forms/ListView.h"
@@ -179,6 +180,61 @@ TEST_F(ItemEntryTest, AClickDeletesAndTheRightButtonTakesBack) {
     Keys(u"{Del}");
     EXPECT_EQ(Lines()->Count(), 0);
     EXPECT_EQ(Shown(u"txtTotalAmount"), u"0.00");
+}
+
+TEST_F(ItemEntryTest, TheScannerTypesOnWhateverWasTouchedLast) {
+    LogIn();
+    Keys(u"100{Enter}");
+    {
+        Boxes boxes;
+        boxes.Expect(u"Do you want cancel the invoice?"_s, QMessageBox::No);
+        drivers::Click(drivers::Get<QWidget>(Sales(), u"cmdESCponisti"));
+    }
+    Keys(u"300{Enter}");
+    drivers::Click(drivers::Get<QWidget>(Sales(), u"Command2_31"));
+    Keys(u"3850104003217{Enter}");
+    EXPECT_EQ(Lines()->Count(), 3);
+    drivers::ClickRow(Lines(), 0);
+    Keys(u"100{Enter}");
+    EXPECT_EQ(Lines()->Text(2), u"100");
+}
+
+TEST_F(ItemEntryTest, OneProductHasOneLineInAnyCase) {
+    Run(u"UPDATE Products SET ProdCode = 'Čaj1' WHERE ProdCode = '100'"_s);
+    LogIn();
+    Keys(u"Čaj1{Enter}čAJ1{Enter}");
+    ASSERT_EQ(Lines()->Count(), 1);
+    EXPECT_EQ(Line()[3], u"2");
+}
+
+TEST_F(ItemEntryTest, AProductWithoutFiguresLeavesNoLine) {
+    Run(u"UPDATE Products SET TaxPercent = Null WHERE ProdCode = '100'"_s);
+    LogIn();
+    Boxes boxes;
+    boxes.ExpectBeginning(u"13"_s);
+    Keys(u"100{Enter}");
+    EXPECT_EQ(Lines()->Count(), 0);
+    drivers::Type(Sales(), u"txtProdCode", u"300{Enter}{F5}");
+    EXPECT_EQ(Rows(u"SELECT CashAmount FROM Invoices"_s), QStringList{u"2"_s});
+}
+
+TEST_F(ItemEntryTest, LargeFiguresShrinkInsteadOfLosingDigits) {
+    Run(u"UPDATE Products SET UnitPrice = 1234567.89 WHERE ProdCode = '200'"_s);
+    LogIn();
+    mdiORVA::Window().showNormal();
+    mdiORVA::Window().resize(1024, 768);
+    Keys(u"200{Enter}98.765");
+    for (const char16_t* name : {u"txtUnitPrice", u"txtPrice"}) {
+        auto* box = drivers::Get<QLineEdit>(Sales(), name);
+        EXPECT_LT(box->fontMetrics().horizontalAdvance(box->text()), box->width()) << box->text().toStdString();
+    }
+    Keys(u"{Enter}100{Enter}");
+    auto* total = drivers::Get<QLineEdit>(Sales(), u"txtTotalAmount");
+    EXPECT_EQ(total->text(), u"121932099.16");
+    EXPECT_LT(total->fontMetrics().horizontalAdvance(total->text()), total->width());
+    drivers::Settle();
+    EXPECT_EQ(mdiORVA::Window().width(), 1024) << "whole screens fit 1024x768";
+    drivers::Grab(mdiORVA::Window(), u"sales-large-1024"_s);
 }
 
 TEST_F(ItemEntryTest, TheAddButtonNeedsCodeQuantityAndProduct) {

@@ -18,7 +18,8 @@ TEST_F(LogOffTest, NoToBothLeavesEverythingAsItWas) {
     boxes.Expect(Report, QMessageBox::No).Titled(u"End Report? YES or NO"_s).WithIcon(QMessageBox::Question);
     boxes.Expect(Close, QMessageBox::No).Titled(u"END OF WORK"_s).WithIcon(QMessageBox::Question);
     Keys(u"{F12}");
-    EXPECT_EQ(drivers::List(Sales(), u"lv1").size(), 1u);
+    Keys(u"300{Enter}");
+    EXPECT_EQ(drivers::List(Sales(), u"lv1").size(), 2u) << "the scanner goes on behind the two boxes";
     EXPECT_FALSE(forms::ProgramIsEnding());
 }
 
@@ -67,6 +68,30 @@ TEST_F(LogOffTest, AnEndReportWithoutOpenPeriodChangesNothing) {
         Keys(u"{F12}");
     }
     EXPECT_EQ(Rows(u"SELECT Closed, Grupni FROM Sales"_s), QStringList{u"True|"_s});
+}
+
+TEST_F(LogOffTest, AClearedLogDoesNotKeepTheProgramFromEnding) {
+    Setting(u"PonudiZakljucak"_s, false);
+    LogIn();
+    Run(u"DELETE * FROM Login"_s);
+    Boxes boxes;
+    boxes.Expect(Close, QMessageBox::Yes);
+    boxes.ExpectBeginning(u"3021"_s);
+    Keys(u"{F12}");
+    EXPECT_TRUE(forms::ProgramIsEnding());
+    EXPECT_EQ(forms::ProgramExitCode(), 1);
+}
+
+TEST_F(LogOffTest, AFailedEndReportLeavesAScreenToWorkOn) {
+    LogIn();
+    Run(u"UPDATE Sales SET Grupni = 32767"_s);
+    Boxes boxes;
+    boxes.Expect(Report, QMessageBox::Yes);
+    boxes.ExpectBeginning(u"6"_s);
+    boxes.Expect(Close, QMessageBox::No);
+    Keys(u"{F12}");
+    Keys(u"100{Enter}{F5}");
+    EXPECT_EQ(Rows(u"SELECT InvoiceID FROM Invoices"_s), QStringList{u"1"_s});
 }
 
 }  // namespace

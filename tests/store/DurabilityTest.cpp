@@ -1,3 +1,4 @@
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -187,6 +188,42 @@ TEST_F(DurabilityTest, ABackupIsOfOneMomentWhileOthersWrite) {
     EXPECT_GE(before, 50);
     kill(writer, SIGKILL);
     ExitOf(writer);
+}
+
+// As on a full device: files stop growing.
+class NoMoreRoom {
+public:
+    NoMoreRoom() {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit small{100'000, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~NoMoreRoom() { setrlimit(RLIMIT_FSIZE, &before_); }
+
+private:
+    rlimit before_{};
+};
+
+TEST_F(DurabilityTest, ADiskThatTakesNoMoreLosesNothingThatWasStored) {
+    auto invoices = store->OpenRecordset(u"SELECT * FROM Invoices"_s);
+    int stored = 0;
+    {
+        const NoMoreRoom noMoreRoom;
+        const auto addUntilRefused = [&] {
+            for (; stored < 1000; ++stored) AddInvoice(invoices, stored + 1);
+        };
+        EXPECT_EQ(ErrorOf(addUntilRefused), DiskError);
+        EXPECT_EQ(invoices.EditMode(), EditState::Adding);
+        EXPECT_EQ(ErrorOf([&] { store->BackupTo(PathOf(u"copy.pos"_s)); }), DiskError);
+        EXPECT_FALSE(QFile::exists(PathOf(u"copy.pos.part"_s)));
+        EXPECT_EQ(ErrorOf([&] { Database::Create(PathOf(u"new.pos"_s), MainSchema()); }), DiskError);
+        EXPECT_FALSE(QFile::exists(PathOf(u"new.pos"_s)));
+    }
+    EXPECT_GT(stored, 0);
+    invoices.Update();
+    EXPECT_EQ(Column(u"SELECT InvoiceID FROM Invoices"_s).size(), stored + 1);
+    EXPECT_TRUE(store->CheckIntegrity().empty());
 }
 
 TEST_F(DurabilityTest, ABackupReplacesNoFileAndLeavesNoneWhenItFails) {

@@ -18,6 +18,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// The off-screen platform tells of each window that it cannot raise it; nobody wants to read that.
+void WriteMessage(QtMsgType, const QMessageLogContext&, const QString& message) {
+    if (!message.startsWith(u"This plugin does not support")) std::fprintf(stderr, "%s\n", qPrintable(message));
+}
+
 // A folder that an earlier day left; anything else is not ours to delete.
 void ClearFolder(const QString& path) {
     QDir folder(path);
@@ -52,6 +57,7 @@ void Play(const QString& path) {
 
 int main(int argc, char* argv[]) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(WriteMessage);
     QApplication application(argc, argv);
     PrepareApplication(application);
     try {

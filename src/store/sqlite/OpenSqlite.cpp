@@ -107,7 +107,7 @@ std::unique_ptr<Engine> OpenFile(const QString& path, const Schema& schema) {
         connection->SetPatience(WorkingPatience);
         return std::make_unique<SqliteEngine>(std::move(connection));
     } catch (const SQLite::Exception& error) {
-        ThrowOpeningError(error.getExtendedErrorCode(), QString::fromUtf8(error.what()), path);
+        ThrowOpeningError(CodeOf(error), QString::fromUtf8(error.what()), path);
     } catch (const StoreError& error) {
         if (error.Number() != StoreLocked) throw;
         ThrowOpeningError(SQLITE_BUSY, error.Description(), path);
@@ -121,7 +121,7 @@ std::unique_ptr<Engine> CreateFile(const QString& path, const Schema& schema) {
         SetUp(connection, path);
         BuildSchema(connection.Database(), schema);
     } catch (const SQLite::Exception& error) {
-        ThrowCode(error.getExtendedErrorCode(), QString::fromUtf8(error.what()), u"making %1"_s.arg(path));
+        ThrowCode(CodeOf(error), QString::fromUtf8(error.what()), u"making %1"_s.arg(path));
     }
     file.Finish();
     return OpenFile(path, schema);

@@ -59,6 +59,9 @@ private:
     static std::string SqlOf(const ShapeKey& key);
     static Prepared& PreparedFor(const dialect::Plan& plan, const std::shared_ptr<Connection>& connection);
     Statement& StatementFor(const ShapeKey& key);
+    Statement& RangeStatement(const dialect::Query& query, qint64 after, qint64 upTo, int limit);
+    void ReadRange(const dialect::Query& query, std::span<const qint64> keys, RowBlock& rows);
+    void ReadEach(const dialect::Query& query, std::span<const qint64> keys, RowBlock& rows);
     void EndRelaxed();
     sqlite3* Handle() const { return connection_->Handle(); }
 

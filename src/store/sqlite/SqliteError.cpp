@@ -1,5 +1,6 @@
 #include "store/sqlite/SqliteError.h"
 
+#include <SQLiteCpp/Exception.h>
 #include <sqlite3.h>
 
 #include "store/StoreError.h"
@@ -83,6 +84,10 @@ void ThrowCode(int extendedCode, const QString& message, const QString& doing) {
 
 void ThrowLast(sqlite3* connection, const QString& doing) {
     ThrowCode(sqlite3_extended_errcode(connection), QString::fromUtf8(sqlite3_errmsg(connection)), doing);
+}
+
+int CodeOf(const SQLite::Exception& error) {
+    return error.getExtendedErrorCode() > 0 ? error.getExtendedErrorCode() : error.getErrorCode();
 }
 
 }  // namespace store::sqlite

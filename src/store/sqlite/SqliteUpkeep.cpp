@@ -56,7 +56,7 @@ void SqliteEngine::BackupTo(const QString& path) {
         CopyInto(file.Path(), connection_->Database());
         CheckCopy(file.Path());
     } catch (const SQLite::Exception& error) {
-        ThrowCode(error.getExtendedErrorCode(), QString::fromUtf8(error.what()), u"copying to %1"_s.arg(path));
+        ThrowCode(CodeOf(error), QString::fromUtf8(error.what()), u"copying to %1"_s.arg(path));
     }
     file.Finish();
 }

@@ -1,0 +1,67 @@
+#include "sales/frmChangeUser.h"
+
+#include "core/dbModule.h"
+#include "core/mdiORVA.h"
+#include "forms/Controls.h"
+#include "forms/MsgBox.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto UsersQuery = u"SELECT * FROM Users"_s;
+const auto UserQuery = u"SELECT * FROM Users WHERE UserName = '%1'"_s;
+const auto UserCriteria = u"UserName = '%1'"_s;
+
+}  // namespace
+
+frmChangeUser::frmChangeUser() {
+    ui.setupUi(this);
+    ui.txtUserName->setCompleter(nullptr);
+    HighlightOnFocus({ui.txtUserName, ui.txtPassword});
+    FunctionKeys({{Qt::Key_Escape, ui.cmdCancel}, {Qt::Key_F12, ui.cmdCancel}});
+    EnterMovesOn({ui.txtUserName});
+    ControlKeys(ui.txtPassword, {{Qt::Key_Return, Guarded(&frmChangeUser::cmdOK_Click)}});
+    On(ui.cmdOK, &frmChangeUser::cmdOK_Click);
+    On(ui.cmdCancel, &frmChangeUser::cmdCancel_Click);
+}
+
+void frmChangeUser::Form_Load() {
+    rsUsers_ = MainStore().OpenRecordset(UsersQuery);
+    FillUserList();
+}
+
+void frmChangeUser::FillUserList() {
+    ui.txtUserName->clear();
+    for (auto& user : rsUsers_) ui.txtUserName->addItem(user[u"UserName"].TextOrEmpty());
+    ui.txtUserName->setCurrentIndex(-1);
+}
+
+bool frmChangeUser::PasswordFits(store::Recordset& user) const {
+    return !user[u"Password"].IsNull() && user[u"Password"].Text() == ui.txtPassword->text();
+}
+
+void frmChangeUser::cmdOK_Click() {
+    const QString name = ui.txtUserName->currentText();
+    rsUsers_.FindFirst(UserCriteria.arg(name));
+    if (rsUsers_.NoMatch()) return forms::Tell(u"Nonexistent user."_s, forms::Icon::Critical, Caption());
+    if (!PasswordFits(rsUsers_)) return forms::Tell(u"Wrong password."_s, forms::Icon::Critical, Caption());
+    rsUsers_ = MainStore().OpenRecordset(UserQuery.arg(name));
+    forms::Form* screen = mdiORVA::Window().ActiveChild();
+    forms::SetText(forms::Control(screen, u"cboID"), rsUsers_[u"UserID"].TextOrEmpty());
+    forms::SetText(forms::Control(screen, u"txtUserFullName"), rsUsers_[u"UserFullName"].TextOrEmpty());
+    Unload();
+}
+
+void frmChangeUser::cmdCancel_Click() {
+    Unload();
+}
+
+frmChangeUserSimple::frmChangeUserSimple() {
+    setObjectName(u"frmChangeUserSimple"_s);
+    ui.lblPassword->hide();
+    delete ui.txtPassword;
+    ui.txtPassword = nullptr;
+    ControlKeys(ui.txtUserName, {{Qt::Key_Return, [this] { ui.cmdOK->click(); }}});
+    connect(ui.txtUserName, &QComboBox::activated, ui.cmdOK, &QPushButton::click);
+}

@@ -1,0 +1,89 @@
+#include <sqlite3.h>
+
+#include "store/sqlite/PreparedPlan.h"
+#include "store/sqlite/QuerySql.h"
+#include "store/sqlite/SqliteSchema.h"
+
+namespace store::sqlite {
+
+namespace {
+
+quint64 ColumnSet(std::span<const FieldChange> fields) {
+    quint64 set = 0;
+    for (const FieldChange& field : fields) set |= quint64{1} << field.column;
+    return set;
+}
+
+}  // namespace
+
+qint64 SqliteEngine::Insert(const Table& table, std::span<const FieldChange> fields) {
+    Statement& statement = StatementFor({Shape::Insert, &table, ColumnSet(fields)});
+    const StatementUse use(statement);
+    for (int i = 0; const FieldChange& field : fields) statement.Bind(++i, field.value);
+    ++writes_;
+    statement.Step();
+    return sqlite3_last_insert_rowid(Handle());
+}
+
+bool SqliteEngine::Change(const Table& table, qint64 row, std::span<const FieldChange> fields,
+                          std::span<const FieldChange> expected) {
+    Statement& statement = StatementFor({Shape::Change, &table, ColumnSet(fields), ColumnSet(expected)});
+    const StatementUse use(statement);
+    int parameter = 0;
+    for (const FieldChange& field : fields) statement.Bind(++parameter, field.value);
+    statement.Bind(++parameter, row);
+    for (const FieldChange& field : expected) statement.Bind(++parameter, field.value);
+    ++writes_;
+    statement.Step();
+    return sqlite3_changes64(Handle()) > 0;
+}
+
+bool SqliteEngine::Remove(const Table& table, qint64 row) {
+    Statement& statement = StatementFor({Shape::Remove, &table});
+    const StatementUse use(statement);
+    statement.Bind(1, row);
+    ++writes_;
+    statement.Step();
+    return sqlite3_changes64(Handle()) > 0;
+}
+
+qint64 SqliteEngine::Execute(const dialect::Query& action) {
+    Prepared& prepared = PreparedFor(*action.plan, connection_);
+    Statement& statement = prepared.Get(prepared.whole, [&] { return ActionSql(*action.plan); });
+    const StatementUse use(statement);
+    statement.BindAll(action.values);
+    ++writes_;
+    statement.Step();
+    return sqlite3_changes64(Handle());
+}
+
+Statement& SqliteEngine::StatementFor(const ShapeKey& key) {
+    Statement& statement = statements_[key];
+    if (!statement) statement = Statement(Handle(), SqlOf(key));
+    return statement;
+}
+
+std::string SqliteEngine::SqlOf(const ShapeKey& key) {
+    const std::string table = Quoted(key.table->name);
+    switch (key.shape) {
+        case Shape::LastRow:
+            return "SELECT max(rowid) FROM " + table;
+        case Shape::Keys:
+            return "SELECT rowid FROM " + table + " WHERE rowid > ?1 AND rowid <= ?2 ORDER BY rowid";
+        case Shape::Insert:
+            return InsertSql(*key.table, key.columns);
+        case Shape::Change:
+            return ChangeSql(*key.table, key.columns, key.expected);
+        case Shape::Remove:
+            return "DELETE FROM " + table + " WHERE rowid = ?1";
+    }
+    return {};
+}
+
+SqliteEngine::Prepared& SqliteEngine::PreparedFor(const dialect::Plan& plan,
+                                                  const std::shared_ptr<Connection>& connection) {
+    if (!plan.prepared) plan.prepared = std::make_shared<Prepared>(connection);
+    return *static_cast<Prepared*>(plan.prepared.get());
+}
+
+}  // namespace store::sqlite

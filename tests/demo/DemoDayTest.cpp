@@ -1,0 +1,42 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray Bytes(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
+}
+
+TEST(DemoDay, LeavesTheReceiptsAndPicturesItAlwaysLeaves) {
+    const QTemporaryDir folder;
+    const QString shop = folder.filePath(u"shop"_s);
+    QProcess demo;
+    demo.start(QStringLiteral(PROGRAMS "/velton-demo"), {shop});
+    ASSERT_TRUE(demo.waitForFinished(60000));
+    EXPECT_EQ(demo.exitCode(), 0) << demo.readAllStandardError().toStdString();
+    EXPECT_EQ(Bytes(shop + u"/invoices.txt"_s), Bytes(QStringLiteral(TEST_DATA "/demo/invoices.txt")));
+    EXPECT_EQ(Bytes(shop + u"/lpt1.prn"_s), Bytes(QStringLiteral(TEST_DATA "/demo/lpt1.prn")));
+    EXPECT_EQ(QDir(shop + u"/screens"_s).entryList({u"*.png"_s}).size(), 6);
+}
+
+TEST(DemoDay, LeavesAForeignFolderAlone) {
+    const QTemporaryDir folder;
+    QFile mine(folder.filePath(u"mine.txt"_s));
+    ASSERT_TRUE(mine.open(QIODevice::WriteOnly));
+    mine.close();
+    QProcess demo;
+    demo.start(QStringLiteral(PROGRAMS "/velton-demo"), {folder.path()});
+    ASSERT_TRUE(demo.waitForFinished(60000));
+    EXPECT_EQ(demo.exitCode(), 1);
+    EXPECT_TRUE(QFile::exists(mine.fileName()));
+}
+
+}  // namespace
