@@ -8,8 +8,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int Margin = 5;
-constexpr int PriceHeight = 22;
+constexpr int Margin = 4;
+constexpr int PriceHeight = 20;
 constexpr int PictureWidth = 40;
 const auto BetweenNameAndPrice = u" = "_s;
 

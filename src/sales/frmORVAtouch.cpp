@@ -41,8 +41,8 @@ frmORVAtouch::frmORVAtouch() {
                         {u"Amount"_s, Qt::AlignRight, 76}, {u"Tax %"_s, Qt::AlignRight, 60},
                         {u"Tax"_s, Qt::AlignRight, 0}, {u"Unit"_s, Qt::AlignLeft, 0},
                         {u"TaxID"_s, Qt::AlignLeft, 0}, {u"ID"_s, Qt::AlignLeft, 0}});
-    ui.lvPorez->SetColumns({{u"TaxID"_s, Qt::AlignLeft, 70}, {{}, Qt::AlignLeft, 0}, {u"Rate"_s, Qt::AlignRight, 60},
-                            {u"Amount"_s, Qt::AlignRight, -1}, {u"Tax"_s, Qt::AlignRight, 70}});
+    ui.lvPorez->SetColumns({{u"TaxID"_s, Qt::AlignLeft, -1}, {{}, Qt::AlignLeft, 0}, {u"Rate"_s, Qt::AlignRight, 60},
+                            {u"Amount"_s, Qt::AlignRight, 84}, {u"Tax"_s, Qt::AlignRight, 74}});
 
     FunctionKeys({{Qt::Key_Escape, ui.cmdESCponisti}, {Qt::Key_F1, ui.cmdHelp}, {Qt::Key_F2, ui.cmdF2izaberi},
                   {Qt::Key_F5, ui.cmdNew}, {Qt::Key_F6, ui.cmdPrijava}, {Qt::Key_F7, ui.cmdOdjava},
@@ -68,6 +68,7 @@ frmORVAtouch::frmORVAtouch() {
     On(ui.cmdESCponisti, &frmORVAtouch::cmdESCponisti_Click);
     On(ui.cmdF2izaberi, &frmORVAtouch::cmdF2izaberi_Click);
     On(ui.cmdPrijava, &frmORVAtouch::cmdPrijava_Click);
+    OnChange(ui.txtUserFullName, &frmORVAtouch::txtUserFullName_Change);
     OnMouseUp(ui.txtUserFullName, Qt::LeftButton, &frmORVAtouch::cmdPrijava_Click);
     OnMouseUp(ui.Frame10, Qt::LeftButton, &frmORVAtouch::cmdPrijava_Click);
     On(ui.cmdOdjava, &frmORVAtouch::cmdOdjava_Click);
@@ -205,6 +206,13 @@ void frmORVAtouch::cmdESCponisti_Click() {
         box->clear();
     CloseInvoice();
     if (TheSettings.NoviRacunAutomatski) cmdNew_Click();
+}
+
+// The name stands right beside its label, and the box stays wide enough to be touched.
+void frmORVAtouch::txtUserFullName_Change() {
+    constexpr int narrowest = 60;
+    const int text = ui.txtUserFullName->fontMetrics().horizontalAdvance(ui.txtUserFullName->text());
+    ui.txtUserFullName->setFixedWidth(qMax(narrowest, text + 16));
 }
 
 void frmORVAtouch::cmdPrijava_Click() {

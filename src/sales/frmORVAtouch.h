@@ -34,6 +34,7 @@ private:
     void CloseInvoice();
     void ShowOnButton(const QString& caption, const QString& picture);
     void cmdESCponisti_Click();
+    void txtUserFullName_Change();
     void cmdPrijava_Click();
     void cmdOdjava_Click();
     void cmdTraka_Click();

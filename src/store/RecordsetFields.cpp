@@ -38,12 +38,12 @@ void Recordset::Impl::CheckColumn(int column) const {
 }
 
 const CursorRows::Data& Recordset::Impl::Current() {
-    RequireRow();
-    if (position == Position::Deleted) ThrowDeleted();
-    if (data.rows == nullptr)
+    if (data.rows == nullptr) {
+        CurrentRow();
         data = rows->Load(place);
-    else if (keyset != nullptr && !keyset->StillThere())
+    } else if (keyset != nullptr && !keyset->StillThere()) {
         data = keyset->Confirm(place);
+    }
     if (data.rows->Gone(data.index)) ThrowDeleted();
     return data;
 }

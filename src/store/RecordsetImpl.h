@@ -53,7 +53,7 @@ struct Recordset::Impl {
 
     Position position = Position::After;
     CursorRows::Place place = CursorRows::Nowhere;
-    CursorRows::Data data;  // of the current row, once loaded
+    CursorRows::Data data;  // of the current row, once loaded; never without one
     // Programs read the fields of every row in one order: the next of those found before is tried first.
     int lastResolved = -1;
     quint64 resolvedBefore = 0;

@@ -16,7 +16,7 @@ struct SqliteEngine::Prepared {
     std::shared_ptr<Connection> connection;
     Statement whole;  // the query as it stands, or the action
     Statement oneRow;
-    Statement range;
+    Statement after;
 };
 
 }  // namespace store::sqlite

@@ -59,7 +59,7 @@ private:
     static std::string SqlOf(const ShapeKey& key);
     static Prepared& PreparedFor(const dialect::Plan& plan, const std::shared_ptr<Connection>& connection);
     Statement& StatementFor(const ShapeKey& key);
-    Statement& RangeStatement(const dialect::Query& query, qint64 after, qint64 upTo, int limit);
+    Statement& RowsAfter(const dialect::Query& query, qint64 after);
     void ReadRange(const dialect::Query& query, std::span<const qint64> keys, RowBlock& rows);
     void ReadEach(const dialect::Query& query, std::span<const qint64> keys, RowBlock& rows);
     void EndRelaxed();

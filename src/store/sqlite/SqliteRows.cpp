@@ -58,27 +58,26 @@ void SqliteEngine::ReadKeyset(const dialect::Query& query, int withData, std::ve
     }
 }
 
-Statement& SqliteEngine::RangeStatement(const dialect::Query& query, qint64 after, qint64 upTo, int limit) {
+// The rows behind one, by identity; whoever reads them stops where he wants.
+Statement& SqliteEngine::RowsAfter(const dialect::Query& query, qint64 after) {
     const int literals = static_cast<int>(query.values.size());
     Prepared& prepared = PreparedFor(*query.plan, connection_);
-    Statement& statement = prepared.Get(prepared.range, [&] {
-        return RowsSql(*query.plan, "rowid > " + Parameter(literals + 1) + " AND rowid <= " + Parameter(literals + 2) +
-                                        " ORDER BY rowid LIMIT " + Parameter(literals + 3));
-    });
+    Statement& statement = prepared.Get(
+        prepared.after, [&] { return RowsSql(*query.plan, "rowid > " + Parameter(literals + 1) + " ORDER BY rowid"); });
     statement.BindAll(query.values);
     statement.Bind(literals + 1, after);
-    statement.Bind(literals + 2, upTo);
-    statement.Bind(literals + 3, qint64{limit});
     return statement;
 }
 
 void SqliteEngine::ReadAfter(const dialect::Query& query, qint64 after, qint64 upTo, int limit,
                              std::vector<qint64>& keys, RowBlock& rows) {
-    Statement& statement = RangeStatement(query, after, upTo, limit);
+    Statement& statement = RowsAfter(query, after);
     const StatementUse use(statement);
     rows.Clear(OutputColumns(query));
-    while (statement.Step()) {
-        keys.push_back(statement.Integer(0));
+    for (int i = 0; i < limit && statement.Step(); ++i) {
+        const qint64 row = statement.Integer(0);
+        if (row > upTo) return;
+        keys.push_back(row);
         statement.AppendRow(rows, 1);
     }
 }
@@ -93,14 +92,13 @@ void SqliteEngine::ReadRows(const dialect::Query& query, std::span<const qint64>
 
 // One walk over a stretch of the table, which passes over the rows that are not asked for.
 void SqliteEngine::ReadRange(const dialect::Query& query, std::span<const qint64> keys, RowBlock& rows) {
-    constexpr int noLimit = -1;
-    Statement& statement = RangeStatement(query, keys.front() - 1, keys.back(), noLimit);
+    Statement& statement = RowsAfter(query, keys.front() - 1);
     const StatementUse use(statement);
     auto key = keys.begin();
-    while (statement.Step()) {
+    while (key != keys.end() && statement.Step()) {
         const qint64 row = statement.Integer(0);
-        for (; *key < row; ++key) rows.AddGone();
-        if (*key != row) continue;
+        for (; key != keys.end() && *key < row; ++key) rows.AddGone();
+        if (key == keys.end() || *key != row) continue;
         statement.AppendRow(rows, 1);
         ++key;
     }
