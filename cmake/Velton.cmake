@@ -9,7 +9,7 @@ endif()
 
 add_library(velton_strict INTERFACE)
 target_include_directories(velton_strict INTERFACE ${CMAKE_SOURCE_DIR}/src)
-target_compile_options(velton_strict INTERFACE -Wall -Wextra -Wconversion -fno-plt
+target_compile_options(velton_strict INTERFACE -Wall -Wextra -Wconversion
     $<$<AND:$<CXX_COMPILER_ID:GNU>,$<BOOL:${CCACHE}>>:-fpch-preprocess>
     $<$<BOOL:${VELTON_WERROR}>:-Werror>)
 target_compile_definitions(velton_strict INTERFACE

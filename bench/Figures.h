@@ -1,0 +1,22 @@
+#pragma once
+
+#include "bench/Harness.h"
+#include "bench/Shop.h"
+
+namespace bench {
+
+// The figures, one file each. To add one, write its file beside these and name it in main.
+
+Figure LookupFigure(const Shop& shop);
+Figure WalkFigure(const Shop& shop);
+// Writes to the copy of the shop in `till`.
+Figure PostingFigure(const Shop& shop, const QString& till);
+Figure TaxReportFigure(const Shop& shop);
+Figure OpeningFigure(const Shop& big, const Shop& small);
+Figure StartupFigure(const QString& till);
+
+// Memory of the till in `till` after so many posted invoices, beside that of an empty window; prints its lines. False
+// when one of the programs failed.
+bool PrintMemory(const QString& till, int invoices);
+
+}  // namespace bench

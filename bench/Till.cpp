@@ -1,0 +1,78 @@
+// bench-till FOLDER COUNT: logs in, posts so many invoices of five lines, and prints what the process takes.
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "app/Start.h"
+#include "bench/MemoryUse.h"
+#include "core/dbModule.h"
+#include "forms/Controls.h"
+#include "forms/Form.h"
+#include "output/Folder.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int LinesEach = 5;
+
+QWidget* ControlOf(QStringView form, QStringView name) {
+    return forms::Control(forms::FindForm(form), name);
+}
+
+void Press(QWidget* widget, Qt::Key key, const QString& text = {}) {
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QApplication::sendEvent(widget, &press);
+    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
+    QApplication::sendEvent(widget, &release);
+}
+
+bool LogIn() {
+    forms::SetText(ControlOf(u"frmLogin", u"txtUserName"), u"kasir"_s);
+    forms::SetText(ControlOf(u"frmLogin", u"txtPassword"), u"1234"_s);
+    qobject_cast<QPushButton*>(ControlOf(u"frmLogin", u"cmdOK"))->click();
+    QApplication::processEvents();
+    return forms::FindForm(u"frmORVAtouch") != nullptr;
+}
+
+void Scan(const QString& code) {
+    QWidget* box = ControlOf(u"frmORVAtouch", u"txtProdCode");
+    forms::SetText(box, code);
+    Press(box, Qt::Key_Return, u"\r"_s);
+    QApplication::processEvents();
+}
+
+qint64 StoredInvoices() {
+    auto invoices = MainStore().OpenRecordset(u"SELECT * FROM Invoices"_s);
+    invoices.MoveLast();
+    return invoices.RecordCount();
+}
+
+void Sell(int invoices) {
+    auto products = MainStore().OpenRecordset(u"SELECT ProdCode FROM Products"_s);
+    for (int i = 0; i < invoices; ++i) {
+        for (int line = 0; line < LinesEach; ++line) {
+            Scan(products[u"ProdCode"].Text());
+            products.MoveNext();
+        }
+        Press(forms::FindForm(u"frmORVAtouch"), Qt::Key_F5);
+        QApplication::processEvents();
+    }
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    QApplication application(argc, argv);
+    if (argc != 3) return 2;
+    output::SetProgramFolder(QString::fromLocal8Bit(argv[1]));
+    PrepareApplication(application);
+    if (!StartProgram() || !LogIn()) return 3;
+    const int count = QByteArray(argv[2]).toInt();
+    const qint64 before = StoredInvoices();
+    Sell(count);
+    bench::PrintMemoryUse();
+    return StoredInvoices() == before + count ? 0 : 4;
+}
