@@ -29,8 +29,6 @@ public:
         int index = 0;
     };
     virtual Data Load(Place place) = 0;
-    // Whether the row that Load gave is known to be in the store still.
-    virtual bool StillThere() = 0;
 };
 
 // A join or an aggregate: all rows are taken at opening.
@@ -46,7 +44,6 @@ public:
     qint64 RowAt(Place place) const override { return place + 1; }
     Place Find(qint64 row, Place) override { return row >= 1 && row <= rows_.Rows() ? row - 1 : Nowhere; }
     Data Load(Place place) override { return {&rows_, static_cast<int>(place)}; }
-    bool StillThere() override { return true; }
 
 private:
     RowBlock rows_;

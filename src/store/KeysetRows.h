@@ -22,7 +22,8 @@ public:
     qint64 RowAt(Place place) const override;
     Place Find(qint64 row, Place likely) override;
     Data Load(Place place) override;
-    bool StillThere() override { return engine_.StillAt(stamp_) || engine_.StillAt(confirmed_); }
+    // Whether the row that Load gave is known to be in the store still.
+    bool StillThere() { return engine_.StillAt(stamp_) || engine_.StillAt(confirmed_); }
 
     // The first row of the cursor that is one of these (rising) identities.
     Place FirstOf(const std::vector<qint64>& rows);

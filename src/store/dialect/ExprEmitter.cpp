@@ -11,7 +11,9 @@ constexpr const char* Collation = " COLLATE VELTON";
 constexpr const char* RaiseOverflow = "abs(-9223372036854775807 - 1)";
 
 std::string PowerOfTen(int exponent) {
-    return "1" + std::string(static_cast<size_t>(exponent), '0');
+    std::string power(static_cast<size_t>(exponent) + 1, '0');
+    power.front() = '1';
+    return power;
 }
 
 // Only a column brings its collation along; an aggregate over it, say, does not.
