@@ -32,18 +32,26 @@ void OpenOptionsStore() {
     optionsStore = store::Database::Open(store::OptionsStorePath(output::ProgramFolder()), store::OptionsSchema());
 }
 
-void OpenMainStore() { mainStore = store::Database::Open(store::MainStorePath(output::ProgramFolder()), store::MainSchema()); }
+void OpenMainStore() {
+    mainStore = store::Database::Open(store::MainStorePath(output::ProgramFolder()), store::MainSchema());
+}
 
-store::Database& OptionsStore() { return Opened(optionsStore); }
+store::Database& OptionsStore() {
+    return Opened(optionsStore);
+}
 
-store::Database& MainStore() { return Opened(mainStore); }
+store::Database& MainStore() {
+    return Opened(mainStore);
+}
 
 void CloseStores() {
     mainStore.reset();
     optionsStore.reset();
 }
 
-void ExecuteSql(const QString& text) { MainStore().Execute(text); }
+void ExecuteSql(const QString& text) {
+    MainStore().Execute(text);
+}
 
 QString ProperCase(const QString& text) {
     if (text.isEmpty()) return {};
@@ -68,7 +76,9 @@ void FeedBlankLines(qint16 count) {
     for (int i = 0; i < count; ++i) output::Channel1().WriteLine({});
 }
 
-QString PadLeft(qint32 width, const QString& text) { return text.rightJustified(width); }
+QString PadLeft(qint32 width, const QString& text) {
+    return text.rightJustified(width);
+}
 
 QString PadRight(qint32 width, const QString& text) {
     if (width < 0) throw values::Error(InvalidCall, u"A text does not fit its line."_s);
@@ -80,7 +90,9 @@ bool FileExists(const QString& path) {
     return file.exists() && !file.isDir();
 }
 
-bool IsFormLoaded(const forms::Form* form) { return forms::IsFormLoaded(form); }
+bool IsFormLoaded(const forms::Form* form) {
+    return forms::IsFormLoaded(form);
+}
 
 qint16 LastEndReportNumber() {
     auto rs = MainStore().OpenRecordset(LastGrupniQuery);

@@ -138,8 +138,7 @@ void frmLogin::SetCompanyHeading() {
 void frmLogin::ProposeLoginNumber() {
     auto rs = MainStore().OpenRecordset(LastLoginQuery);
     rs.MoveFirst();
-    const qint16 last =
-        rs[u"current"].IsNull() ? qint16{0} : values::CInt16(values::Val(rs[u"current"].Text()));
+    const qint16 last = rs[u"current"].IsNull() ? qint16{0} : values::CInt16(values::Val(rs[u"current"].Text()));
     nextLogin_ = values::CInt16(last + 1);
     ui.txtLogInNumber->setText(QString::number(nextLogin_));
 }

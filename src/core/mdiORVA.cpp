@@ -110,9 +110,7 @@ void mdiORVA::BuildMenu() {
             QAction* action = entry.caption ? menu->addAction(QString::fromUtf16(entry.caption)) : menu->addSeparator();
             const QString name = QString::fromUtf16(entry.name);
             action->setObjectName(name);
-            connect(action, &QAction::triggered, this, [this, name] {
-                forms::Run([&] { Choose(name); }, Caption());
-            });
+            connect(action, &QAction::triggered, this, [this, name] { forms::Run([&] { Choose(name); }, Caption()); });
         }
     }
 }
@@ -145,9 +143,13 @@ void mdiORVA::Choose(const QString& name) {
     action();
 }
 
-void mdiORVA::TellStillToCome() { forms::Inform(StillToCome, Caption()); }
+void mdiORVA::TellStillToCome() {
+    forms::Inform(StillToCome, Caption());
+}
 
-void mdiORVA::SetEntry(const QString& name, std::function<void()> action) { entries_[name] = std::move(action); }
+void mdiORVA::SetEntry(const QString& name, std::function<void()> action) {
+    entries_[name] = std::move(action);
+}
 
 void mdiORVA::SetEntryEnabled(const QString& name, bool enabled) {
     if (auto* menu = findChild<QMenu*>(name))
@@ -161,9 +163,13 @@ void mdiORVA::ApplyAccessLevel(const QString& accLevel) {
     for (const QString& name : EntriesSwitchedOn(accLevel)) SetEntryEnabled(name, true);
 }
 
-QString mdiORVA::RunningTotal() const { return panels_[4]->text(); }
+QString mdiORVA::RunningTotal() const {
+    return panels_[4]->text();
+}
 
-void mdiORVA::SetRunningTotal(const QString& text) { panels_[4]->setText(text); }
+void mdiORVA::SetRunningTotal(const QString& text) {
+    panels_[4]->setText(text);
+}
 
 void mdiORVA::ShowRunningTotal(bool visible) {
     panels_[3]->setVisible(visible);

@@ -1,6 +1,5 @@
 #include "masterdata/Module1.h"
 
-
 #include "core/dbModule.h"
 #include "forms/Controls.h"
 #include "forms/Form.h"
@@ -15,7 +14,9 @@ namespace {
 const auto TabsQuery = u"Select * from TabControl"_s;
 const auto PlacedQuery = u"Select ProdDescription, ProdCode, UnitPrice, Tab, Pict from Products where tab > -1"_s;
 
-ClickTable& TableOf(const forms::Form* form) { return *form->findChild<ClickTable*>(); }
+ClickTable& TableOf(const forms::Form* form) {
+    return *form->findChild<ClickTable*>();
+}
 
 }  // namespace
 

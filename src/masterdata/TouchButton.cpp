@@ -63,10 +63,13 @@ void TouchButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const bool taken = !tag_.isEmpty() && isEnabled();
-    const QColor paper = isDown() && taken ? forms::Tokens::ChosenRow : taken ? forms::Tokens::Paper : forms::Tokens::Free;
+    const QColor paper = isDown() && taken ? forms::Tokens::ChosenRow
+                         : taken           ? forms::Tokens::Paper
+                                           : forms::Tokens::Free;
     painter.setPen(QPen(taken ? forms::Tokens::TouchLine : forms::Tokens::Line, 1));
     painter.setBrush(paper);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), forms::Tokens::Corner, forms::Tokens::Corner);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), forms::Tokens::Corner,
+                            forms::Tokens::Corner);
     if (!text().isEmpty()) PaintFace(painter);
 }
 
@@ -95,5 +98,6 @@ void TouchButton::PaintFace(QPainter& painter) const {
     priceFont.setBold(true);
     painter.setFont(priceFont);
     painter.setPen(isEnabled() ? forms::Tokens::Accent : forms::Tokens::Muted);
-    painter.drawText(QRect(face.left(), face.bottom() - PriceHeight + 1, face.width(), PriceHeight), Qt::AlignCenter, price);
+    painter.drawText(QRect(face.left(), face.bottom() - PriceHeight + 1, face.width(), PriceHeight), Qt::AlignCenter,
+                     price);
 }

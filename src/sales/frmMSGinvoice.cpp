@@ -36,4 +36,6 @@ void frmMSGinvoice::txtCash_Enter() {
     ui.txtChange->clear();
 }
 
-void frmMSGinvoice::cmdOK_Click() { Unload(); }
+void frmMSGinvoice::cmdOK_Click() {
+    Unload();
+}

@@ -36,17 +36,31 @@ const auto RunningTotalPattern = u"###,###,##0.00"_s;
 
 frmORVAtouch::frmORVAtouch() {
     ui.setupUi(this);
-    ui.lv1->SetColumns({{u"Code"_s, Qt::AlignLeft, 128}, {u"Product name"_s, Qt::AlignLeft, -1},
-                        {u"Price"_s, Qt::AlignRight, 78}, {u"Quantity"_s, Qt::AlignRight, 76},
-                        {u"Amount"_s, Qt::AlignRight, 76}, {u"Tax %"_s, Qt::AlignRight, 60},
-                        {u"Tax"_s, Qt::AlignRight, 0}, {u"Unit"_s, Qt::AlignLeft, 0},
-                        {u"TaxID"_s, Qt::AlignLeft, 0}, {u"ID"_s, Qt::AlignLeft, 0}});
-    ui.lvPorez->SetColumns({{u"TaxID"_s, Qt::AlignLeft, -1}, {{}, Qt::AlignLeft, 0}, {u"Rate"_s, Qt::AlignRight, 60},
-                            {u"Amount"_s, Qt::AlignRight, 84}, {u"Tax"_s, Qt::AlignRight, 74}});
+    ui.lv1->SetColumns({{u"Code"_s, Qt::AlignLeft, 128},
+                        {u"Product name"_s, Qt::AlignLeft, -1},
+                        {u"Price"_s, Qt::AlignRight, 78},
+                        {u"Quantity"_s, Qt::AlignRight, 76},
+                        {u"Amount"_s, Qt::AlignRight, 76},
+                        {u"Tax %"_s, Qt::AlignRight, 60},
+                        {u"Tax"_s, Qt::AlignRight, 0},
+                        {u"Unit"_s, Qt::AlignLeft, 0},
+                        {u"TaxID"_s, Qt::AlignLeft, 0},
+                        {u"ID"_s, Qt::AlignLeft, 0}});
+    ui.lvPorez->SetColumns({{u"TaxID"_s, Qt::AlignLeft, -1},
+                            {{}, Qt::AlignLeft, 0},
+                            {u"Rate"_s, Qt::AlignRight, 60},
+                            {u"Amount"_s, Qt::AlignRight, 84},
+                            {u"Tax"_s, Qt::AlignRight, 74}});
 
-    FunctionKeys({{Qt::Key_Escape, ui.cmdESCponisti}, {Qt::Key_F1, ui.cmdHelp}, {Qt::Key_F2, ui.cmdF2izaberi},
-                  {Qt::Key_F5, ui.cmdNew}, {Qt::Key_F6, ui.cmdPrijava}, {Qt::Key_F7, ui.cmdOdjava},
-                  {Qt::Key_F8, ui.cmdTraka}, {Qt::Key_F9, ui.cmdOsvjezi}, {Qt::Key_F10, ui.cmdNoviArtikal},
+    FunctionKeys({{Qt::Key_Escape, ui.cmdESCponisti},
+                  {Qt::Key_F1, ui.cmdHelp},
+                  {Qt::Key_F2, ui.cmdF2izaberi},
+                  {Qt::Key_F5, ui.cmdNew},
+                  {Qt::Key_F6, ui.cmdPrijava},
+                  {Qt::Key_F7, ui.cmdOdjava},
+                  {Qt::Key_F8, ui.cmdTraka},
+                  {Qt::Key_F9, ui.cmdOsvjezi},
+                  {Qt::Key_F10, ui.cmdNoviArtikal},
                   {Qt::Key_F12, ui.cmdLogOff}});
     HighlightOnFocus({ui.txtProdCode, ui.txtQuantity, ui.txtKupac, ui.txtIB});
     ShrinkFigures({ui.txtQuantity, ui.txtUnitPrice, ui.txtPrice, ui.txtTotalAmount});
@@ -77,9 +91,7 @@ frmORVAtouch::frmORVAtouch() {
     On(ui.cmdNoviArtikal, &frmORVAtouch::cmdNoviArtikal_Click);
     On(ui.cmdLogOff, &frmORVAtouch::cmdLogOff_Click);
     On(ui.cmdHelp, &frmORVAtouch::cmdHelp_Click);
-    connect(ui.clickTable, &ClickTable::Clicked, this, [this](int index) {
-        Run([&] { Command2_Click(index); });
-    });
+    connect(ui.clickTable, &ClickTable::Clicked, this, [this](int index) { Run([&] { Command2_Click(index); }); });
     CloseInvoice();
     for (QWidget* customer : {static_cast<QWidget*>(ui.panelCustomer), static_cast<QWidget*>(ui.lblKupac),
                               static_cast<QWidget*>(ui.txtKupac), static_cast<QWidget*>(ui.txtIB)})
@@ -160,12 +172,13 @@ void frmORVAtouch::FindNumbers() {
 }
 
 // Above 32 bits an overflow, not a number that counts on from below.
-qint32 frmORVAtouch::Next(qint32 number) { return values::CInt32(double{1} + number); }
+qint32 frmORVAtouch::Next(qint32 number) {
+    return values::CInt32(double{1} + number);
+}
 
 void frmORVAtouch::cmdNew_Click() {
     if (ui.cmdNew->text() == NewCaption) return OpenInvoice();
-    if (ui.cboID->currentText().isEmpty())
-        return forms::Inform(u"Choose cashier."_s, mdiORVA::Window().Caption());
+    if (ui.cboID->currentText().isEmpty()) return forms::Inform(u"Choose cashier."_s, mdiORVA::Window().Caption());
     if (ui.lv1->Count() == 0) {
         forms::Inform(u"You did not enter a single item on the invoice."_s, mdiORVA::Window().Caption());
         ui.txtProdCode->setFocus();
@@ -200,9 +213,9 @@ void frmORVAtouch::ShowOnButton(const QString& caption, const QString& picture) 
 void frmORVAtouch::cmdESCponisti_Click() {
     if (!forms::Ask(u"Do you want cancel the invoice?"_s, mdiORVA::Window().Caption())) return;
     ui.lv1->Clear();
-    for (QLineEdit* box : {ui.txtProdCode, ui.txtTotalAmount, ui.txtTaxTotal, ui.txtInvoiceNumber, ui.txtORNumber,
-                           ui.txtKupac, ui.txtIB, ui.txtTaxPercent, ui.txtUnitPrice, ui.txtQuantity, ui.txtPrice,
-                           ui.txtTaxAmount, ui.txtPosDisplay})
+    for (QLineEdit* box :
+         {ui.txtProdCode, ui.txtTotalAmount, ui.txtTaxTotal, ui.txtInvoiceNumber, ui.txtORNumber, ui.txtKupac, ui.txtIB,
+          ui.txtTaxPercent, ui.txtUnitPrice, ui.txtQuantity, ui.txtPrice, ui.txtTaxAmount, ui.txtPosDisplay})
         box->clear();
     CloseInvoice();
     if (TheSettings.NoviRacunAutomatski) cmdNew_Click();
@@ -225,13 +238,22 @@ void frmORVAtouch::cmdOdjava_Click() {
     ui.cboID->setEditText({});
 }
 
-void frmORVAtouch::cmdTraka_Click() { mdiORVA::Window().Choose(u"mnuTrakaRacuna"_s); }
+void frmORVAtouch::cmdTraka_Click() {
+    mdiORVA::Window().Choose(u"mnuTrakaRacuna"_s);
+}
 
-void frmORVAtouch::cmdNoviArtikal_Click() { mdiORVA::Window().Choose(u"mnuPregledRacuna"_s); }
+void frmORVAtouch::cmdNoviArtikal_Click() {
+    mdiORVA::Window().Choose(u"mnuPregledRacuna"_s);
+}
 
-void frmORVAtouch::cmdHelp_Click() { mdiORVA::Window().Choose(u"mnuHelp1"_s); }
+void frmORVAtouch::cmdHelp_Click() {
+    HelpFileName = u"\\helpVELTON.rtf"_s;
+    mdiORVA::Window().Choose(u"mnuHelp1"_s);
+}
 
-void frmORVAtouch::cmdLogOff_Click() { LogOff(); }
+void frmORVAtouch::cmdLogOff_Click() {
+    LogOff();
+}
 
 void frmORVAtouch::cmdOsvjezi_Click() {
     ui.clickTable->Clear();

@@ -71,7 +71,9 @@ void frmORVAtouch::txtProdCode_Change() {
     }
 }
 
-void frmORVAtouch::txtProdCode_LostFocus() { CheckProductFound(); }
+void frmORVAtouch::txtProdCode_LostFocus() {
+    CheckProductFound();
+}
 
 void frmORVAtouch::CheckProductFound() {
     if (ui.txtProdCode->text().isEmpty() || !ui.txtDescription->text().isEmpty()) return;
@@ -99,7 +101,9 @@ void frmORVAtouch::txtProdCode_Enter() {
     ui.txtQuantity->setFocus();
 }
 
-void frmORVAtouch::txtDescription_Change() { ToggleAddButton(); }
+void frmORVAtouch::txtDescription_Change() {
+    ToggleAddButton();
+}
 
 void frmORVAtouch::txtQuantity_Enter() {
     ToggleAddButton();

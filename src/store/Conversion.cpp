@@ -11,6 +11,13 @@ using values::Value;
 
 namespace {
 
+// The usual conversion drops a byte order mark at the start, but what was stored is what must come back.
+QString FromUtf8(QByteArrayView text) {
+    constexpr QByteArrayView mark("\xEF\xBB\xBF");
+    if (!text.startsWith(mark)) return QString::fromUtf8(text);
+    return QChar(QChar::ByteOrderMark) + QString::fromUtf8(text.sliced(mark.size()));
+}
+
 constexpr int MoneyDecimals = 4;
 
 // An exact number of so many decimals as a double.
@@ -101,7 +108,7 @@ Value FromStored(const RowBlock& rows, const RowBlock::Cell& cell, const dialect
         case Kind::Integer:
             return FromInteger(cell.integer, column.type, column.scale);
         case Kind::Text:
-            return QString::fromUtf8(rows.Text(cell));
+            return FromUtf8(rows.Text(cell));
         case Kind::Real:
             return FromReal(cell.real, column.type, column.scale);
         case Kind::Null:
@@ -112,7 +119,7 @@ Value FromStored(const RowBlock& rows, const RowBlock::Cell& cell, const dialect
 }
 
 Value FromStored(const BoundValue& stored, Type type) {
-    if (const auto* text = std::get_if<QByteArray>(&stored)) return QString::fromUtf8(*text);
+    if (const auto* text = std::get_if<QByteArray>(&stored)) return FromUtf8(*text);
     if (const auto* integer = std::get_if<qint64>(&stored)) return FromInteger(*integer, type, 0);
     if (const auto* real = std::get_if<double>(&stored)) return *real;
     return {};

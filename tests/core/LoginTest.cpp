@@ -75,7 +75,8 @@ TEST_F(LoginTest, WritesTheLogRowAndStartsTheSession) {
 
     Crash();
     ShowLogin();
-    EXPECT_EQ(Box(Login(), u"txtLogInNumber"), u"2") << "a crashed session leaves its row, the next takes the next number";
+    EXPECT_EQ(Box(Login(), u"txtLogInNumber"), u"2")
+        << "a crashed session leaves its row, the next takes the next number";
 }
 
 TEST_F(LoginTest, StaysWhateverTheUserWaits) {

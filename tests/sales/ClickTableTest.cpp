@@ -11,9 +11,7 @@ namespace {
 
 class ClickTableTest : public drivers::TillTest {
 protected:
-    TouchButton* Button(int index) const {
-        return drivers::Get<TouchButton>(Sales(), u"Command2_%1"_s.arg(index));
-    }
+    TouchButton* Button(int index) const { return drivers::Get<TouchButton>(Sales(), u"Command2_%1"_s.arg(index)); }
 };
 
 TEST_F(ClickTableTest, OneTouchPutsALineOnTheInvoice) {

@@ -87,7 +87,8 @@ TEST_F(CrashTest, EightRegistersSellOneProductAndTheStockIsExact) {
               QStringList{QString::number(20 - 3 * registers * invoices)});
     EXPECT_EQ(Rows(u"SELECT Qty FROM Products WHERE ProdCode = '300'"_s),
               QStringList{QString::number(10 - registers * invoices)});
-    EXPECT_EQ(Rows(u"SELECT Count(*) AS n FROM SalesDetails"_s), QStringList{QString::number(3 * registers * invoices)});
+    EXPECT_EQ(Rows(u"SELECT Count(*) AS n FROM SalesDetails"_s),
+              QStringList{QString::number(3 * registers * invoices)});
     ExpectSoundStore();
 }
 

@@ -21,7 +21,9 @@ protected:
     ItemEntryTest() = default;
 
     QStringList Line(size_t row = 0) const { return List(Sales(), u"lv1").at(row); }
-    QString Focus() const { return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString(); }
+    QString Focus() const {
+        return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString();
+    }
     forms::ListView* Lines() const { return drivers::Get<forms::ListView>(Sales(), u"lv1"); }
 };
 
@@ -29,7 +31,8 @@ TEST_F(ItemEntryTest, ScanningThreeTimesGivesOneLineOfThree) {
     LogIn();
     Keys(u"3850104003217{Enter}");
     EXPECT_EQ(Line(), (QStringList{u"3850104003217"_s, u"Mlijeko 2,8 % 1 l"_s, u"2.35"_s, u"1"_s, u"2.35"_s, u"17.00"_s,
-                                   u"0.34"_s, u"pcs"_s, u"P"_s, Rows(u"SELECT ID FROM Products WHERE ProdCode = '3850104003217'"_s)[0]}));
+                                   u"0.34"_s, u"pcs"_s, u"P"_s,
+                                   Rows(u"SELECT ID FROM Products WHERE ProdCode = '3850104003217'"_s)[0]}));
     EXPECT_EQ(Shown(u"txtPosDisplay"), u"1 x Mlijeko 2,8 % 1 l   2.35 = 2.35");
     Keys(u"3850104003217{Enter}3850104003217{Enter}");
     ASSERT_EQ(List(Sales(), u"lv1").size(), 1u);
@@ -82,7 +85,9 @@ TEST_F(ItemEntryTest, TellsAnUnknownCode) {
     LogIn();
     {
         Boxes boxes;
-        boxes.Expect(Unknown).WithIcon(QMessageBox::Information).Titled(u"Product with this ID-barcode does not exist"_s);
+        boxes.Expect(Unknown)
+            .WithIcon(QMessageBox::Information)
+            .Titled(u"Product with this ID-barcode does not exist"_s);
         Keys(u"777{Enter}");
     }
     EXPECT_EQ(Shown(u"txtProdCode"), u"777") << "kept and selected";
@@ -111,9 +116,9 @@ TEST_F(ItemEntryTest, QuantitiesAreCutToThreeDecimals) {
         const char16_t* quantity;
         const char16_t* amount;
     };
-    for (const auto& [typed, quantity, amount] : {Case{u"1.2345", u"1.234", u"4.81"}, Case{u"-1.2345", u"-1.235", u"-4.82"},
-                                                  Case{u"0", u"0", u"0.00"}, Case{u"-2", u"-2", u"-7.80"},
-                                                  Case{u"12x3", u"123", u"479.70"}}) {
+    for (const auto& [typed, quantity, amount] :
+         {Case{u"1.2345", u"1.234", u"4.81"}, Case{u"-1.2345", u"-1.235", u"-4.82"}, Case{u"0", u"0", u"0.00"},
+          Case{u"-2", u"-2", u"-7.80"}, Case{u"12x3", u"123", u"479.70"}}) {
         drivers::Type(Sales(), u"txtProdCode", u"200{Enter}");
         Keys(typed);
         EXPECT_EQ(Shown(u"txtQuantity"), quantity);

@@ -43,7 +43,9 @@ TEST_F(LogOffTest, TheEndReportClosesEveryPeriodAndTheNextBegins) {
     {
         Boxes boxes;
         boxes.Expect(Report, QMessageBox::Yes);
-        boxes.Expect(u"End Report is done?"_s).WithIcon(QMessageBox::Warning).Titled(u"End Report 11/24/2026 10:42:07 AM"_s);
+        boxes.Expect(u"End Report is done?"_s)
+            .WithIcon(QMessageBox::Warning)
+            .Titled(u"End Report 11/24/2026 10:42:07 AM"_s);
         boxes.Expect(Close, QMessageBox::No);
         Keys(u"{F12}");
     }

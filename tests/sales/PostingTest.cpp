@@ -18,10 +18,12 @@ TEST_F(PostingTest, WritesHeadLinesStockAndPeriod) {
     Setting(u"Kasa"_s, 3);
     LogIn();
     Keys(u"100{Enter}100{Enter}300{Enter}{F5}");
-    EXPECT_EQ(Rows(u"SELECT Kas, SalesID, InvoiceID, OrNo, CashierID, CashierName, PaymentType, CashAmount, TaxTotal, CheckAmount, "
+    EXPECT_EQ(Rows(u"SELECT Kas, SalesID, InvoiceID, OrNo, CashierID, CashierName, PaymentType, CashAmount, TaxTotal, "
+                   u"CheckAmount, "
                    u"CheckNo, Bank, Kupac, IB FROM Invoices WHERE DateSold = #11-24-2026#"_s),
               QStringList{u"0|1|1|1|2|%1|0|5|0.44|0|0| ||"_s.arg(TheSession.SessionUserName)});
-    EXPECT_EQ(Rows(u"SELECT Kas, InvoiceID, ProdCode, ProdDescription, UnitPrice, QtySold, Amount, TaxPercent, TaxAmount, Unit, "
+    EXPECT_EQ(Rows(u"SELECT Kas, InvoiceID, ProdCode, ProdDescription, UnitPrice, QtySold, Amount, TaxPercent, "
+                   u"TaxAmount, Unit, "
                    u"TaxID FROM SalesDetails"_s),
               (QStringList{u"0|1|100|Cola|1.5|2|3|17|0.44|pcs|P"_s, u"0|1|300|Novine|2|1|2|0|0|pcs|N"_s}));
     EXPECT_EQ(Stock(u"100"_s), u"18");

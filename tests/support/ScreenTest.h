@@ -4,9 +4,9 @@
 
 #include <QTemporaryDir>
 
+#include "player/Keys.h"
 #include "support/Answers.h"
 #include "support/Controls.h"
-#include "player/Keys.h"
 
 namespace drivers {
 

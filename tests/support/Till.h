@@ -2,8 +2,8 @@
 
 #include "core/mdiORVA.h"
 #include "forms/Form.h"
-#include "support/ScreenTest.h"
 #include "store/Database.h"
+#include "support/ScreenTest.h"
 
 namespace drivers {
 

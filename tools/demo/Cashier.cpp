@@ -20,7 +20,9 @@ namespace {
 
 constexpr int LookEvery = 5;  // milliseconds
 
-[[noreturn]] void GiveUp(const QString& words) { throw std::runtime_error(words.toStdString()); }
+[[noreturn]] void GiveUp(const QString& words) {
+    throw std::runtime_error(words.toStdString());
+}
 
 }  // namespace
 
@@ -97,7 +99,9 @@ void Cashier::Touch(const QString& name) {
     GiveUp(u"There is no touch button for %1."_s.arg(name));
 }
 
-void Cashier::Press(const QString& keys) { drivers::Keys(keys); }
+void Cashier::Press(const QString& keys) {
+    drivers::Keys(keys);
+}
 
 void Cashier::Post(const QString& cash) {
     cash_ = cash;
@@ -107,7 +111,9 @@ void Cashier::Post(const QString& cash) {
     if (Shown(u"txtInvoiceNumber"_s) == number) GiveUp(u"Invoice %1 was not posted."_s.arg(number));
 }
 
-void Cashier::Answer(const QString& text, bool yes) { answers_ << std::pair(text, yes); }
+void Cashier::Answer(const QString& text, bool yes) {
+    answers_ << std::pair(text, yes);
+}
 
 void Cashier::PressAndAnswer(const QString& keys) {
     drivers::Keys(keys);

@@ -8,7 +8,8 @@ using values::Format;
 
 namespace {
 
-const auto InvoicesQuery = u"SELECT Val(OrNo) AS No, TimeSold, CashierName, CashAmount FROM Invoices ORDER BY Val(OrNo)"_s;
+const auto InvoicesQuery =
+    u"SELECT Val(OrNo) AS No, TimeSold, CashierName, CashAmount FROM Invoices ORDER BY Val(OrNo)"_s;
 const auto ProductsQuery =
     u"SELECT ProdDescription, Unit, Sum(QtySold) AS Qty, Sum(Amount) AS Amount"
     u" FROM SalesDetails GROUP BY ProdDescription, Unit ORDER BY ProdDescription"_s;
@@ -28,8 +29,7 @@ QString DayReport(store::Database& main) {
     lines << PadLeft(40, u"TOTAL: "_s + Format(total, u"0.00")) << QString();
     auto products = main.OpenRecordset(ProductsQuery);
     for (auto& product : products)
-        lines << PadRight(24, product[u"ProdDescription"].TextOrEmpty()) + PadLeft(5, product[u"Qty"].Text()) +
-                     u" "_s + PadRight(3, product[u"Unit"].TextOrEmpty()) +
-                     PadLeft(7, Format(product[u"Amount"], u"0.00"));
+        lines << PadRight(24, product[u"ProdDescription"].TextOrEmpty()) + PadLeft(5, product[u"Qty"].Text()) + u" "_s +
+                     PadRight(3, product[u"Unit"].TextOrEmpty()) + PadLeft(7, Format(product[u"Amount"], u"0.00"));
     return lines.join(u'\n');
 }

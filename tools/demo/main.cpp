@@ -29,7 +29,8 @@ void ClearFolder(const QString& path) {
     if (!folder.exists()) return;
     if (!folder.isEmpty() && !folder.exists(u"ORVA.pos"_s))
         throw std::runtime_error("The folder " + path.toStdString() + " holds something else than a shop.");
-    if (!folder.removeRecursively()) throw std::runtime_error("The folder " + path.toStdString() + " can't be cleared.");
+    if (!folder.removeRecursively())
+        throw std::runtime_error("The folder " + path.toStdString() + " can't be cleared.");
 }
 
 void Print(const QString& title, const QString& text) {
