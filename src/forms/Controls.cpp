@@ -12,6 +12,8 @@
 #include <QPlainTextEdit>
 #include <QTextEdit>
 
+#include "forms/TextView.h"
+
 namespace forms {
 
 namespace {
@@ -44,6 +46,7 @@ QString TextOf(const QWidget* control) {
     if (const auto* box = qobject_cast<const QComboBox*>(control)) return box->currentText();
     if (const auto* label = qobject_cast<const QLabel*>(control)) return label->text();
     if (const auto* button = qobject_cast<const QAbstractButton*>(control)) return button->text();
+    if (const auto* view = qobject_cast<const TextView*>(control)) return view->PlainText();
     if (const auto* view = qobject_cast<const QPlainTextEdit*>(control)) return view->toPlainText();
     if (const auto* view = qobject_cast<const QTextEdit*>(control)) return view->toPlainText();
     return {};

@@ -130,6 +130,8 @@ QTreeView, QTableView, QListView {
     outline: none; selection-background-color: @chosenRow; selection-color: @ink;
 }
 QTreeView:focus, QTableView:focus, QListView:focus { border-color: @accent; }
+forms--TextView { background: @paper; border: 1px solid @line; border-radius: @corner; }
+forms--TextView:focus { border-color: @accent; }
 QTreeView:disabled { color: @faint; }
 QTreeView::item { padding: 0 8px; border: none; color: @ink; }
 QTreeView::item:selected, QTreeView::item:selected:!active { background: @chosenRow; color: @ink; }

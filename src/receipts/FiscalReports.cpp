@@ -1,0 +1,20 @@
+#include "receipts/FiscalReports.h"
+
+#include "core/Settings.h"
+#include "core/mdiORVA.h"
+#include "forms/MsgBox.h"
+#include "receipts/FiscalFile.h"
+#include "receipts/FiscalRecords.h"
+
+using namespace Qt::StringLiterals;
+
+void XReport() {
+    AppendFiscalRecords({FiscalTextRecord(u"x report"_s, WebAddressLine), FiscalXRecord()});
+    forms::Inform(u"X report is done."_s, mdiORVA::Window().Caption());
+}
+
+void ZReport() {
+    AppendFiscalRecords(
+        {FiscalTextRecord(u"daily report"_s, WebAddressLine), FiscalZRecord(), FiscalTextRecord(WebAddressLine, {})});
+    forms::Inform(u"Z report - daily report is done."_s, mdiORVA::Window().Caption());
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "forms/ListView.h"
+#include "receipts/InvoiceText.h"
+
+// The two lists that show an invoice on a screen, whose texts are the figures themselves:
+//   lines   code, description, unit price, quantity, amount, tax percent, tax amount, unit, TaxID, product ID
+//   recap   TaxID, nothing, percent, amount, tax amount
+
+// Adds a line to the tax recapitulation: one row a TaxID in the order of first appearance, each sum rounded to "0.00"
+// at every step. Gives the row that the line joined, -1 when it began a new one.
+int AddToTaxRecap(const forms::ListView& lines, int line, forms::ListView& recap);
+// The recapitulation of all lines anew; the row that a line joined last is selected.
+void RebuildTaxRecap(const forms::ListView& lines, forms::ListView& recap);
+
+QList<InvoiceText::Item> ItemsOf(const forms::ListView& lines);
+QList<InvoiceText::Tax> TaxesOf(const forms::ListView& recap);

@@ -1,0 +1,61 @@
+#include "receipts/ReviewReceipt.h"
+
+#include "core/Settings.h"
+#include "core/dbModule.h"
+#include "output/Channel.h"
+#include "output/Folder.h"
+#include "receipts/InvoiceOutput.h"
+#include "receipts/ItemLayouts.h"
+#include "receipts/ReceiptParts.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto PreviewMode = u"2"_s;
+constexpr qint16 PreviewBlankLines = 2;
+
+// Paper and preview do not name the number alike when it shares its line with the date.
+const auto PaperLabel = u"Invoice No"_s;
+const auto PreviewLabel = u"Invoice No:"_s;
+const auto OwnLineLabel = u"Invoice No:"_s;
+
+void PrintReviewHeading(const QString& OutputMode) {
+    PrintToChannel(OutputMode, TheSettings.NazivFirme);
+    PrintShopLines(OutputMode);
+}
+
+void PrintReviewDateBlock(const QString& OutputMode, const QString& label, const QString& orNo) {
+    const bool isNarrow = TheSettings.TipRacuna == u"6" || TheSettings.TipRacuna == u"7";
+    if (isNarrow) return PrintDateAndNumberLines(OutputMode, OwnLineLabel, orNo);
+    PrintNumberLine(OutputMode, label, orNo);
+}
+
+void PrintReviewText(const QString& OutputMode, const QString& label, const InvoiceText& invoice) {
+    PrintReviewHeading(OutputMode);
+    PrintReviewDateBlock(OutputMode, label, invoice.orNo);
+    if (TheSettings.TipRacuna != u"5") PrintItems(OutputMode, invoice);
+    PrintInvoiceTotals(OutputMode, invoice);
+    PrintTaxRecapitulationIfWanted(OutputMode, invoice);
+    PrintInvoiceFooter(OutputMode, invoice);
+}
+
+}  // namespace
+
+void ReprintInvoice(const InvoiceText& invoice) {
+    PrintOrEndProgram([&] {
+        const QString OutputMode = TheSettings.PrinterZaRacun;
+        OpenInvoiceOutput(OutputMode);
+        PrintReviewText(OutputMode, PaperLabel, invoice);
+        FinishInvoiceOutput(OutputMode);
+    });
+}
+
+void AppendInvoiceToPreview(const InvoiceText& invoice) {
+    PrintOrEndProgram([&] {
+        output::Channel1().OpenForAppend(output::InProgramFolder(PreviewFile));
+        PrintReviewText(PreviewMode, PreviewLabel, invoice);
+        FeedBlankLines(PreviewBlankLines);
+        output::Channel1().Close();
+    });
+}

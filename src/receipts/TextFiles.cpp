@@ -1,0 +1,105 @@
+#include "receipts/TextFiles.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include "core/Settings.h"
+#include "core/dbModule.h"
+#include "output/Channel.h"
+#include "output/CodePage.h"
+#include "output/PagePrinter.h"
+#include "receipts/InvoiceOutput.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 ChunkSize = 1024 * 1024;
+
+int NumberOf(QFileDevice::FileError error) {
+    switch (error) {
+        case QFileDevice::PermissionsError:
+            return output::PermissionDenied;
+        case QFileDevice::ResourceError:
+        case QFileDevice::WriteError:
+            return output::DiskFull;
+        default:
+            return output::PathNotFound;
+    }
+}
+
+[[noreturn]] void ThrowFileError(const QString& action, const QFileDevice& file) {
+    throw values::Error(NumberOf(file.error()), action + file.fileName() + u": "_s + file.errorString() + u'.');
+}
+
+void OpenForReading(QFile& file) {
+    if (!file.open(QIODevice::ReadOnly)) ThrowFileError(u"Cannot read "_s, file);
+}
+
+QByteArray WithoutLineEnd(QByteArray line) {
+    if (line.endsWith('\n')) line.chop(1);
+    if (line.endsWith('\r')) line.chop(1);
+    return line;
+}
+
+void PrintLines(QFile& file, const std::function<void(int)>& progress,
+                const std::function<void(const QByteArray&)>& print) {
+    const qint64 size = qMax(file.size(), qint64{1});
+    int told = 0;
+    while (!file.atEnd()) {
+        print(WithoutLineEnd(file.readLine()));
+        const int percent = static_cast<int>(file.pos() * 100 / size);
+        if (percent == told) continue;
+        told = percent;
+        progress(percent);
+    }
+    if (file.error() != QFileDevice::NoError) ThrowFileError(u"Cannot read "_s, file);
+}
+
+void PrintOnPort(const QString& port, QFile& file, const std::function<void(int)>& progress) {
+    output::Channel1().OpenPort(port);
+    OpenForReading(file);
+    // The bytes as they lie there: the file is in the code page of the ports already.
+    PrintLines(file, progress, [](const QByteArray& line) { output::Channel1().WriteBytes(line + "\r\n"); });
+    output::Channel1().Close();
+}
+
+void PrintOnPages(QFile& file, const std::function<void(int)>& progress) {
+    SetPageFont();
+    OpenForReading(file);
+    PrintLines(file, progress,
+               [](const QByteArray& line) { output::ThePagePrinter().PrintLine(output::FromCodePage(line)); });
+    output::ThePagePrinter().EndJob();
+}
+
+}  // namespace
+
+void PrintTextFile(const QString& path, const std::function<void(int)>& progress) {
+    PrintOrEndProgram([&] {
+        QFile file(path);
+        const QString& printer = TheSettings.PrinterZaIzvjestaj;
+        if (printer == u"1") PrintOnPort(u"lpt1:"_s, file, progress);
+        if (printer == u"2") PrintOnPort(u"lpt2:"_s, file, progress);
+        if (printer == u"3") PrintOnPages(file, progress);
+    });
+}
+
+void CopyTextFile(const QString& from, const QString& to) {
+    QFile source(from);
+    OpenForReading(source);
+    // Written beside the name and put in its place at the end.
+    QSaveFile copy(to);
+    if (!copy.open(QIODevice::WriteOnly)) ThrowFileError(u"Cannot save "_s, copy);
+    QByteArray chunk;
+    while (!(chunk = source.read(ChunkSize)).isEmpty())
+        if (copy.write(chunk) != chunk.size()) ThrowFileError(u"Cannot save "_s, copy);
+    if (source.error() != QFileDevice::NoError) ThrowFileError(u"Cannot read "_s, source);
+    if (!copy.commit()) ThrowFileError(u"Cannot save "_s, copy);
+}
+
+void DeleteTextFile(const QString& path) {
+    if (!FileExists(path)) return;
+    QFile file(path);
+    if (!file.remove()) ThrowFileError(u"Cannot delete "_s, file);
+}

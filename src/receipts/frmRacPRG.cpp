@@ -1,0 +1,170 @@
+#include "receipts/frmRacPRG.h"
+
+#include "core/Session.h"
+#include "core/dbModule.h"
+#include "core/mdiORVA.h"
+#include "forms/MsgBox.h"
+#include "output/Folder.h"
+#include "receipts/InvoiceLists.h"
+#include "receipts/InvoiceOutput.h"
+#include "receipts/ReviewReceipt.h"
+#include "receipts/TextFiles.h"
+#include "receipts/frmRacunPregled.h"
+#include "values/Format.h"
+
+using namespace Qt::StringLiterals;
+using values::Format;
+
+namespace {
+
+const auto InvoicesQuery =
+    u"SELECT InvoiceID, Val(OrNo) as No, DateSold, TimeSold, CashAmount, TaxTotal, CashierName"
+    u" FROM Invoices "_s;
+const auto InvoicesOrder = u" ORDER BY Val(OrNo)"_s;
+const auto DetailsQuery =
+    u"SELECT ProdCode, ProdDescription, UnitPrice, QtySold, Unit, Amount, Taxamount, TaxPercent, TaxID, InvoiceID"
+    u" FROM SalesDetails"_s;
+
+const auto PreviewTitle = u"Review Invoice"_s;
+
+}  // namespace
+
+frmRacPRG::frmRacPRG() {
+    ui.setupUi(this);
+    ui.lv1->SetColumns({{u"Code"_s, Qt::AlignLeft, 128},
+                        {u"Product name"_s, Qt::AlignLeft, -1},
+                        {u"Price"_s, Qt::AlignRight, 78},
+                        {u"Quantity"_s, Qt::AlignRight, 76},
+                        {u"Amount"_s, Qt::AlignRight, 76},
+                        {u"Tax %"_s, Qt::AlignRight, 60},
+                        {u"Tax"_s, Qt::AlignRight, 70},
+                        {u"Unit"_s, Qt::AlignLeft, 60},
+                        {u"TaxID"_s, Qt::AlignLeft, 0}});
+    ui.lvPorez->SetColumns({{u"TaxID"_s, Qt::AlignLeft, -1},
+                            {{}, Qt::AlignLeft, 0},
+                            {u"Rate"_s, Qt::AlignRight, 60},
+                            {u"Amount"_s, Qt::AlignRight, 84},
+                            {u"Tax"_s, Qt::AlignRight, 74}});
+    ShrinkFigures({ui.txtTotalAmount});
+    // F6 has no action behind it, and neither has its button.
+    FunctionKeys({{Qt::Key_Escape, ui.cmdClose},
+                  {Qt::Key_F1, ui.cmdHelp},
+                  {Qt::Key_F4, ui.cmdSacuvaj},
+                  {Qt::Key_F5, ui.cmdPrint},
+                  {Qt::Key_F7, ui.Command1},
+                  {Qt::Key_F12, ui.cmdClose}});
+    On(ui.cmdPrint, &frmRacPRG::cmdPrint_Click);
+    On(ui.cmdSacuvaj, &frmRacPRG::cmdSacuvaj_Click);
+    On(ui.Command1, &frmRacPRG::Command1_Click);
+    On(ui.cmdFirst, &frmRacPRG::cmdFirst_Click);
+    On(ui.cmdPrevious, &frmRacPRG::cmdPrevious_Click);
+    On(ui.cmdNext, &frmRacPRG::cmdNext_Click);
+    On(ui.cmdLast, &frmRacPRG::cmdLast_Click);
+    On(ui.cmdHelp, &frmRacPRG::cmdHelp_Click);
+    On(ui.cmdClose, &frmRacPRG::cmdClose_Click);
+}
+
+void frmRacPRG::Form_Load() {
+    DeleteTextFile(output::InProgramFolder(PreviewFile));
+    rsInvoices_ = MainStore().OpenRecordset(InvoicesQuery + strSQLwhere + InvoicesOrder);
+    if (rsInvoices_.RecordCount() == 0) return forms::Inform(u"Currently there is no single invoice"_s, Caption());
+    PreviewAllInvoices();
+    cmdFirst_Click();
+}
+
+void frmRacPRG::PreviewAllInvoices() {
+    // Without an invoice the move to the first one fails, and ends the program as a failed printing does.
+    PrintOrEndProgram([this] {
+        rsInvoices_.MoveFirst();
+        for (; !rsInvoices_.AtEOF(); rsInvoices_.MoveNext()) {
+            ShowInvoice();
+            AppendInvoiceToPreview(TakeInvoiceText());
+        }
+        rsInvoices_.MoveLast();
+    });
+    frmRacunPregled::Preview(PreviewFile, PreviewTitle);
+}
+
+void frmRacPRG::ShowInvoice() {
+    ShowInvoiceHeader();
+    ShowInvoiceLines();
+}
+
+void frmRacPRG::ShowInvoiceHeader() {
+    ui.txtInvoiceNumber->setText(rsInvoices_[u"InvoiceID"].TextOrEmpty());
+    ui.txtORNumber->setText(rsInvoices_[u"No"].TextOrEmpty());
+    ui.txtTotalAmount->setText(Format(rsInvoices_[u"CashAmount"].Get(), u"0.00"));
+    ui.txtTaxTotal->setText(Format(rsInvoices_[u"TaxTotal"].Get(), u"0.00"));
+    ui.txtDatum->setText(rsInvoices_[u"DateSold"].TextOrEmpty());
+    ui.txtVrijeme->setText(rsInvoices_[u"TimeSold"].TextOrEmpty());
+    ui.txtCashier->setText(rsInvoices_[u"CashierName"].TextOrEmpty());
+}
+
+void frmRacPRG::ShowInvoiceLines() {
+    ui.lv1->Clear();
+    auto rs = MainStore().OpenRecordset(DetailsQuery + u" WHERE InvoiceID = '"_s +
+                                        rsInvoices_[u"InvoiceID"].TextOrEmpty() + u"'"_s);
+    for (auto& line : rs)
+        ui.lv1->Add({line[u"ProdCode"].TextOrEmpty(), line[u"ProdDescription"].TextOrEmpty(),
+                     Format(line[u"UnitPrice"].Get(), u"0.00"), line[u"QtySold"].TextOrEmpty(),
+                     Format(line[u"Amount"].Get(), u"0.00"), Format(line[u"TaxPercent"].Get(), u"0.00"),
+                     Format(line[u"TaxAmount"].Get(), u"0.00"), line[u"Unit"].TextOrEmpty(),
+                     line[u"TaxID"].TextOrEmpty()});
+    RebuildTaxRecap(*ui.lv1, *ui.lvPorez);
+}
+
+InvoiceText frmRacPRG::TakeInvoiceText() const {
+    return {.orNo = ui.txtORNumber->text(),
+            .customer = {},
+            .ident = {},
+            .cashier = ui.txtCashier->text(),
+            .total = ui.txtTotalAmount->text(),
+            .taxTotal = ui.txtTaxTotal->text(),
+            .items = ItemsOf(*ui.lv1),
+            .taxes = TaxesOf(*ui.lvPorez)};
+}
+
+void frmRacPRG::cmdPrint_Click() {
+    ReprintInvoice(TakeInvoiceText());
+}
+
+void frmRacPRG::cmdSacuvaj_Click() {
+    frmRacunPregled::Preview(PreviewFile, PreviewTitle);
+}
+
+void frmRacPRG::Command1_Click() {
+    PreviewAllInvoices();
+}
+
+void frmRacPRG::cmdFirst_Click() {
+    rsInvoices_.MoveFirst();
+    ShowInvoice();
+}
+
+void frmRacPRG::cmdPrevious_Click() {
+    if (rsInvoices_.AtBOF()) return;
+    rsInvoices_.MovePrevious();
+    if (rsInvoices_.AtBOF()) rsInvoices_.MoveFirst();
+    ShowInvoice();
+}
+
+void frmRacPRG::cmdNext_Click() {
+    if (rsInvoices_.AtEOF()) return;
+    rsInvoices_.MoveNext();
+    if (rsInvoices_.AtEOF()) rsInvoices_.MoveLast();
+    ShowInvoice();
+}
+
+void frmRacPRG::cmdLast_Click() {
+    rsInvoices_.MoveLast();
+    ShowInvoice();
+}
+
+void frmRacPRG::cmdHelp_Click() {
+    HelpFileName = u"\\helpVELTON.rtf"_s;
+    mdiORVA::Window().Choose(u"mnuHelp1"_s);
+}
+
+void frmRacPRG::cmdClose_Click() {
+    Unload();
+}

@@ -1,0 +1,118 @@
+#include "forms/TextView.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QElapsedTimer>
+#include <QScrollBar>
+
+#include "SampleText.h"
+#include "support/ScreenTest.h"
+
+using namespace Qt::StringLiterals;
+using drivers::Keys;
+
+namespace {
+
+class TextViewTest : public drivers::ScreenTest {
+protected:
+    QString Text(const QByteArray& bytes) {
+        const QString path = folder.filePath(u"text.txt"_s);
+        WriteText(path, bytes);
+        return path;
+    }
+    // The part of the picture that lies below this height.
+    static bool HasInk(forms::TextView& view, int from) {
+        const QImage picture = view.grab().toImage();
+        for (int y = from; y < picture.height() - 4; ++y)
+            for (int x = 4; x < picture.width() - 20; ++x)
+                if (picture.pixelColor(x, y).lightness() < 100) return true;
+        return false;
+    }
+};
+
+TEST_F(TextViewTest, KnowsItsLinesWhateverTheirEnds) {
+    const std::pair<QByteArray, QStringList> cases[] = {
+        {"", {}},
+        {"one", {u"one"_s}},
+        {"one\r\n", {u"one"_s}},
+        {"one\ntwo\r\n\r\nfour", {u"one"_s, u"two"_s, u""_s, u"four"_s}},
+        {"\r\n\r\n", {u""_s, u""_s}},
+        {"\xC8", {u"È"_s}},
+    };
+    forms::TextView view;
+    for (const auto& [bytes, lines] : cases) {
+        ASSERT_TRUE(view.Open(Text(bytes)));
+        QStringList shown;
+        for (int line = 0; line < view.LineCount(); ++line) shown << view.Line(line);
+        EXPECT_EQ(shown, lines) << bytes.toStdString();
+    }
+    EXPECT_FALSE(view.Open(folder.filePath(u"missing"_s)));
+    EXPECT_EQ(view.LineCount(), 0) << "nothing of the file before";
+    EXPECT_EQ(view.Line(7), u"");
+}
+
+TEST_F(TextViewTest, LongLinesAreShownInPiecesAndNothingOfThemIsLost) {
+    const QByteArray bytes = QByteArray(3 * 1024 * 1024, 'x') + "\nend";
+    forms::TextView view;
+    ASSERT_TRUE(view.Open(Text(bytes)));
+    EXPECT_GT(view.LineCount(), 700);
+    EXPECT_EQ(view.Line(view.LineCount() - 1), u"end");
+    EXPECT_EQ(view.PlainText().toLatin1(), bytes);
+    EXPECT_EQ(view.property("plainText").toString().size(), bytes.size());
+}
+
+TEST_F(TextViewTest, FiftyMegabytesOpenAtOnceAndScrollToTheirEnd) {
+    const QString path = folder.filePath(u"ribbon.txt"_s);
+    WriteLongText(path, 50 * 1024 * 1024);
+    forms::TextView view;
+    view.resize(700, 500);
+    view.show();
+    QElapsedTimer clock;
+    clock.start();
+    ASSERT_TRUE(view.Open(path));
+    view.ScrollToEnd();
+    view.grab();
+    RecordProperty("milliseconds", static_cast<int>(clock.elapsed()));
+    EXPECT_LT(clock.elapsed(), 2000);
+    EXPECT_GT(view.LineCount(), 1'000'000);
+    EXPECT_TRUE(HasInk(view, 400)) << "the end of the text stands at the bottom";
+    ASSERT_TRUE(QFile::remove(path));
+    EXPECT_EQ(view.Line(view.LineCount() - 1), u"last line") << "also when the file was deleted meanwhile";
+}
+
+TEST_F(TextViewTest, AFileThatIsCutOffShowsWhatIsLeft) {
+    forms::TextView view;
+    const QString path = Text("one\ntwo\nthree\n");
+    ASSERT_TRUE(view.Open(path));
+    QFile(path).resize(5);
+    EXPECT_EQ(view.Line(1), u"t");
+    EXPECT_EQ(view.Line(2), u"");
+    view.grab();
+}
+
+TEST_F(TextViewTest, ScrollsByKeysAndCopiesWhatIsMarked) {
+    const QString path = folder.filePath(u"text.txt"_s);
+    WriteLongText(path, 4000);
+    forms::TextView view;
+    view.resize(300, 200);
+    view.show();
+    view.activateWindow();
+    view.setFocus();
+    drivers::Settle();
+    ASSERT_TRUE(view.Open(path));
+    QScrollBar* down = view.verticalScrollBar();
+    Keys(u"{PgDn}");
+    EXPECT_GT(down->value(), 3);
+    Keys(u"{End}");
+    EXPECT_EQ(down->value(), down->maximum());
+    Keys(u"{Up}");
+    EXPECT_EQ(down->value(), down->maximum() - 1);
+    Keys(u"{Right}");
+    EXPECT_GT(view.horizontalScrollBar()->value(), 0);
+    Keys(u"{Home}");
+    EXPECT_EQ(down->value(), 0);
+    Keys(u"{Ctrl+a}{Ctrl+c}");
+    EXPECT_EQ(QApplication::clipboard()->text() + u'\n', view.PlainText());
+}
+
+}  // namespace
