@@ -2,6 +2,7 @@
 
 #include <csignal>
 
+#include "app/Screens.h"
 #include "core/frmLogin.h"
 #include "core/mdiORVA.h"
 #include "forms/Theme.h"
@@ -14,6 +15,7 @@ namespace {
 // The main window opens with its child.
 void ShowSalesScreen() {
     mdiORVA& main = mdiORVA::Window();
+    TieEntries(main);
     main.ShowChild(forms::Open<frmORVAtouch>());
     main.showMaximized();
     main.raise();

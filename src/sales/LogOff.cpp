@@ -6,6 +6,7 @@
 #include "core/mdiORVA.h"
 #include "forms/Form.h"
 #include "forms/MsgBox.h"
+#include "reports/EndReport.h"
 #include "sales/frmORVAtouch.h"
 #include "values/Clock.h"
 #include "values/DateText.h"
@@ -15,25 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const auto OpenPeriodsQuery =
-    u"SELECT Kas, DateGenerated, TimeGenerated, TimeStoped, TotalSales, DateStoped, Closed, Payed, Grupni"
-    u" FROM Sales"
-    u" WHERE Closed = False"_s;
 const auto LoginQuery = u"SELECT * FROM Login WHERE LogInNo = '%1'"_s;
-
-// Closes every open period of every register under the next number.
-void CloseOpenPeriods(QDate date, QTime time, int number) {
-    auto rs = MainStore().OpenRecordset(OpenPeriodsQuery);
-    for (auto& period : rs) {
-        period.Edit();
-        period[u"DateStoped"] = date;
-        period[u"TimeStoped"] = time;
-        period[u"Payed"] = true;
-        period[u"Closed"] = true;
-        period[u"Grupni"] = number;
-        period.Update();
-    }
-}
 
 void MakeEndReport() {
     const QDateTime now = values::Now();

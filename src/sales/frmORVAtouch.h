@@ -67,7 +67,6 @@ private:
     void AddLine();
     void MergeInto(int row);
     void NextEntry();
-    void AddToTaxRecap(int index);
     void RecomputeInvoice();
     void DeleteLine();
     void ChangeLineQuantity();

@@ -2,6 +2,7 @@
 
 #include "core/mdiORVA.h"
 #include "forms/Controls.h"
+#include "receipts/InvoiceLists.h"
 #include "sales/frmORVAtouch.h"
 #include "store/CaseFold.h"
 #include "values/Format.h"
@@ -16,7 +17,6 @@ using values::Money;
 namespace {
 
 enum LineColumn { Code, Description, UnitPrice, Quantity, Amount, TaxPercent, TaxAmount, Unit, TaxID, ProductID };
-enum TaxColumn { RecapTaxID, RecapNothing, RecapPercent, RecapAmount, RecapTax };
 
 }  // namespace
 
@@ -40,10 +40,10 @@ void frmORVAtouch::AddLine() {
     // Read before the line stands, so that a product without figures leaves no line that nobody can post.
     const Money percent = CMoney(ui.txtTaxPercent->text());
     const Money tax = CMoney(ui.txtTaxAmount->text());
-    const int row = ui.lv1->Add({ui.txtProdCode->text(), ui.txtDescription->text(),
-                                 Format(ui.txtUnitPrice->text(), u"0.00"), ui.txtQuantity->text(),
-                                 Format(LineAmount_, u"0.00"), Format(percent, u"0.00"), Format(tax, u"0.00"),
-                                 ui.txtUnit->text(), ui.txtTaxID->text(), ui.txtID->text()});
+    const int row =
+        ui.lv1->Add({ui.txtProdCode->text(), ui.txtDescription->text(), Format(ui.txtUnitPrice->text(), u"0.00"),
+                     ui.txtQuantity->text(), Format(LineAmount_, u"0.00"), Format(percent, u"0.00"),
+                     Format(tax, u"0.00"), ui.txtUnit->text(), ui.txtTaxID->text(), ui.txtID->text()});
     ui.lv1->BringIntoView(row);
     ui.txtPosDisplay->setText(ui.lv1->Text(row, Quantity) + u" x "_s + ui.txtDescription->text() + u"   "_s +
                               ui.lv1->Text(row, UnitPrice) + u" = "_s + ui.lv1->Text(row, Amount));
@@ -78,32 +78,13 @@ void frmORVAtouch::NextEntry() {
 void frmORVAtouch::RecomputeInvoice() {
     TotalAmountValue_ = 0;
     TaxTotalValue_ = 0;
-    ui.lvPorez->Clear();
     for (int row = 0; row < ui.lv1->Count(); ++row) {
         TotalAmountValue_ = (Money::FromDouble(TotalAmountValue_) + CMoney(ui.lv1->Text(row, Amount))).ToDouble();
         TaxTotalValue_ = (Money::FromDouble(TaxTotalValue_) + CMoney(ui.lv1->Text(row, TaxAmount))).ToDouble();
-        AddToTaxRecap(row);
     }
+    RebuildTaxRecap(*ui.lv1, *ui.lvPorez);
     ui.txtTotalAmount->setText(Format(TotalAmountValue_, u"0.00"));
     ui.txtTaxTotal->setText(Format(TaxTotalValue_, u"0.00"));
-}
-
-void frmORVAtouch::AddToTaxRecap(int index) {
-    const QString amount = ui.lv1->Text(index, Amount);
-    const QString tax = ui.lv1->Text(index, TaxAmount);
-    const int row = ui.lvPorez->Find(ui.lv1->Text(index, TaxID));
-    if (row < 0) {
-        ui.lvPorez->Add({ui.lv1->Text(index, TaxID), {}, Format(ui.lv1->Text(index, TaxPercent), u"0.00"),
-                         Format(amount, u"0.00"), Format(tax, u"0.00")});
-        return;
-    }
-    ui.lvPorez->Select(row);
-    const auto add = [&](TaxColumn column, const QString& text) {
-        const double sum = (CMoney(ui.lvPorez->Text(row, column)) + CMoney(text)).ToDouble();
-        ui.lvPorez->SetText(row, column, Format(sum, u"0.00"));
-    };
-    add(RecapAmount, amount);
-    add(RecapTax, tax);
 }
 
 void frmORVAtouch::DeleteLine() {
@@ -128,22 +109,12 @@ void frmORVAtouch::ChangeLineQuantity() {
 }
 
 InvoiceText frmORVAtouch::TakeInvoiceText() const {
-    InvoiceText invoice{.orNo = ui.txtORNumber->text(),
-                        .customer = ui.txtKupac->text(),
-                        .ident = ui.txtIB->text(),
-                        .cashier = ui.txtUserFullName->text(),
-                        .total = ui.txtTotalAmount->text(),
-                        .taxTotal = ui.txtTaxTotal->text(),
-                        .items = {},
-                        .taxes = {}};
-    const auto line = [&](int row, LineColumn column) { return ui.lv1->Text(row, column); };
-    for (int row = 0; row < ui.lv1->Count(); ++row)
-        invoice.items << InvoiceText::Item{line(row, Code),       line(row, Description), line(row, UnitPrice),
-                                           line(row, Quantity),   line(row, Amount),      line(row, TaxPercent),
-                                           line(row, TaxAmount),  line(row, Unit),        line(row, TaxID),
-                                           line(row, ProductID)};
-    for (int row = 0; row < ui.lvPorez->Count(); ++row)
-        invoice.taxes << InvoiceText::Tax{ui.lvPorez->Text(row, RecapTaxID), ui.lvPorez->Text(row, RecapPercent),
-                                          ui.lvPorez->Text(row, RecapAmount), ui.lvPorez->Text(row, RecapTax)};
-    return invoice;
+    return {.orNo = ui.txtORNumber->text(),
+            .customer = ui.txtKupac->text(),
+            .ident = ui.txtIB->text(),
+            .cashier = ui.txtUserFullName->text(),
+            .total = ui.txtTotalAmount->text(),
+            .taxTotal = ui.txtTaxTotal->text(),
+            .items = ItemsOf(*ui.lv1),
+            .taxes = TaxesOf(*ui.lvPorez)};
 }

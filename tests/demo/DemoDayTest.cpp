@@ -15,16 +15,16 @@ QByteArray Bytes(const QString& path) {
     return file.readAll();
 }
 
-TEST(DemoDay, LeavesTheReceiptsAndPicturesItAlwaysLeaves) {
+TEST(DemoDay, LeavesTheReceiptsReportAndPicturesItAlwaysLeaves) {
     const QTemporaryDir folder;
     const QString shop = folder.filePath(u"shop"_s);
     QProcess demo;
     demo.start(QStringLiteral(PROGRAMS "/velton-demo"), {shop});
     ASSERT_TRUE(demo.waitForFinished(60000));
     EXPECT_EQ(demo.exitCode(), 0) << demo.readAllStandardError().toStdString();
-    EXPECT_EQ(Bytes(shop + u"/invoices.txt"_s), Bytes(QStringLiteral(TEST_DATA "/demo/invoices.txt")));
-    EXPECT_EQ(Bytes(shop + u"/lpt1.prn"_s), Bytes(QStringLiteral(TEST_DATA "/demo/lpt1.prn")));
-    EXPECT_EQ(QDir(shop + u"/screens"_s).entryList({u"*.png"_s}).size(), 6);
+    for (const QString& name : {u"/invoices.txt"_s, u"/lpt1.prn"_s, u"/fiscal.txt"_s, u"/Report.txt"_s})
+        EXPECT_EQ(Bytes(shop + name), Bytes(QStringLiteral(TEST_DATA "/demo") + name)) << name.toStdString();
+    EXPECT_EQ(QDir(shop + u"/screens"_s).entryList({u"*.png"_s}).size(), 13);
 }
 
 TEST(DemoDay, LeavesAForeignFolderAlone) {

@@ -54,8 +54,10 @@ void Cashier::WatchModal() {
         } else if (modal && modal->objectName() == u"frmMSGinvoice" && !cash_.isEmpty()) {
             const QString cash = std::exchange(cash_, {});
             drivers::Keys(cash + u"{Enter}"_s);
-            if (pictureNumber_ < 4) modal->grab().save(pictures_ + u"/change.png"_s);
+            modal->grab().save(pictures_ + u"/change.png"_s);
             drivers::Keys(u"{Enter}");
+        } else if (modal && !scripts_.isEmpty() && modal->objectName() == scripts_.first().first) {
+            scripts_.takeFirst().second();
         }
     });
 }
@@ -115,11 +117,27 @@ void Cashier::Answer(const QString& text, bool yes) {
     answers_ << std::pair(text, yes);
 }
 
+void Cashier::Within(const QString& screen, std::function<void()> script) {
+    scripts_ << std::pair(screen, std::move(script));
+}
+
+void Cashier::Choose(const QString& entry) {
+    auto* action = mdiORVA::Window().findChild<QAction*>(entry);
+    if (!action || !action->isEnabled()) GiveUp(u"The menu entry %1 can't be chosen."_s.arg(entry));
+    action->trigger();
+    ExpectAllDone();
+}
+
 void Cashier::PressAndAnswer(const QString& keys) {
     drivers::Keys(keys);
+    ExpectAllDone();
+}
+
+void Cashier::ExpectAllDone() {
     drivers::Settle();
     if (!trouble_.isEmpty()) GiveUp(trouble_);
     if (!answers_.isEmpty()) GiveUp(u"The message \"%1\" never came."_s.arg(answers_.first().first));
+    if (!scripts_.isEmpty()) GiveUp(u"The screen %1 never came."_s.arg(scripts_.first().first));
 }
 
 QString Cashier::Shown(const QString& control) const {

@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <functional>
 #include <utility>
 
 class QWidget;
@@ -24,6 +25,10 @@ public:
     void Post(const QString& cash);
     // The next message box with this text is answered so.
     void Answer(const QString& text, bool yes);
+    // When this screen comes up modally, its user does so and closes it.
+    void Within(const QString& screen, std::function<void()> script);
+    // A menu entry of the main window, by its name.
+    void Choose(const QString& entry);
     // A key that brings boxes up; all that was to be answered must have come.
     void PressAndAnswer(const QString& keys);
 
@@ -33,9 +38,11 @@ public:
 private:
     QWidget* Screen(const QString& name) const;
     void WatchModal();
+    void ExpectAllDone();
     QString pictures_;
     int pictureNumber_ = 0;
     QString cash_;
     QList<std::pair<QString, bool>> answers_;
+    QList<std::pair<QString, std::function<void()>>> scripts_;
     QString trouble_;
 };

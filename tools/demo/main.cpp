@@ -7,12 +7,12 @@
 #include <cstdio>
 
 #include "app/Start.h"
-#include "core/dbModule.h"
 #include "delivery/Delivery.h"
-#include "demo/DayReport.h"
 #include "demo/WorkingDay.h"
 #include "output/CodePage.h"
 #include "output/Folder.h"
+#include "store/Database.h"
+#include "store/StorePath.h"
 
 using namespace Qt::StringLiterals;
 
@@ -33,6 +33,11 @@ void ClearFolder(const QString& path) {
         throw std::runtime_error("The folder " + path.toStdString() + " can't be cleared.");
 }
 
+void SwitchOnFiscalRecords(const QString& path) {
+    const auto options = store::Database::Open(store::OptionsStorePath(path), store::OptionsSchema());
+    options->Execute(u"UPDATE Options SET FiskalniRacunDA = '1'"_s);
+}
+
 void Print(const QString& title, const QString& text) {
     std::printf("%s\n%s\n\n", qPrintable(title), qPrintable(text));
 }
@@ -45,11 +50,12 @@ QString TextFile(const QString& path) {
 void Play(const QString& path) {
     ClearFolder(path);
     delivery::MakeProgramFolder(path, true);
+    SwitchOnFiscalRecords(path);
     output::SetProgramFolder(path);
     const QString pictures = QDir(path).filePath(u"screens"_s);
     PlayWorkingDay(pictures);
     Print(u"The receipts of the day:"_s, TextFile(output::InProgramFolder(u"invoices.txt"_s)));
-    Print(u"The day in figures:"_s, DayReport(MainStore()));
+    Print(u"The report of the day:"_s, TextFile(output::InProgramFolder(u"Report.txt"_s)));
     std::printf("The shop lies in %s, the screenshots in %s.\n", qPrintable(QDir(path).absolutePath()),
                 qPrintable(QDir(pictures).absolutePath()));
 }
