@@ -2,7 +2,6 @@
 
 #include <QFileDialog>
 #include <QPointer>
-#include <QRegularExpression>
 
 #include "forms/FocusReturn.h"
 #include "forms/Program.h"
@@ -12,12 +11,6 @@ using namespace Qt::StringLiterals;
 namespace forms {
 
 namespace {
-
-// "txt" for a filter that begins with "Report (*.txt)".
-QString FirstSuffix(const QString& filter) {
-    static const QRegularExpression pattern(u"\\*\\.(\\w+)"_s);
-    return pattern.match(filter).captured(1);
-}
 
 QString AskName(QFileDialog* made) {
     if (ProgramIsEnding()) throw ProgramEnds{};
@@ -45,7 +38,7 @@ QFileDialog* NewDialog(QWidget* parent, const QString& title, const QString& fil
 QString AskSaveName(QWidget* parent, const QString& title, const QString& filter) {
     QFileDialog* dialog = NewDialog(parent, title, filter);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setDefaultSuffix(FirstSuffix(filter));
+    dialog->setObjectName(u"CDL1"_s);
     return AskName(dialog);
 }
 

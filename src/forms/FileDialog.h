@@ -7,6 +7,7 @@ class QWidget;
 // Qt's own file dialogs (never the platform's), so that they look and answer alike everywhere.
 namespace forms {
 
+// The save dialog, named CDL1 as on every screen that has it, takes the name as it is typed.
 // The chosen path, or "" when the user cancels. `filter` in Qt's form, "Report (*.txt)"; several joined by ";;".
 QString AskSaveName(QWidget* parent, const QString& title, const QString& filter);
 QString AskOpenName(QWidget* parent, const QString& title, const QString& filter);

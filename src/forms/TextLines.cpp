@@ -12,8 +12,10 @@ bool TextLines::Open(const QString& path) {
     Close();
     file_.setFileName(path);
     if (!file_.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) return false;
+    // As long as it is now: a device, or a file that somebody goes on writing, would never end.
+    const qint64 end = file_.size();
     QByteArray chunk;
-    while (!(chunk = file_.read(chunkSize)).isEmpty()) {
+    while (!(chunk = file_.read(qMin(chunkSize, end - size_))).isEmpty()) {
         AddLines(chunk, size_);
         size_ += chunk.size();
     }

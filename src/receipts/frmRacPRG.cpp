@@ -98,6 +98,8 @@ void frmRacPRG::ShowInvoiceHeader() {
     ui.txtDatum->setText(rsInvoices_[u"DateSold"].TextOrEmpty());
     ui.txtVrijeme->setText(rsInvoices_[u"TimeSold"].TextOrEmpty());
     ui.txtCashier->setText(rsInvoices_[u"CashierName"].TextOrEmpty());
+    ui.txtCashier->setCursorPosition(0);
+    ui.txtCashier->setToolTip(ui.txtCashier->text());
 }
 
 void frmRacPRG::ShowInvoiceLines() {

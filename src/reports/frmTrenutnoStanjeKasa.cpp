@@ -129,6 +129,10 @@ frmTrenutnoStanjeKasa::frmTrenutnoStanjeKasa() {
                   {Qt::Key_F12, ui.cmdClose}});
     ShrinkFigures({ui.txtPDV, ui.txtTotalAmount});
     connect(ui.SSTab1, &QTabWidget::currentChanged, this, Guarded(&frmTrenutnoStanjeKasa::SSTab1_Click));
+    // A touch on the tab that is open already loads it again, as its key does.
+    connect(ui.SSTab1, &QTabWidget::tabBarClicked, this, [this](int tab) {
+        if (tab == ui.SSTab1->currentIndex()) Guarded (&frmTrenutnoStanjeKasa::SSTab1_Click)();
+    });
     On(ui.cmdZakljuci, &frmTrenutnoStanjeKasa::cmdZakljuci_Click);
     On(ui.cmdOsvjezi, &frmTrenutnoStanjeKasa::cmdOsvjezi_Click);
     On(ui.cmdPrintPregled, &frmTrenutnoStanjeKasa::cmdPrintPregled_Click);

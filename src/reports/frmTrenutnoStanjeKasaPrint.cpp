@@ -3,6 +3,7 @@
 #include "core/dbModule.h"
 #include "output/Folder.h"
 #include "output/OutputGuard.h"
+#include "receipts/TextFiles.h"
 #include "receipts/frmRacunPregled.h"
 #include "values/Format.h"
 
@@ -51,7 +52,10 @@ void frmTrenutnoStanjeKasa::cmdPrintPregledListe_Click() {
 void frmTrenutnoStanjeKasa::PrintAndPreview(const std::function<void()>& printLists) {
     {
         const output::OutputGuard guard;
-        PassOverErrors([] { output::Channel1().OpenForOutput(output::InProgramFolder(ReportFile)); });
+        const QString path = output::InProgramFolder(ReportFile);
+        PassOverErrors([&] { output::Channel1().OpenForOutput(path); });
+        // An earlier report must not stand under today's question.
+        if (!output::Channel1().IsOpen()) PassOverErrors([&] { DeleteTextFile(path); });
         PassOverErrors([this] { PrintHeading(); });
         printLists();
         PassOverErrors([] { output::Channel1().Close(); });

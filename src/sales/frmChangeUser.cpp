@@ -62,6 +62,16 @@ frmChangeUserSimple::frmChangeUserSimple() {
     ui.lblPassword->hide();
     delete ui.txtPassword;
     ui.txtPassword = nullptr;
-    ControlKeys(ui.txtUserName, {{Qt::Key_Return, [this] { ui.cmdOK->click(); }}});
+    // The arrow keys look for a name in the open list; in the closed box they would take the next one at once.
+    const auto openList = [this] { ui.txtUserName->showPopup(); };
+    ControlKeys(ui.txtUserName,
+                {{Qt::Key_Return, [this] { ui.cmdOK->click(); }}, {Qt::Key_Down, openList}, {Qt::Key_Up, openList}});
+    ui.txtUserName->installEventFilter(this);
     connect(ui.txtUserName, &QComboBox::activated, ui.cmdOK, &QPushButton::click);
+}
+
+// Nor does a wheel that was touched by the way put another cashier on the invoices.
+bool frmChangeUserSimple::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == ui.txtUserName && event->type() == QEvent::Wheel) return true;
+    return frmChangeUser::eventFilter(watched, event);
 }

@@ -37,4 +37,5 @@ public:
 
 protected:
     bool PasswordFits(store::Recordset&) const override { return true; }
+    bool eventFilter(QObject* watched, QEvent* event) override;
 };

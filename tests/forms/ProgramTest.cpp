@@ -145,7 +145,8 @@ TEST_F(ProgramTest, FileDialogsAnswerWithAPath) {
     boxes.ExpectFile(path);
     EXPECT_EQ(forms::AskSaveName(nullptr, u"Save as"_s, u"Report (*.txt)"_s), path) << "without a question";
     boxes.ExpectFile(folder.filePath(u"bare"_s));
-    EXPECT_EQ(forms::AskSaveName(nullptr, u"Save as"_s, u"Report (*.txt)"_s), folder.filePath(u"bare.txt"_s));
+    EXPECT_EQ(forms::AskSaveName(nullptr, u"Save as"_s, u"Report (*.txt)"_s), folder.filePath(u"bare"_s))
+        << "as it is typed";
     boxes.ExpectFile({});
     EXPECT_EQ(forms::AskSaveName(nullptr, u"Save as"_s, u"Report (*.txt)"_s), QString());
     boxes.ExpectFile(folder.filePath(u"gone.bmp"_s));

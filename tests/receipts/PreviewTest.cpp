@@ -43,7 +43,7 @@ TEST_F(PreviewTest, ShowsPrintsSavesAndDeletesAReport) {
         EXPECT_EQ(form.windowTitle(), u"Print preview");
         boxes_.ExpectFile(Path(u"mine"_s));
         Keys(u"{F4}");
-        EXPECT_EQ(File(u"mine.txt"_s), report);
+        EXPECT_EQ(File(u"mine"_s), report);
         boxes_.ExpectFile({});
         Keys(u"{F4}");
         Keys(u"{F6}");

@@ -41,6 +41,9 @@ TEST_F(ChangeUserTest, WithoutPasswordANameIsEnough) {
     Boxes boxes;
     boxes.ExpectForm(u"frmChangeUserSimple"_s, [](QWidget& dialog) {
         EXPECT_FALSE(dialog.findChild<QWidget*>(u"txtPassword"_s));
+        Keys(u"{Down}");
+        EXPECT_TRUE(dialog.isVisible()) << "the arrow key opens the list, it chooses nobody";
+        Keys(u"{Esc}");
         Keys(u"admin{Enter}");
     });
     drivers::Click(drivers::Get<QWidget>(Sales(), u"txtUserFullName"));
