@@ -1,5 +1,6 @@
 #pragma once
 
+#include "bench/BusyTill.h"
 #include "bench/Harness.h"
 #include "bench/Shop.h"
 
@@ -14,6 +15,10 @@ Figure PostingFigure(const Shop& shop, const QString& till);
 Figure TaxReportFigure(const Shop& shop);
 Figure OpeningFigure(const Shop& big, const Shop& small);
 Figure StartupFigure(const QString& till);
+Figure TouchTableFigure(const BusyTill& till);
+// Writes the texts of the preview into the till's folder.
+Figure PreviewFigure(const BusyTill& till);
+Figure RegisterListsFigure(const BusyTill& till);
 
 // Memory of the till in `till` after so many posted invoices, beside that of an empty window; prints its lines. False
 // when one of the programs failed.

@@ -5,7 +5,7 @@
 #include <sqlite3.h>
 
 #include <CLI/CLI.hpp>
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QLocale>
 #include <cstdio>
@@ -14,6 +14,7 @@
 
 #include "bench/Figures.h"
 #include "bench/TableReporter.h"
+#include "forms/Theme.h"
 
 using namespace Qt::StringLiterals;
 
@@ -52,10 +53,12 @@ int Measure(const Job& job) {
     const bench::Shop small(data, SmallShop);
     const QString till = data + u"/till"_s;
     shop.CopyTo(till);
+    const bench::BusyTill busy(shop, data + u"/busy"_s);
 
     const std::vector figures{
-        bench::LookupFigure(shop),    bench::WalkFigure(shop),           bench::PostingFigure(shop, till),
-        bench::TaxReportFigure(shop), bench::OpeningFigure(shop, small), bench::StartupFigure(till),
+        bench::LookupFigure(shop),     bench::WalkFigure(shop),           bench::PostingFigure(shop, till),
+        bench::TaxReportFigure(shop),  bench::OpeningFigure(shop, small), bench::StartupFigure(till),
+        bench::TouchTableFigure(busy), bench::PreviewFigure(busy),        bench::RegisterListsFigure(busy),
     };
     bench::Register(figures, job.quick ? bench::Effort{2, 0.02, 10} : bench::Effort{15, 0.3, 5'000});
 
@@ -82,9 +85,10 @@ int main(int argc, char* argv[]) {
     CLI11_PARSE(commandLine, argc, argv);
     job.benchmarkFlags = commandLine.remaining();
 
-    const QCoreApplication application(argc, argv);
+    qputenv("QT_LOGGING_RULES", "*.warning=false");  // what the off-screen platform lacks
+    QApplication application(argc, argv);
+    forms::InstallTheme(application);
     QLocale::setDefault(QLocale(u"en_US"_s));
-    qputenv("QT_LOGGING_RULES", "*.warning=false");  // what the off-screen platform of the programs lacks
     PassFlags(job);
     try {
         return Measure(job);

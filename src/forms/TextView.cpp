@@ -6,7 +6,6 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
-#include <QScroller>
 
 #include "forms/Tokens.h"
 
@@ -22,7 +21,6 @@ constexpr int margin = 12;
 
 TextView::TextView(QWidget* parent)
     : QAbstractScrollArea(parent), decoder_([](const QByteArray& bytes) { return QString::fromLatin1(bytes); }) {
-    QScroller::grabGesture(viewport(), QScroller::TouchGesture);  // a finger scrolls, the mouse marks
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setPixelSize(Tokens::TextSize);
     font.setStyleHint(QFont::Monospace);

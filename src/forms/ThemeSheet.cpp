@@ -147,6 +147,8 @@ QFileDialog QHeaderView::section { min-height: 22px; }
 QHeaderView::section:disabled { color: @faint; }
 QScrollBar:vertical { background: transparent; width: 14px; margin: 0; }
 QScrollBar:horizontal { background: transparent; height: 14px; margin: 0; }
+/* Long texts are scrolled with a thumb. */
+forms--TextView QScrollBar:vertical { width: 26px; }
 QScrollBar::handle { background: @line; border-radius: 4px; margin: 3px; }
 QScrollBar::handle:vertical { min-height: 36px; }
 QScrollBar::handle:horizontal { min-width: 36px; }

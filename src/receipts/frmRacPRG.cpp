@@ -1,5 +1,7 @@
 #include "receipts/frmRacPRG.h"
 
+#include <QScopeGuard>
+
 #include "core/Session.h"
 #include "core/dbModule.h"
 #include "core/mdiORVA.h"
@@ -103,6 +105,8 @@ void frmRacPRG::ShowInvoiceHeader() {
 }
 
 void frmRacPRG::ShowInvoiceLines() {
+    ui.lv1->BeginFill();
+    const auto end = qScopeGuard([this] { ui.lv1->EndFill(); });
     ui.lv1->Clear();
     auto rs = MainStore().OpenRecordset(DetailsQuery + u" WHERE InvoiceID = '"_s +
                                         rsInvoices_[u"InvoiceID"].TextOrEmpty() + u"'"_s);

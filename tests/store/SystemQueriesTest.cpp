@@ -1,4 +1,5 @@
 #include <QFile>
+#include <QRegularExpression>
 
 #include "store/StoreTestBase.h"
 
@@ -19,63 +20,58 @@ protected:
         return query.startsWith(u"UPDATE", Qt::CaseInsensitive) || query.startsWith(u"DELETE", Qt::CaseInsensitive);
     }
 
+    // Lines of a file in tests/data/store without those that comment.
+    static QStringList LinesOf(const QString& name) {
+        QFile file(QStringLiteral(TEST_DATA "/store/") + name);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+        return QString::fromUtf8(file.readAll()).split(u'\n').filter(QRegularExpression(u"^[^#]"_s));
+    }
+
     void FillShop() {
-        AddTax(u"P"_s, u"common"_s, Money::FromWhole(17));
-        AddProduct(u"3850104003217"_s, u"Coffee"_s, Money::FromWhole(5));
-        store->Execute(u"UPDATE Products SET TaxID = 'P', UnitPrice = '2.50', Tab = 3"_s);
-        auto sales = store->OpenRecordset(u"SELECT * FROM Sales"_s);
-        sales.AddNew();
-        sales[u"SalesID"] = 7;
-        sales[u"TotalSales"] = u"11.70"_s;
-        sales[u"DateGenerated"] = QDate(2024, 3, 25);
-        sales.Update();
-        auto invoices = store->OpenRecordset(u"SELECT * FROM Invoices"_s);
-        auto details = store->OpenRecordset(u"SELECT * FROM SalesDetails"_s);
-        for (int i = 9; i <= 12; ++i) {
-            invoices.AddNew();
-            invoices[u"SalesID"] = 7;
-            invoices[u"InvoiceID"] = i;
-            invoices[u"OrNo"] = i;
-            invoices[u"CashierID"] = 1;
-            invoices[u"DateSold"] = QDate(2024, 3, 25);
-            invoices[u"CashAmount"] = u"11.70"_s;
-            invoices[u"TaxTotal"] = u"1.70"_s;
-            invoices.Update();
-            details.AddNew();
-            details[u"InvoiceID"] = i;
-            details[u"ProdCode"] = u"3850104003217"_s;
-            details[u"TaxID"] = u"P"_s;
-            details[u"QtySold"] = 2;
-            details[u"Amount"] = u"11.70"_s;
-            details[u"TaxAmount"] = u"1.70"_s;
-            details.Update();
+        for (const QString& line : LinesOf(u"small_shop.txt"_s)) {
+            QStringList fields = line.split(u" | "_s);
+            const QString table = fields.takeFirst();
+            auto rows = StoreOf(table).OpenRecordset(u"SELECT * FROM "_s + table);
+            rows.AddNew();
+            for (const QString& field : fields) {
+                const qsizetype equals = field.indexOf(u'=');
+                rows[field.first(equals)] = field.sliced(equals + 1);
+            }
+            rows.Update();
         }
+    }
+
+    // The rows as texts, fields joined by "|"; of an action the number of rows that it touched.
+    QString AnswerTo(const QString& query) {
+        Database& database = StoreOf(query);
+        if (IsAction(query)) return QString::number(database.Execute(query)) + u" rows\n"_s;
+        QString answer;
+        auto rows = database.OpenRecordset(query);
+        for (auto& row : rows) {
+            QStringList cells;
+            for (int i = 0; i < row.FieldCount(); ++i) cells += row[i].TextOrEmpty();
+            answer += cells.join(u'|') + u'\n';
+        }
+        return answer;
     }
 
     QStringList queries;
     std::unique_ptr<Database> options = Database::Create(PathOf(u"opt.pos"_s), OptionsSchema());
 };
 
-TEST_F(SystemQueriesTest, RunAll) {
+TEST_F(SystemQueriesTest, GiveTheirRowsOnASmallShop) {
     FillShop();
-    EXPECT_GT(queries.size(), 60);
-    int withRows = 0;
-    for (const QString& query : queries) {
-        SCOPED_TRACE(query.toStdString());
-        Database& database = StoreOf(query);
-        if (IsAction(query)) {
-            EXPECT_EQ(ErrorOf([&] { database.Execute(query); }), 0);
-            continue;
-        }
-        EXPECT_EQ(ErrorOf([&] {
-                      auto rows = database.OpenRecordset(query);
-                      for (auto& row : rows)
-                          for (int i = 0; i < row.FieldCount(); ++i) row[i].TextOrEmpty();
-                      withRows += rows.RecordCount() > 0;
-                  }),
-                  0);
+    QString answers;
+    for (const QString& query : queries) answers += u"> "_s + query + u'\n' + AnswerTo(query);
+    if (qEnvironmentVariableIsSet("VELTON_REWRITE")) {
+        QFile expected(QStringLiteral(TEST_DATA "/store/small_shop_answers.txt"));
+        ASSERT_TRUE(expected.open(QIODevice::WriteOnly));
+        expected.write(answers.toUtf8());
     }
-    EXPECT_GT(withRows, 20);
+    const QStringList expected = LinesOf(u"small_shop_answers.txt"_s);
+    const QStringList given = answers.split(u'\n', Qt::SkipEmptyParts);
+    for (qsizetype i = 0; i < qMax(expected.size(), given.size()); ++i)
+        ASSERT_EQ(given.value(i), expected.value(i)) << "line " << i + 1;
 }
 
 TEST_F(SystemQueriesTest, UseAnIndexForEveryEquality) {
