@@ -93,7 +93,8 @@ void ListView::Select(int row) {
     }
     const QModelIndex index = rows_->index(row, FirstShownColumn());
     selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    scrollTo(index);
+    // A list that nobody sees scrolls to its current row by itself when it is shown, and need not be laid out now.
+    if (isVisible()) scrollTo(index);
 }
 
 void ListView::BringIntoView(int row) {
