@@ -3,6 +3,7 @@
 #include "values/Format.h"
 #include "values/Numbers.h"
 
+using namespace Qt::StringLiterals;
 using values::CMoney;
 using values::Format;
 
@@ -12,6 +13,29 @@ enum LineColumn { Code, Description, UnitPrice, Quantity, Amount, TaxPercent, Ta
 enum TaxColumn { RecapTaxID, RecapNothing, RecapPercent, RecapAmount, RecapTax };
 
 }  // namespace
+
+void SetLineColumns(forms::ListView& lines, LinesOf screen) {
+    const bool isReview = screen == LinesOf::Review;
+    std::vector<forms::ListColumn> columns{{u"Code"_s, Qt::AlignLeft, 128},
+                                           {u"Product name"_s, Qt::AlignLeft, -1},
+                                           {u"Price"_s, Qt::AlignRight, 78},
+                                           {u"Quantity"_s, Qt::AlignRight, 76},
+                                           {u"Amount"_s, Qt::AlignRight, 76},
+                                           {u"Tax %"_s, Qt::AlignRight, 60},
+                                           {u"Tax"_s, Qt::AlignRight, isReview ? 70 : 0},
+                                           {u"Unit"_s, Qt::AlignLeft, isReview ? 60 : 0},
+                                           {u"TaxID"_s, Qt::AlignLeft, 0}};
+    if (!isReview) columns.push_back({u"ID"_s, Qt::AlignLeft, 0});
+    lines.SetColumns(std::move(columns));
+}
+
+void SetRecapColumns(forms::ListView& recap) {
+    recap.SetColumns({{u"TaxID"_s, Qt::AlignLeft, -1},
+                      {{}, Qt::AlignLeft, 0},
+                      {u"Rate"_s, Qt::AlignRight, 60},
+                      {u"Amount"_s, Qt::AlignRight, 84},
+                      {u"Tax"_s, Qt::AlignRight, 74}});
+}
 
 int AddToTaxRecap(const forms::ListView& lines, int line, forms::ListView& recap) {
     const QString amount = lines.Text(line, Amount);

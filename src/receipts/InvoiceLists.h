@@ -7,6 +7,12 @@
 //   lines   code, description, unit price, quantity, amount, tax percent, tax amount, unit, TaxID, product ID
 //   recap   TaxID, nothing, percent, amount, tax amount
 
+// The columns as the cashier sees them. The sale carries the product's ID and hides what only the receipt needs; the
+// review shows tax and unit.
+enum class LinesOf { Sale, Review };
+void SetLineColumns(forms::ListView& lines, LinesOf screen);
+void SetRecapColumns(forms::ListView& recap);
+
 // Adds a line to the tax recapitulation: one row a TaxID in the order of first appearance, each sum rounded to "0.00"
 // at every step. Gives the row that the line joined, -1 when it began a new one.
 int AddToTaxRecap(const forms::ListView& lines, int line, forms::ListView& recap);

@@ -33,20 +33,8 @@ const auto PreviewTitle = u"Review Invoice"_s;
 
 frmRacPRG::frmRacPRG() {
     ui.setupUi(this);
-    ui.lv1->SetColumns({{u"Code"_s, Qt::AlignLeft, 128},
-                        {u"Product name"_s, Qt::AlignLeft, -1},
-                        {u"Price"_s, Qt::AlignRight, 78},
-                        {u"Quantity"_s, Qt::AlignRight, 76},
-                        {u"Amount"_s, Qt::AlignRight, 76},
-                        {u"Tax %"_s, Qt::AlignRight, 60},
-                        {u"Tax"_s, Qt::AlignRight, 70},
-                        {u"Unit"_s, Qt::AlignLeft, 60},
-                        {u"TaxID"_s, Qt::AlignLeft, 0}});
-    ui.lvPorez->SetColumns({{u"TaxID"_s, Qt::AlignLeft, -1},
-                            {{}, Qt::AlignLeft, 0},
-                            {u"Rate"_s, Qt::AlignRight, 60},
-                            {u"Amount"_s, Qt::AlignRight, 84},
-                            {u"Tax"_s, Qt::AlignRight, 74}});
+    SetLineColumns(*ui.lv1, LinesOf::Review);
+    SetRecapColumns(*ui.lvPorez);
     ShrinkFigures({ui.txtTotalAmount});
     // F6 has no action behind it, and neither has its button.
     FunctionKeys({{Qt::Key_Escape, ui.cmdClose},

@@ -9,6 +9,7 @@
 #include "masterdata/ClickTable.h"
 #include "masterdata/Module1.h"
 #include "output/Folder.h"
+#include "receipts/InvoiceLists.h"
 #include "sales/LogOff.h"
 #include "sales/frmChangeUser.h"
 #include "values/Clock.h"
@@ -36,21 +37,8 @@ const auto RunningTotalPattern = u"###,###,##0.00"_s;
 
 frmORVAtouch::frmORVAtouch() {
     ui.setupUi(this);
-    ui.lv1->SetColumns({{u"Code"_s, Qt::AlignLeft, 128},
-                        {u"Product name"_s, Qt::AlignLeft, -1},
-                        {u"Price"_s, Qt::AlignRight, 78},
-                        {u"Quantity"_s, Qt::AlignRight, 76},
-                        {u"Amount"_s, Qt::AlignRight, 76},
-                        {u"Tax %"_s, Qt::AlignRight, 60},
-                        {u"Tax"_s, Qt::AlignRight, 0},
-                        {u"Unit"_s, Qt::AlignLeft, 0},
-                        {u"TaxID"_s, Qt::AlignLeft, 0},
-                        {u"ID"_s, Qt::AlignLeft, 0}});
-    ui.lvPorez->SetColumns({{u"TaxID"_s, Qt::AlignLeft, -1},
-                            {{}, Qt::AlignLeft, 0},
-                            {u"Rate"_s, Qt::AlignRight, 60},
-                            {u"Amount"_s, Qt::AlignRight, 84},
-                            {u"Tax"_s, Qt::AlignRight, 74}});
+    SetLineColumns(*ui.lv1, LinesOf::Sale);
+    SetRecapColumns(*ui.lvPorez);
 
     FunctionKeys({{Qt::Key_Escape, ui.cmdESCponisti},
                   {Qt::Key_F1, ui.cmdHelp},
@@ -93,9 +81,7 @@ frmORVAtouch::frmORVAtouch() {
     On(ui.cmdHelp, &frmORVAtouch::cmdHelp_Click);
     connect(ui.clickTable, &ClickTable::Clicked, this, [this](int index) { Run([&] { Command2_Click(index); }); });
     CloseInvoice();
-    for (QWidget* customer : {static_cast<QWidget*>(ui.panelCustomer), static_cast<QWidget*>(ui.lblKupac),
-                              static_cast<QWidget*>(ui.txtKupac), static_cast<QWidget*>(ui.txtIB)})
-        customer->hide();
+    ShowCustomer(false);
 }
 
 void frmORVAtouch::Form_Load() {
@@ -112,10 +98,15 @@ void frmORVAtouch::Form_Load() {
     FindNumbers();
     LoadTabCaptions(this);
     LoadClickTable(this);
-    for (QWidget* customer : {static_cast<QWidget*>(ui.panelCustomer), static_cast<QWidget*>(ui.lblKupac),
-                              static_cast<QWidget*>(ui.txtKupac), static_cast<QWidget*>(ui.txtIB)})
-        customer->setVisible(TheSettings.Kupac);
+    ShowCustomer(TheSettings.Kupac);
     cmdNew_Click();
+}
+
+void frmORVAtouch::ShowCustomer(bool visible) {
+    ui.panelCustomer->setVisible(visible);
+    ui.lblKupac->setVisible(visible);
+    ui.txtKupac->setVisible(visible);
+    ui.txtIB->setVisible(visible);
 }
 
 // The open period goes on, with the total that its row holds; after a closed one, or none, a new one begins.

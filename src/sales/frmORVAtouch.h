@@ -24,6 +24,7 @@ protected:
 
 private:
     // The period and the numbers (frmORVAtouch.cpp).
+    void ShowCustomer(bool visible);
     void FindPeriod();
     void NewPeriod(qint16 number);
     void StartSalesPeriod();
