@@ -3,6 +3,7 @@
 #include <QAbstractScrollArea>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QStyle>
 
 #include "forms/Controls.h"
 #include "values/Locale.h"
@@ -67,6 +68,13 @@ void SelectWhole(QWidget* box) {
         line->selectAll();
     else if (box->metaObject()->indexOfMethod("selectAll()") >= 0)
         QMetaObject::invokeMethod(box, "selectAll", Qt::DirectConnection);
+}
+
+// What stands on the page of a tab has taken its looks before anything was told about it.
+void Restyle(QWidget* box) {
+    if (!box->testAttribute(Qt::WA_WState_Polished)) return;
+    box->style()->unpolish(box);
+    box->style()->polish(box);
 }
 
 }  // namespace
@@ -210,6 +218,7 @@ void Form::ListKeys(ListView* list, std::initializer_list<KeyBinding> keys) {
 void Form::HighlightOnFocus(std::initializer_list<QWidget*> boxes, OnFocus what) {
     for (QWidget* box : boxes) {
         box->setProperty("highlight", true);
+        Restyle(box);
         behaviours_->For(box).highlight = what;
         auto* combo = qobject_cast<QComboBox*>(box);
         if (combo && combo->lineEdit()) combo->lineEdit()->installEventFilter(behaviours_.get());

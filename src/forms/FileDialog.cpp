@@ -45,6 +45,7 @@ QString AskSaveName(QWidget* parent, const QString& title, const QString& filter
 QString AskOpenName(QWidget* parent, const QString& title, const QString& filter) {
     QFileDialog* dialog = NewDialog(parent, title, filter);
     dialog->setAcceptMode(QFileDialog::AcceptOpen);
+    dialog->setOption(QFileDialog::HideNameFilterDetails);
     return AskName(dialog);
 }
 

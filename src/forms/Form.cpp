@@ -188,6 +188,18 @@ void Form::ConnectTimer(QTimer* timer, std::function<void()> handler) {
     connect(timer, &QTimer::timeout, this, std::move(handler));
 }
 
+// The box tells of a choice once, and of one that changes the entry once more before that.
+void Form::WatchChoice(QComboBox* box, std::function<void()> handler) {
+    const auto told = std::make_shared<int>(-1);
+    connect(box, &QComboBox::currentIndexChanged, this, [told, handler](int entry) {
+        *told = entry;
+        handler();
+    });
+    connect(box, &QComboBox::activated, this, [told, handler](int entry) {
+        if (std::exchange(*told, -1) != entry) handler();
+    });
+}
+
 const QList<Form*>& LoadedForms() {
     return loadedForms;
 }

@@ -98,6 +98,11 @@ protected:
     void OnChange(QComboBox* box, void (Screen::*handler)()) {
         connect(box, &QComboBox::currentTextChanged, this, Guarded(handler));
     }
+    // A choice in the list, of the entry shown already too; a program's own choice counts as one.
+    template <typename Screen>
+    void OnChoice(QComboBox* box, void (Screen::*handler)()) {
+        WatchChoice(box, Guarded(handler));
+    }
     // The control got or lost the focus within the program (not: another window or a menu came to the front).
     template <typename Screen>
     void OnGotFocus(QWidget* control, void (Screen::*handler)()) {
@@ -141,6 +146,7 @@ private:
 
     void WatchFocus(QWidget* control, std::function<void()> got, std::function<void()> lost);
     void WatchMouse(QWidget* control, Qt::MouseButton button, std::function<void()> handler);
+    void WatchChoice(QComboBox* box, std::function<void()> handler);
     void ConnectTimer(QTimer* timer, std::function<void()> handler);
 
     void Present();

@@ -5,12 +5,17 @@
 #include <QToolTip>
 
 #include "forms/RowModel.h"
+#include "values/Error.h"
+
+using namespace Qt::StringLiterals;
 
 namespace forms {
 
 namespace {
 
+constexpr int NothingSelected = 91;
 constexpr int narrowestFlexibleColumn = 60;
+constexpr int rowsMadeAtOnce = 1000;
 // What the style leaves free on both sides of a cell's text.
 constexpr int cellPadding = 22;
 
@@ -18,6 +23,8 @@ constexpr int cellPadding = 22;
 
 ListView::ListView(QWidget* parent) : QTreeView(parent), rows_(new RowModel(this)) {
     setModel(rows_);
+    // Not at once: rows are made while the list is painted, too.
+    connect(rows_, &RowModel::TextsGrew, this, &ListView::WidenForNumbers, Qt::QueuedConnection);
     setRootIsDecorated(false);
     setItemsExpandable(false);
     setIndentation(0);
@@ -85,6 +92,12 @@ int ListView::Selected() const {
     return chosen.isEmpty() ? -1 : chosen.first().row();
 }
 
+QString ListView::SelectedText(int column) const {
+    const int row = Selected();
+    if (row < 0) throw values::Error(NothingSelected, u"No row of the list is selected."_s);
+    return Text(row, column);
+}
+
 void ListView::Select(int row) {
     rows_->Publish();
     if (row < 0 || row >= Count()) {
@@ -101,6 +114,12 @@ void ListView::BringIntoView(int row) {
     if (row < 0 || row >= Count()) return;
     rows_->Publish();
     scrollTo(rows_->index(row, FirstShownColumn()));
+}
+
+void ListView::ShowRows(int count, std::function<QStringList(int row)> make) {
+    rows_->ShowRows(count, std::move(make));
+    for (int row = 0; row < qMin(count, rowsMadeAtOnce); ++row) rows_->Cell(row, 0);
+    WidenForNumbers();
 }
 
 void ListView::BeginFill() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTreeView>
+#include <functional>
 #include <vector>
 
 namespace forms {
@@ -37,11 +38,16 @@ public:
 
     // -1 when no row is selected.
     int Selected() const;
+    // The text of the selected row; error 91 when no row is selected.
+    QString SelectedText(int column = 0) const;
     // Selects a row and makes it visible; -1 selects none.
     void Select(int row);
     // Makes a row visible without selecting it.
     void BringIntoView(int row);
 
+    // Many rows that are made as they are needed: the list holds `count` rows, and asks `make` for the cells of each
+    // when it is first looked at, the first thousand at once. Takes the place of what the list held.
+    void ShowRows(int count, std::function<QStringList(int row)> make);
     // Many rows at once: between Begin and End nothing is repainted.
     void BeginFill();
     void EndFill();

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <functional>
+#include <unordered_map>
 #include <vector>
 
 #include "forms/ListView.h"
@@ -21,6 +23,8 @@ public:
     void Clear();
     int Add(QStringList cells);
     void Remove(int row);
+    // `count` rows, the cells of each made when they are first asked for.
+    void ShowRows(int count, std::function<QStringList(int row)> make);
     const QString* Cell(int row, int column) const;
     void SetCell(int row, int column, const QString& text);
 
@@ -38,12 +42,28 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
+Q_SIGNALS:
+    // A row that was made late holds a longer text than its column has held before.
+    void TextsGrew();
+
 private:
+    using Row = std::vector<QString>;
+
     size_t Width() const { return headings_.size(); }
+    void Empty();
+    Row& Made(int row) const;
+    // Notes the lengths of a row's texts; true when one is the longest of its column.
+    bool Measure(const QString* cells) const;
+    // Makes what is not made yet, and goes on as a list that was filled row by row.
+    void MakeAll();
 
     std::vector<ListColumn> headings_;
     std::vector<QString> cells_;
-    std::vector<qsizetype> longest_;
+    mutable std::vector<qsizetype> longest_;
+    // Instead of cells_ while rows are made as they are needed.
+    std::function<QStringList(int row)> make_;
+    mutable std::unordered_map<int, Row> made_;
+    int toMake_ = 0;
     int published_ = 0;
     int fills_ = 0;
 };

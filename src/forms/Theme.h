@@ -8,8 +8,8 @@ namespace forms {
 // by the property "role" in their .ui files:
 //   buttons   main (save, new, add), post (the big one of the sales screen), danger (deletes, cancels)
 //   boxes     entry (20 px entry field), plain (a strong text that looks like a label), plainAccent (the same in
-//             accent), strip (the line of information)
-//   labels    heading, muted, strong (18 px), figure (18 px, for numbers), accent
+//             accent), strip (the line of information), pale (light grey, yet it can be typed into)
+//   labels    heading, muted, strong (18 px), figure (18 px, for numbers), accent, picture (a dotted frame for one)
 //   frames    panel (paper, border, corners), night (the panel of the total), strip (the line of information)
 //   on night  total (46 px figure), nightText
 //   any button may be "tight" (property, true): less room beside its caption, for rows of many

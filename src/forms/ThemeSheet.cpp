@@ -15,6 +15,7 @@ QLineEdit { min-height: @fieldHeight; padding: 0 10px; }
 QLineEdit:focus, QPlainTextEdit:focus, QTextEdit:focus { border: 2px solid @ink; }
 QLineEdit:focus { padding: 0 9px; min-height: @focusedFieldHeight; }
 QLineEdit:read-only { background: @readOnly; }
+QLineEdit[role="pale"] { background: @ground; }
 QLineEdit:disabled, QPlainTextEdit:disabled, QTextEdit:disabled {
     background: @readOnly; color: @muted; border-color: @line;
 }
@@ -72,7 +73,14 @@ QPushButton[role="danger"]:disabled { color: @faint; border-color: @line; }
 QToolButton { border: 1px solid transparent; border-radius: @corner; padding: 6px; }
 QToolButton:hover { background: @hover; border-color: @line; }
 QToolButton:pressed { background: @pressed; }
-QToolBar { background: @paper; border: none; border-bottom: 1px solid @line; spacing: 4px; padding: 4px; }
+QToolBar { background: transparent; border: none; spacing: 8px; padding: 0; }
+QToolBar QToolButton {
+    background: @paper; color: @ink; border: 1px solid @edge; min-height: @buttonHeight; padding: 0 14px;
+}
+QToolBar QToolButton:hover { background: @hover; }
+QToolBar QToolButton:pressed { background: @pressed; }
+QToolBar QToolButton[role="main"] { background: @accent; color: @paper; border-color: @accentDark; font-weight: 500; }
+QToolBar QToolButton[role="main"]:hover, QToolBar QToolButton[role="main"]:pressed { background: @accentDark; }
 QDialogButtonBox QPushButton, QMessageBox QPushButton { min-width: 76px; }
 QMessageBox QLabel#qt_msgbox_label { min-width: 260px; padding: 6px 8px 10px 4px; }
 QMessageBox QLabel#qt_msgboxex_icon_label { padding: 6px; }
@@ -108,6 +116,7 @@ QFrame[role="strip"] QLineEdit, QLabel[role="strip"], QLineEdit[role="strip"] { 
 QLabel[role="strip"], QLineEdit[role="strip"], QLineEdit[role="strip"]:read-only {
     background: @strip; border: 1px solid @stripLine; border-radius: @corner; padding: 0 12px;
 }
+QLabel[role="picture"] { color: @muted; border: 1px dotted @edge; border-radius: @corner; font-size: @labelSize; }
 QGroupBox {
     background: @paper; border: 1px solid @line; border-radius: @corner; margin-top: 20px; padding: 4px;
 }
@@ -165,7 +174,7 @@ QTabBar { font-size: @labelSize; }
 QTabBar::tab {
     background: @tabBehind; color: @ink; border: 1px solid @line; border-bottom: 1px solid @line;
     border-top-left-radius: @corner; border-top-right-radius: @corner;
-    min-height: 42px; padding: 0 8px; margin-right: 2px;
+    min-height: 42px; min-width: 30px; padding: 0 8px; margin-right: 2px;
 }
 QTabBar::tab:selected { background: @paper; border-bottom-color: @paper; font-weight: bold; }
 QTabBar::tab:hover:!selected { background: @hover; }

@@ -195,6 +195,7 @@ int ThemeStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
     // A list below the box, not a menu over it.
     if (hint == SH_ComboBox_Popup) return 0;
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    if (hint == SH_LineEdit_PasswordCharacter) return u'*';
     return QProxyStyle::styleHint(hint, option, widget, answer);
 }
 

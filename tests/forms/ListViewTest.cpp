@@ -164,4 +164,33 @@ TEST_F(ListViewTest, ColumnsShareTheWidth) {
     EXPECT_FALSE(header->sectionsClickable());
 }
 
+TEST_F(ListViewTest, RowsMadeAsTheyAreNeededAreRowsLikeOthers) {
+    list.resize(500, 300);
+    list.show();
+    std::vector<int> made;
+    const auto make = [&made](int row) {
+        made.push_back(row);
+        return QStringList{QString::number(row), u"Name"_s, row == 99'000 ? u"123456789012.00"_s : u"1.00"_s};
+    };
+    list.ShowRows(100'000, make);
+    EXPECT_EQ(list.Count(), 100'000);
+    EXPECT_EQ(made.size(), 1000u);
+    const int width = list.header()->sectionSize(2);
+    list.Select(99'000);
+    Settle();
+    EXPECT_LT(made.size(), 1100u);
+    EXPECT_EQ(list.Text(99'000, 0), u"99000");
+    EXPECT_GT(list.header()->sectionSize(2), width) << "the long number is cut";
+
+    list.SetText(50'000, 1, u"written"_s);
+    EXPECT_EQ(list.Text(50'000, 1), u"written");
+    EXPECT_EQ(list.Add({u"added"_s}), 100'000);
+    list.Remove(0);
+    EXPECT_EQ(list.Text(49'999, 1), u"written");
+    EXPECT_EQ(list.Text(99'999, 0), u"added");
+    list.ShowRows(2, make);
+    EXPECT_EQ(list.Text(1, 0), u"1");
+    EXPECT_EQ(list.Text(2, 0), QString());
+}
+
 }  // namespace
