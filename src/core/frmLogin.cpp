@@ -3,6 +3,7 @@
 #include "core/InstanceLock.h"
 #include "core/Session.h"
 #include "core/Settings.h"
+#include "core/UserList.h"
 #include "core/dbModule.h"
 #include "core/mdiORVA.h"
 #include "forms/MsgBox.h"
@@ -123,9 +124,7 @@ void frmLogin::ReadSettings() {
 }
 
 void frmLogin::FillUserList() {
-    ui.txtUserName->clear();
-    for (auto& user : rsUsers_) ui.txtUserName->addItem(user[u"UserName"].TextOrEmpty());
-    ui.txtUserName->setCurrentIndex(-1);
+    ListUserNames(*ui.txtUserName, rsUsers_);
 }
 
 void frmLogin::SetCompanyHeading() {
