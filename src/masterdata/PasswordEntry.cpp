@@ -1,0 +1,28 @@
+#include "masterdata/PasswordEntry.h"
+
+#include "forms/MsgBox.h"
+
+using namespace Qt::StringLiterals;
+
+void PasswordEntry::EnterPassword(QLineEdit* password, QLineEdit* again, QCheckBox* unmask) {
+    password_ = password;
+    again_ = again;
+    unmask_ = unmask;
+    HighlightOnFocus({password, again});
+    On(unmask, &PasswordEntry::chkUnmaskPassword_Click);
+}
+
+bool PasswordEntry::PasswordsAgree() {
+    if (password_->text() == again_->text()) return true;
+    forms::Tell(u"Different passwords!"_s, forms::Icon::Warning, u"Different passwords"_s);
+    password_->clear();
+    again_->clear();
+    password_->setFocus();
+    return false;
+}
+
+void PasswordEntry::chkUnmaskPassword_Click() {
+    const auto mode = unmask_->isChecked() ? QLineEdit::Normal : QLineEdit::Password;
+    password_->setEchoMode(mode);
+    again_->setEchoMode(mode);
+}

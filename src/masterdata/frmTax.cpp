@@ -1,0 +1,64 @@
+#include "masterdata/frmTax.h"
+
+#include "core/FillList.h"
+#include "core/dbModule.h"
+#include "forms/MsgBox.h"
+#include "masterdata/frmEditTax.h"
+#include "masterdata/frmNewTax.h"
+#include "values/Format.h"
+
+using namespace Qt::StringLiterals;
+using values::Format;
+
+namespace {
+
+const auto TaxesQuery = u"SELECT * FROM Tax"_s;
+const auto TaxQuery = u"SELECT * FROM Tax WHERE TaxID = '%1'"_s;
+
+const auto Protected = u"Tax protected from deletion, but you can modify the data."_s;
+
+}  // namespace
+
+frmTax::frmTax()
+    : TableList({.name = u"frmTax"_s,
+                 .title = u"Taxes"_s,
+                 .columns = {{u"TaxID"_s, Qt::AlignLeft, 110},
+                             {u"Tax rate [%]"_s, Qt::AlignRight, 120},
+                             {u"Tax name"_s, Qt::AlignLeft, -1}},
+                 .rowQuery = TaxQuery,
+                 .isProtected = Protected,
+                 .deleted = u"Tax deleted."_s}) {}
+
+void frmTax::ShowRows() {
+    rsTax_ = MainStore().OpenRecordset(TaxesQuery);
+    FillTaxGrid();
+}
+
+void frmTax::FillTaxGrid() {
+    FillList(*ui.lv1, rsTax_, [](store::Recordset& tax) -> QStringList {
+        return {tax[u"TaxID"].TextOrEmpty(), Format(tax[u"Percent"].Get(), u"0.00"), tax[u"Name"].TextOrEmpty()};
+    });
+}
+
+void frmTax::ShowNew() {
+    frmNewTax().ShowModal();
+}
+
+void frmTax::ShowEdit() {
+    frmEditTax().ShowModal();
+}
+
+QString frmTax::DeleteQuestion(store::Recordset& tax) const {
+    return u"TaxID: "_s + tax[u"TaxID"].TextOrEmpty() + u"\nTax name: "_s + tax[u"Name"].TextOrEmpty() +
+           u"\nAre you sure you want to delete this type of tax?"_s;
+}
+
+// A rate that other rows of the store refer to is protected in the same words.
+void frmTax::cmdDelete_Click() {
+    try {
+        TableList::cmdDelete_Click();
+    } catch (const values::Error& error) {
+        if (error.Number() == store::RelatedRows) return forms::Tell(Protected);
+        forms::Inform(forms::ErrorText(error), Caption());
+    }
+}
