@@ -1,0 +1,35 @@
+#pragma once
+
+#include "core/OfficeForm.h"
+#include "masterdata/SearchBlock.h"
+
+// A screen whose list is narrowed by the search block: each letter typed, each choice of a field or of the way to look
+// runs the search at once.
+class SearchScreen : public OfficeForm {
+    Q_OBJECT
+
+protected:
+    // Ties the block to the screen.
+    void SearchWith(SearchBlock* block);
+    // The entries of cboView; the first is selected, which does not search yet.
+    void SetSearchFields(const QStringList& entries);
+
+    // The field that is searched while an entry of cboView is shown.
+    virtual QString SearchedField(const QString& entry) const = 0;
+    // Opens a query as the screen's rows and fills the list with them.
+    virtual void ShowRows(const QString& query) = 0;
+
+    void Search();
+    // Empties the text, which searches by itself, and then shows the rows without a condition.
+    virtual void cmdRefresh_Click();
+
+    QString base_;       // the query without a condition
+    QString condition_;  // of the last search; a refresh does not reset it
+
+private:
+    void cboView_Click();
+
+    SearchBlock* block_ = nullptr;
+    // Filling cboView counts as a choice, which must not search.
+    bool fieldsAreSet_ = false;
+};

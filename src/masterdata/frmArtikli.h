@@ -1,0 +1,36 @@
+#pragma once
+
+#include "masterdata/SearchList.h"
+#include "ui_frmArtikli.h"
+
+// All products: search, new, edit, delete. In the choosing mode it gives the code of a product to its caller instead.
+class frmArtikli : public SearchList {
+    Q_OBJECT
+
+public:
+    frmArtikli();
+
+    // Opens the choosing mode for CallerForm, a form with a box txtProdCode, without waiting for the choice.
+    static void Choose();
+    // Shows the plain list until it is closed.
+    static void Keep();
+
+protected:
+    void Form_Load() override;
+    bool Form_Unload() override;
+    QString SearchedField(const QString& entry) const override;
+    void ShowRows(const QString& query) override;
+    void cmdNew_Click() override;
+    void cmdUpdate_Click() override;
+    void cmdDelete_Click() override;
+
+private:
+    void lv1_DblClick();
+    void Activate();
+
+    void FillProductGrid();
+
+    Ui::frmArtikli ui;
+    store::Recordset rsProducts_;
+    bool isChoosing_ = false;
+};

@@ -1,0 +1,130 @@
+#include "masterdata/frmEditProduct.h"
+
+#include <algorithm>
+
+#include "core/dbModule.h"
+#include "forms/Controls.h"
+#include "masterdata/frmSastav.h"
+#include "output/Folder.h"
+#include "values/Format.h"
+
+using namespace Qt::StringLiterals;
+using values::Format;
+
+namespace {
+
+const auto ProductQuery = u"SELECT * FROM Products WHERE ProdCode = '%1'"_s;
+
+// The text in its full length, since the save writes it back.
+void ShowWhole(QLineEdit* box, const QString& text) {
+    box->setMaxLength(std::max(box->maxLength(), static_cast<int>(text.size())));
+    box->setText(text);
+}
+
+// Nobody can type into a box that is hidden, so an empty field must not keep the product from being saved.
+QString HiddenPrice(const values::Value& price) {
+    return Format(price.IsNull() ? values::Value(0) : price, u"0.00");
+}
+
+// A text that is no longer in its table is shown, and saved, all the same.
+void Choose(QComboBox* list, const QString& text) {
+    if (!text.isEmpty() && list->findText(text) < 0) list->addItem(text);
+    list->setCurrentText(text);
+}
+
+QString Assignment(const QString& field, const QString& value) {
+    return u' ' + field + u" = '"_s + value + u'\'';
+}
+
+}  // namespace
+
+frmEditProduct::frmEditProduct()
+    : ProductEntry({.name = u"frmEditProduct"_s,
+                    .title = u"Edit product"_s,
+                    .save = u"cmdUpdate"_s,
+                    .second = u"cmdSastav"_s,
+                    .secondCaption = u"F4-Structure"_s,
+                    .labelEnd = {},
+                    .pictureTitle = u"Select a thumbnail - icon"_s,
+                    .allPictures = u"All images"_s,
+                    .pictureMissing = u"File with such name does not exist!"_s}) {
+    ui.txtProdCode->setReadOnly(true);
+    ui.txtProdCode->setFocusPolicy(Qt::NoFocus);
+    FunctionKeys({{Qt::Key_Escape, ui.cmdClose}});
+    On(ui.cmdSecond, &frmEditProduct::cmdSastav_Click);
+}
+
+void frmEditProduct::Form_Load() {
+    lv1_ = qobject_cast<forms::ListView*>(forms::Control(forms::FindForm(u"frmArtikli"), u"lv1"));
+    row_ = lv1_->Selected();
+    const QString query = ProductQuery.arg(lv1_->SelectedText());
+    FillTaxList();
+    FillUnitList();
+    rsProduct_ = MainStore().OpenRecordset(query);
+    ShowProduct();
+}
+
+// A tax that is no longer in its table has no other percent than the product's own.
+void frmEditProduct::ShowTax(store::Recordset& tax) {
+    ProductEntry::ShowTax(tax);
+    if (tax.AtEOF()) ui.txtTaxPercent->setText(rsProduct_[u"TaxPercent"].TextOrEmpty());
+    ui.txtTaxName->setText(ValueOf(tax, u"Name").TextOrEmpty());
+}
+
+// The percent comes after the tax: it is the product's own until a tax is chosen.
+void frmEditProduct::ShowProduct() {
+    ShowWhole(ui.txtProdCode, rsProduct_[u"ProdCode"].TextOrEmpty());
+    ShowWhole(ui.txtDescription, rsProduct_[u"ProdDescription"].TextOrEmpty());
+    ui.txtQuantity->setText(rsProduct_[u"Qty"].TextOrEmpty());
+    Choose(ui.txtUnit, rsProduct_[u"Unit"].TextOrEmpty());
+    ui.txtUnitPrice->setText(Format(rsProduct_[u"UnitPrice"], u"0.00"));
+    ui.txtUnitPricebezPDV->setText(HiddenPrice(rsProduct_[u"UnitPricebezPDV"]));
+    ui.txtVPUnitPrice->setText(HiddenPrice(rsProduct_[u"VPUnitPrice"]));
+    ui.txtVPUnitPricebezPDV->setText(HiddenPrice(rsProduct_[u"VPUnitPricebezPDV"]));
+    Choose(ui.cboTax, rsProduct_[u"TaxID"].TextOrEmpty());
+    ui.txtTaxPercent->setText(rsProduct_[u"TaxPercent"].TextOrEmpty());
+
+    ui.txtPicturePath->setText(rsProduct_[u"Pict"].TextOrEmpty());
+    if (ui.txtPicturePath->text().isEmpty()) return;
+    const QString picture = output::InProgramFolder(u"\\img\\"_s + ui.txtPicturePath->text());
+    // A file that is no picture is told, but the product can be changed.
+    if (FileExists(picture)) Run([&] { ShowPicture(picture); });
+}
+
+void frmEditProduct::StoreProduct() {
+    UpdateProduct();
+    RefreshProductRow();
+}
+
+void frmEditProduct::ProductStored() {
+    Unload();
+}
+
+void frmEditProduct::UpdateProduct() {
+    const QStringList fields{Assignment(u"ProdCode"_s, ui.txtProdCode->text()),
+                             Assignment(u"ProdDescription"_s, ui.txtDescription->text()),
+                             Assignment(u"Qty"_s, ui.txtQuantity->text()),
+                             Assignment(u"Unit"_s, ui.txtUnit->currentText()),
+                             Assignment(u"UnitPrice"_s, PriceIn(ui.txtUnitPrice)),
+                             Assignment(u"UnitPricebezPDV"_s, PriceIn(ui.txtUnitPricebezPDV)),
+                             Assignment(u"VPUnitPrice"_s, PriceIn(ui.txtVPUnitPrice)),
+                             Assignment(u"VPUnitPricebezPDV"_s, PriceIn(ui.txtVPUnitPricebezPDV)),
+                             Assignment(u"TaxPercent"_s, PriceIn(ui.txtTaxPercent)),
+                             Assignment(u"Pict"_s, ui.txtPicturePath->text()),
+                             Assignment(u"TaxID"_s, ui.cboTax->currentText())};
+    ExecuteSql(u"UPDATE Products SET "_s + fields.join(u',') + u" WHERE ProdCode = '"_s + ui.txtProdCode->text() +
+               u"'"_s);
+}
+
+void frmEditProduct::RefreshProductRow() {
+    const QString cells[] = {ui.txtDescription->text(),  ui.txtQuantity->text(),
+                             ui.txtUnit->currentText(),  PriceIn(ui.txtUnitPrice),
+                             ui.txtTaxPercent->text(),   PriceIn(ui.txtUnitPricebezPDV),
+                             PriceIn(ui.txtVPUnitPrice), PriceIn(ui.txtVPUnitPricebezPDV)};
+    int column = 0;
+    for (const QString& cell : cells) lv1_->SetText(row_, ++column, cell);
+}
+
+void frmEditProduct::cmdSastav_Click() {
+    frmSastav().ShowModal();
+}

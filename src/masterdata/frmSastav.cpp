@@ -1,0 +1,236 @@
+#include "masterdata/frmSastav.h"
+
+#include <QSignalBlocker>
+
+#include "core/Session.h"
+#include "core/dbModule.h"
+#include "core/mdiORVA.h"
+#include "forms/Controls.h"
+#include "forms/MsgBox.h"
+#include "masterdata/frmViewer.h"
+#include "store/CaseFold.h"
+#include "values/Format.h"
+#include "values/Numbers.h"
+#include "values/Tax.h"
+
+using namespace Qt::StringLiterals;
+using values::CDouble;
+using values::CMoney;
+using values::Format;
+using values::Money;
+
+namespace {
+
+const auto ProductQuery = u"SELECT * FROM Products WHERE ProdCode = '%1'"_s;
+const auto CompositionQuery = u"SELECT * FROM ProductsCon WHERE SIF = '%1'"_s;
+
+const auto UnknownProduct = u"Product with this code-barcode does not exist."_s;
+const auto NoItems = u"You did not enter a single item in the composition."_s;
+
+constexpr int NoObject = 91;
+
+}  // namespace
+
+frmSastav::frmSastav() {
+    ui.setupUi(this);
+    ui.lv1->SetColumns({{u"ProductID"_s, Qt::AlignLeft, 150},
+                        {u"ProductName"_s, Qt::AlignLeft, -1},
+                        {u"Quantity"_s, Qt::AlignRight, 100},
+                        {u"Unit"_s, Qt::AlignLeft, 80},
+                        {u"Price"_s, Qt::AlignRight, 100}});
+    HelpAndClose(ui.cmdHelp, ui.cmdClose);
+    FunctionKeys({{Qt::Key_F2, ui.cmdF2izaberi}, {Qt::Key_F4, ui.cmdSave}, {Qt::Key_F5, ui.cmdDelete}});
+    HighlightOnFocus({ui.txtProdCode}, forms::OnFocus::KeepCaret);
+    HighlightOnFocus({ui.txtQuantity});
+    NumericKeys({ui.txtQuantity});
+    ShrinkFigures({ui.txtUnitPrice, ui.txtPrice});
+    EnterMovesOn({ui.txtProdCode, ui.lv1});
+    ControlKeys(ui.txtQuantity, {{Qt::Key_Return, Guarded(&frmSastav::txtQuantity_Enter)}});
+    ControlKeys(ui.lv1, {{Qt::Key_Insert, Guarded(&frmSastav::EditCompositionItem)},
+                         {Qt::Key_Delete, Guarded(&frmSastav::RemoveCompositionItem)}});
+    OnChange(ui.txtProdCode, &frmSastav::txtProdCode_Change);
+    OnLostFocus(ui.txtProdCode, &frmSastav::CheckComponentCode);
+    OnChange(ui.txtDescription, &frmSastav::UpdateAddButton);
+    OnChange(ui.txtQuantity, &frmSastav::txtQuantity_Change);
+    On(ui.cmdAddItem, &frmSastav::cmdAddItem_Click);
+    On(ui.cmdF2izaberi, &frmSastav::cmdF2izaberi_Click);
+    OnMouseUp(ui.lv1, Qt::RightButton, &frmSastav::EditCompositionItem);
+    OnMouseUp(ui.lv1, Qt::LeftButton, &frmSastav::RemoveCompositionItem);
+    On(ui.cmdSave, &frmSastav::cmdSave_Click);
+    On(ui.cmdDelete, &frmSastav::cmdDelete_Click);
+}
+
+void frmSastav::Form_Load() {
+    forms::Form* editor = forms::FindForm(u"frmEditProduct");
+    if (!editor) throw values::Error(NoObject, u"A composition is opened from the screen of its product."_s);
+    code_ = forms::TextOf(forms::Control(editor, u"txtProdCode"));
+    auto product = MainStore().OpenRecordset(ProductQuery.arg(code_));
+    rsComposition_ = MainStore().OpenRecordset(CompositionQuery.arg(code_));
+    ui.lblSifra->setText(product[u"ProdCode"].TextOrEmpty());
+    ui.lblDescription->setText(product[u"ProdDescription"].TextOrEmpty());
+    ui.lblJM->setText(product[u"Unit"].TextOrEmpty());
+    ui.lblCijena->setText(Format(product[u"UnitPrice"], u"0.00"));
+    LoadComposition();
+    ui.txtProdCode->setFocus();
+}
+
+// A component without a product stops it: a recipe shown in part would be stored in part.
+void frmSastav::LoadComposition() {
+    ui.lv1->Clear();
+    for (auto& part : rsComposition_) {
+        auto product = MainStore().OpenRecordset(ProductQuery.arg(part[u"CONsif"].TextOrEmpty()));
+        ui.lv1->Add({product[u"ProdCode"].TextOrEmpty(), product[u"ProdDescription"].TextOrEmpty(),
+                     Format(part[u"ConSIFQty"], u"0.000"), product[u"Unit"].TextOrEmpty(),
+                     Format(product[u"UnitPrice"], u"0.00")});
+    }
+    KeepARowSelected();
+}
+
+void frmSastav::KeepARowSelected() {
+    if (ui.lv1->Selected() < 0) ui.lv1->Select(0);
+}
+
+void frmSastav::UpdateAddButton() {
+    ui.cmdAddItem->setEnabled(!ui.txtProdCode->text().isEmpty() && !ui.txtQuantity->text().isEmpty() &&
+                              !ui.txtDescription->text().isEmpty());
+}
+
+// A query text that a typed character breaks is passed over: the boxes keep what they had.
+void frmSastav::txtProdCode_Change() {
+    UpdateAddButton();
+    const QString code = ui.txtProdCode->text();
+    if (code.isEmpty()) return EmptyComponent();
+    try {
+        LookUpComponent(code);
+    } catch (const values::Error&) {
+    }
+}
+
+void frmSastav::LookUpComponent(const QString& code) {
+    auto product = MainStore().OpenRecordset(ProductQuery.arg(code));
+    if (product.AtEOF()) return EmptyComponent();
+    ui.txtSupply->setText(product[u"Qty"].TextOrEmpty());
+    ui.txtDescription->setText(product[u"ProdDescription"].TextOrEmpty());
+    ui.txtTaxPercent->setText(Format(product[u"TaxPercent"], u"0.00"));
+    ui.txtUnitPrice->setText(Format(product[u"UnitPrice"], u"0.00"));
+    ui.txtUnit->setText(product[u"Unit"].TextOrEmpty());
+    ui.txtTaxID->setText(product[u"TaxID"].TextOrEmpty());
+    {
+        // Its errors belong to the lookup, and must not be reported.
+        const QSignalBlocker quiet(ui.txtQuantity);
+        ui.txtQuantity->setText(u"1"_s);
+    }
+    txtQuantity_Change();
+}
+
+void frmSastav::EmptyComponent() {
+    for (QLineEdit* box : {ui.txtSupply, ui.txtDescription, ui.txtTaxPercent, ui.txtUnitPrice, ui.txtPrice,
+                           ui.txtTaxAmount, ui.txtTaxID, ui.txtUnit, ui.txtQuantity})
+        box->clear();
+}
+
+void frmSastav::CheckComponentCode() {
+    if (ui.txtProdCode->text().isEmpty() || !ui.txtDescription->text().isEmpty()) return;
+    forms::Inform(UnknownProduct, mdiORVA::Window().Caption());
+    ui.txtProdCode->setFocus();
+    forms::SelectAll(ui.txtProdCode);
+}
+
+void frmSastav::txtQuantity_Change() {
+    UpdateAddButton();
+    if (ui.txtProdCode->text().isEmpty() || ui.txtQuantity->text().isEmpty() || ui.txtDescription->text().isEmpty()) {
+        ui.txtQuantity->clear();
+        ui.txtProdCode->setFocus();
+        return;
+    }
+    if (!values::IsNumeric(ui.txtQuantity->text())) {
+        ui.txtQuantity->clear();
+        ui.txtQuantity->setFocus();
+        return;
+    }
+    ShowAmountAndTax();
+}
+
+void frmSastav::ShowAmountAndTax() {
+    ui.txtPrice->setText(Format(CMoney(ui.txtQuantity->text()) * CMoney(ui.txtUnitPrice->text()), u"0.00"));
+    const Money tax = values::ContainedTax(CMoney(ui.txtPrice->text()), CDouble(ui.txtTaxPercent->text()));
+    ui.txtTaxAmount->setText(Format(tax, u"0.00"));
+}
+
+void frmSastav::txtQuantity_Enter() {
+    UpdateAddButton();
+    if (ui.cmdAddItem->isEnabled()) return cmdAddItem_Click();
+    forms::SendTab(ui.txtQuantity);
+}
+
+void frmSastav::cmdAddItem_Click() {
+    if (FindComponent(ui.txtProdCode->text()) >= 0) return;
+    const int row =
+        ui.lv1->Add({ui.txtProdCode->text(), ui.txtDescription->text(), Format(ui.txtQuantity->text(), u"0.000"),
+                     ui.txtUnit->text(), Format(ui.txtPrice->text(), u"0.00")});
+    ui.lv1->BringIntoView(row);
+    KeepARowSelected();
+    for (QLineEdit* box : {ui.txtProdCode, ui.txtTaxPercent, ui.txtQuantity}) box->clear();
+    ui.txtProdCode->setFocus();
+}
+
+int frmSastav::FindComponent(const QString& code) const {
+    for (int row = 0; row < ui.lv1->Count(); ++row)
+        if (store::SameText(ui.lv1->Text(row), code)) return row;
+    return -1;
+}
+
+void frmSastav::cmdF2izaberi_Click() {
+    ui.txtProdCode->clear();
+    CallerForm = this;
+    frmViewer().ShowModal();
+}
+
+void frmSastav::EditCompositionItem() {
+    const int row = ui.lv1->Selected();
+    if (row < 0) return;
+    const QString quantity = ui.lv1->Text(row, 2);
+    ui.txtProdCode->clear();  // the same code once more is looked up as well
+    ui.txtProdCode->setText(ui.lv1->Text(row));
+    ui.txtQuantity->setText(quantity);
+    ui.lv1->Remove(row);
+    ui.txtQuantity->setFocus();
+}
+
+void frmSastav::RemoveCompositionItem() {
+    if (ui.lv1->Selected() >= 0) ui.lv1->Remove(ui.lv1->Selected());
+}
+
+void frmSastav::cmdSave_Click() {
+    if (ui.lv1->Count() == 0) {
+        forms::Inform(NoItems, mdiORVA::Window().Caption());
+        ui.txtProdCode->setFocus();
+        forms::SelectAll(ui.txtProdCode);
+        return;
+    }
+    StoreComposition();
+}
+
+// One unit: neither a power cut nor a bad quantity nor another register that saves leaves half a recipe.
+void frmSastav::StoreComposition() {
+    store::Database::Batch batch(MainStore());
+    DeleteCompositionRows();
+    for (int row = 0; row < ui.lv1->Count(); ++row) {
+        rsComposition_.AddNew();
+        rsComposition_[u"sif"] = code_;
+        rsComposition_[u"CONsif"] = ui.lv1->Text(row);
+        rsComposition_[u"ConSIFQty"] = CMoney(ui.lv1->Text(row, 2));
+        rsComposition_.Update();
+    }
+    batch.Commit();
+}
+
+// The rows are read anew: another register may have saved meanwhile, and the recipe is replaced as a whole.
+void frmSastav::DeleteCompositionRows() {
+    rsComposition_ = MainStore().OpenRecordset(CompositionQuery.arg(code_));
+    for (auto& part : rsComposition_) part.Delete();
+}
+
+void frmSastav::cmdDelete_Click() {
+    ui.lv1->Clear();
+}

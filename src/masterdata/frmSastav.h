@@ -1,0 +1,45 @@
+#pragma once
+
+#include "core/OfficeForm.h"
+#include "store/Recordset.h"
+#include "ui_frmSastav.h"
+
+// The recipe of the composite product that frmEditProduct shows: which products it is made of, and how much of each
+// goes into one unit. The list is a working copy; a save puts it in the place of the stored recipe.
+class frmSastav : public OfficeForm {
+    Q_OBJECT
+
+public:
+    frmSastav();
+
+protected:
+    void Form_Load() override;
+
+private:
+    void txtProdCode_Change();
+    void CheckComponentCode();
+    void txtQuantity_Change();
+    void txtQuantity_Enter();
+    void cmdAddItem_Click();
+    void cmdF2izaberi_Click();
+    void EditCompositionItem();
+    void RemoveCompositionItem();
+    void cmdSave_Click();
+    void cmdDelete_Click();
+
+    void LoadComposition();
+    void DeleteCompositionRows();
+    void StoreComposition();
+    void LookUpComponent(const QString& code);
+    void EmptyComponent();
+    void ShowAmountAndTax();
+    void UpdateAddButton();
+    // The row of a component, however its code is written; -1 when it is not in the recipe.
+    int FindComponent(const QString& code) const;
+    // A list with rows has one selected, so that its keys have something to act on.
+    void KeepARowSelected();
+
+    Ui::frmSastav ui;
+    QString code_;  // of the composite
+    store::Recordset rsComposition_;
+};

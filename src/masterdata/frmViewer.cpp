@@ -1,0 +1,84 @@
+#include "masterdata/frmViewer.h"
+
+#include "core/FillList.h"
+#include "core/Session.h"
+#include "core/dbModule.h"
+#include "forms/Controls.h"
+#include "values/Format.h"
+
+using namespace Qt::StringLiterals;
+using values::Format;
+
+namespace {
+
+const auto ListedQuery = u"SELECT ProdCode, ProdDescription, Qty, Unit, UnitPrice, TaxPercent FROM Products"_s;
+const auto ProductsQuery = u"SELECT * FROM Products"_s;
+const auto OptionsQuery = u"SELECT * FROM Options"_s;
+
+const auto NameEntry = u"Product Name"_s;
+const auto CodeEntry = u"ProductID-BarCode"_s;
+
+}  // namespace
+
+frmViewer::frmViewer() {
+    ui.setupUi(this);
+    ui.lv1->SetColumns({{u"ProductID-BarCode"_s, Qt::AlignLeft, 160},
+                        {u"Product Name"_s, Qt::AlignLeft, -1},
+                        {u"Price"_s, Qt::AlignRight, 90},
+                        {u"Tax Rate"_s, Qt::AlignRight, 90},
+                        {u"Quantity"_s, Qt::AlignRight, 90},
+                        {u"Unit"_s, Qt::AlignLeft, 80}});
+    SearchWith(ui.search);
+    HelpAndClose(ui.cmdHelp, ui.cmdClose, {Qt::Key_Escape, Qt::Key_F12});
+    FunctionKeys({{Qt::Key_F11, ui.search->cmdRefresh}});
+    ControlKeys(ui.lv1, {{Qt::Key_Return, Guarded(&frmViewer::lv1_Enter)}});
+    OnDoubleClick(ui.lv1, &frmViewer::lv1_DblClick);
+}
+
+// Listing all products takes its time in a large shop: the register's setting says whether the window opens with them.
+void frmViewer::Form_Load() {
+    base_ = ListedQuery;
+    SetSearchFields({NameEntry, CodeEntry});
+    rsProducts_ = MainStore().OpenRecordset(base_);
+    auto options = OptionsStore().OpenRecordset(OptionsQuery);
+    if (options[u"PrikaziOdmah"].YesNo()) FillViewerGrid();
+}
+
+QString frmViewer::SearchedField(const QString& entry) const {
+    return entry == NameEntry ? u"ProdDescription"_s : u"ProdCode"_s;
+}
+
+void frmViewer::ShowRows(const QString& query) {
+    rsProducts_ = MainStore().OpenRecordset(query);
+    FillViewerGrid();
+}
+
+void frmViewer::cmdRefresh_Click() {
+    base_ = ProductsQuery;
+    SearchScreen::cmdRefresh_Click();
+}
+
+void frmViewer::FillViewerGrid() {
+    FillList(*ui.lv1, rsProducts_, [](store::Recordset& product) -> QStringList {
+        return {product[u"ProdCode"].TextOrEmpty(),
+                product[u"ProdDescription"].TextOrEmpty(),
+                Format(product[u"UnitPrice"].Get(), u"0.00"),
+                Format(product[u"TaxPercent"].Get(), u"0.00"),
+                product[u"Qty"].TextOrEmpty(),
+                product[u"Unit"].TextOrEmpty()};
+    });
+}
+
+void frmViewer::lv1_DblClick() {
+    if (ui.lv1->Selected() >= 0) Pick();
+}
+
+void frmViewer::lv1_Enter() {
+    if (ui.lv1->Selected() >= 0) return Pick();
+    forms::SendTab(ui.lv1);
+}
+
+void frmViewer::Pick() {
+    forms::SetText(forms::Control(CallerForm, u"txtProdCode"), ui.lv1->SelectedText());
+    Unload();
+}
