@@ -1,5 +1,6 @@
 #include "masterdata/ClickTable.h"
 
+#include <QButtonGroup>
 #include <QGridLayout>
 #include <QMouseEvent>
 #include <QTabBar>
@@ -64,11 +65,26 @@ void ClickTable::Clear() {
     for (TouchButton* button : buttons_) button->Clear();
 }
 
+void ClickTable::LetKeysIn() {
+    tabs_->tabBar()->setFocusPolicy(Qt::TabFocus);
+    for (int tab = 0; tab < TabCount; ++tab) {
+        // Within a group the arrow keys go by where the buttons lie.
+        auto* page = new QButtonGroup(this);
+        page->setExclusive(false);
+        for (int place = 0; place < ButtonsPerTab; ++place) {
+            TouchButton* button = Button(tab * ButtonsPerTab + place);
+            button->setFocusPolicy(Qt::TabFocus);
+            page->addButton(button);
+        }
+    }
+}
+
 bool ClickTable::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseButtonRelease) {
+        const auto& release = static_cast<const QMouseEvent&>(*event);
         const auto at = std::find(buttons_.begin(), buttons_.end(), watched);
-        if (at != buttons_.end())
-            Q_EMIT MouseUp(static_cast<int>(at - buttons_.begin()), static_cast<QMouseEvent*>(event)->button());
+        if (at != buttons_.end() && (*at)->rect().contains(release.position().toPoint()))
+            Q_EMIT MouseUp(static_cast<int>(at - buttons_.begin()), release.button());
     }
     return QWidget::eventFilter(watched, event);
 }

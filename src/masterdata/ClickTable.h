@@ -19,13 +19,17 @@ public:
 
     QTabWidget* Tabs() const { return tabs_; }
     void SetTabCaption(int tab, const QString& caption);
+    QString TabCaption(int tab) const { return tabs_->tabToolTip(tab); }
     // A button by its index; an index that has no button is an error of its own (9).
     TouchButton* Button(int index) const;
     // Every button free, without caption and picture.
     void Clear();
+    // For a screen where nobody scans: the Tab key reaches tabs and buttons, the arrow keys move among them.
+    void LetKeysIn();
 
 Q_SIGNALS:
     void Clicked(int index);
+    // A mouse button was released over a touch button.
     void MouseUp(int index, Qt::MouseButton button);
 
 protected:

@@ -9,6 +9,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int Margin = 4;
+constexpr int FocusLine = 2;
 constexpr int PriceHeight = 20;
 constexpr int PictureWidth = 40;
 const auto BetweenNameAndPrice = u" = "_s;
@@ -66,7 +67,8 @@ void TouchButton::paintEvent(QPaintEvent*) {
     const QColor paper = isDown() && taken ? forms::Tokens::ChosenRow
                          : taken           ? forms::Tokens::Paper
                                            : forms::Tokens::Free;
-    painter.setPen(QPen(taken ? forms::Tokens::TouchLine : forms::Tokens::Line, 1));
+    painter.setPen(hasFocus() ? QPen(forms::Tokens::Ink, FocusLine)
+                              : QPen(taken ? forms::Tokens::TouchLine : forms::Tokens::Line, 1));
     painter.setBrush(paper);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), forms::Tokens::Corner,
                             forms::Tokens::Corner);
