@@ -2,6 +2,14 @@
 
 #include "core/mdiORVA.h"
 #include "forms/Controls.h"
+#include "masterdata/frmArtikli.h"
+#include "masterdata/frmChangePassword.h"
+#include "masterdata/frmFirma.h"
+#include "masterdata/frmKlikTabla.h"
+#include "masterdata/frmKupci.h"
+#include "masterdata/frmNewProduct.h"
+#include "masterdata/frmTax.h"
+#include "masterdata/frmUsers.h"
 #include "receipts/FiscalReports.h"
 #include "receipts/frmDepozit.h"
 #include "receipts/frmFiskalniPeriodicniIzvjestaj.h"
@@ -32,8 +40,16 @@ struct Entry {
 
 // An entry that does not stand here tells that its screen is still to come.
 constexpr Entry Entries[] = {
+    {u"cmdNoviArtikal", Show<frmNewProduct>},
+    {u"mnuProducts", frmArtikli::Keep},
     {u"mnuListRacun", Show<frmRacPRG>},
     {u"mnuTrenutnoKasa", ShowRegisterState},
+    {u"cmdKliktabla", frmKlikTabla::Open},
+    {u"mnuUsers", Show<frmUsers>},
+    {u"mnuLozinka", Show<frmChangePassword>},
+    {u"mnuPorez", Show<frmTax>},
+    {u"cmdFirma", Show<frmFirma>},
+    {u"mnuKupci", Show<frmKupci>},
     {u"mnuTrakaRacuna", Show<frmTrakaRacuna>},
     {u"cmdUplatadepozita", Show<frmDepozit>},
     {u"cmdIsplatadepozita", Show<frmDepozitIsplata>},

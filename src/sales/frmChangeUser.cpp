@@ -1,5 +1,6 @@
 #include "sales/frmChangeUser.h"
 
+#include "core/UserList.h"
 #include "core/dbModule.h"
 #include "core/mdiORVA.h"
 #include "forms/Controls.h"
@@ -32,9 +33,7 @@ void frmChangeUser::Form_Load() {
 }
 
 void frmChangeUser::FillUserList() {
-    ui.txtUserName->clear();
-    for (auto& user : rsUsers_) ui.txtUserName->addItem(user[u"UserName"].TextOrEmpty());
-    ui.txtUserName->setCurrentIndex(-1);
+    ListUserNames(*ui.txtUserName, rsUsers_);
 }
 
 bool frmChangeUser::PasswordFits(store::Recordset& user) const {

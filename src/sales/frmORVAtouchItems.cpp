@@ -6,9 +6,11 @@
 #include "core/mdiORVA.h"
 #include "forms/Controls.h"
 #include "forms/MsgBox.h"
+#include "masterdata/frmArtikli.h"
 #include "sales/frmORVAtouch.h"
 #include "values/Format.h"
 #include "values/Numbers.h"
+#include "values/Tax.h"
 
 using namespace Qt::StringLiterals;
 using values::CDouble;
@@ -152,14 +154,13 @@ void frmORVAtouch::ShowAmount() {
     ui.txtPrice->setText(Format(CMoney(ui.txtQuantity->text()) * CMoney(ui.txtUnitPrice->text()), u"0.00"));
 }
 
-// The tax is contained in the price.
 void frmORVAtouch::ShowTax() {
-    const double withoutTax = CDouble(ui.txtPrice->text()) / (1 + CDouble(ui.txtTaxPercent->text()) / 100);
-    ui.txtTaxAmount->setText(Format(CMoney(ui.txtPrice->text()) - Money::FromDouble(withoutTax), u"0.00"));
+    const Money tax = values::ContainedTax(CMoney(ui.txtPrice->text()), CDouble(ui.txtTaxPercent->text()));
+    ui.txtTaxAmount->setText(Format(tax, u"0.00"));
 }
 
 void frmORVAtouch::cmdF2izaberi_Click() {
     ui.txtProdCode->clear();
     CallerForm = this;
-    mdiORVA::Window().TellStillToCome();
+    frmArtikli::Choose();
 }
