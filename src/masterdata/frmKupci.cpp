@@ -1,0 +1,76 @@
+#include "masterdata/frmKupci.h"
+
+#include "core/FillList.h"
+#include "core/Session.h"
+#include "core/dbModule.h"
+#include "masterdata/frmEditKupac.h"
+#include "masterdata/frmNewKupac.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto CustomersQuery = u"SELECT * FROM Custumer"_s;
+const auto CustomerQuery = u"SELECT * FROM Custumer WHERE Sifra = %1"_s;
+
+}  // namespace
+
+frmKupci::frmKupci() {
+    ui.setupUi(this);
+    ui.search->SetCaptions({.field = u"Search in:"_s,
+                            .text = u"Enter the text you're looking for:"_s,
+                            .anywhere = u"everywhere in text"_s,
+                            .fromBeginning = u"from begining"_s});
+    ui.lv1->SetColumns({{u"CustumerID"_s, Qt::AlignLeft, 120},
+                        {u"Name"_s, Qt::AlignLeft, -1},
+                        {u"Address"_s, Qt::AlignLeft, -1},
+                        {u"Ident"_s, Qt::AlignLeft, 130},
+                        {u"Phone"_s, Qt::AlignLeft, 106},
+                        {u"Fax"_s, Qt::AlignLeft, 106},
+                        {u"Rate rebate/margin"_s, Qt::AlignRight, 140}});
+    KeepList(ui);
+}
+
+void frmKupci::Form_Load() {
+    base_ = CustomersQuery;
+    ShowRows(base_);
+    SetSearchFields({u"Name"_s, u"Ident"_s});
+}
+
+// The entries bear other names, so that it is the identification that is searched, whichever of them is shown.
+QString frmKupci::SearchedField(const QString& entry) const {
+    return entry == u"Naziv" ? u"Naziv"_s : u"JMBG"_s;
+}
+
+void frmKupci::ShowRows(const QString& query) {
+    rsCustomers_ = MainStore().OpenRecordset(query);
+    FillCustomerGrid();
+}
+
+void frmKupci::FillCustomerGrid() {
+    FillList(*ui.lv1, rsCustomers_, [](store::Recordset& customer) -> QStringList {
+        return {customer[u"Sifra"].TextOrEmpty(),     customer[u"Naziv"].TextOrEmpty(),
+                customer[u"Adresa"].TextOrEmpty(),    customer[u"JMBG"].TextOrEmpty(),
+                customer[u"Telefon"].TextOrEmpty(),   customer[u"Telefax"].TextOrEmpty(),
+                customer[u"RabatMarza"].TextOrEmpty()};
+    });
+}
+
+// The list is not read again after a new customer, F11 brings it in; an edited one writes its row itself.
+void frmKupci::cmdNew_Click() {
+    frmNewKupac().ShowModal();
+}
+
+void frmKupci::cmdUpdate_Click() {
+    if (ui.lv1->Count() == 0) return;
+    CallerForm = this;
+    frmEditKupac().ShowModal();
+}
+
+void frmKupci::cmdDelete_Click() {
+    if (ui.lv1->Count() == 0) return;
+    auto customer = MainStore().OpenRecordset(CustomerQuery.arg(ui.lv1->SelectedText()));
+    const QString question =
+        u"Custumer: "_s + customer[u"Naziv"].TextOrEmpty() + u"\nDo you want to delete the customer?"_s;
+    DeleteRow(customer, question, u"Custumer deleted."_s);
+}
