@@ -78,6 +78,14 @@ void Database::Batch::Commit() {
     open_ = false;
 }
 
+Watch::Watch(Database& database, std::function<bool()> goesOn) : database_(database) {
+    database_.GetEngine().AskWhileWorking(std::move(goesOn));
+}
+
+Watch::~Watch() {
+    database_.GetEngine().AskWhileWorking({});
+}
+
 Burst::Burst(Database& database) : database_(database) {
     database_.engine_->BeginBurst();
 }

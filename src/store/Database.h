@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 #include <memory>
 
 #include "store/Recordset.h"
@@ -27,8 +28,9 @@ public:
     const Schema& GetSchema() const;
     const QString& Path() const;
 
-    // Many rows, all or none: between Begin and Commit the Updates of all cursors are one commit. For tools that fill
-    // stores; screens never use it. Cursors that added rows in a batch that was rolled back are to be closed.
+    // Many rows, all or none: between Begin and Commit the Updates of all cursors are one commit. For what changes
+    // many rows as one thing; a sale never uses it. Cursors that added rows in a batch that was rolled back are to be
+    // closed.
     class Batch {
     public:
         explicit Batch(Database& database);
@@ -58,6 +60,19 @@ private:
     struct Internals;
     std::unique_ptr<Engine> engine_;
     std::unique_ptr<Internals> internals_;
+};
+
+// While it lives, `goesOn` is asked every few milliseconds for which a statement works; false stops the statement with
+// error 3059. The function leaves the store alone.
+class Watch {
+public:
+    Watch(Database& database, std::function<bool()> goesOn);
+    ~Watch();
+    Watch(const Watch&) = delete;
+    Watch& operator=(const Watch&) = delete;
+
+private:
+    Database& database_;
 };
 
 // While it lives, commits are visible and kept in order at once, but reach the disk together: at the latest when End()

@@ -2,6 +2,7 @@
 
 #include <QStringList>
 #include <array>
+#include <functional>
 #include <span>
 #include <vector>
 
@@ -62,6 +63,9 @@ public:
     // Bursts may be nested; the outermost one counts.
     virtual void BeginBurst() = 0;
     virtual void EndBurst() = 0;
+
+    // Asked every few milliseconds of a statement's work; false stops it with 3059. An empty function: nobody asks.
+    virtual void AskWhileWorking(std::function<bool()> goesOn) = 0;
 
     virtual Stamp Now() = 0;
     virtual bool StillAt(const Stamp& stamp) = 0;

@@ -15,6 +15,7 @@ enum ErrorNumber : int {
     DiskFull = 3026,
     ReadOnly = 3027,   // a join, an aggregate, a store on read-only ground
     DiskError = 3043,  // the disk or the network refused to read or write
+    Cancelled = 3059,  // the user did not want to wait
     UnknownField = 3061,
     SyntaxError = 3075,
     UnknownTable = 3078,

@@ -37,6 +37,8 @@ public:
     void BeginBurst() override;
     void EndBurst() override;
 
+    void AskWhileWorking(std::function<bool()> goesOn) override;
+
     Stamp Now() override;
     bool StillAt(const Stamp& stamp) override;
 
@@ -46,7 +48,7 @@ public:
 
 private:
     struct Prepared;
-    enum class Shape { LastRow, Keys, Insert, Change, Remove };
+    enum class Shape { LastRow, Keys, Extent, Insert, Change, Remove };
     // A statement of the engine's own for one table, and for sets of its columns where they play a part.
     struct ShapeKey {
         Shape shape;
@@ -59,6 +61,9 @@ private:
     static std::string SqlOf(const ShapeKey& key);
     static Prepared& PreparedFor(const dialect::Plan& plan, const std::shared_ptr<Connection>& connection);
     Statement& StatementFor(const ShapeKey& key);
+    bool ScansWholeTable(const dialect::Query& query);
+    void ReadKeysAfter(const dialect::Query& query, qint64 after, std::vector<qint64>& keys);
+    bool AppendIfWithoutGap(const Table& table, qint64 after, qint64 upTo, std::vector<qint64>& keys);
     Statement& RowsAfter(const dialect::Query& query, qint64 after);
     void ReadRange(const dialect::Query& query, std::span<const qint64> keys, RowBlock& rows);
     void ReadEach(const dialect::Query& query, std::span<const qint64> keys, RowBlock& rows);
@@ -72,6 +77,7 @@ private:
     int bursts_ = 0;
     bool isRelaxed_ = false;  // commits reach the disk later
     quint64 writesWhenRelaxed_ = 0;
+    std::function<bool()> goesOn_;
 };
 
 }  // namespace store::sqlite

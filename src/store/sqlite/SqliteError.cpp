@@ -21,6 +21,10 @@ int NumberOfConstraint(int extendedCode) {
     switch (extendedCode) {
         case SQLITE_CONSTRAINT_DATATYPE:
             return ConversionFailed;
+        // The program keeps relations by itself; a shop may have added its own to the store.
+        case SQLITE_CONSTRAINT_FOREIGNKEY:
+        case SQLITE_CONSTRAINT_TRIGGER:
+            return RelatedRows;
         default:
             return DuplicateKey;
     }
@@ -32,6 +36,8 @@ int NumberOf(int extendedCode, const QString& message) {
         case SQLITE_LOCKED:
         case SQLITE_PROTOCOL:
             return StoreLocked;
+        case SQLITE_INTERRUPT:
+            return Cancelled;
         case SQLITE_CONSTRAINT:
             return NumberOfConstraint(extendedCode);
         case SQLITE_MISMATCH:
@@ -58,8 +64,12 @@ QString Words(int number) {
             return u"Overflow"_s;
         case StoreLocked:
             return u"The store is locked by another user"_s;
+        case Cancelled:
+            return u"The work was left"_s;
         case DuplicateKey:
             return u"A row with this key exists already"_s;
+        case RelatedRows:
+            return u"Other rows of the store refer to this one"_s;
         case ConversionFailed:
             return u"A value does not fit the type of its column"_s;
         case DiskFull:

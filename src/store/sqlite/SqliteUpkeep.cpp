@@ -13,6 +13,9 @@ namespace store::sqlite {
 
 namespace {
 
+// A few milliseconds of the engine's work.
+constexpr int StepsBetweenQuestions = 50'000;
+
 QStringList FaultsOf(Connection& connection) {
     QStringList faults;
     try {
@@ -44,6 +47,12 @@ void CheckCopy(const QString& path) {
 }
 
 }  // namespace
+
+void SqliteEngine::AskWhileWorking(std::function<bool()> goesOn) {
+    goesOn_ = std::move(goesOn);
+    const auto ask = [](void* self) { return static_cast<SqliteEngine*>(self)->goesOn_() ? 0 : 1; };
+    sqlite3_progress_handler(Handle(), goesOn_ ? StepsBetweenQuestions : 0, ask, this);
+}
 
 QStringList SqliteEngine::CheckIntegrity() {
     return FaultsOf(*connection_);
