@@ -36,6 +36,10 @@ constexpr bool IsAscii(char byte) {
     return static_cast<unsigned char>(byte) < 0x80;
 }
 
+constexpr char16_t FoldAscii(char byte) {
+    return LatinFolds[static_cast<unsigned char>(byte)];
+}
+
 }  // namespace
 
 char32_t FoldCase(char32_t codePoint) {
@@ -63,13 +67,25 @@ char32_t TakeCodePoint(QByteArrayView& text) {
     return codePoint;
 }
 
+QByteArrayView FromFolded(QByteArrayView text, char32_t folded) {
+    const auto mayBeIt = [folded](char byte) { return !IsAscii(byte) || FoldAscii(byte) == folded; };
+    while (!text.empty()) {
+        text = text.sliced(std::find_if(text.begin(), text.end(), mayBeIt) - text.begin());
+        if (text.empty() || IsAscii(text[0])) break;
+
+        QByteArrayView behind = text;
+        if (FoldCase(TakeCodePoint(behind)) == folded) break;
+        text = behind;
+    }
+    return text;
+}
+
 int CompareFolded(QByteArrayView a, QByteArrayView b) {
     while (!a.empty() && !b.empty()) {
         const qsizetype common = std::min(a.size(), b.size());
         qsizetype i = 0;
         for (; i < common && IsAscii(a[i]) && IsAscii(b[i]); ++i) {
-            const int difference =
-                LatinFolds[static_cast<unsigned char>(a[i])] - LatinFolds[static_cast<unsigned char>(b[i])];
+            const int difference = FoldAscii(a[i]) - FoldAscii(b[i]);
             if (difference != 0) return difference;
         }
         a = a.sliced(i);

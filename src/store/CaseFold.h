@@ -16,4 +16,7 @@ bool SameText(const QString& a, const QString& b);
 // Takes the next code point off the front of a text that is not empty; a broken sequence gives U+FFFD.
 char32_t TakeCodePoint(QByteArrayView& text);
 
+// A text from its first character on that folds to the one given; empty when there is none.
+QByteArrayView FromFolded(QByteArrayView text, char32_t folded);
+
 }  // namespace store

@@ -69,27 +69,30 @@ bool LikePattern::Piece::Meets(char32_t codePoint, char32_t folded) const {
 bool LikePattern::Matches(QByteArrayView text) const {
     size_t at = 0;
     size_t afterRun = 0;
-    bool hasRun = false;
     QByteArrayView runEnd;
-    while (!text.empty()) {
+    while (true) {
         if (at < pieces_.size() && pieces_[at].kind == Piece::Kind::AnyRun) {
-            afterRun = ++at;
-            runEnd = text;
-            hasRun = true;
-            continue;
+            if (++at == pieces_.size()) return true;
+            afterRun = at;
+            runEnd = text = pieces_[at].FromFirst(text);
         }
+        if (text.empty()) return at == pieces_.size();
+
         const char32_t codePoint = TakeCodePoint(text);
         if (at < pieces_.size() && pieces_[at].Meets(codePoint, FoldCase(codePoint))) {
             ++at;
             continue;
         }
-        if (!hasRun) return false;
+        if (afterRun == 0) return false;
         TakeCodePoint(runEnd);
-        text = runEnd;
+        runEnd = text = pieces_[afterRun].FromFirst(runEnd);
         at = afterRun;
     }
-    while (at < pieces_.size() && pieces_[at].kind == Piece::Kind::AnyRun) ++at;
-    return at == pieces_.size();
+}
+
+// The first character that may be this piece is found without trying each on the way.
+QByteArrayView LikePattern::Piece::FromFirst(QByteArrayView text) const {
+    return kind == Kind::Literal ? FromFolded(text, literal) : text;
 }
 
 }  // namespace store

@@ -26,6 +26,7 @@ private:
         std::vector<Range> ranges = {};
 
         bool Meets(char32_t codePoint, char32_t folded) const;
+        QByteArrayView FromFirst(QByteArrayView text) const;
     };
 
     bool AddSet(QByteArrayView& pattern);

@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <functional>
+
 #include "store/StoreTestBase.h"
 
 namespace store::test {
@@ -157,6 +160,55 @@ TEST_F(MembershipTest, FindsTheFirstRowInItsOwnOrder) {
     EXPECT_EQ(products.Bookmark(), products.LastModified());
     EXPECT_EQ(ErrorOf([&] { products.FindFirst(u"ProdCode = 'it's'"_s); }), SyntaxError);
     EXPECT_EQ(ErrorOf([&] { products.FindFirst(u"Nothing = 'x'"_s); }), UnknownField);
+}
+
+TEST_F(MembershipTest, GoesToARowByItsPosition) {
+    AddProducts(1, 400);
+    for (const auto& query :
+         {u"SELECT * FROM Products"_s, u"SELECT * FROM Products WHERE Qty > 0"_s,
+          u"SELECT Max(Qty) AS Qty, ProdCode FROM Products GROUP BY ProdCode, Qty ORDER BY Qty"_s}) {
+        auto products = store->OpenRecordset(query);
+        for (const int position : {399, 0, 350, 17}) {
+            products.MoveTo(position);
+            EXPECT_EQ(products[u"Qty"].Whole(), position + 1) << query.toStdString();
+        }
+        EXPECT_EQ(ErrorOf([&] { products.MoveTo(400); }), NoCurrentRow);
+        EXPECT_EQ(ErrorOf([&] { products.MoveTo(-1); }), NoCurrentRow);
+    }
+    auto products = store->OpenRecordset(u"SELECT * FROM Products"_s);
+    products.AddNew();
+    products[u"ProdCode"] = u"own"_s;
+    products.Update();
+    products.MoveTo(400);
+    EXPECT_EQ(products[u"ProdCode"].Text(), u"own");
+}
+
+TEST_F(MembershipTest, KnowsEveryRowOfManyThousandsInOrder) {
+    constexpr int count = 12'000;
+    AddProducts(1, count);
+    const auto all = [](int) { return true; };
+    const auto some = [](int number) { return number > 100 || number % 10 == 8; };
+    const std::vector<std::pair<QString, std::function<bool(int)>>> cases = {
+        {{}, all},
+        {u" ORDER BY ID DESC"_s, all},
+        {u" WHERE ProdDescription LIKE '*O*'"_s, all},
+        {u" WHERE ProdDescription LIKE '*o*' ORDER BY ID DESC"_s, all},
+        {u" WHERE Qty > 100 OR ProdDescription LIKE '*8'"_s, some}};
+    for (const int deleted : {0, 5'000}) {
+        store->Execute(u"DELETE FROM Products WHERE ProdCode = '%1'"_s.arg(deleted));
+        for (const auto& [condition, meets] : cases) {
+            std::vector<qint64> expected, found;
+            for (int number = 1; number <= count; ++number)
+                if (number != deleted && meets(number)) expected.push_back(number);
+            if (condition.contains(u"DESC")) std::ranges::reverse(expected);
+
+            auto products = store->OpenRecordset(u"SELECT * FROM Products"_s + condition);
+            products.MoveLast();
+            for (auto& product : products) found.push_back(product[u"Qty"].Whole());
+            EXPECT_EQ(found, expected) << condition.toStdString();
+            EXPECT_EQ(products.RecordCount(), found.size());
+        }
+    }
 }
 
 TEST_F(MembershipTest, MarksRowsAndComesBackToThem) {

@@ -1,3 +1,5 @@
+#include <random>
+
 #include "store/CaseFold.h"
 #include "store/LikePattern.h"
 #include "store/StoreTestBase.h"
@@ -60,11 +62,43 @@ TEST(LikePatternTest, KnowsRunsSingleCharactersDigitsAndSets) {
                                      {"*ČAJ*", "zeleni čaj", true},
                                      {"*aab", "aaaaaab", true},
                                      {"*a*a*b", "aaaaaaac", false},
+                                     {"*č", "Č", true},
+                                     {"*k*", "300 \u212A", true},
+                                     {"*s", "ſſ", true},
+                                     {"*ß", "SS", false},
+                                     {"*čaj*", "\xC4 ČAJ", true},
+                                     {"*\xC4*", "a\xC4z", true},
                                      {"100%", "100%", true},
                                      {"a_c", "abc", false}};
     for (const auto& [pattern, text, matches] : cases)
         EXPECT_EQ(LikePattern(pattern).Matches(text), matches)
             << pattern.toByteArray().toStdString() << " on " << text.toByteArray().toStdString();
+}
+
+// What `*` means, tried the long way.
+bool Meets(const std::u32string& pattern, const std::u32string& text) {
+    if (pattern.empty()) return text.empty();
+    if (pattern[0] == U'*') return Meets(pattern.substr(1), text) || (!text.empty() && Meets(pattern, text.substr(1)));
+    return !text.empty() && FoldCase(pattern[0]) == FoldCase(text[0]) && Meets(pattern.substr(1), text.substr(1));
+}
+
+TEST(LikePatternTest, FindsWhatATrialOfEveryRunFinds) {
+    std::mt19937 random;
+    const auto draw = [&random](std::u32string_view letters, size_t longest) {
+        std::u32string text;
+        for (size_t i = random() % (longest + 1); i > 0; --i) text += letters[random() % letters.size()];
+        return text;
+    };
+    const auto utf8 = [](const std::u32string& text) { return QString::fromStdU32String(text).toUtf8(); };
+    int met = 0;
+    for (int i = 0; i < 20'000; ++i) {
+        const std::u32string pattern = draw(U"aKsčß**", 5), text = draw(U"aAkK\u212AsSſčČßẞ😀", 8);
+        const bool meets = Meets(pattern, text);
+        met += meets ? 1 : 0;
+        ASSERT_EQ(LikePattern(utf8(pattern)).Matches(utf8(text)), meets)
+            << utf8(pattern).toStdString() << " on " << utf8(text).toStdString();
+    }
+    EXPECT_GT(met, 1'000);
 }
 
 using TextTest = StoreTest;

@@ -17,6 +17,7 @@ struct SqliteEngine::Prepared {
     Statement whole;  // the query as it stands, or the action
     Statement oneRow;
     Statement after;
+    Statement keysAfter;
 };
 
 }  // namespace store::sqlite

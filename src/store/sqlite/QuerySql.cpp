@@ -29,6 +29,10 @@ std::string RowsSql(const dialect::Plan& plan, const std::string& condition) {
     return "SELECT rowid, " + plan.columns + " FROM " + plan.from + " WHERE " + condition;
 }
 
+std::string KeysSql(const dialect::Plan& plan, const std::string& condition) {
+    return "SELECT rowid FROM " + plan.from + " WHERE (" + plan.where + ") AND " + condition + " ORDER BY rowid";
+}
+
 std::string ActionSql(const dialect::Plan& plan) {
     const std::string table = Quoted(plan.table->name);
     if (plan.kind == dialect::Plan::Kind::Update)

@@ -10,6 +10,8 @@ namespace store::sqlite {
 std::string SelectSql(const dialect::Plan& plan, bool withRow);
 // The columns of a one-table plan under a condition and order of the engine's own.
 std::string RowsSql(const dialect::Plan& plan, const std::string& condition);
+// The identities of a one-table plan's rows that meet one more condition, rising.
+std::string KeysSql(const dialect::Plan& plan, const std::string& condition);
 std::string ActionSql(const dialect::Plan& plan);
 std::string FindSql(const Table& table, const dialect::Plan& criteria);
 

@@ -3,6 +3,8 @@
 #include "store/sqlite/PreparedPlan.h"
 #include "store/sqlite/QuerySql.h"
 
+using namespace Qt::StringLiterals;
+
 namespace store::sqlite {
 
 namespace {
@@ -52,10 +54,30 @@ void SqliteEngine::ReadKeyset(const dialect::Query& query, int withData, std::ve
     const StatementUse use(statement);
     statement.BindAll(query.values);
     rows.Clear(OutputColumns(query));
-    for (int i = 0; statement.Step(); ++i) {
+    while (statement.Step()) {
         keys.push_back(statement.Integer(0));
-        if (i < withData) statement.AppendRow(rows, 1);
+        if (rows.Rows() < withData)
+            statement.AppendRow(rows, 1);
+        else if (static_cast<int>(keys.size()) == withData + 1 && ScansWholeTable(query))
+            return ReadKeysAfter(query, keys.back(), keys);
     }
+}
+
+bool SqliteEngine::ScansWholeTable(const dialect::Query& query) {
+    return query.plan->order.empty() && Explain(query) == u"SCAN "_s + query.plan->table->name;
+}
+
+// The engine would take all columns of a row out of it for its identity alone. Whoever calls is in the middle of a
+// statement, so that both see the store at one moment.
+void SqliteEngine::ReadKeysAfter(const dialect::Query& query, qint64 after, std::vector<qint64>& keys) {
+    const int literals = static_cast<int>(query.values.size());
+    Prepared& prepared = PreparedFor(*query.plan, connection_);
+    Statement& statement =
+        prepared.Get(prepared.keysAfter, [&] { return KeysSql(*query.plan, "rowid > " + Parameter(literals + 1)); });
+    const StatementUse use(statement);
+    statement.BindAll(query.values);
+    statement.Bind(literals + 1, after);
+    while (statement.Step()) keys.push_back(statement.Integer(0));
 }
 
 // The rows behind one, by identity; whoever reads them stops where he wants.
@@ -123,11 +145,24 @@ void SqliteEngine::ReadEach(const dialect::Query& query, std::span<const qint64>
 }
 
 void SqliteEngine::ReadKeys(const Table& table, qint64 after, qint64 upTo, std::vector<qint64>& keys) {
+    constexpr qint64 worthCounting = 10'000;
+    if (upTo - after >= worthCounting && AppendIfWithoutGap(table, after, upTo, keys)) return;
     Statement& statement = StatementFor({Shape::Keys, &table});
     const StatementUse use(statement);
     statement.Bind(1, after);
     statement.Bind(2, upTo);
     while (statement.Step()) keys.push_back(statement.Integer(0));
+}
+
+// Rows are counted far faster than read; where none was ever deleted, the count tells all identities.
+bool SqliteEngine::AppendIfWithoutGap(const Table& table, qint64 after, qint64 upTo, std::vector<qint64>& keys) {
+    Statement& extent = StatementFor({Shape::Extent, &table});
+    const StatementUse use(extent);
+    extent.Step();
+    const qint64 first = extent.Integer(0), last = extent.Integer(1), count = extent.Integer(2);
+    if (count != last - first + 1) return false;
+    for (qint64 row = std::max(after + 1, first); row <= std::min(upTo, last); ++row) keys.push_back(row);
+    return true;
 }
 
 std::vector<qint64> SqliteEngine::FindRows(const Table& table, const dialect::Query& criteria) {

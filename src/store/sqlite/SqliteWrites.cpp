@@ -70,6 +70,9 @@ std::string SqliteEngine::SqlOf(const ShapeKey& key) {
             return "SELECT max(rowid) FROM " + table;
         case Shape::Keys:
             return "SELECT rowid FROM " + table + " WHERE rowid > ?1 AND rowid <= ?2 ORDER BY rowid";
+        case Shape::Extent:
+            return "SELECT (SELECT min(rowid) FROM " + table + "), (SELECT max(rowid) FROM " + table +
+                   "), (SELECT count(*) FROM " + table + ")";
         case Shape::Insert:
             return InsertSql(*key.table, key.columns);
         case Shape::Change:
