@@ -19,6 +19,11 @@ Figure TouchTableFigure(const BusyTill& till);
 // Writes the texts of the preview into the till's folder.
 Figure PreviewFigure(const BusyTill& till);
 Figure RegisterListsFigure(const BusyTill& till);
+Figure ProductListFigure(const BusyTill& till);
+Figure ProductSearchFigure(const BusyTill& till, bool anywhere);
+// These two write to the till.
+Figure PlacementFigure(const BusyTill& till);
+Figure RecipeFigure(const BusyTill& till);
 
 // Memory of the till in `till` after so many posted invoices, beside that of an empty window; prints its lines. False
 // when one of the programs failed.

@@ -54,11 +54,23 @@ int Measure(const Job& job) {
     const QString till = data + u"/till"_s;
     shop.CopyTo(till);
     const bench::BusyTill busy(shop, data + u"/busy"_s);
+    const bench::BusyTill office(shop, data + u"/office"_s);
 
     const std::vector figures{
-        bench::LookupFigure(shop),     bench::WalkFigure(shop),           bench::PostingFigure(shop, till),
-        bench::TaxReportFigure(shop),  bench::OpeningFigure(shop, small), bench::StartupFigure(till),
-        bench::TouchTableFigure(busy), bench::PreviewFigure(busy),        bench::RegisterListsFigure(busy),
+        bench::LookupFigure(shop),
+        bench::WalkFigure(shop),
+        bench::PostingFigure(shop, till),
+        bench::TaxReportFigure(shop),
+        bench::OpeningFigure(shop, small),
+        bench::StartupFigure(till),
+        bench::TouchTableFigure(busy),
+        bench::PreviewFigure(busy),
+        bench::RegisterListsFigure(busy),
+        bench::ProductListFigure(busy),
+        bench::ProductSearchFigure(busy, false),
+        bench::ProductSearchFigure(busy, true),
+        bench::PlacementFigure(office),
+        bench::RecipeFigure(office),
     };
     bench::Register(figures, job.quick ? bench::Effort{2, 0.02, 10} : bench::Effort{15, 0.3, 5'000});
 
