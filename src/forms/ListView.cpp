@@ -59,8 +59,8 @@ void ListView::Clear() {
     rows_->Clear();
 }
 
-int ListView::Add(QStringList cells) {
-    const int row = rows_->Add(std::move(cells));
+int ListView::Add(const QStringList& cells) {
+    const int row = rows_->Add(cells);
     if (updatesEnabled()) WidenForNumbers();
     return row;
 }
@@ -72,8 +72,7 @@ void ListView::Remove(int row) {
 }
 
 QString ListView::Text(int row, int column) const {
-    const QString* cell = rows_->Cell(row, column);
-    return cell ? *cell : QString();
+    return rows_->Cell(row, column).toString();
 }
 
 void ListView::SetText(int row, int column, const QString& text) {
@@ -83,7 +82,7 @@ void ListView::SetText(int row, int column, const QString& text) {
 
 int ListView::Find(QStringView text) const {
     for (int row = 0; row < Count(); ++row)
-        if (*rows_->Cell(row, 0) == text) return row;
+        if (rows_->Cell(row, 0) == text) return row;
     return -1;
 }
 

@@ -29,7 +29,7 @@ public:
     int Count() const;
     void Clear();
     // Adds a row at the end; missing cells are empty. Returns its index.
-    int Add(QStringList cells);
+    int Add(const QStringList& cells);
     void Remove(int row);
     QString Text(int row, int column = 0) const;
     void SetText(int row, int column, const QString& text);

@@ -1,7 +1,6 @@
 #include "forms/RowModel.h"
 
 #include <QSize>
-#include <algorithm>
 
 #include "forms/Tokens.h"
 
@@ -27,12 +26,21 @@ void RowModel::Clear() {
 }
 
 void RowModel::Empty() {
+    texts_.clear();
     cells_.clear();
     make_ = nullptr;
     made_.clear();
     toMake_ = 0;
     longest_.assign(Width(), 0);
     published_ = 0;
+}
+
+size_t RowModel::PlaceOf(int row, int column) const {
+    return static_cast<size_t>(row) * Width() + static_cast<size_t>(column);
+}
+
+bool RowModel::HasCell(int row, int column) const {
+    return row >= 0 && row < Count() && column >= 0 && column < columnCount();
 }
 
 void RowModel::ShowRows(int count, std::function<QStringList(int row)> make) {
@@ -44,21 +52,21 @@ void RowModel::ShowRows(int count, std::function<QStringList(int row)> make) {
     endResetModel();
 }
 
-RowModel::Row& RowModel::Made(int row) const {
+QStringList& RowModel::Made(int row) const {
     const auto [place, isNew] = made_.try_emplace(row);
     if (!isNew) return place->second;
     QStringList cells = make_(row);
     cells.resize(static_cast<qsizetype>(Width()));
-    place->second.assign(std::make_move_iterator(cells.begin()), std::make_move_iterator(cells.end()));
-    if (Measure(place->second.data())) Q_EMIT const_cast<RowModel*>(this)->TextsGrew();
-    return place->second;
+    if (Measure(cells)) Q_EMIT const_cast<RowModel*>(this)->TextsGrew();
+    return place->second = std::move(cells);
 }
 
-bool RowModel::Measure(const QString* cells) const {
+bool RowModel::Measure(const QStringList& cells) const {
     bool grew = false;
     for (size_t column = 0; column < Width(); ++column) {
-        if (cells[column].size() <= longest_[column]) continue;
-        longest_[column] = cells[column].size();
+        const qsizetype length = cells.value(static_cast<qsizetype>(column)).size();
+        if (length <= longest_[column]) continue;
+        longest_[column] = length;
         grew = true;
     }
     return grew;
@@ -66,20 +74,24 @@ bool RowModel::Measure(const QString* cells) const {
 
 void RowModel::MakeAll() {
     if (!make_) return;
-    cells_.reserve(static_cast<size_t>(toMake_) * Width());
-    for (int row = 0; row < toMake_; ++row) std::ranges::copy(Made(row), std::back_inserter(cells_));
+    for (int row = 0; row < toMake_; ++row)
+        for (const QString& cell : Made(row)) cells_.push_back(Keep(cell));
     make_ = nullptr;
     made_.clear();
 }
 
-int RowModel::Add(QStringList cells) {
+RowModel::Piece RowModel::Keep(const QString& text) {
+    const Piece piece{texts_.size(), text.size()};
+    const auto* characters = reinterpret_cast<const char16_t*>(text.utf16());
+    texts_.insert(texts_.end(), characters, characters + text.size());
+    return piece;
+}
+
+int RowModel::Add(const QStringList& cells) {
     MakeAll();
     const int row = Count();
-    for (size_t column = 0; column < Width(); ++column) {
-        const auto at = static_cast<qsizetype>(column);
-        cells_.push_back(at < cells.size() ? std::move(cells[at]) : QString());
-    }
-    Measure(cells_.data() + static_cast<size_t>(row) * Width());
+    for (qsizetype column = 0; column < columnCount(); ++column) cells_.push_back(Keep(cells.value(column)));
+    Measure(cells);
     if (fills_ == 0) Publish();
     return row;
 }
@@ -89,22 +101,25 @@ void RowModel::Remove(int row) {
     MakeAll();
     Publish();
     beginRemoveRows({}, row, row);
-    const auto first = cells_.begin() + static_cast<std::ptrdiff_t>(row) * static_cast<std::ptrdiff_t>(Width());
+    const auto first = cells_.begin() + static_cast<std::ptrdiff_t>(PlaceOf(row, 0));
     cells_.erase(first, first + static_cast<std::ptrdiff_t>(Width()));
     --published_;
     endRemoveRows();
 }
 
-const QString* RowModel::Cell(int row, int column) const {
-    if (row < 0 || row >= Count() || column < 0 || column >= columnCount()) return nullptr;
-    const QString* cells = make_ ? Made(row).data() : &cells_[static_cast<size_t>(row) * Width()];
-    return cells + column;
+QStringView RowModel::Cell(int row, int column) const {
+    if (!HasCell(row, column)) return {};
+    if (make_) return Made(row)[column];
+    const Piece& piece = cells_[PlaceOf(row, column)];
+    return {texts_.data() + piece.start, piece.length};
 }
 
 void RowModel::SetCell(int row, int column, const QString& text) {
-    if (!Cell(row, column)) return;
-    QString* cells = make_ ? Made(row).data() : &cells_[static_cast<size_t>(row) * Width()];
-    cells[column] = text;
+    if (!HasCell(row, column)) return;
+    if (make_)
+        Made(row)[column] = text;
+    else
+        cells_[PlaceOf(row, column)] = Keep(text);
     longest_[static_cast<size_t>(column)] = qMax(longest_[static_cast<size_t>(column)], text.size());
     if (row >= published_) return;
     const QModelIndex changed = index(row, column);
@@ -131,10 +146,7 @@ int RowModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant RowModel::data(const QModelIndex& index, int role) const {
-    if (role == Qt::DisplayRole) {
-        const QString* cell = Cell(index.row(), index.column());
-        return cell ? *cell : QVariant();
-    }
+    if (role == Qt::DisplayRole) return Cell(index.row(), index.column()).toString();
     if (role == Qt::TextAlignmentRole) return headerData(index.column(), Qt::Horizontal, role);
     // From here and not from the style sheet, which a list that is filled before it is shown does not have yet.
     if (role == Qt::SizeHintRole) return QSize(0, Tokens::RowHeight);

@@ -9,8 +9,9 @@
 
 namespace forms {
 
-// Rows of texts in one flat array. Rows added while filling exist at once for whoever asks here, but the view learns of
-// them, all together, when the filling ends.
+// Rows of texts, which lie behind each other in one store of characters: half a million rows take no room beside their
+// texts. Rows added while filling exist at once for whoever asks here, but the view learns of them, all together, when
+// the filling ends.
 class RowModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -21,11 +22,12 @@ public:
 
     int Count() const;
     void Clear();
-    int Add(QStringList cells);
+    int Add(const QStringList& cells);
     void Remove(int row);
     // `count` rows, the cells of each made when they are first asked for.
     void ShowRows(int count, std::function<QStringList(int row)> make);
-    const QString* Cell(int row, int column) const;
+    // Empty where there is no such cell; good until the next change.
+    QStringView Cell(int row, int column) const;
     void SetCell(int row, int column, const QString& text);
 
     // Characters of the longest text that a column has held since the list was last empty.
@@ -47,22 +49,31 @@ Q_SIGNALS:
     void TextsGrew();
 
 private:
-    using Row = std::vector<QString>;
+    // A text within texts_.
+    struct Piece {
+        size_t start = 0;
+        qsizetype length = 0;
+    };
 
     size_t Width() const { return headings_.size(); }
+    size_t PlaceOf(int row, int column) const;
+    bool HasCell(int row, int column) const;
     void Empty();
-    Row& Made(int row) const;
+    Piece Keep(const QString& text);
+    QStringList& Made(int row) const;
     // Notes the lengths of a row's texts; true when one is the longest of its column.
-    bool Measure(const QString* cells) const;
+    bool Measure(const QStringList& cells) const;
     // Makes what is not made yet, and goes on as a list that was filled row by row.
     void MakeAll();
 
     std::vector<ListColumn> headings_;
-    std::vector<QString> cells_;
+    // Texts that were replaced stay until the list is emptied.
+    std::vector<char16_t> texts_;
+    std::vector<Piece> cells_;
     mutable std::vector<qsizetype> longest_;
     // Instead of cells_ while rows are made as they are needed.
     std::function<QStringList(int row)> make_;
-    mutable std::unordered_map<int, Row> made_;
+    mutable std::unordered_map<int, QStringList> made_;
     int toMake_ = 0;
     int published_ = 0;
     int fills_ = 0;
