@@ -188,12 +188,15 @@ void Form::ConnectTimer(QTimer* timer, std::function<void()> handler) {
     connect(timer, &QTimer::timeout, this, std::move(handler));
 }
 
-// The box tells of a choice once, and of one that changes the entry once more before that.
+// The box tells of a choice once, and of one that changes the entry once more right before that. A change by the
+// program has nothing behind it: its entry may be chosen later, and that counts.
 void Form::WatchChoice(QComboBox* box, std::function<void()> handler) {
     const auto told = std::make_shared<int>(-1);
     connect(box, &QComboBox::currentIndexChanged, this, [told, handler](int entry) {
-        *told = entry;
         handler();
+        *told = entry;
+        QMetaObject::invokeMethod(
+            qApp, [told] { *told = -1; }, Qt::QueuedConnection);
     });
     connect(box, &QComboBox::activated, this, [told, handler](int entry) {
         if (std::exchange(*told, -1) != entry) handler();

@@ -23,7 +23,7 @@ QList<std::pair<QString, QLineEdit*>> CustomerEntry::Fields() const {
 }
 
 void CustomerEntry::ShowCustomer() {
-    for (const auto& [field, box] : Fields()) box->setText(rsCustomer_[field].TextOrEmpty());
+    for (const auto& [field, box] : Fields()) ShowWhole(box, rsCustomer_[field].TextOrEmpty());
 }
 
 void CustomerEntry::StoreCustomer() {

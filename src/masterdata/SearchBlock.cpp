@@ -33,7 +33,7 @@ SearchBlock::SearchBlock(QWidget* parent)
                  .anywhere = u"any &where in the text"_s,
                  .fromBeginning = u"from the &beginning"_s});
     LayOut(false);
-    setFocusProxy(cboTemp);
+    setFocusProxy(cboView);  // the first of the block in the order of the Tab key
 }
 
 void SearchBlock::SetCaptions(const Captions& captions) {

@@ -24,8 +24,9 @@ void SearchScreen::cboView_Click() {
 }
 
 void SearchScreen::Search() {
-    condition_ = block_->Condition(SearchedField(block_->cboView->currentText()));
-    ShowRows(base_ + condition_);
+    const QString condition = block_->Condition(SearchedField(block_->cboView->currentText()));
+    ShowRows(base_ + condition);
+    condition_ = condition;
 }
 
 void SearchScreen::cmdRefresh_Click() {

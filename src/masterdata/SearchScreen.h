@@ -24,7 +24,7 @@ protected:
     virtual void cmdRefresh_Click();
 
     QString base_;       // the query without a condition
-    QString condition_;  // of the last search; a refresh does not reset it
+    QString condition_;  // of the rows searched for last; a refresh does not reset it
 
 private:
     void cboView_Click();

@@ -36,8 +36,8 @@ void UserEntry::cmdAdd_Click() {
 // The password must be confirmed at each save, so its second box stays empty. A level that the box does not offer is
 // shown as none, and has to be chosen anew.
 void UserEntry::ShowUser() {
-    ui.txtUserID->setText(rsUsers_[u"UserID"].TextOrEmpty());
-    ui.txtUserName->setText(rsUsers_[u"UserName"].TextOrEmpty());
+    ShowWhole(ui.txtUserID, rsUsers_[u"UserID"].TextOrEmpty());
+    ShowWhole(ui.txtUserName, rsUsers_[u"UserName"].TextOrEmpty());
     ui.txtName->setText(rsUsers_[u"UserFullName"].TextOrEmpty());
     ui.txtPosition->setText(rsUsers_[u"UserPosition"].TextOrEmpty());
     ui.cboAccLevel->setCurrentIndex(ui.cboAccLevel->findText(rsUsers_[u"AccLevel"].TextOrEmpty()));

@@ -1,7 +1,5 @@
 #include "masterdata/frmEditProduct.h"
 
-#include <algorithm>
-
 #include "core/dbModule.h"
 #include "forms/Controls.h"
 #include "masterdata/frmSastav.h"
@@ -14,12 +12,6 @@ using values::Format;
 namespace {
 
 const auto ProductQuery = u"SELECT * FROM Products WHERE ProdCode = '%1'"_s;
-
-// The text in its full length, since the save writes it back.
-void ShowWhole(QLineEdit* box, const QString& text) {
-    box->setMaxLength(std::max(box->maxLength(), static_cast<int>(text.size())));
-    box->setText(text);
-}
 
 // Nobody can type into a box that is hidden, so an empty field must not keep the product from being saved.
 QString HiddenPrice(const values::Value& price) {

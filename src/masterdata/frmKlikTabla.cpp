@@ -52,10 +52,15 @@ frmKlikTabla::frmKlikTabla() {
     HelpAndClose(ui.cmdHelp, ui.cmdClose);
     FunctionKeys({{Qt::Key_F3, ui.cmdOsvjezi}, {Qt::Key_F4, ui.cmdAutomatic}});
     EnterMovesOn();
+    HighlightOnFocus({ui.txtIzmjeni});
     OnMouseUp(ui.lv1, Qt::LeftButton, &frmKlikTabla::lv1_Click);
     ControlKeys(ui.lv1, {{Qt::Key_Space, Guarded(&frmKlikTabla::lv1_Click)}});
     On(ui.cmdKarticeKlikTable, &frmKlikTabla::cmdKarticeKlikTable_Click);
     connect(ui.clickTable->Tabs(), &QTabWidget::currentChanged, this, Guarded(&frmKlikTabla::SSTab1_Click));
+    // A click on the tab that is shown already counts too.
+    connect(ui.clickTable->Tabs(), &QTabWidget::tabBarClicked, this, [this](int tab) {
+        if (tab == ui.clickTable->Tabs()->currentIndex()) Guarded (&frmKlikTabla::SSTab1_Click)();
+    });
     connect(ui.clickTable, &ClickTable::MouseUp, this,
             [this](int index, Qt::MouseButton button) { Run([&] { Command2_MouseUp(index, button); }); });
     for (int index = 0; index < ClickTable::ButtonCount; ++index)

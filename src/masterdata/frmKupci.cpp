@@ -1,5 +1,7 @@
 #include "masterdata/frmKupci.h"
 
+#include <QScopedValueRollback>
+
 #include "core/FillList.h"
 #include "core/Session.h"
 #include "core/dbModule.h"
@@ -17,6 +19,7 @@ const auto CustomerQuery = u"SELECT * FROM Custumer WHERE Sifra = %1"_s;
 
 frmKupci::frmKupci() {
     ui.setupUi(this);
+    ui.SSTab1->widget(0)->setObjectName(ui.SSTab1->tabText(0));
     ui.search->SetCaptions({.field = u"Search in:"_s,
                             .text = u"Enter the text you're looking for:"_s,
                             .anywhere = u"everywhere in text"_s,
@@ -63,7 +66,7 @@ void frmKupci::cmdNew_Click() {
 
 void frmKupci::cmdUpdate_Click() {
     if (ui.lv1->Count() == 0) return;
-    CallerForm = this;
+    const QScopedValueRollback<forms::Form*> caller(CallerForm, this);
     frmEditKupac().ShowModal();
 }
 

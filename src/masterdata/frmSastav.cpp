@@ -1,5 +1,6 @@
 #include "masterdata/frmSastav.h"
 
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 
 #include "core/Session.h"
@@ -182,7 +183,7 @@ int frmSastav::FindComponent(const QString& code) const {
 
 void frmSastav::cmdF2izaberi_Click() {
     ui.txtProdCode->clear();
-    CallerForm = this;
+    const QScopedValueRollback<forms::Form*> caller(CallerForm, this);
     frmViewer().ShowModal();
 }
 

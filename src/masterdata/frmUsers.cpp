@@ -1,5 +1,7 @@
 #include "masterdata/frmUsers.h"
 
+#include <QScopedValueRollback>
+
 #include "core/FillList.h"
 #include "core/Session.h"
 #include "core/dbModule.h"
@@ -41,7 +43,7 @@ void frmUsers::ShowNew() {
 }
 
 void frmUsers::ShowEdit() {
-    CallerForm = this;
+    const QScopedValueRollback<forms::Form*> caller(CallerForm, this);
     frmEditUser().ShowModal();
 }
 

@@ -41,7 +41,8 @@ void frmViewer::Form_Load() {
     SetSearchFields({NameEntry, CodeEntry});
     rsProducts_ = MainStore().OpenRecordset(base_);
     auto options = OptionsStore().OpenRecordset(OptionsQuery);
-    if (options[u"PrikaziOdmah"].YesNo()) FillViewerGrid();
+    const values::Value atOnce = options[u"PrikaziOdmah"];
+    if (!atOnce.IsNull() && atOnce.ToBool()) FillViewerGrid();
 }
 
 QString frmViewer::SearchedField(const QString& entry) const {

@@ -1,5 +1,7 @@
 #include <QApplication>
+#include <QTabBar>
 #include <QTabWidget>
+#include <QTest>
 
 #include "forms/ListView.h"
 #include "masterdata/frmKlikTabla.h"
@@ -165,8 +167,11 @@ TEST_F(ClickTableSetupTest, AnAutomaticPlacementGoesAsFarAsItCan) {
 
 TEST_F(ClickTableSetupTest, RenamesTheTabThatIsShown) {
     OpenSetup();
-    Tabs()->setCurrentIndex(2);
-    EXPECT_EQ(Box(Screen(), u"txtIzmjeni"), u"3");
+    QTabBar* strip = Tabs()->tabBar();
+    for (const int tab : {0, 2}) {
+        QTest::mouseClick(strip, Qt::LeftButton, {}, strip->tabRect(tab).center());
+        EXPECT_EQ(Box(Screen(), u"txtIzmjeni"), QString::number(tab + 1));
+    }
     Type(Screen(), u"txtIzmjeni", u"  Pića & co {Tab}{Space}");
     EXPECT_EQ(Tabs()->tabToolTip(2), u"Pića & co");
     EXPECT_EQ(Rows(TabsQuery), (QStringList{u"1"_s, u"2"_s, u"Pića & co"_s}));

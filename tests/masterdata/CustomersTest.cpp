@@ -50,7 +50,9 @@ TEST_F(CustomersTest, ListsEverybodyAndNoRowCanBeActivated) {
         EXPECT_EQ(Get<QTabWidget>(form, u"SSTab1")->tabText(0), u"&Custumer - supplier");
         drivers::Grab(form, u"frmKupci"_s);
         drivers::DoubleClickRow(Get<forms::ListView>(form, u"lv1"), 0);
-        Get<QWidget>(form, u"lv1")->setFocus();
+        Get<QWidget>(form, u"cmdRefresh")->setFocus();
+        Keys(u"{Tab}");
+        EXPECT_EQ(Focus(), u"lv1");
         Keys(u"{Enter}");
     });
 }
@@ -132,6 +134,18 @@ TEST_F(CustomersTest, AnEditRefreshesItsRowButForTheRate) {
         Keys(u"{F4}");
     });
     EXPECT_EQ(Rows(Stored).last(), u"7|Hotel|Ilidža|1|2|3|4|5|7.00");
+}
+
+TEST_F(CustomersTest, LongTextsFromElsewhereAreNotCut) {
+    LogIn(u"admin"_s);
+    Run(u"UPDATE Custumer SET Sifra = 70000000000001, Naziv = '%1', JMBG = '42001234500081' WHERE Sifra = 7"_s.arg(
+        QString(60, u'n')));
+    const QStringList before = Rows(Stored);
+    Use<frmKupci>([this](frmKupci&) {
+        boxes_.ExpectForm(u"frmEditKupac"_s, [](QWidget&) { Keys(u"{F5}"); });
+        Keys(u"{F4}");
+    });
+    EXPECT_EQ(Rows(Stored), before);
 }
 
 TEST_F(CustomersTest, DeletingAsksAndKeepsTheSearch) {

@@ -225,7 +225,7 @@ TEST_F(ProductEntryTest, TheListShowsAnEditedProductWithItsOwnPercent) {
                                  u"1.25"_s, u"0.00"_s}));
     EXPECT_EQ(Product(u"100"_s), QStringList{u"100|Cola 0,5 l|8.5|pcs|1.6|0|1.25|0|P|17|gone.bmp|5"_s});
     // The tax chosen again has its percent of today.
-    const auto again = Edit(u"100"_s, [](QWidget& screen) { Type(screen, u"cboTax", u"{Down}{Up}{F5}"); });
+    const auto again = Edit(u"100"_s, [](QWidget& screen) { Type(screen, u"cboTax", u"{Space}{Enter}{F5}"); });
     EXPECT_EQ(again[5], u"20.00");
     EXPECT_EQ(Rows(u"SELECT TaxPercent FROM Products WHERE ProdCode = '100'"_s), QStringList{u"20"_s});
 }

@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 
+#include "core/Session.h"
 #include "support/Office.h"
 
 using namespace Qt::StringLiterals;
@@ -61,6 +62,13 @@ TEST_F(ProductListTest, EachLetterAndEachChoiceSearches) {
         boxes_.ExpectBeginning(u"3075"_s);
         Keys(u"'");
         EXPECT_EQ(Codes(screen), (QStringList{u"100"_s}));
+        boxes_.ExpectBeginning(u"ProductID - Barcode: 100\n"_s, QMessageBox::Yes).Expect(u"Product deleted."_s);
+        Keys(u"{F6}");
+        EXPECT_EQ(Codes(screen), QStringList());
+        // The Tab key reaches the whole block.
+        Get<QWidget>(screen, u"cmdClose")->setFocus();
+        Keys(u"{Tab}");
+        EXPECT_TRUE(Get<QWidget>(screen, u"cboView")->hasFocus());
         Keys(u"{Esc}");
         EXPECT_FALSE(screen.IsLoaded());
     });
@@ -133,6 +141,29 @@ TEST_F(ProductListTest, TheChooserGivesItsCallerACode) {
         Keys(u"{Enter}{F12}");
     });
     mdiORVA::Window().Choose(u"mnuProducts"_s);
+}
+
+TEST_F(ProductListTest, TheChooserKeepsItsCallerWhateverIsOpenedBesideIt) {
+    LogIn(u"admin"_s);
+    frmArtikli& chooser = Chooser();
+    boxes_.ExpectForm(u"frmUsers"_s, [this](QWidget&) {
+        boxes_.ExpectForm(u"frmEditUser"_s, [](QWidget&) { Keys(u"{F12}"); });
+        Keys(u"{F4}{Esc}");
+    });
+    mdiORVA::Window().Choose(u"mnuUsers"_s);
+    boxes_.ExpectForm(u"frmEditProduct"_s, [this](QWidget& entry) {
+        boxes_.ExpectForm(u"frmSastav"_s, [this](QWidget&) {
+            boxes_.ExpectForm(u"frmViewer"_s, [](QWidget&) { Keys(u"{Esc}"); });
+            Keys(u"{F2}{F12}");
+        });
+        drivers::Click(Get<QWidget>(entry, u"cmdSastav"));
+        Keys(u"{Esc}");
+    });
+    Keys(u"{F4}");
+    ASSERT_EQ(CallerForm, &Sales());
+    Lv1(chooser).setFocus();
+    Keys(u"{Enter}");
+    EXPECT_EQ(Shown(u"txtDescription"), u"Cola");
 }
 
 }  // namespace

@@ -16,7 +16,7 @@ protected:
     ViewerTest() { code_->setObjectName(u"txtProdCode"_s); }
 
     // Opens the window for a caller of its own, as the composition does.
-    void Search(bool listsAtOnce, std::function<void(frmViewer&)> script) {
+    void Search(const values::Value& listsAtOnce, std::function<void(frmViewer&)> script) {
         Setting(u"PrikaziOdmah"_s, listsAtOnce);
         LogIn(u"admin"_s);
         CallerForm = &caller_;
@@ -36,6 +36,7 @@ protected:
 TEST_F(ViewerTest, OpensEmptyOrWithAllProductsAsTheSettingSays) {
     Run(u"UPDATE Products SET UnitPrice = Null WHERE ProdCode = '400'"_s);
     Search(true, [](frmViewer& form) { EXPECT_EQ(Codes(form).size(), 5); });
+    Search({}, [](frmViewer& form) { EXPECT_TRUE(Codes(form).empty()); });
     Search(false, [](frmViewer& form) {
         EXPECT_TRUE(Codes(form).empty());
         Get<QWidget>(form, u"lv1")->setFocus();
