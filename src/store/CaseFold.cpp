@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 namespace store {
 
@@ -38,6 +39,21 @@ constexpr bool IsAscii(char byte) {
 
 constexpr char16_t FoldAscii(char byte) {
     return LatinFolds[static_cast<unsigned char>(byte)];
+}
+
+bool IsInsideCharacter(QByteArrayView text, qsizetype at) {
+    return at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0) == 0x80;
+}
+
+// Of what both begin with, byte for byte, as much as is quickly seen; both go on with a whole character. Sorted texts
+// have long beginnings in common.
+qsizetype LengthAlike(QByteArrayView a, QByteArrayView b) {
+    constexpr qsizetype step = 8;
+    const qsizetype common = std::min(a.size(), b.size());
+    qsizetype length = 0;
+    while (length + step <= common && std::memcmp(a.data() + length, b.data() + length, step) == 0) length += step;
+    while (length > 0 && (IsInsideCharacter(a, length) || IsInsideCharacter(b, length))) --length;
+    return length;
 }
 
 }  // namespace
@@ -81,6 +97,9 @@ QByteArrayView FromFolded(QByteArrayView text, char32_t folded) {
 }
 
 int CompareFolded(QByteArrayView a, QByteArrayView b) {
+    const qsizetype alike = LengthAlike(a, b);
+    a = a.sliced(alike);
+    b = b.sliced(alike);
     while (!a.empty() && !b.empty()) {
         const qsizetype common = std::min(a.size(), b.size());
         qsizetype i = 0;

@@ -33,7 +33,7 @@ public:
     virtual Data Load(Place place) = 0;
 };
 
-// A join or an aggregate: all rows are taken at opening.
+// All rows are taken at opening: of a join or an aggregate, or because they are only to be read.
 class SnapshotRows final : public CursorRows {
 public:
     SnapshotRows(Engine& engine, const dialect::Query& query) { engine.ReadAll(query, rows_); }

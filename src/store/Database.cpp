@@ -11,6 +11,8 @@ struct Database::Internals {
     Internals(const Schema& itsSchema, QString itsPath)
         : schema(itsSchema), path(std::move(itsPath)), compiler(schema) {}
 
+    dialect::Query CompileSelect(const QString& query);
+
     Schema schema;
     QString path;
     dialect::Compiler compiler;
@@ -29,12 +31,22 @@ std::unique_ptr<Database> Database::Create(const QString& path, const Schema& sc
     return std::unique_ptr<Database>(new Database(sqlite::CreateFile(path, schema), schema, path));
 }
 
-Recordset Database::OpenRecordset(const QString& query) {
-    dialect::Compiler& compiler = internals_->compiler;
+dialect::Query Database::Internals::CompileSelect(const QString& query) {
     dialect::Query compiled = compiler.Compile(query);
     if (compiled.plan->kind != dialect::Plan::Kind::Select)
         throw StoreError(NotSupported, u"An action query gives no rows."_s);
-    return Recordset(std::make_unique<Recordset::Impl>(*engine_, compiler, std::move(compiled)));
+    return compiled;
+}
+
+Recordset Database::OpenRecordset(const QString& query) {
+    dialect::Query compiled = internals_->CompileSelect(query);
+    const bool isKeyset = compiled.plan->table != nullptr;
+    return Recordset(std::make_unique<Recordset::Impl>(*engine_, internals_->compiler, std::move(compiled), isKeyset));
+}
+
+Recordset Database::OpenSnapshot(const QString& query) {
+    dialect::Query compiled = internals_->CompileSelect(query);
+    return Recordset(std::make_unique<Recordset::Impl>(*engine_, internals_->compiler, std::move(compiled), false));
 }
 
 qint64 Database::Execute(const QString& query) {

@@ -22,6 +22,9 @@ public:
     ~Database();
 
     Recordset OpenRecordset(const QString& query);
+    // All rows at once, as they are at this moment and for reading only: of many rows that are looked at from the first
+    // to the last, a keyset would read each twice.
+    Recordset OpenSnapshot(const QString& query);
     // Runs an action query (UPDATE, DELETE) as one commit; gives the number of rows it touched.
     qint64 Execute(const QString& query);
 

@@ -30,7 +30,7 @@ class Engine {
 public:
     virtual ~Engine() = default;
 
-    // All rows of a join or an aggregate.
+    // All rows of a query.
     virtual void ReadAll(const dialect::Query& query, RowBlock& rows) = 0;
     // The identities of all rows of a one-table query in its order, and the data of the first `withData` of them.
     virtual void ReadKeyset(const dialect::Query& query, int withData, std::vector<qint64>& keys, RowBlock& rows) = 0;

@@ -11,7 +11,7 @@ struct Recordset::Impl {
     // Deleted: on the place of a row that this cursor deleted, before its successor.
     enum class Position { Before, OnRow, Deleted, After };
 
-    Impl(Engine& itsEngine, dialect::Compiler& itsCompiler, dialect::Query itsQuery);
+    Impl(Engine& itsEngine, dialect::Compiler& itsCompiler, dialect::Query itsQuery, bool isKeyset);
 
     // Position
     bool IsEmpty() const { return position == Position::After && rows->KnownCount() == 0; }

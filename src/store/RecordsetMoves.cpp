@@ -10,15 +10,12 @@ namespace {
     throw StoreError(NoCurrentRow, u"No current row."_s);
 }
 
-std::unique_ptr<KeysetRows> MakeKeyset(Engine& engine, const dialect::Query& query) {
-    return query.plan->table == nullptr ? nullptr : std::make_unique<KeysetRows>(engine, query);
-}
-
 }  // namespace
 
-Recordset::Impl::Impl(Engine& itsEngine, dialect::Compiler& itsCompiler, dialect::Query itsQuery)
+Recordset::Impl::Impl(Engine& itsEngine, dialect::Compiler& itsCompiler, dialect::Query itsQuery, bool isKeyset)
     : engine(itsEngine), compiler(itsCompiler), query(std::move(itsQuery)) {
-    if (auto updatable = MakeKeyset(engine, query)) {
+    if (isKeyset) {
+        auto updatable = std::make_unique<KeysetRows>(engine, query);
         keyset = updatable.get();
         rows = std::move(updatable);
     } else {

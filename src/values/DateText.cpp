@@ -13,6 +13,7 @@ using Kind = DateField::Kind;
 
 // Two-digit years from here on lie in the last century.
 constexpr int FirstYearOfLastCentury = 30;
+constexpr int UsualLength = 12;  // of a date or a time as a text
 
 QLocale::FormatType NameForm(const DateField& field) {
     return field.width > 3 ? QLocale::LongFormat : QLocale::ShortFormat;
@@ -95,6 +96,7 @@ std::optional<bool> ReadDayPeriod(PieceReader& reader) {
 QString DateText(QDate date) {
     QString text;
     if (!date.isValid()) return text;
+    text.reserve(UsualLength);
     for (const auto& field : UserTexts().date) {
         switch (field.kind) {
             case Kind::Day:
@@ -119,6 +121,7 @@ QString DateText(QDate date) {
 QString TimeText(QTime time) {
     QString text;
     if (!time.isValid()) return text;
+    text.reserve(UsualLength);
     for (const auto& field : UserTexts().time) {
         switch (field.kind) {
             case Kind::Hour:

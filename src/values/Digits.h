@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QString>
+#include <charconv>
+#include <iterator>
 
 namespace values {
 
@@ -10,9 +12,10 @@ inline bool IsDigit(QChar c) {
 }
 
 inline void AddPadded(QString& text, int number, int width) {
-    const QString digits = QString::number(number);
-    for (auto missing = width - digits.size(); missing > 0; --missing) text += u'0';
-    text += digits;
+    char digits[12];
+    const auto length = std::to_chars(std::begin(digits), std::end(digits), number).ptr - digits;
+    for (auto missing = width - length; missing > 0; --missing) text += u'0';
+    text += QLatin1StringView(digits, length);
 }
 
 }  // namespace values

@@ -82,6 +82,9 @@ qint32 CInt32(double number) {
 }
 
 QString NumberText(double number) {
+    constexpr double tooManyDigits = 1e15;
+    if (number == std::trunc(number) && std::abs(number) < tooManyDigits)
+        return QString::number(static_cast<qint64>(number));
     return GeneralText(Decimal::FromDouble(number), WholeDigitsOfDouble);
 }
 

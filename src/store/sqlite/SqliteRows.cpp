@@ -40,12 +40,14 @@ bool LieCloseTogether(std::span<const qint64> keys) {
 }  // namespace
 
 void SqliteEngine::ReadAll(const dialect::Query& query, RowBlock& rows) {
+    // The rows of one table come with their identities, as a keyset would ask for them by the same statement.
+    const bool withRow = query.plan->table != nullptr;
     Prepared& prepared = PreparedFor(*query.plan, connection_);
-    Statement& statement = prepared.Get(prepared.whole, [&] { return SelectSql(*query.plan, false); });
+    Statement& statement = prepared.Get(prepared.whole, [&] { return SelectSql(*query.plan, withRow); });
     const StatementUse use(statement);
     statement.BindAll(query.values);
     rows.Clear(OutputColumns(query));
-    while (statement.Step()) statement.AppendRow(rows, 0);
+    while (statement.Step()) statement.AppendRow(rows, withRow ? 1 : 0);
 }
 
 void SqliteEngine::ReadKeyset(const dialect::Query& query, int withData, std::vector<qint64>& keys, RowBlock& rows) {
