@@ -55,8 +55,12 @@ void Form::Load() {
     try {
         Form_Load();
     } catch (...) {
+        const auto error = std::current_exception();
         Leave();
         if (deletesItself_) deleteLater();
+        // On a screen that ends the process on errors this one is no business of the handler that opens it.
+        if (fatal_) Run([&] { std::rethrow_exception(error); });
+        if (ProgramIsEnding()) throw ProgramEnds{};
         throw;
     }
 }

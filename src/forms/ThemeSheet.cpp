@@ -77,12 +77,14 @@ QToolBar { background: transparent; border: none; spacing: 8px; padding: 0; }
 QToolBar QToolButton {
     background: @paper; color: @ink; border: 1px solid @edge; min-height: @buttonHeight; padding: 0 14px;
 }
+/* In the corner beside the tabs, lower than these. */
+QTabWidget QToolBar QToolButton { min-height: @fieldHeight; }
 QToolBar QToolButton:hover { background: @hover; }
 QToolBar QToolButton:pressed { background: @pressed; }
 QToolBar QToolButton[role="main"] { background: @accent; color: @paper; border-color: @accentDark; font-weight: 500; }
 QToolBar QToolButton[role="main"]:hover, QToolBar QToolButton[role="main"]:pressed { background: @accentDark; }
 QDialogButtonBox QPushButton, QMessageBox QPushButton { min-width: 76px; }
-QMessageBox QLabel#qt_msgbox_label { min-width: 260px; padding: 6px 8px 10px 4px; }
+QMessageBox QLabel#qt_msgbox_label { padding: 6px 8px 10px 4px; }
 QMessageBox QLabel#qt_msgboxex_icon_label { padding: 6px; }
 )";
 
@@ -105,6 +107,7 @@ QLineEdit[role="nightText"], QLineEdit[role="nightText"]:read-only, QLineEdit[ro
 }
 QCheckBox, QRadioButton { background: transparent; color: @ink; }
 QCheckBox:disabled, QRadioButton:disabled { color: @faint; }
+QRadioButton[role="columns"] { font-family: monospace; }
 QToolTip { background: @night; color: @paper; border: 1px solid @night; padding: 4px 6px; font-size: @labelSize; }
 )";
 
@@ -139,6 +142,8 @@ QTreeView, QTableView, QListView {
     outline: none; selection-background-color: @chosenRow; selection-color: @ink;
 }
 QTreeView:focus, QTableView:focus, QListView:focus { border-color: @accent; }
+QTextBrowser { border: 1px solid @line; border-radius: @corner; }
+QTextBrowser:focus { border: 1px solid @accent; }
 forms--TextView { background: @paper; border: 1px solid @line; border-radius: @corner; }
 forms--TextView:focus { border-color: @accent; }
 QTreeView:disabled { color: @faint; }
@@ -157,7 +162,7 @@ QHeaderView::section:disabled { color: @faint; }
 QScrollBar:vertical { background: transparent; width: 14px; margin: 0; }
 QScrollBar:horizontal { background: transparent; height: 14px; margin: 0; }
 /* Long texts are scrolled with a thumb. */
-forms--TextView QScrollBar:vertical { width: 26px; }
+forms--TextView QScrollBar:vertical, QTextBrowser QScrollBar:vertical { width: 26px; }
 QScrollBar::handle { background: @line; border-radius: 4px; margin: 3px; }
 QScrollBar::handle:vertical { min-height: 36px; }
 QScrollBar::handle:horizontal { min-width: 36px; }

@@ -59,7 +59,8 @@ void DrawChevron(QPainter& painter, const QPointF& middle, const QColor& colour,
 
 void DrawTickBox(QPainter& painter, const QStyleOption& option, bool round) {
     const bool enabled = Has(option, QStyle::State_Enabled);
-    const bool on = Has(option, QStyle::State_On);
+    const bool between = Has(option, QStyle::State_NoChange);
+    const bool on = between || Has(option, QStyle::State_On);
     const QRectF box = QRectF(option.rect).adjusted(1, 1, -1, -1);
     const qreal corner = round ? box.width() / 2 : 4;
     const QColor mark = enabled ? Tokens::Accent : Tokens::Faint;
@@ -76,7 +77,10 @@ void DrawTickBox(QPainter& painter, const QStyleOption& option, bool round) {
     }
     painter.setPen(QPen(Tokens::Paper, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     const QPointF middle = box.center();
-    painter.drawPolyline(QPolygonF({middle + QPointF(-4, 0), middle + QPointF(-1, 3), middle + QPointF(4, -3.5)}));
+    if (between)
+        painter.drawLine(middle + QPointF(-4, 0), middle + QPointF(4, 0));
+    else
+        painter.drawPolyline(QPolygonF({middle + QPointF(-4, 0), middle + QPointF(-1, 3), middle + QPointF(4, -3.5)}));
 }
 
 void DrawFocusRing(QPainter& painter, const QStyleOption& option) {

@@ -22,7 +22,7 @@ public:
     Boxes& Expect(const QString& text, QMessageBox::StandardButton button = QMessageBox::Ok);
     // A message box whose text begins like this: the error number of a report, for instance.
     Boxes& ExpectBeginning(const QString& text, QMessageBox::StandardButton button = QMessageBox::Ok);
-    // Further demands on the box expected last.
+    // Further demands on the box (or the file dialog) expected last.
     Boxes& Titled(const QString& title);
     Boxes& WithIcon(QMessageBox::Icon icon);
     // It is answered by these keys instead of its button.

@@ -153,4 +153,11 @@ QByteArray TillTest::File(const QString& name) const {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+void ExpectHelp(Boxes& boxes, const QString& file) {
+    boxes.ExpectForm(u"frmHelp"_s, [file](QWidget&) {
+        EXPECT_EQ(HelpFileName, file);
+        Keys(u"{Esc}");
+    });
+}
+
 }  // namespace drivers

@@ -3,6 +3,7 @@
 #include "core/mdiORVA.h"
 #include "forms/Form.h"
 #include "store/Database.h"
+#include "support/Answers.h"
 #include "support/ScreenTest.h"
 
 namespace drivers {
@@ -42,5 +43,8 @@ protected:
 private:
     void AddGoods();
 };
+
+// The help comes up with this text, and is closed again.
+void ExpectHelp(Boxes& boxes, const QString& file);
 
 }  // namespace drivers
