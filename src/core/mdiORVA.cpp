@@ -6,7 +6,6 @@
 #include <QStatusBar>
 
 #include "core/AccessLevels.h"
-#include "forms/MsgBox.h"
 #include "values/Clock.h"
 #include "values/Format.h"
 
@@ -72,8 +71,6 @@ const std::vector<Menu> Menus = {
     {{u"mnuHelp", u"&Help"}, {{u"mnuHelp1", u"Help"}, {u"mnuAbout", u"About program"}}},
 };
 
-const auto StillToCome = u"This screen comes with a later version of the program."_s;
-
 mdiORVA* mainWindow = nullptr;
 
 }  // namespace
@@ -138,13 +135,7 @@ void mdiORVA::Timer1_Timer() {
 }
 
 void mdiORVA::Choose(const QString& name) {
-    const auto action = entries_.value(name);
-    if (!action) return TellStillToCome();
-    action();
-}
-
-void mdiORVA::TellStillToCome() {
-    forms::Inform(StillToCome, Caption());
+    if (const auto action = entries_.value(name)) action();
 }
 
 void mdiORVA::SetEntry(const QString& name, std::function<void()> action) {

@@ -21,12 +21,10 @@ public:
     static mdiORVA& Window();
     static void Discard();
 
-    // What a menu entry does, by the entry's name. An entry without one tells that its screen is still to come.
+    // What a menu entry does, by the entry's name. An entry without one does nothing.
     void SetEntry(const QString& name, std::function<void()> action);
     // Does what the entry does; keys of the sales screen reach some screens this way, whatever the level.
     void Choose(const QString& name);
-    // Says in one plain box that a screen is still to come.
-    void TellStillToCome();
     void SetEntryEnabled(const QString& name, bool enabled);
     // Switches entries off and on as the level of the user who logged in demands.
     void ApplyAccessLevel(const QString& accLevel);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/OfficeForm.h"
+#include "support/OfficeForm.h"
 
 // The entry of one row: Enter moves on as the Tab key does, F5 saves, F1 helps, F12 closes without saving. The twins
 // that add and change a row share one class derived from this, and one .ui.
@@ -10,7 +10,7 @@ class EntryForm : public OfficeForm {
 protected:
     void SaveHelpAndClose(QAbstractButton* save, QAbstractButton* help, QAbstractButton* close,
                           std::initializer_list<Qt::Key> closeKeys = {Qt::Key_F12},
-                          const QString& helpFile = QStringLiteral("\\helpVELTON.rtf"));
+                          const QString& helpFile = ProgramHelp);
 
     // Shows a stored text in its full length, however long the box lets one type: the save writes it back.
     static void ShowWhole(QLineEdit* box, const QString& text);

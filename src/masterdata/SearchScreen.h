@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/OfficeForm.h"
+#include "support/OfficeForm.h"
 #include "masterdata/SearchBlock.h"
 
 // A screen whose list is narrowed by the search block: each letter typed, each choice of a field or of the way to look

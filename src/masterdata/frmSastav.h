@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/OfficeForm.h"
+#include "support/OfficeForm.h"
 #include "store/Recordset.h"
 #include "ui_frmSastav.h"
 

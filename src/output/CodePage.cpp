@@ -59,10 +59,25 @@ bool IsCentralEuropean(const QLocale& locale) {
     }
 }
 
+const CodePage& CentralPage() {
+    static const CodePage page("CP1250");
+    return page;
+}
+
+const CodePage& WesternPage() {
+    static const CodePage page("CP1252");
+    return page;
+}
+
 const CodePage& UserPage() {
-    static const CodePage central("CP1250");
-    static const CodePage western("CP1252");
-    return IsCentralEuropean(values::UserLocale()) ? central : western;
+    return IsCentralEuropean(values::UserLocale()) ? CentralPage() : WesternPage();
+}
+
+QString Decoded(const QByteArray& bytes, const CodePage& page) {
+    QString result;
+    result.reserve(bytes.size());
+    for (const char byte : bytes) result += QChar(page.characters[static_cast<uchar>(byte)]);
+    return result;
 }
 
 }  // namespace
@@ -80,11 +95,11 @@ QByteArray ToCodePage(QStringView text) {
 }
 
 QString FromCodePage(const QByteArray& bytes) {
-    const CodePage& page = UserPage();
-    QString result;
-    result.reserve(bytes.size());
-    for (const char byte : bytes) result += QChar(page.characters[static_cast<uchar>(byte)]);
-    return result;
+    return Decoded(bytes, UserPage());
+}
+
+QString FromNumberedPage(const QByteArray& bytes, int page) {
+    return Decoded(bytes, page == 1250 ? CentralPage() : WesternPage());
 }
 
 }  // namespace output

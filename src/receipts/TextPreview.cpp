@@ -3,12 +3,11 @@
 #include <QCoreApplication>
 #include <QScopeGuard>
 
-#include "core/Session.h"
 #include "core/dbModule.h"
-#include "core/mdiORVA.h"
 #include "forms/FileDialog.h"
 #include "output/CodePage.h"
 #include "receipts/TextFiles.h"
+#include "support/Help.h"
 
 using namespace Qt::StringLiterals;
 
@@ -67,8 +66,7 @@ void TextPreview::cmdBrisi_Click() {
 }
 
 void TextPreview::cmdHelp_Click() {
-    HelpFileName = u"\\helpVELTON.rtf"_s;
-    mdiORVA::Window().Choose(u"mnuHelp1"_s);
+    ShowHelp();
 }
 
 void TextPreview::cmdClose_Click() {

@@ -2,9 +2,7 @@
 
 #include <QScopeGuard>
 
-#include "core/Session.h"
 #include "core/dbModule.h"
-#include "core/mdiORVA.h"
 #include "forms/MsgBox.h"
 #include "output/Folder.h"
 #include "receipts/InvoiceLists.h"
@@ -12,6 +10,7 @@
 #include "receipts/ReviewReceipt.h"
 #include "receipts/TextFiles.h"
 #include "receipts/frmRacunPregled.h"
+#include "support/Help.h"
 #include "values/Format.h"
 
 using namespace Qt::StringLiterals;
@@ -155,8 +154,7 @@ void frmRacPRG::cmdLast_Click() {
 }
 
 void frmRacPRG::cmdHelp_Click() {
-    HelpFileName = u"\\helpVELTON.rtf"_s;
-    mdiORVA::Window().Choose(u"mnuHelp1"_s);
+    ShowHelp();
 }
 
 void frmRacPRG::cmdClose_Click() {

@@ -12,6 +12,7 @@
 #include "receipts/InvoiceLists.h"
 #include "sales/LogOff.h"
 #include "sales/frmChangeUser.h"
+#include "support/Help.h"
 #include "values/Clock.h"
 #include "values/Format.h"
 #include "values/Numbers.h"
@@ -238,8 +239,7 @@ void frmORVAtouch::cmdNoviArtikal_Click() {
 }
 
 void frmORVAtouch::cmdHelp_Click() {
-    HelpFileName = u"\\helpVELTON.rtf"_s;
-    mdiORVA::Window().Choose(u"mnuHelp1"_s);
+    ShowHelp();
 }
 
 void frmORVAtouch::cmdLogOff_Click() {

@@ -1,9 +1,4 @@
-#include "core/OfficeForm.h"
-
-#include "core/Session.h"
-#include "core/mdiORVA.h"
-
-using namespace Qt::StringLiterals;
+#include "support/OfficeForm.h"
 
 void OfficeForm::HelpAndClose(QAbstractButton* help, QAbstractButton* close, std::initializer_list<Qt::Key> closeKeys,
                               const QString& helpFile) {
@@ -15,8 +10,7 @@ void OfficeForm::HelpAndClose(QAbstractButton* help, QAbstractButton* close, std
 }
 
 void OfficeForm::cmdHelp_Click() {
-    HelpFileName = helpFile_;
-    mdiORVA::Window().Choose(u"mnuHelp1"_s);
+    ShowHelp(helpFile_);
 }
 
 void OfficeForm::cmdClose_Click() {

@@ -111,10 +111,10 @@ TEST_F(PreviewTest, APortThatIsGoneEndsTheProgram) {
 
 TEST_F(PreviewTest, TheHelpTextIsNamed) {
     ReportsTo(u"1"_s);
-    QString asked;
-    mdiORVA::Window().SetEntry(u"mnuHelp1"_s, [&] { asked = HelpFileName; });
-    ShowPreview(u"\\Report.txt"_s, [](QWidget&) { Keys(u"{F1}{Esc}"); });
-    EXPECT_EQ(asked, u"\\helpVELTON.rtf");
+    ShowPreview(u"\\Report.txt"_s, [this](QWidget&) {
+        drivers::ExpectHelp(boxes_, u"\\helpVELTON.rtf"_s);
+        Keys(u"{F1}{Esc}");
+    });
 }
 
 // Megabytes of memory that the process had in use at most since it was last asked.

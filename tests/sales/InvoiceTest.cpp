@@ -144,11 +144,4 @@ TEST_F(InvoiceTest, FieldsForTheCustomerComeWithTheirSetting) {
     drivers::Grab(mdiORVA::Window(), u"sales-customer-1024"_s);
 }
 
-TEST_F(InvoiceTest, EntriesStillToComeSaySo) {
-    LogIn();
-    Boxes boxes;
-    boxes.Expect(u"This screen comes with a later version of the program."_s).Titled(u"VELTON POS"_s);
-    mdiORVA::Window().findChild<QAction*>(u"mnuAbout"_s)->trigger();
-}
-
 }  // namespace
