@@ -61,20 +61,20 @@ struct PagePrinter::Job {
     QPainter painter;  // behind the device, since it must end before it
     double y = 0;
 
-    Job();
+    explicit Job(const QPageLayout& paper);
     void Print(const QString& line, const QFont& font);
     void End();
     bool DeviceFailed() const;
 };
 
-PagePrinter::Job::Job() {
+PagePrinter::Job::Job(const QPageLayout& paper) {
     if (const QPrinterInfo standard = QPrinterInfo::defaultPrinter(); !standard.isNull()) {
         device = std::make_unique<QPrinter>(standard, QPrinter::HighResolution);
     } else {
         pdf.open(QIODevice::WriteOnly);
         device = std::make_unique<QPdfWriter>(&pdf);
-        device->setPageMargins(QMarginsF(PdfMarginMm, PdfMarginMm, PdfMarginMm, PdfMarginMm), QPageLayout::Millimeter);
     }
+    device->setPageLayout(paper);
     if (!painter.begin(device.get())) throw OutputError(DeviceUnavailable, u"The page printer cannot be used."_s);
 }
 
@@ -110,8 +110,20 @@ void PagePrinter::SetFontSize(double points) {
     fontSize_ = points > 0 ? points : DefaultFontSize;
 }
 
+void PagePrinter::SetPaper(const QPageLayout& paper) {
+    paper_ = paper;
+}
+
+QPageLayout PagePrinter::Paper() const {
+    if (paper_.isValid()) return paper_;
+    if (const QPrinterInfo standard = QPrinterInfo::defaultPrinter(); !standard.isNull())
+        return QPrinter(standard, QPrinter::HighResolution).pageLayout();
+    const QMarginsF margins(PdfMarginMm, PdfMarginMm, PdfMarginMm, PdfMarginMm);
+    return {QPageSize(QPageSize::A4), QPageLayout::Portrait, margins, QPageLayout::Millimeter};
+}
+
 void PagePrinter::PrintLine(const QString& line) {
-    if (!job_) job_ = std::make_unique<Job>();
+    if (!job_) job_ = std::make_unique<Job>(Paper());
     const QFont font = LineFont(fontName_, fontSize_);
     // A footer of several lines takes several lines on the page as well.
     for (QString part : line.split(u'\n')) {

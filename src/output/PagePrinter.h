@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPageLayout>
 #include <QString>
 #include <memory>
 
@@ -15,6 +16,9 @@ public:
     void SetFontName(const QString& name);
     // A size that no page can hold, 0 among them, stands for 9 points.
     void SetFontSize(double points);
+    // The paper of the jobs to come; what the device has of itself until it is set, or set to an invalid one.
+    void SetPaper(const QPageLayout& paper);
+    QPageLayout Paper() const;
     void PrintLine(const QString& line);
     void EndJob();
     // Drops a job that was begun, for a handler that gives up.
@@ -24,6 +28,7 @@ private:
     struct Job;
     QString fontName_;
     double fontSize_ = 9;
+    QPageLayout paper_;
     std::unique_ptr<Job> job_;
 };
 

@@ -10,11 +10,12 @@
 // state of the screen is the caption of cmdNew.
 class frmORVAtouch : public forms::Form {
     Q_OBJECT
+    Q_PROPERTY(int RacunOrNo MEMBER RacunOrNo)
 
 public:
     frmORVAtouch();
 
-    // Counter of the last receipt number; the settings dialog moves it.
+    // Counter of the last receipt number; the settings dialog moves it by its name.
     qint32 RacunOrNo = 0;
 
     void cmdNew_Click();

@@ -1,0 +1,48 @@
+#include "config/frmMreza.h"
+
+#include "core/dbModule.h"
+#include "values/Numbers.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto OptionsQuery = u"SELECT * FROM Options"_s;
+
+}  // namespace
+
+frmMreza::frmMreza() {
+    ui.setupUi(this);
+    LayOutToolBar();
+    StoreErrorsEndProgram();
+    HelpAndClose(ui.cmdHelp, ui.cmdCancel, {Qt::Key_Escape, Qt::Key_F12}, u"\\Podesavanje.rtf"_s);
+    FunctionKeys({{Qt::Key_F5, ui.cmdOK}});
+    EnterMovesOn();
+    HighlightOnFocus({ui.txtServerName, ui.txtKasa});
+    On(ui.cmdOK, &frmMreza::cmdOK_Click);
+    connect(ui.save, &QAction::triggered, ui.cmdOK, &QPushButton::click);
+    connect(ui.help, &QAction::triggered, ui.cmdHelp, &QPushButton::click);
+    connect(ui.close, &QAction::triggered, ui.cmdCancel, &QPushButton::click);
+}
+
+// The work on the left, help and close on the right, as everywhere.
+void frmMreza::LayOutToolBar() {
+    ui.Tlbr1->widgetForAction(ui.save)->setProperty("role", u"main"_s);
+    auto* gap = new QWidget;
+    gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    ui.Tlbr1->insertWidget(ui.help, gap);
+}
+
+void frmMreza::Form_Load() {
+    rsOptions_ = OptionsStore().OpenRecordset(OptionsQuery);
+    ui.txtServerName->setText(rsOptions_[u"ServerName"].TextOrEmpty());
+    ui.txtKasa->setText(rsOptions_[u"Kasa"].TextOrEmpty());
+}
+
+void frmMreza::cmdOK_Click() {
+    rsOptions_.Edit();
+    rsOptions_[u"ServerName"] = ui.txtServerName->text();
+    rsOptions_[u"Kasa"] = values::Val(ui.txtKasa->text());
+    rsOptions_.Update();
+    Unload();
+}
