@@ -3,11 +3,10 @@
 #include <QScopeGuard>
 #include <QSignalBlocker>
 
-#include "core/Session.h"
 #include "core/dbModule.h"
-#include "core/mdiORVA.h"
 #include "forms/MsgBox.h"
 #include "reports/EndReport.h"
+#include "support/Help.h"
 #include "values/Clock.h"
 #include "values/DateText.h"
 #include "values/Format.h"
@@ -228,7 +227,7 @@ void frmTrenutnoStanjeKasa::FillList() {
     for (auto& row : rsList_) {
         QStringList cells;
         for (int column = 0; column < Columns; ++column) cells << Cell(row, column);
-        ui.lv1->Add(std::move(cells));
+        ui.lv1->Add(cells);
     }
 }
 
@@ -266,8 +265,7 @@ void frmTrenutnoStanjeKasa::cmdOsvjezi_Click() {
 }
 
 void frmTrenutnoStanjeKasa::cmdHelp_Click() {
-    HelpFileName = u"\\helpVELTON.rtf"_s;
-    mdiORVA::Window().Choose(u"mnuHelp1"_s);
+    ShowHelp();
 }
 
 void frmTrenutnoStanjeKasa::cmdClose_Click() {

@@ -1,18 +1,12 @@
 #include "reports/frmTrenutnoStanjeKasa.h"
 
 #include "core/dbModule.h"
-#include "output/Folder.h"
-#include "output/OutputGuard.h"
-#include "receipts/TextFiles.h"
-#include "receipts/frmRacunPregled.h"
+#include "reports/ReportFile.h"
 #include "values/Format.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// Shared by all reports; each overwrites it.
-const auto ReportFile = u"\\Report.txt"_s;
 
 constexpr int LineWidth = 40;
 
@@ -21,15 +15,6 @@ const QString Rule(LineWidth, u'-');
 // Reports go to a file, whatever printer is set.
 void PrintLine(const QString& line) {
     PrintToChannel(u"1"_s, line);
-}
-
-// A step that fails does not keep the next ones from being done: a report that can't be written still comes to the
-// preview, and be it empty.
-void PassOverErrors(const std::function<void()>& step) {
-    try {
-        step();
-    } catch (const values::Error&) {
-    }
 }
 
 }  // namespace
@@ -50,17 +35,10 @@ void frmTrenutnoStanjeKasa::cmdPrintPregledListe_Click() {
 }
 
 void frmTrenutnoStanjeKasa::PrintAndPreview(const std::function<void()>& printLists) {
-    {
-        const output::OutputGuard guard;
-        const QString path = output::InProgramFolder(ReportFile);
-        PassOverErrors([&] { output::Channel1().OpenForOutput(path); });
-        // An earlier report must not stand under today's question.
-        if (!output::Channel1().IsOpen()) PassOverErrors([&] { DeleteTextFile(path); });
+    PreviewReportFile([&] {
         PassOverErrors([this] { PrintHeading(); });
         printLists();
-        PassOverErrors([] { output::Channel1().Close(); });
-    }
-    frmRacunPregled::Preview(ReportFile);
+    });
 }
 
 void frmTrenutnoStanjeKasa::PrintHeading() {

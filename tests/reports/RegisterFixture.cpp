@@ -1,12 +1,16 @@
 #include "reports/RegisterFixture.h"
 
+#include <QCalendarWidget>
+#include <QDateEdit>
 #include <QFile>
+#include <QPushButton>
 
 #include "core/dbModule.h"
 #include "delivery/TableLoader.h"
 #include "forms/Controls.h"
 #include "player/Keys.h"
 #include "store/StorePath.h"
+#include "values/Numbers.h"
 
 using namespace Qt::StringLiterals;
 
@@ -51,4 +55,39 @@ QStringList RegisterFixture::Shown(const forms::Form& form) {
     QStringList rows;
     for (const QStringList& cells : drivers::List(form, u"lv1")) rows << cells.join(u'|');
     return rows;
+}
+
+void RegisterFixture::Sell(const QString& number, QDate day, const QString& amount) {
+    auto invoice = MainStore().OpenRecordset(u"SELECT * FROM Invoices"_s);
+    invoice.AddNew();
+    invoice[u"InvoiceID"] = number;
+    invoice[u"OrNo"] = number;
+    invoice[u"CashierID"] = u"2"_s;
+    invoice[u"DateSold"] = day;
+    invoice[u"CashAmount"] = values::CMoney(amount);
+    invoice.Update();
+    auto line = MainStore().OpenRecordset(u"SELECT * FROM SalesDetails"_s);
+    line.AddNew();
+    line[u"InvoiceID"] = number;
+    line[u"ProdCode"] = u"P"_s + number;
+    line[u"Amount"] = values::CMoney(amount);
+    line.Update();
+}
+
+void Choose(const forms::Form& report, const QString& days) {
+    using drivers::Get;
+    const QStringList ends = days.split(u'-', Qt::SkipEmptyParts);
+    const auto date = [&](qsizetype end) { return QDate::fromString(ends[end], u"dd.MM.yyyy"_s); };
+    if (ends.size() == 1) {
+        auto* month = Get<QCalendarWidget>(report, u"mv1");
+        month->setSelectedDate(date(0));
+        month->setFocus();
+        drivers::Keys(u"{Enter}");
+    }
+    if (ends.size() == 2) {
+        Get<QDateEdit>(report, u"DTPicker1")->setDate(date(0));
+        Get<QDateEdit>(report, u"DTPicker2")->setDate(date(1));
+        Get<QPushButton>(report, u"Command1")->setFocus();
+        drivers::Keys(u" ");
+    }
 }

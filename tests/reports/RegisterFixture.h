@@ -16,4 +16,18 @@ protected:
     static void ExpectPreview(drivers::Boxes& boxes, const QString& contents);
     // The rows of the list, cells joined by "|".
     static QStringList Shown(const forms::Form& form);
+    // An invoice of cashier 2 with one line, of the product "P" and the number.
+    static void Sell(const QString& number, QDate day, const QString& amount);
 };
+
+// A report, up and active.
+template <typename Report>
+forms::Form& ShowReport() {
+    auto* form = forms::Open<Report>();
+    form->Show();
+    drivers::Settle();
+    return *form;
+}
+
+// The days of a report: a period ("20.11.2026-24.11.2026"), or one day, by Enter in the month view.
+void Choose(const forms::Form& report, const QString& days);

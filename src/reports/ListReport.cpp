@@ -1,0 +1,195 @@
+#include "reports/ListReport.h"
+
+#include <QLabel>
+#include <QScopeGuard>
+#include <QScopedValueRollback>
+#include <optional>
+
+#include "core/Settings.h"
+#include "core/dbModule.h"
+#include "core/mdiORVA.h"
+#include "forms/FileDialog.h"
+#include "forms/LongWork.h"
+#include "forms/MsgBox.h"
+#include "output/OutputGuard.h"
+#include "receipts/InvoiceOutput.h"
+#include "reports/ReportFile.h"
+#include "reports/ReportLines.h"
+#include "values/Format.h"
+#include "values/Locale.h"
+#include "values/Numbers.h"
+
+using namespace Qt::StringLiterals;
+using values::Format;
+
+namespace {
+
+constexpr int SumBoxWidth = 130;
+
+forms::ListColumn ListColumnOf(const ReportColumn& column) {
+    return {column.heading, column.look == Look::Text ? Qt::AlignLeft : Qt::AlignRight, column.width};
+}
+
+// A value that can't be shown leaves its cell empty; the end of a row or of the whole report is not for the cell to
+// hide.
+QString Cell(store::Recordset& row, const ReportColumn& column, int position) {
+    try {
+        const values::Value value = column.field.isEmpty() ? row[position].Get() : row[column.field].Get();
+        return column.look == Look::Amount ? Format(value, u"0.00") : value.TextOrEmpty();
+    } catch (const values::Error& error) {
+        if (error.Number() == store::RowDeleted || error.Number() == store::Cancelled) throw;
+        return {};
+    }
+}
+
+// Nothing for a row that was deleted since the cursor was opened.
+std::optional<QStringList> CellsOf(store::Recordset& row, const std::vector<ReportColumn>& columns) {
+    try {
+        QStringList cells;
+        cells.reserve(static_cast<qsizetype>(columns.size()));
+        for (const ReportColumn& column : columns) cells << Cell(row, column, static_cast<int>(cells.size()));
+        return cells;
+    } catch (const store::StoreError& error) {
+        if (error.Number() != store::RowDeleted) throw;
+        return std::nullopt;
+    }
+}
+
+}  // namespace
+
+ListReport::ListReport(ReportFacts facts) : facts_(std::move(facts)) {
+    setObjectName(facts_.name);
+    ui.setupUi(this);
+    setWindowTitle(facts_.caption);
+    std::vector<forms::ListColumn> columns;
+    for (const ReportColumn& column : facts_.columns) columns.push_back(ListColumnOf(column));
+    ui.lv1->SetColumns(std::move(columns));
+    AddSumBoxes();
+    ui.mv1->setFirstDayOfWeek(values::UserLocale().firstDayOfWeek());
+    HelpAndClose(ui.cmdHelp, ui.cmdClose, {Qt::Key_Escape, Qt::Key_F12});
+}
+
+void ListReport::AddSumBoxes() {
+    ui.panelSums->setVisible(!facts_.sums.empty());
+    for (const ReportSum& sum : facts_.sums) {
+        auto* caption = new QLabel(sum.caption, ui.panelSums);
+        caption->setProperty("role", u"muted"_s);
+        auto* box = new QLineEdit(ui.panelSums);
+        box->setObjectName(sum.box);
+        box->setReadOnly(true);
+        box->setFocusPolicy(Qt::NoFocus);
+        box->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        box->setMinimumWidth(SumBoxWidth);
+        box->setMaximumWidth(2 * SumBoxWidth);
+        ui.layoutSums->addWidget(caption);
+        ui.layoutSums->addWidget(box);
+        ShrinkFigures({box});
+    }
+}
+
+void ListReport::PrintAndSave() {
+    AddButton(u"cmdPrint"_s, u"F5-Print"_s, Qt::Key_F5, &ListReport::cmdPrint_Click);
+    AddButton(u"cmdSacuvaj"_s, u"F4-Save"_s, Qt::Key_F4, &ListReport::cmdSacuvaj_Click);
+}
+
+// The first one is what the report is opened for.
+QPushButton* ListReport::AddButton(const QString& name, const QString& caption, Qt::Key key) {
+    auto* button = new QPushButton(caption, this);
+    button->setObjectName(name);
+    const int others = ui.layoutWork->count();
+    if (others == 0) button->setProperty("role", u"main"_s);
+    setTabOrder(others == 0 ? ui.lv1 : ui.layoutWork->itemAt(others - 1)->widget(), button);
+    setTabOrder(button, ui.cmdHelp);
+    setTabOrder(ui.cmdHelp, ui.cmdClose);
+    ui.layoutWork->addWidget(button);
+    if (key != Qt::Key_unknown) FunctionKeys({{key, button}});
+    return button;
+}
+
+QLineEdit* ListReport::SumBox(const ReportSum& sum) const {
+    return ui.panelSums->findChild<QLineEdit*>(sum.box);
+}
+
+// A report that is left or fails in the middle shows nothing rather than a part.
+bool ListReport::OpenAndFill(const QString& query) {
+    forms::LongWork work(this);
+    const QScopedValueRollback working(work_, &work);
+    const store::Watch watch(MainStore(), [&work] { return work.GoesOn(); });
+    try {
+        rsList_ = facts_.isRefreshed ? MainStore().OpenRecordset(query) : MainStore().OpenSnapshot(query);
+        FillList();
+        if (!facts_.isRefreshed) rsList_.Close();
+        return true;
+    } catch (const store::StoreError& error) {
+        ui.lv1->Clear();
+        SumList();
+        if (error.Number() != store::Cancelled) throw;
+        return false;
+    }
+}
+
+// From where the cursor stands: on its first row when it was just opened.
+void ListReport::FillList() {
+    ui.lv1->Clear();
+    ui.lv1->BeginFill();
+    const auto end = qScopeGuard([this] { ui.lv1->EndFill(); });
+    for (; rsList_.IsOpen() && !rsList_.AtEOF(); rsList_.MoveNext()) {
+        if (work_ && !work_->GoesOn()) throw store::StoreError(store::Cancelled, u"The report was left."_s);
+        if (const auto cells = CellsOf(rsList_, facts_.columns)) ui.lv1->Add(*cells);
+    }
+}
+
+values::Money ListReport::SumOf(int column) const {
+    values::Money sum;
+    for (int row = 0; row < ui.lv1->Count(); ++row) {
+        const QString amount = ui.lv1->Text(row, column);
+        if (!amount.isEmpty()) sum += values::CMoney(amount);
+    }
+    return sum;
+}
+
+void ListReport::SumList() {
+    for (const ReportSum& sum : facts_.sums)
+        SumBox(sum)->setText(ui.lv1->Count() > 0 ? Format(SumOf(sum.column), u"0.00") : facts_.emptySum);
+}
+
+bool ListReport::HasItems() const {
+    if (ui.lv1->Count() > 0) return true;
+    forms::Inform(facts_.emptyList, mdiORVA::Window().Caption());
+    return false;
+}
+
+void ListReport::PrintReport(const QString& mode) {
+    QStringList sums;
+    for (const ReportSum& sum : facts_.sums) sums << SumBox(sum)->text();
+    for (const QString& line : ReportLines(Layout(), ui.lblNaslov->text(), *ui.lv1, sums)) PrintToChannel(mode, line);
+}
+
+void ListReport::cmdPrint_Click() {
+    if (!HasItems()) return;
+    const QString mode = TheSettings.PrinterZaIzvjestaj;
+    const output::OutputGuard guard;
+    if (mode == u"1" || mode == u"2") {
+        output::Channel1().OpenPort(u"lpt"_s + mode + u':');
+        PrintReport(mode);
+        FeedBlankLines(TheSettings.PraznihLinijaPoslijeRacuna);
+        output::Channel1().Close();
+    }
+    if (mode == u"3") {
+        SetPageFont();
+        PrintReport(mode);
+        output::ThePagePrinter().EndJob();
+    }
+}
+
+// A save that fails says nothing.
+void ListReport::cmdSacuvaj_Click() {
+    if (!HasItems()) return;
+    const QString path = forms::AskSaveName(this, facts_.saveTitle, u"Report (*.txt)"_s);
+    if (path.isEmpty()) return;
+    PassOverErrors([&] { SaveReportFile(path, [this] { PrintReport(u"1"_s); }); });
+}
+
+void ListReport::PreviewReport() {
+    if (HasItems()) PreviewReportFile([this] { PrintReport(u"1"_s); });
+}

@@ -1,0 +1,89 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+// What a report is, as a table of facts: what it asks the store, what its list shows, what is summed, how it is
+// printed. ListReport and PeriodReport do the rest.
+
+enum class Look {
+    Text,    // as it comes, left
+    Number,  // as it comes, right
+    Amount,  // "0.00", right
+};
+
+struct ReportColumn {
+    QString heading;
+    int width = 0;  // in pixels; 0 hides the column, a negative one takes what the others leave
+    Look look = Look::Text;
+    QString field = {};  // the query's column by name; without one, the column at the same position
+};
+
+// A box that shows the sum of a column of the list, with a caption in front of it.
+struct ReportSum {
+    QString caption;
+    QString box;
+    int column = 0;
+};
+
+// A field of a printed line, from a column of the list.
+struct PrintField {
+    enum class Side { Left, Right };
+    Side side = Side::Left;  // Left: justified to the left and cut; Right: to the right, and whole when it is longer
+    int width = 0;
+    int column = 0;
+    QString date = {};    // a pattern for the column's date
+    QString before = {};  // stands in the field before the text
+};
+
+inline PrintField Left(int width, int column, const QString& date = {}, const QString& before = {}) {
+    return {PrintField::Side::Left, width, column, date, before};
+}
+inline PrintField Right(int width, int column, const QString& date = {}) {
+    return {PrintField::Side::Right, width, column, date, {}};
+}
+
+struct ReportLayout {
+    QStringList title;
+    bool tellsTime = false;  // when it was printed, instead of an empty line
+    QStringList head;
+    std::vector<std::vector<PrintField>> item;  // its lines
+    QString total = {};                         // in front of the sums; without it there is no line of totals
+    QStringList foot = {};
+};
+
+// One of the ways to group a report, chosen by an option button.
+struct ReportVariant {
+    QString option = {};  // name of the button; empty when there is but one way
+    QString caption = {};
+    QString head;   // SELECT ... FROM ...
+    QString group;  // GROUP BY ...
+    int layout = 0;
+};
+
+// Conditions that choose the days, each up to the date and from behind it.
+struct ReportDays {
+    QString day;
+    QString from;
+    QString to;
+    QString end = QStringLiteral("#");
+    QString titleFrom = QStringLiteral("from ");
+    QString titleTo = QStringLiteral(" to ");
+};
+
+struct ReportFacts {
+    QString name;  // of the form
+    QString caption;
+    std::vector<ReportVariant> variants = {};
+    ReportDays days = {};
+    std::vector<ReportColumn> columns;
+    std::vector<ReportSum> sums = {};
+    QString emptySum = {};  // shown in the boxes while the list is empty
+    std::vector<ReportLayout> layouts = {};
+    QString emptyList = QStringLiteral("List does not contain any item.Change date.");
+    QString saveTitle = QStringLiteral("Save as");
+    bool optionsLeadToList = false;  // a choice of an option gives the list the focus
+    bool optionsAreIdle = false;     // the option buttons stand there without effect
+    bool isRefreshed = false;        // its rows are listed again later, with what they hold by then
+};

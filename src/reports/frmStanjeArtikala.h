@@ -1,0 +1,20 @@
+#pragma once
+
+#include "reports/ListReport.h"
+
+// What is in stock and what it is worth, as the products stand.
+class frmStanjeArtikala : public ListReport {
+    Q_OBJECT
+
+public:
+    frmStanjeArtikala();
+
+protected:
+    void Form_Load() override;
+    void FillList() override;
+
+private:
+    void cmdOsvjezi_Click();
+
+    void TellTime();
+};
