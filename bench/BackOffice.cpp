@@ -11,6 +11,7 @@
 #include "bench/Figures.h"
 #include "bench/QtSqlStore.h"
 #include "bench/RawStore.h"
+#include "bench/UntilPainted.h"
 #include "forms/Controls.h"
 #include "masterdata/frmArtikli.h"
 
@@ -24,24 +25,6 @@ constexpr int CodeColumn = 1;
 constexpr int RowsMadeAtOnce = 1000;
 
 enum class Where { AtBeginning, Anywhere };
-
-// Lets the window do its work until this part of it has been painted.
-class UntilPainted : public QObject {
-public:
-    explicit UntilPainted(QAbstractScrollArea& list) {
-        list.viewport()->installEventFilter(this);
-        while (!isPainted_) QCoreApplication::processEvents();
-    }
-
-protected:
-    bool eventFilter(QObject*, QEvent* event) override {
-        isPainted_ |= event->type() == QEvent::Paint;
-        return false;
-    }
-
-private:
-    bool isPainted_ = false;
-};
 
 // A word typed over and over, letter by letter.
 class Typing {

@@ -61,8 +61,8 @@ void BusyTill::OpenPeriods() const {
                                                                                                       dateText(0.7)));
 }
 
-LoggedIn::LoggedIn(const BusyTill& till) {
-    output::SetProgramFolder(till.Folder());
+LoggedIn::LoggedIn(const QString& folder) {
+    output::SetProgramFolder(folder);
     OpenOptionsStore();
     OpenMainStore();
     TheSettings.TipRacuna = u"1"_s;

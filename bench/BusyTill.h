@@ -22,10 +22,11 @@ private:
     QString folder_;
 };
 
-// The program at this till behind its login: both stores open, and settings by which a receipt has all its parts.
+// The program in this folder behind its login: both stores open, and settings by which a receipt has all its parts.
 class LoggedIn {
 public:
-    explicit LoggedIn(const BusyTill& till);
+    explicit LoggedIn(const QString& folder);
+    explicit LoggedIn(const BusyTill& till) : LoggedIn(till.Folder()) {}
     ~LoggedIn();
     LoggedIn(const LoggedIn&) = delete;
     LoggedIn& operator=(const LoggedIn&) = delete;

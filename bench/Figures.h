@@ -24,6 +24,8 @@ Figure ProductSearchFigure(const BusyTill& till, bool anywhere);
 // These two write to the till.
 Figure PlacementFigure(const BusyTill& till);
 Figure RecipeFigure(const BusyTill& till);
+// Every report over a day, a month and all days of a shop.
+std::vector<Figure> ReportFigures(const LateShop& shop);
 
 // Memory of the till in `till` after so many posted invoices, beside that of an empty window; prints its lines. False
 // when one of the programs failed.

@@ -43,7 +43,8 @@ void RegisterOne(const Figure& figure, const std::string& name, const Start& sta
         }
     };
     auto* registered = benchmark::RegisterBenchmark(BenchmarkName(figure, name).c_str(), run);
-    registered->Repetitions(effort.repetitions);
+    const int repetitions = figure.repetitions > 0 ? figure.repetitions : effort.repetitions;
+    registered->Repetitions(std::min(repetitions, effort.repetitions));
     figure.timesItself ? registered->UseManualTime() : registered->UseRealTime();
     if (figure.iterations > 0)
         registered->Iterations(figure.iterations);

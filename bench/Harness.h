@@ -26,6 +26,7 @@ struct Figure {
     std::vector<Yardstick> yardsticks;
     int warmUp = 1;            // pieces of work before the clock runs
     int iterations = 0;        // pieces of work a repetition; 0: as many as fill the time
+    int repetitions = 0;       // at most; 0: as many as the effort says
     bool timesItself = false;  // the work gives its own time in nanoseconds instead of a digest
 };
 

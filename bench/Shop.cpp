@@ -41,44 +41,66 @@ void AddProducts(store::Database& main, const std::vector<Goods>& products) {
     batch.Commit();
 }
 
-// Two years of sales, written line by line as the till writes them.
+// Years of sales, written line by line as the till writes them.
 class Business {
 public:
     Business(store::Database& main, const std::vector<Goods>& products)
         : main_(main),
           products_(products),
+          logins_(main.OpenRecordset(u"SELECT * FROM Login"_s)),
           periods_(main.OpenRecordset(u"SELECT * FROM Sales"_s)),
           invoices_(main.OpenRecordset(u"SELECT * FROM Invoices"_s)),
           lines_(main.OpenRecordset(u"SELECT * FROM SalesDetails"_s)) {}
 
-    void Sell(int lines) {
+    void Sell(int lines, int days) {
         for (int sold = 0; sold < lines;) {
             store::Database::Batch batch(main_);
             const int upTo = std::min(sold + LinesOfABatch, lines);
             while (sold < upTo) {
-                const QDate day = Shop::DayAt(static_cast<double>(sold) / lines);
-                if (day != day_) AddPeriod(day);
+                const QDate day = Shop::DayAt(static_cast<double>(sold) / lines, days);
+                if (day != day_) Begin(day);
                 sold += AddInvoice(std::min(Draw(LongestInvoice) + 1, upTo - sold));
             }
             batch.Commit();
             std::fprintf(stderr, "\rmaking the store: %d of %d lines", sold, lines);
         }
+        AddPeriod();
         std::fprintf(stderr, "\n");
     }
 
 private:
     int Draw(int below) { return static_cast<int>(random_() % static_cast<quint64>(below)); }
 
-    void AddPeriod(QDate day) {
+    void Begin(QDate day) {
+        if (day_.isValid()) AddPeriod();
+        if (day.year() != day_.year()) receipt_ = 0;
         day_ = day;
+        taken_ = {};
         ++period_;
+        AddLogin();
+    }
+
+    void AddLogin() {
+        logins_.AddNew();
+        logins_[u"LogInNo"] = QString::number(period_);
+        logins_[u"UserID"] = u"2"_s;
+        logins_[u"AccLevel"] = u"1"_s;
+        logins_[u"Date"] = day_;
+        logins_[u"LoginTime"] = QTime(7, 0);
+        logins_[u"DateOut"] = day_;
+        logins_[u"LogOut"] = QTime(21, 0);
+        logins_.Update();
+    }
+
+    // The period of the day that ends.
+    void AddPeriod() {
         periods_.AddNew();
         periods_[u"SalesID"] = QString::number(period_);
         periods_[u"UserID"] = u"2"_s;
-        periods_[u"DateGenerated"] = day;
+        periods_[u"DateGenerated"] = day_;
         periods_[u"TimeGenerated"] = QTime(7, 0);
-        periods_[u"TotalSales"] = Money();
-        periods_[u"DateStoped"] = day;
+        periods_[u"TotalSales"] = taken_;
+        periods_[u"DateStoped"] = day_;
         periods_[u"TimeStoped"] = QTime(21, 0);
         periods_[u"Closed"] = true;
         periods_[u"Payed"] = true;
@@ -88,12 +110,13 @@ private:
 
     int AddInvoice(int lineCount) {
         ++invoice_;
+        ++receipt_;
         qint64 total = 0, tax = 0;
         for (int i = 0; i < lineCount; ++i) AddLine(products_[static_cast<size_t>(Draw(products()))], total, tax);
         invoices_.AddNew();
         invoices_[u"SalesID"] = QString::number(period_);
         invoices_[u"InvoiceID"] = QString::number(invoice_);
-        invoices_[u"OrNo"] = QString::number(invoice_);
+        invoices_[u"OrNo"] = QString::number(receipt_);
         invoices_[u"CashierID"] = u"2"_s;
         invoices_[u"CashierName"] = u"kasir"_s;
         invoices_[u"PaymentType"] = 0;
@@ -107,6 +130,7 @@ private:
         invoices_[u"Kupac"] = u""_s;
         invoices_[u"IB"] = u""_s;
         invoices_.Update();
+        taken_ += Money::FromUnits(total);
         return lineCount;
     }
 
@@ -133,11 +157,13 @@ private:
 
     store::Database& main_;
     const std::vector<Goods>& products_;
-    store::Recordset periods_, invoices_, lines_;
+    store::Recordset logins_, periods_, invoices_, lines_;
     std::mt19937_64 random_;
     QDate day_;
+    Money taken_;  // on this day
     int period_ = 0;
     int invoice_ = 0;
+    int receipt_ = 0;
 };
 
 void MustSucceed(bool done, const QString& what) {
@@ -148,7 +174,8 @@ void MustSucceed(bool done, const QString& what) {
 
 Shop::Shop(const QString& dataFolder, ShopSize size)
     : size_(size),
-      folder_(u"%1/shop-%2-%3"_s.arg(QDir(dataFolder).absolutePath()).arg(size.products).arg(size.lines)),
+      folder_(
+          u"%1/shop-%2-%3-%4"_s.arg(QDir(dataFolder).absolutePath()).arg(size.products).arg(size.lines).arg(size.days)),
       products_(MakeGoods(size.products)) {
     if (QDir(folder_).exists()) return;
     // A shop that was left half made is not taken for a whole one.
@@ -164,7 +191,7 @@ void Shop::Make(const QString& folder) const {
     options->Execute(u"UPDATE Options SET Kusur = False"_s);  // no dialog waits for an answer
     const auto main = store::Database::Open(store::MainStorePath(folder), store::MainSchema());
     AddProducts(*main, products_);
-    Business(*main, products_).Sell(size_.lines);
+    Business(*main, products_).Sell(size_.lines, size_.days);
 }
 
 QString Shop::StorePath() const {
@@ -186,11 +213,6 @@ void Shop::CopyTo(const QString& folder) const {
         QFile::remove(folder + name);
         MustSucceed(QFile::copy(folder_ + name, folder + name), u"cannot copy the store to "_s + folder);
     }
-}
-
-QDate Shop::DayAt(double part) {
-    const auto days = static_cast<double>(FirstDay().daysTo(LastDay()) + 1);
-    return FirstDay().addDays(static_cast<qint64>(part * days));
 }
 
 }  // namespace bench

@@ -15,6 +15,7 @@
 #include "bench/Figures.h"
 #include "bench/TableReporter.h"
 #include "forms/Theme.h"
+#include "values/Locale.h"
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +24,7 @@ namespace {
 constexpr bench::ShopSize BigShop{100'000, 1'000'000};
 constexpr bench::ShopSize SmallShop{1'000, 1'000};
 constexpr bench::ShopSize QuickShop{2'000, 20'000};
+constexpr bench::ShopSize OldShop{5'000, 3'000'000, 3'650};
 
 struct Job {
     std::string dataFolder;
@@ -55,8 +57,9 @@ int Measure(const Job& job) {
     shop.CopyTo(till);
     const bench::BusyTill busy(shop, data + u"/busy"_s);
     const bench::BusyTill office(shop, data + u"/office"_s);
+    const bench::LateShop old(data, job.quick ? QuickShop : OldShop);
 
-    const std::vector figures{
+    std::vector figures{
         bench::LookupFigure(shop),
         bench::WalkFigure(shop),
         bench::PostingFigure(shop, till),
@@ -72,6 +75,7 @@ int Measure(const Job& job) {
         bench::PlacementFigure(office),
         bench::RecipeFigure(office),
     };
+    std::ranges::move(bench::ReportFigures(old), std::back_inserter(figures));
     bench::Register(figures, job.quick ? bench::Effort{2, 0.02, 10} : bench::Effort{15, 0.3, 5'000});
 
     std::printf("%d products, %d invoice lines; SQLite %s, Qt %s; medians, +- half the distance of the quartiles\n",
@@ -100,7 +104,9 @@ int main(int argc, char* argv[]) {
     qputenv("QT_LOGGING_RULES", "*.warning=false");  // what the off-screen platform lacks
     QApplication application(argc, argv);
     forms::InstallTheme(application);
-    QLocale::setDefault(QLocale(u"en_US"_s));
+    const QLocale locale(u"en_US"_s);
+    QLocale::setDefault(locale);
+    values::SetUserLocale(locale);
     PassFlags(job);
     try {
         return Measure(job);
