@@ -1,7 +1,8 @@
 # Sourced by run.sh and test.sh: the Debian packages that the build needs, and the build itself.
 
 packages="g++ cmake ninja-build ccache pkg-config qt6-base-dev libqt6svg6 libqt6sql6-sqlite libsqlitecpp-dev
-    libsqlite3-dev libcli11-dev libgtest-dev libgmock-dev libbenchmark-dev libgl1-mesa-dev fonts-roboto poppler-utils"
+    libsqlite3-dev libcli11-dev libgtest-dev libgmock-dev libbenchmark-dev libgl1-mesa-dev fonts-roboto poppler-utils
+    dpkg-dev file"
 
 install_missing() {
     local missing=""

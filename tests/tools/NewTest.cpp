@@ -71,6 +71,15 @@ TEST_F(NewTest, KeepsWhatLiesInAFolderWithoutAStoreButRenewsTheProgram) {
     EXPECT_EQ(ReadFile(Path(u"shop/velton"_s)), "the program");
 }
 
+// A newer program is known by its time, which may lie before the day on which the copy was made.
+TEST_F(NewTest, CopiesTheProgramWithItsTime) {
+    const QDateTime built(QDate(2026, 1, 5), QTime(12, 0, 0));
+    QFile program(Path(u"velton"_s));
+    ASSERT_TRUE(program.open(QIODevice::ReadWrite) && program.setFileTime(built, QFileDevice::FileModificationTime));
+    EXPECT_EQ(New({Path(u"shop"_s)}), Done());
+    EXPECT_EQ(QFileInfo(Path(u"shop/velton"_s)).lastModified(), built);
+}
+
 TEST_F(NewTest, LeavesNothingBehindWhenItFails) {
     QFile::remove(Path(u"velton"_s));
     const Answer noProgram = New({Path(u"a/shop"_s)});

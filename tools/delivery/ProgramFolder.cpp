@@ -102,9 +102,15 @@ QStringList WriteSupplies(const QString& folder) {
     return names << u"ports.ini"_s;
 }
 
+// The copy is as old as the program, so that a later one is known to be newer, whenever the copy was made.
 void CopyProgram(const QString& from, const QString& folder) {
+    const QString target = folder + u'/' + Program;
     QFile program(from);
-    if (!program.copy(folder + u'/' + Program)) throw FileError(program, u"copy the program"_s);
+    if (!program.copy(target)) throw FileError(program, u"copy the program"_s);
+    const auto time = QFileInfo(from).lastModified();
+    QFile copy(target);
+    if (!copy.open(QIODevice::ReadOnly) || !copy.setFileTime(time, QFileDevice::FileModificationTime))
+        throw FileError(copy, u"date '%1'"_s.arg(target));
 }
 
 }  // namespace
