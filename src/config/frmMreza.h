@@ -1,7 +1,7 @@
 #pragma once
 
-#include "support/OfficeForm.h"
 #include "store/Recordset.h"
+#include "support/OfficeForm.h"
 #include "ui_frmMreza.h"
 
 // The server's path and the register's number, a dialog of their own beside the fourth tab of the settings. Both work

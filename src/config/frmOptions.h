@@ -1,8 +1,8 @@
 #pragma once
 
 #include "config/OptionButtons.h"
-#include "support/OfficeForm.h"
 #include "store/Recordset.h"
+#include "support/OfficeForm.h"
 #include "ui_frmOptions.h"
 
 // The settings of this register: its row of Options in four tabs. Some controls change the running setting as soon as

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "config/OptionButtons.h"
-#include "support/OfficeForm.h"
 #include "store/Recordset.h"
+#include "support/OfficeForm.h"
 #include "ui_frmWinPrinter.h"
 
 // Font, font size and paper of the page printer. The size changes the running setting as soon as it is clicked, the

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "support/OfficeForm.h"
 #include "masterdata/SearchBlock.h"
+#include "support/OfficeForm.h"
 
 // A screen whose list is narrowed by the search block: each letter typed, each choice of a field or of the way to look
 // runs the search at once.

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "support/OfficeForm.h"
 #include "store/Recordset.h"
+#include "support/OfficeForm.h"
 #include "ui_TableList.h"
 
 // A table short enough to be listed whole: new, edit, delete. Rows whose Del is true, or not known, stay. Each screen

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "support/OfficeForm.h"
 #include "store/Recordset.h"
+#include "support/OfficeForm.h"
 #include "ui_frmSastav.h"
 
 // The recipe of the composite product that frmEditProduct shows: which products it is made of, and how much of each
