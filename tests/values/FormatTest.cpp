@@ -132,6 +132,24 @@ TEST(Format, TextsThatAreNumbersAreWrittenUnderTheUsersLocale) {
     }
 }
 
+TEST(Format, AmountsAreRoundedToTwoDecimalsAwayFromZero) {
+    constexpr qint64 largest = std::numeric_limits<qint64>::max();
+    const std::pair<qint64, const char*> amounts[] = {{0, "0,00"},
+                                                      {49, "0,00"},
+                                                      {50, "0,01"},
+                                                      {-49, "0,00"},
+                                                      {-50, "-0,01"},
+                                                      {1'000, "0,10"},
+                                                      {26'750, "2,68"},
+                                                      {99'949, "9,99"},
+                                                      {99'950, "10,00"},
+                                                      {-123'400, "-12,34"},
+                                                      {largest, "922337203685477,58"},
+                                                      {-largest - 1, "-922337203685477,58"}};
+    UnderLocale locale("hr_HR");
+    for (const auto& [units, text] : amounts) EXPECT_EQ(Utf8(Format(Money::FromUnits(units), u"0.00")), text);
+}
+
 TEST(Format, GroupedTextsAreReadBackInEveryLocale) {
     for (const auto& each : QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory)) {
         UnderLocale locale(each);
