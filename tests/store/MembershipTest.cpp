@@ -44,6 +44,25 @@ TEST_F(MembershipTest, LeavesOutRowsThatOthersAddLater) {
     }
 }
 
+TEST_F(MembershipTest, KeepsTheRowsOfASnapshotAsTheyWere) {
+    AddProducts(1, 3);
+    const auto query = u"SELECT ProdCode, Qty FROM Products WHERE Qty > 0 ORDER BY Qty"_s;
+    auto cursor = store->OpenRecordset(query);
+    auto snapshot = store->OpenSnapshot(query);
+    store->Execute(u"UPDATE Products SET Qty = '9' WHERE ProdCode = '1'"_s);
+    store->Execute(u"DELETE * FROM Products WHERE ProdCode = '2'"_s);
+
+    EXPECT_EQ(snapshot[u"Qty"].Money(), Money::FromWhole(1));
+    EXPECT_EQ(Codes(snapshot), QStringList({u"1"_s, u"2"_s, u"3"_s}));
+    EXPECT_FALSE(snapshot.Updatable());
+    EXPECT_EQ(ErrorOf([&] { snapshot.AddNew(); }), ReadOnly);
+    cursor.Move(0);
+    EXPECT_EQ(cursor[u"Qty"].Money(), Money::FromWhole(9));
+    EXPECT_EQ(Column(query), QStringList({u"3"_s, u"1"_s}));
+    snapshot = store->OpenSnapshot(query);
+    EXPECT_EQ(Codes(snapshot), QStringList({u"3"_s, u"1"_s}));
+}
+
 TEST_F(MembershipTest, PutsItsOwnAdditionsBehindTheOtherRows) {
     AddProducts(1, 600);
     for (const auto& query : {u"SELECT * FROM Products"_s, u"SELECT * FROM Products WHERE Qty < 1000"_s}) {

@@ -23,6 +23,18 @@ TEST(CaseFoldTest, ComparesLettersOfEveryAlphabetWithoutCase) {
     EXPECT_NE(CompareFolded({"a\0b", 3}, {"a\0c", 3}), 0);
 }
 
+TEST(CaseFoldTest, ComparesBehindALongCommonBeginningAsWithoutIt) {
+    const QByteArray endings[] = {"",    "a", "A",        "b",          "š",        "Š",        "č",
+                                  "ša",  "đ", "\xC5\xA1", "\xC5",       "\xE2\x82", "\x82\x82", "€",
+                                  "₽", "😀", "\xF0\x9F", "a\xC5\xA0z", "a\xC5z",   "aš",       "ač"};
+    for (const QByteArray& beginning : {"3850000"_ba, "38500001"_ba, "Čokolada ž"_ba, "Mlijeko domaće 1 l"_ba}) {
+        for (const QByteArray& a : endings)
+            for (const QByteArray& b : endings)
+                EXPECT_EQ(CompareFolded(beginning + a, beginning + b) <=> 0, CompareFolded(a, b) <=> 0)
+                    << a.toStdString() << " and " << b.toStdString();
+    }
+}
+
 TEST(LikePatternTest, KnowsRunsSingleCharactersDigitsAndSets) {
     struct Case {
         QByteArrayView pattern, text;

@@ -26,6 +26,11 @@ void Connection::Run(const char* sql) {
         ThrowLast(Handle(), QString::fromUtf8(sql));
 }
 
+void Connection::UseMemory(int kilobytes) noexcept {
+    const std::string sql = "PRAGMA cache_size = -" + std::to_string(kilobytes);
+    sqlite3_exec(Handle(), sql.c_str(), nullptr, nullptr, nullptr);
+}
+
 // Commits of others are short, so asking again soon and at uneven times serves everybody; the engine's own handler
 // waits up to a tenth of a second between two tries.
 int Connection::WaitForOthers(void* self, int tries) {

@@ -8,6 +8,8 @@
 
 namespace store::sqlite {
 
+constexpr int UsualMemory = 16'000;  // kilobytes, of a connection
+
 // An open file with the text rules and a limit to how long it waits for others. Statements share it, so that none of
 // them outlives the connection it was prepared on.
 class Connection {
@@ -24,6 +26,8 @@ public:
     void SetPatience(Patience patience) { patience_ = patience; }
     // Runs a statement without rows; a StoreError when it fails.
     void Run(const char* sql);
+    // How much of the file is kept in memory, and how much is sorted at once; as it was when that is refused.
+    void UseMemory(int kilobytes) noexcept;
 
 private:
     static int WaitForOthers(void* self, int tries);

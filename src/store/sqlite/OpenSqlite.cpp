@@ -68,7 +68,7 @@ void SetUp(Connection& connection, const QString& path) {
             throw StoreError(DiskError, u"No write-ahead log can be kept beside %1."_s.arg(path));
     }
     connection.Run("PRAGMA synchronous = FULL");
-    connection.Run("PRAGMA cache_size = -16000");
+    connection.UseMemory(UsualMemory);
 }
 
 // A store whose right to write is not to be had now is held by somebody for himself.

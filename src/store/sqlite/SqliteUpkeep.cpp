@@ -15,6 +15,8 @@ namespace {
 
 // A few milliseconds of the engine's work.
 constexpr int StepsBetweenQuestions = 50'000;
+// In kilobytes. Nobody is asked while the engine sorts what it has in memory, so that is little at a time.
+constexpr int MemoryWhileAsked = 2'000;
 
 QStringList FaultsOf(Connection& connection) {
     QStringList faults;
@@ -52,6 +54,7 @@ void SqliteEngine::AskWhileWorking(std::function<bool()> goesOn) {
     goesOn_ = std::move(goesOn);
     const auto ask = [](void* self) { return static_cast<SqliteEngine*>(self)->goesOn_() ? 0 : 1; };
     sqlite3_progress_handler(Handle(), goesOn_ ? StepsBetweenQuestions : 0, ask, this);
+    connection_->UseMemory(goesOn_ ? MemoryWhileAsked : UsualMemory);
 }
 
 QStringList SqliteEngine::CheckIntegrity() {
