@@ -30,5 +30,7 @@ std::vector<Figure> ReportFigures(const LateShop& shop);
 // Memory of the till in `till` after so many posted invoices, beside that of an empty window; prints its lines. False
 // when one of the programs failed.
 bool PrintMemory(const QString& till, int invoices);
+// What the list of all invoices takes, and how it can be left; prints a line. False when the program failed.
+bool PrintAllInvoices(const LateShop& shop);
 
 }  // namespace bench

@@ -20,15 +20,23 @@ struct Memory {
     double proportional;  // MiB, what is shared divided among those who share it
 };
 
-// The programs print both in kB as their last line.
-std::optional<Memory> MemoryOf(const QString& program, const QStringList& arguments) {
+// The programs print so many numbers as their last line; nothing when one fails.
+QList<double> NumbersOf(const QString& program, const QStringList& arguments, int count) {
     QProcess process;
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start(QCoreApplication::applicationDirPath() + u'/' + program, arguments);
     if (!process.waitForFinished(Patience) || process.exitCode() != 0) return {};
-    const QList<QByteArray> numbers = process.readAllStandardOutput().trimmed().split('\n').last().split(' ');
-    if (numbers.size() != 2) return {};
-    return Memory{numbers[0].toDouble() / 1024, numbers[1].toDouble() / 1024};
+    QList<double> numbers;
+    for (const QByteArray& number : process.readAllStandardOutput().trimmed().split('\n').last().split(' '))
+        numbers += number.toDouble();
+    return numbers.size() == count ? numbers : QList<double>();
+}
+
+// Both in kB.
+std::optional<Memory> MemoryOf(const QString& program, const QStringList& arguments) {
+    const QList<double> numbers = NumbersOf(program, arguments, 2);
+    if (numbers.isEmpty()) return {};
+    return Memory{numbers[0] / 1024, numbers[1] / 1024};
 }
 
 }  // namespace
@@ -45,6 +53,19 @@ bool PrintMemory(const QString& till, int invoices) {
         "PSS %.1f MiB; ratio %.2fx, %.2fx\n",
         invoices, ours->resident, ours->proportional, empty->resident, empty->proportional,
         ours->resident / empty->resident, ours->proportional / empty->proportional);
+    return true;
+}
+
+bool PrintAllInvoices(const LateShop& shop) {
+    const QList<double> numbers = NumbersOf(u"bench-invoices"_s, {shop.Get().Folder()}, 4);
+    if (numbers.isEmpty()) {
+        std::printf("FAILED the list of all invoices: the program ended early\n");
+        return false;
+    }
+    std::printf(
+        "list of %.0f invoices: RSS grows by %.1f MiB; it says that it takes a while after %.0f ms, and is left in "
+        "%.0f ms at most (-1: it is done sooner)\n",
+        numbers[0], numbers[1] / 1024, numbers[2], numbers[3]);
     return true;
 }
 

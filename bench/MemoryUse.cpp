@@ -6,14 +6,32 @@
 
 namespace bench {
 
-void PrintMemoryUse() {
+namespace {
+
+struct Memory {
+    long resident = 0;
+    long proportional = 0;
+};
+
+Memory MemoryNow() {
     std::ifstream rollup("/proc/self/smaps_rollup");
-    long resident = 0, proportional = 0;
+    Memory memory;
     for (std::string line; std::getline(rollup, line);) {
-        std::sscanf(line.c_str(), "Rss: %ld", &resident);
-        std::sscanf(line.c_str(), "Pss: %ld", &proportional);
+        std::sscanf(line.c_str(), "Rss: %ld", &memory.resident);
+        std::sscanf(line.c_str(), "Pss: %ld", &memory.proportional);
     }
-    std::printf("%ld %ld\n", resident, proportional);
+    return memory;
+}
+
+}  // namespace
+
+long ResidentMemory() {
+    return MemoryNow().resident;
+}
+
+void PrintMemoryUse() {
+    const Memory memory = MemoryNow();
+    std::printf("%ld %ld\n", memory.resident, memory.proportional);
     std::fflush(stdout);
 }
 

@@ -85,7 +85,7 @@ int Measure(const Job& job) {
     bench::TableReporter reporter(figures);
     if (benchmark::RunSpecifiedBenchmarks(&reporter) == 0) return 1;
     const bool isWhole = benchmark::GetBenchmarkFilter().empty();
-    const bool weighed = !isWhole || bench::PrintMemory(till, job.quick ? 5 : 100);
+    const bool weighed = !isWhole || (bench::PrintMemory(till, job.quick ? 5 : 100) && bench::PrintAllInvoices(old));
     PrintLoad("after");
     return weighed && reporter.Failures().empty() ? 0 : 1;
 }
