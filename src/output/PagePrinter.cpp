@@ -48,7 +48,8 @@ QString NewPdfPath() {
 
 void SavePdf(const QByteArray& pdf) {
     QSaveFile file(NewPdfPath());
-    const bool isSaved = file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size() && file.commit();
+    const bool isSaved =
+        file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size() && file.flush() && file.commit();
     if (!isSaved) throw OutputError(DeviceError, u"Cannot write "_s + file.fileName() + u": "_s + file.errorString());
 }
 

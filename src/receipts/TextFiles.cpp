@@ -95,7 +95,8 @@ void CopyTextFile(const QString& from, const QString& to) {
     while (!(chunk = source.read(ChunkSize)).isEmpty())
         if (copy.write(chunk) != chunk.size()) ThrowFileError(u"Cannot save "_s, copy);
     if (source.error() != QFileDevice::NoError) ThrowFileError(u"Cannot read "_s, source);
-    if (!copy.commit()) ThrowFileError(u"Cannot save "_s, copy);
+    // What waits in the buffer yet: commit alone would put a cut copy in the place of the old file.
+    if (!copy.flush() || !copy.commit()) ThrowFileError(u"Cannot save "_s, copy);
 }
 
 void DeleteTextFile(const QString& path) {

@@ -110,8 +110,9 @@ QLineEdit* ListReport::SumBox(const ReportSum& sum) const {
     return ui.panelSums->findChild<QLineEdit*>(sum.box);
 }
 
-// A report that is left or fails in the middle shows nothing rather than a part.
-bool ListReport::OpenAndFill(const QString& query) {
+// A report that is left or fails in the middle shows nothing rather than a part, and must not look like days without
+// sales.
+bool ListReport::OpenAndSum(const QString& query) {
     forms::LongWork work(this);
     const QScopedValueRollback working(work_, &work);
     const store::Watch watch(MainStore(), [&work] { return work.GoesOn(); });
@@ -119,10 +120,13 @@ bool ListReport::OpenAndFill(const QString& query) {
         rsList_ = facts_.isRefreshed ? MainStore().OpenRecordset(query) : MainStore().OpenSnapshot(query);
         FillList();
         if (!facts_.isRefreshed) rsList_.Close();
+        SumList();
         return true;
-    } catch (const store::StoreError& error) {
+    } catch (const values::Error& error) {
+        rsList_.Close();
         ui.lv1->Clear();
         SumList();
+        ui.lblNaslov->clear();
         if (error.Number() != store::Cancelled) throw;
         return false;
     }
@@ -188,8 +192,4 @@ void ListReport::cmdSacuvaj_Click() {
     const QString path = forms::AskSaveName(this, facts_.saveTitle, u"Report (*.txt)"_s);
     if (path.isEmpty()) return;
     PassOverErrors([&] { SaveReportFile(path, [this] { PrintReport(u"1"_s); }); });
-}
-
-void ListReport::PreviewReport() {
-    if (HasItems()) PreviewReportFile([this] { PrintReport(u"1"_s); });
 }

@@ -16,9 +16,9 @@ class ListReport : public OfficeForm {
 protected:
     explicit ListReport(ReportFacts facts);
 
-    // Opens a query as the report's cursor and fills the list; the cursor stays open only where the list is refreshed.
-    // False when the user left it.
-    bool OpenAndFill(const QString& query);
+    // Opens a query as the report's cursor, fills the list and sums it; the cursor stays open only where the list is
+    // refreshed. False when the user left it.
+    bool OpenAndSum(const QString& query);
     // The rows of the cursor into the list; a value that can't be shown leaves its cell empty.
     virtual void FillList();
     // The sums of the texts as they are shown.
@@ -33,8 +33,6 @@ protected:
 
     virtual void cmdPrint_Click();
     void cmdSacuvaj_Click();
-    // Shows the report in the preview instead of printing it.
-    void PreviewReport();
 
     // The frame's own pair: F5 prints, F4 saves.
     void PrintAndSave();

@@ -29,6 +29,7 @@ PeriodReport::PeriodReport(ReportFacts facts) : ListReport(std::move(facts)) {
     const auto chosen = [this](QDate day) { Run([&] { mv1_DateClick(day); }); };
     connect(ui.mv1, &QCalendarWidget::clicked, this, chosen);
     connect(ui.mv1, &QCalendarWidget::activated, this, chosen);
+    EnterMovesOn({ui.DTPicker1, ui.DTPicker2});
     On(ui.Command1, &PeriodReport::Command1_Click);
 }
 
@@ -70,12 +71,8 @@ void PeriodReport::TakeVariant(const ReportVariant& variant) {
     queryGroup_ = variant.group;
 }
 
-// A report that was left must not look like days without sales.
 bool PeriodReport::RunQuery() {
-    const bool isWhole = OpenAndFill(queryHead_ + queryWhere_ + queryGroup_);
-    SumList();
-    if (!isWhole) ui.lblNaslov->clear();
-    return isWhole;
+    return OpenAndSum(queryHead_ + queryWhere_ + queryGroup_);
 }
 
 void PeriodReport::mv1_DateClick(QDate day) {

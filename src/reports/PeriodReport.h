@@ -16,7 +16,7 @@ protected:
     void Form_Load() override;
     const ReportLayout& Layout() const override;
 
-    // Runs the query of the days chosen: the list, the sums, the title in words.
+    // Runs the query of the days chosen. False when the user left it.
     bool RunQuery();
 
     QString queryHead_;

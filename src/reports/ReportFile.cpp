@@ -21,6 +21,17 @@ void PassOverErrors(const std::function<void()>& step) {
     }
 }
 
+void WriteReportFile(const std::function<void()>& print) {
+    const output::OutputGuard guard;
+    output::Channel1().OpenForOutput(output::InProgramFolder(ReportFile));
+    print();
+    output::Channel1().Close();
+}
+
+void ShowReportFile() {
+    frmRacunPregled::Preview(ReportFile);
+}
+
 void PreviewReportFile(const std::function<void()>& print) {
     {
         const output::OutputGuard guard;
@@ -31,14 +42,10 @@ void PreviewReportFile(const std::function<void()>& print) {
         PassOverErrors(print);
         PassOverErrors([] { output::Channel1().Close(); });
     }
-    frmRacunPregled::Preview(ReportFile);
+    ShowReportFile();
 }
 
 void SaveReportFile(const QString& path, const std::function<void()>& print) {
-    const output::OutputGuard guard;
-    const QString report = output::InProgramFolder(ReportFile);
-    output::Channel1().OpenForOutput(report);
-    print();
-    output::Channel1().Close();
-    CopyTextFile(report, path);
+    WriteReportFile(print);
+    CopyTextFile(output::InProgramFolder(ReportFile), path);
 }

@@ -2,6 +2,7 @@
 
 #include "core/Settings.h"
 #include "core/dbModule.h"
+#include "reports/ReportFile.h"
 #include "reports/ReportLines.h"
 #include "values/Clock.h"
 #include "values/Format.h"
@@ -55,13 +56,11 @@ void frmPopisRobe::Form_Load() {
     ui.mv1->setSelectedDate(today);
     ui.DTPicker1->setDate(today);
     ui.DTPicker2->setDate(today);
-    OpenAndFill(ProductsQuery);
-    SumGoods();
+    OpenAndSum(ProductsQuery);
+    if (ui.lv1->Count() > 0) TakeTaxOut();
 }
 
-void frmPopisRobe::SumGoods() {
-    SumList();
-    if (ui.lv1->Count() == 0) return;
+void frmPopisRobe::TakeTaxOut() {
     QLineEdit* withoutTax = SumBox(facts_.sums[1]);
     withoutTax->setText(Format(SumOf(ValueColumn).ToDouble() / WithTax, u"0.00"));
     const double tax = CDouble(SumBox(facts_.sums[0])->text()) - CDouble(withoutTax->text());
@@ -83,6 +82,9 @@ void frmPopisRobe::PrintReport(const QString& mode) {
     print(PadLeft(LineWidth, u"TOTAL without Tax: "_s + SumBox(facts_.sums[1])->text()));
 }
 
+// To the preview, whatever printer is set.
 void frmPopisRobe::cmdPrint_Click() {
-    PreviewReport();
+    if (!HasItems()) return;
+    WriteReportFile([this] { PrintReport(u"1"_s); });
+    ShowReportFile();
 }

@@ -15,5 +15,5 @@ protected:
     void cmdPrint_Click() override;
 
 private:
-    void SumGoods();
+    void TakeTaxOut();
 };

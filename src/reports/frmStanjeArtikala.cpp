@@ -35,9 +35,7 @@ frmStanjeArtikala::frmStanjeArtikala() : ListReport(Facts) {
 }
 
 void frmStanjeArtikala::Form_Load() {
-    OpenAndFill(ProductsQuery);
-    SumList();
-    TellTime();
+    if (OpenAndSum(ProductsQuery)) TellTime();
 }
 
 void frmStanjeArtikala::FillList() {

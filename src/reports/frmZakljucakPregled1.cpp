@@ -1,6 +1,7 @@
 #include "reports/frmZakljucakPregled1.h"
 
 #include "forms/Controls.h"
+#include "reports/ReportFile.h"
 #include "reports/frmTrenutnoStanjeKasa.h"
 
 using namespace Qt::StringLiterals;
@@ -60,5 +61,5 @@ void frmZakljucakPregled1::OpenEndReport() {
 }
 
 void frmZakljucakPregled1::cmdPrintPregledListe_Click() {
-    PreviewReport();
+    if (HasItems()) PreviewReportFile([this] { PrintReport(u"1"_s); });
 }

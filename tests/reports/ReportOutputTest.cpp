@@ -5,12 +5,17 @@
 #include <QStandardPaths>
 #include <QTest>
 #include <QTimer>
+#include <csignal>
 #include <thread>
+
+#include <sys/resource.h>
 
 #include "core/Settings.h"
 #include "core/dbModule.h"
 #include "output/Channel.h"
+#include "receipts/TextFiles.h"
 #include "reports/RegisterFixture.h"
+#include "reports/frmPopisRobe.h"
 #include "reports/frmSales.h"
 #include "reports/frmSalesProducts.h"
 #include "reports/frmTaxbyInvoice.h"
@@ -83,6 +88,30 @@ TEST_F(ReportOutputTest, APortThatIsGoneEndsTheProgram) {
     Keys(u"{F5}");
     EXPECT_TRUE(forms::ProgramIsEnding());
     EXPECT_EQ(forms::ProgramExitCode(), 1);
+}
+
+TEST_F(ReportOutputTest, AListOfGoodsThatCannotBeWrittenEndsTheProgram) {
+    ASSERT_TRUE(QFile::link(u"/dev/full"_s, Path(u"Report.txt"_s)));
+    ShowReport<frmPopisRobe>();
+    boxes_.ExpectBeginning(u"61"_s).WithIcon(QMessageBox::Critical);
+    Keys(u"{F5}");
+    EXPECT_EQ(forms::ProgramExitCode(), 1);
+}
+
+TEST_F(ReportOutputTest, ACopyThatDoesNotFitLeavesTheOldFile) {
+    for (const auto& [name, contents] : {std::pair(u"long.txt"_s, QByteArray(5000, 'x')), {u"old.txt"_s, "old"}}) {
+        QFile file(Path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size());
+    }
+    rlimit usual{};
+    getrlimit(RLIMIT_FSIZE, &usual);
+    const auto before = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit small{1000, usual.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    EXPECT_THROW(CopyTextFile(Path(u"long.txt"_s), Path(u"old.txt"_s)), values::Error);
+    setrlimit(RLIMIT_FSIZE, &usual);
+    std::signal(SIGXFSZ, before);
+    EXPECT_EQ(File(u"old.txt"_s), "old");
 }
 
 TEST_F(ReportOutputTest, ASaveThatFailsSaysNothingAndLeavesTheOldFile) {
