@@ -205,6 +205,7 @@ QStatusBar QLabel[role="figure"], QStatusBar QLabel[role="strong"] {
 }
 QCalendarWidget QWidget#qt_calendar_navigationbar { background: @accent; }
 QCalendarWidget QToolButton { color: @paper; font-weight: 500; min-height: 30px; border: none; }
+QCalendarWidget QToolButton#qt_calendar_prevmonth, QCalendarWidget QToolButton#qt_calendar_nextmonth { min-width: 44px; }
 QCalendarWidget QToolButton:hover { background: @accentDark; }
 QCalendarWidget QToolButton::menu-indicator { image: none; }
 QCalendarWidget QTableView { border-radius: 0; selection-background-color: @accent; selection-color: @paper; }

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QStyleOption>
 #include <QWidget>
+#include <functional>
 
 #include "forms/Tokens.h"
 
@@ -20,6 +21,7 @@ constexpr int comboArrowWidth = 28;
 constexpr int spinArrowWidth = 26;
 constexpr int fieldPadding = 9;
 constexpr int signSize = 40;
+constexpr int monthArrowSize = 16;
 
 bool Has(const QStyleOption& option, QStyle::StateFlag flag) {
     return option.state.testFlag(flag);
@@ -91,25 +93,43 @@ void DrawFocusRing(QPainter& painter, const QStyleOption& option) {
     painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
 }
 
-// A disc with a sign: what a message box is about.
-QPixmap Sign(const QString& sign, const QColor& colour) {
+// A picture of so many pixels each way, sharp on dense screens too.
+QPixmap Drawn(int size, const std::function<void(QPainter&)>& draw) {
     constexpr qreal density = 2;
-    QPixmap pixmap(QSize(signSize, signSize) * density);
+    QPixmap pixmap(QSize(size, size) * density);
     pixmap.setDevicePixelRatio(density);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(colour);
-    const QRectF disc(1, 1, signSize - 2, signSize - 2);
-    painter.drawEllipse(disc);
-    QFont font = QApplication::font();
-    font.setPixelSize(signSize * 3 / 5);
-    font.setBold(true);
-    painter.setFont(font);
-    painter.setPen(Tokens::Paper);
-    painter.drawText(disc, Qt::AlignCenter, sign);
+    draw(painter);
     return pixmap;
+}
+
+// A disc with a sign: what a message box is about.
+QPixmap Sign(const QString& sign, const QColor& colour) {
+    return Drawn(signSize, [&](QPainter& painter) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(colour);
+        const QRectF disc(1, 1, signSize - 2, signSize - 2);
+        painter.drawEllipse(disc);
+        QFont font = QApplication::font();
+        font.setPixelSize(signSize * 3 / 5);
+        font.setBold(true);
+        painter.setFont(font);
+        painter.setPen(Tokens::Paper);
+        painter.drawText(disc, Qt::AlignCenter, sign);
+    });
+}
+
+// In the bar of a calendar: to the month before, or to the one after.
+QPixmap MonthArrow(bool back) {
+    return Drawn(monthArrowSize, [&](QPainter& painter) {
+        const QPointF middle(monthArrowSize / 2.0, monthArrowSize / 2.0);
+        const qreal dip = back ? -3 : 3;
+        painter.setPen(QPen(Tokens::Paper, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.drawPolyline(
+            QPolygonF({middle + QPointF(-dip, -6), middle + QPointF(dip, 0), middle + QPointF(-dip, 6)}));
+    });
 }
 
 }  // namespace
@@ -225,6 +245,9 @@ QIcon ThemeStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, 
             return Sign(u"!"_s, Tokens::Warning);
         case SP_MessageBoxCritical:
             return Sign(u"×"_s, Tokens::Danger);
+        case SP_ArrowLeft:
+        case SP_ArrowRight:
+            return MonthArrow(icon == SP_ArrowLeft);
         default:
             return QProxyStyle::standardIcon(icon, option, widget);
     }
