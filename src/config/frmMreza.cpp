@@ -1,7 +1,7 @@
 #include "config/frmMreza.h"
 
+#include "config/RegisterNumber.h"
 #include "core/dbModule.h"
-#include "values/Numbers.h"
 
 using namespace Qt::StringLiterals;
 
@@ -40,9 +40,11 @@ void frmMreza::Form_Load() {
 }
 
 void frmMreza::cmdOK_Click() {
+    const auto kasa = RegisterNumber(ui.txtKasa->text(), Caption());
+    if (!kasa) return ui.txtKasa->setFocus();
     rsOptions_.Edit();
     rsOptions_[u"ServerName"] = ui.txtServerName->text();
-    rsOptions_[u"Kasa"] = values::Val(ui.txtKasa->text());
+    rsOptions_[u"Kasa"] = *kasa;
     rsOptions_.Update();
     Unload();
 }

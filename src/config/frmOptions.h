@@ -34,7 +34,7 @@ private:
 
     // The save (frmOptionsSave.cpp).
     void cmdOK_Click();
-    void StoreOptions();
+    void StoreOptions(qint16 kasa);
 
     Ui::frmOptions ui;
     OptionButtons printerZaRacun_;

@@ -1,23 +1,29 @@
-// The save: nothing is checked, each field is written as its control stands, and the running settings that follow a
-// save are set on the way.
+// The save: each field is written as its control stands, and the running settings that follow a save are set on the
+// way.
 
 #include "config/CheckValue.h"
+#include "config/RegisterNumber.h"
 #include "config/frmOptions.h"
 #include "core/Settings.h"
 #include "forms/MsgBox.h"
-#include "values/Numbers.h"
 
 using namespace Qt::StringLiterals;
 
 void frmOptions::cmdOK_Click() {
+    const auto kasa = RegisterNumber(ui.txtKasa->text(), Caption());
+    if (!kasa) {
+        ui.SSTab1->setCurrentWidget(ui.pageNetwork);
+        ui.txtKasa->setFocus();
+        return;
+    }
     rsOptions_.Edit();
-    StoreOptions();
+    StoreOptions(*kasa);
     rsOptions_.Update();
     forms::Inform(u"Changes are saved."_s, Caption());
     Unload();
 }
 
-void frmOptions::StoreOptions() {
+void frmOptions::StoreOptions(qint16 kasa) {
     TheSettings.DisplejKupca = ui.chkDisplejKupca->isChecked();
     rsOptions_[u"DisplejKupca"] = TheSettings.DisplejKupca;
     TheSettings.Kusur = ui.chkKusur->isChecked();
@@ -44,7 +50,7 @@ void frmOptions::StoreOptions() {
     rekapPoreza_.Save(rsOptions_);
     rsOptions_[u"Footer"] = ui.txtFooter->text();
     rsOptions_[u"ServerName"] = ui.txtServerName->text();
-    rsOptions_[u"Kasa"] = values::Val(ui.txtKasa->text());
+    rsOptions_[u"Kasa"] = kasa;
     TheSettings.MjestoProdaje = ui.txtMjestoProdaje->text();
     rsOptions_[u"MjestoProdaje"] = TheSettings.MjestoProdaje;
 }

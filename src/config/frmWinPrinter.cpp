@@ -29,8 +29,10 @@ frmWinPrinter::frmWinPrinter() {
     velFont_ = {TheSettings.VelFont,
                 u"VelFont"_s,
                 {{ui.optVelFont1, u"8"_s}, {ui.optVelFont2, u"9"_s}, {ui.optVelFont3, u"10"_s}}};
+    // A click on the entry that is chosen already, and the arrow keys, which choose as a click does.
     connect(ui.List1, &QAbstractItemView::clicked, this, Guarded(&frmWinPrinter::List1_Click));
-    ListKeys(ui.List1, {{Qt::Key_Space, Guarded(&frmWinPrinter::List1_Click)}});
+    connect(ui.List1->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            Guarded(&frmWinPrinter::List1_Click));
     On(ui.cmdPrinter, &frmWinPrinter::cmdPrinter_Click);
     On(ui.cmdOK, &frmWinPrinter::cmdOK_Click);
 }

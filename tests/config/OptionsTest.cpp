@@ -196,7 +196,10 @@ TEST_F(OptionsTest, ASaveStoresWhatItShouldAndSomeOfItWorksAtOnce) {
         EXPECT_FALSE(Checked(screen, u"chkShowAmount"));
         EXPECT_TRUE(Checked(screen, u"chkAskPassword"));
         EXPECT_TRUE(Checked(screen, u"chkFiskalniRacunDA"));
-        Get<QTabWidget>(screen, u"SSTab1")->setCurrentIndex(3);
+        Type(screen, u"txtKasa", u"40000");  // with which the till would not start any more
+        boxes_.Expect(u"6The number is too large."_s).Titled(u"Settings"_s);
+        Click(screen, u"cmdOK"_s);
+        EXPECT_EQ(Get<QTabWidget>(screen, u"SSTab1")->currentIndex(), 3);
         Type(screen, u"txtKasa", u"a3");
         drivers::Grab(screen, u"frmOptions-4"_s);
         Save(screen);

@@ -70,7 +70,7 @@ TEST_F(WinPrinterTest, ASizeWorksAtItsClickAndAFontAtTheSave) {
     Use<frmWinPrinter>([](frmWinPrinter& screen) {
         drivers::Click(Get<QRadioButton>(screen, u"optVelFont1"));
         Get<QWidget>(screen, u"List1")->setFocus();
-        Keys(u"{Down}{Down}{Space}{F5}");
+        Keys(u"{Down}{Down}{F5}");
         EXPECT_FALSE(screen.IsLoaded());
     });
     EXPECT_EQ(Fonts(), u"8|Courier New Bold|8|Courier New Bold");
@@ -127,7 +127,8 @@ TEST_F(WinPrinterTest, TheNetworkIsStoredAndWorksFromTheNextStart) {
     Use<frmMreza>([this](frmMreza& screen) {
         drivers::Grab(screen, u"frmMreza"_s);
         drivers::ExpectHelp(boxes_, u"\\Podesavanje.rtf"_s);
-        Keys(u"{F1}/srv/shop{Enter}3a{F5}");
+        boxes_.Expect(u"6The number is too large."_s);
+        Keys(u"{F1}/srv/shop{Enter}40000{F5}{Home}{Del}{Del}{Del}{Del}{Del}3a{F5}");
         EXPECT_FALSE(screen.IsLoaded());
     });
     EXPECT_EQ(Network(), u"/srv/shop|3||1");
