@@ -16,7 +16,6 @@ public:
     bool EndsProgram() const override { return true; }
 };
 
-constexpr int BadFileMode = 54;
 constexpr int ChannelInUse = 55;
 constexpr int DeviceError = 57;
 constexpr int DiskFull = 61;

@@ -165,12 +165,13 @@ TEST_F(ChannelTest, ASlowPipeGetsEveryByte) {
     SetPorts("lpt2=pipe\n");
     const int reader = ::open(pipe.constData(), O_RDONLY | O_NONBLOCK);
     ::fcntl(reader, F_SETFL, 0);
+    // Opened first: a read from a pipe that nobody writes to is its end.
+    channel.OpenPort(u"lpt2:"_s);
     qsizetype taken = 0;
     std::thread slow([&] {
         char buffer[4096];
         for (ssize_t count; (count = ::read(reader, buffer, sizeof buffer)) != 0; taken += count) ::usleep(500);
     });
-    channel.OpenPort(u"lpt2:"_s);
     channel.WriteBytes(QByteArray(500'000, 'x'));
     channel.Close();
     slow.join();

@@ -8,6 +8,7 @@
 #include "output/Channel.h"
 #include "output/Folder.h"
 #include "output/PagePrinter.h"
+#include "support/ErrorOf.h"
 #include "values/Locale.h"
 
 // A program folder of its own for each test.
@@ -40,14 +41,3 @@ protected:
 private:
     QTemporaryDir folder_;
 };
-
-// The number of the error that `action` ends with, 0 when it ends well.
-template <typename Action>
-int ErrorOf(Action action) {
-    try {
-        action();
-    } catch (const values::Error& error) {
-        return error.Number();
-    }
-    return 0;
-}

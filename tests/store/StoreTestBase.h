@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 
 #include "store/Database.h"
+#include "support/ErrorOf.h"
 #include "values/Locale.h"
 
 // So that a failed comparison shows words instead of bytes.
@@ -27,18 +28,6 @@ using values::Value;
 
 inline Money Units(qint64 tenThousandths) {
     return Money::FromUnits(tenThousandths);
-}
-
-// The number of the error that a piece of work throws, 0 when it goes well.
-template <typename Work>
-int ErrorOf(Work&& work) {
-    try {
-        work();
-    } catch (const values::Error& error) {
-        EXPECT_FALSE(error.Description().isEmpty());
-        return error.Number();
-    }
-    return 0;
 }
 
 // A new main store in a folder of its own; the tests see it through Database and Recordset alone.

@@ -6,7 +6,7 @@
 #include <QString>
 #include <ostream>
 
-#include "values/Error.h"
+#include "support/ErrorOf.h"
 #include "values/Locale.h"
 
 // Sets the user's locale for one scope.
@@ -28,15 +28,4 @@ inline QString Text(const char* utf8) {
 }
 inline std::string Utf8(const QString& text) {
     return text.toStdString();
-}
-
-// The number of the error that an action throws, 0 for none.
-template <typename Action>
-int ErrorOf(Action action) {
-    try {
-        action();
-    } catch (const values::Error& error) {
-        return error.Number();
-    }
-    return 0;
 }
