@@ -11,7 +11,7 @@ protected:
     // Ties the controls that all such screens have.
     template <typename Controls>
     void KeepList(const Controls& ui) {
-        SearchWith(ui.search);
+        SearchWith(ui.search, ui.lv1);
         HelpAndClose(ui.cmdHelp, ui.cmdClose, {Qt::Key_Escape, Qt::Key_F12});
         FunctionKeys({{Qt::Key_F4, ui.cmdUpdate},
                       {Qt::Key_F5, ui.cmdNew},

@@ -1,9 +1,10 @@
 #include "masterdata/SearchScreen.h"
 
-void SearchScreen::SearchWith(SearchBlock* block) {
+void SearchScreen::SearchWith(SearchBlock* block, forms::ListView* list) {
     block_ = block;
     HighlightOnFocus({block->cboTemp}, forms::OnFocus::KeepCaret);
     EnterMovesOn({block->cboTemp, block->cboView});
+    ControlKeys(block->cboTemp, {{Qt::Key_Down, [list] { list->setFocus(); }}});
     OnChange(block->cboTemp, &SearchScreen::Search);
     On(block->Option1, &SearchScreen::Search);
     On(block->Option2, &SearchScreen::Search);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/ListView.h"
 #include "masterdata/SearchBlock.h"
 #include "support/OfficeForm.h"
 
@@ -9,8 +10,8 @@ class SearchScreen : public OfficeForm {
     Q_OBJECT
 
 protected:
-    // Ties the block to the screen.
-    void SearchWith(SearchBlock* block);
+    // Ties the block to the screen; the arrow down leads from the text into the list.
+    void SearchWith(SearchBlock* block, forms::ListView* list);
     // The entries of cboView; the first is selected, which does not search yet.
     void SetSearchFields(const QStringList& entries);
 

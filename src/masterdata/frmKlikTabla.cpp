@@ -48,7 +48,7 @@ frmKlikTabla::frmKlikTabla() {
                             .fromBeginning = u"from begining"_s});
     ui.search->MakeNarrow();
     ui.clickTable->LetKeysIn();
-    SearchWith(ui.search);
+    SearchWith(ui.search, ui.lv1);
     HelpAndClose(ui.cmdHelp, ui.cmdClose);
     FunctionKeys({{Qt::Key_F3, ui.cmdOsvjezi}, {Qt::Key_F4, ui.cmdAutomatic}});
     EnterMovesOn();

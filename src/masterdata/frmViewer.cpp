@@ -28,7 +28,7 @@ frmViewer::frmViewer() {
                         {u"Tax Rate"_s, Qt::AlignRight, 90},
                         {u"Quantity"_s, Qt::AlignRight, 90},
                         {u"Unit"_s, Qt::AlignLeft, 80}});
-    SearchWith(ui.search);
+    SearchWith(ui.search, ui.lv1);
     HelpAndClose(ui.cmdHelp, ui.cmdClose, {Qt::Key_Escape, Qt::Key_F12});
     FunctionKeys({{Qt::Key_F11, ui.search->cmdRefresh}});
     ControlKeys(ui.lv1, {{Qt::Key_Return, Guarded(&frmViewer::lv1_Enter)}});
