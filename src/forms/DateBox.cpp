@@ -1,5 +1,6 @@
 #include "forms/DateBox.h"
 
+#include <QCalendarWidget>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QSignalBlocker>
@@ -30,6 +31,12 @@ QChar TypedBy(const QKeyEvent& key) {
 }
 
 }  // namespace
+
+DateBox::DateBox(QWidget* parent) : QDateEdit(parent) {
+    setCalendarPopup(true);
+    // Digits typed to the calendar would be put together as Qt's own box does.
+    calendarWidget()->setDateEditEnabled(false);
+}
 
 void DateBox::keyPressEvent(QKeyEvent* event) {
     const QChar typed = TypedBy(*event);

@@ -12,7 +12,7 @@ class DateBox : public QDateEdit {
     Q_OBJECT
 
 public:
-    using QDateEdit::QDateEdit;
+    explicit DateBox(QWidget* parent = nullptr);
 
     void stepBy(int steps) override;
 
