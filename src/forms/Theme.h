@@ -12,6 +12,7 @@ namespace forms {
 //   labels    heading, muted, strong (18 px), figure (18 px, for numbers), accent, picture (a dotted frame for one)
 //   frames    panel (paper, border, corners), night (the panel of the total), strip (the line of information)
 //   options   columns (fixed pitch, for a caption that shows the columns of a print)
+//   tabs      narrow (on the tab bar: less room beside the captions)
 //   on night  total (46 px figure), nightText
 //   any button may be "tight" (property, true): less room beside its caption, for rows of many
 // Read-only boxes are grey of themselves; a box under HighlightOnFocus turns yellow with an ink border.

@@ -181,6 +181,7 @@ QTabBar::tab {
     border-top-left-radius: @corner; border-top-right-radius: @corner;
     min-height: 42px; min-width: 30px; padding: 0 8px; margin-right: 2px;
 }
+QTabBar[role="narrow"]::tab { min-width: 24px; padding: 0 6px; }
 QTabBar::tab:selected { background: @paper; border-bottom-color: @paper; font-weight: bold; }
 QTabBar::tab:hover:!selected { background: @hover; }
 QTabBar::tab:focus { color: @accent; }

@@ -253,6 +253,12 @@ QIcon ThemeStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, 
     }
 }
 
+// A finger may come down anywhere in the line of an option, and not on its caption alone.
+QRect ThemeStyle::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const {
+    if (element == SE_RadioButtonClickRect || element == SE_CheckBoxClickRect) return option->rect;
+    return QProxyStyle::subElementRect(element, option, widget);
+}
+
 QRect ThemeStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
                                  const QWidget* widget) const {
     const QRect whole = option->rect;
