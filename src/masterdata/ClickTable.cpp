@@ -22,6 +22,7 @@ ClickTable::ClickTable(QWidget* parent) : QWidget(parent), tabs_(new QTabWidget(
     tabs_->setUsesScrollButtons(false);
     tabs_->setElideMode(Qt::ElideRight);
     tabs_->tabBar()->setExpanding(false);
+    tabs_->tabBar()->setProperty("role", u"narrow"_s);
     tabs_->setFocusPolicy(Qt::NoFocus);
     tabs_->tabBar()->setFocusPolicy(Qt::NoFocus);
     auto* whole = new QVBoxLayout(this);

@@ -11,7 +11,8 @@ namespace {
 constexpr int Margin = 4;
 constexpr int FocusLine = 2;
 constexpr int PriceHeight = 20;
-constexpr int PictureWidth = 40;
+constexpr int PictureWidth = 40;  // at most, and no more than a third
+constexpr int ShortestLastWord = 3;
 const auto BetweenNameAndPrice = u" = "_s;
 
 // Eliding needs a little more room than the text itself.
@@ -31,6 +32,9 @@ QString Wrapped(const QString& name, const QFontMetrics& metrics, int width, int
             end = blank > 0 ? blank : 0;
         }
         if (end == 0) return result + metrics.elidedText(rest, Qt::ElideRight, width);
+        // The unit of "0,5 l" is not left alone in its line.
+        const qsizetype blank = rest.lastIndexOf(u' ', end - 1);
+        if (blank > 0 && rest.size() - end - 1 < ShortestLastWord) end = blank;
         result += rest.left(end) + u'\n';
         start += end + 1;
     }
@@ -77,8 +81,8 @@ void TouchButton::paintEvent(QPaintEvent*) {
 
 void TouchButton::PaintFace(QPainter& painter) const {
     QRect face = rect().adjusted(Margin, Margin, -Margin, -Margin);
-    if (!icon().isNull() && face.width() > 2 * PictureWidth) {
-        const QRect picture(face.left(), face.top(), PictureWidth, face.height());
+    if (!icon().isNull()) {
+        const QRect picture(face.left(), face.top(), qMin(PictureWidth, face.width() / 3), face.height());
         icon().paint(&painter, picture);
         face.setLeft(picture.right() + Margin);
     }

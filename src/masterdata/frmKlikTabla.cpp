@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QScopedValueRollback>
+#include <QScreen>
 
 #include "core/FillList.h"
 #include "core/Session.h"
@@ -18,6 +19,10 @@ namespace {
 const auto ProductsQuery = u"SELECT ProdCode, ProdDescription, UnitPrice FROM Products"_s;
 const auto PlaceStatement = u"UPDATE Products SET  Tab = %1 WHERE ProdCode = '%2'"_s;
 const auto RenameStatement = u"UPDATE TabControl SET  TabDescription = '%1' WHERE TabControl = %2"_s;
+
+// The names need wide buttons; what lies around the window stays to be seen.
+constexpr QSize Largest(1240, 720);
+constexpr QSize Surroundings(24, 60);
 
 constexpr int OffTheTable = -1;
 // The automatic placement leaves the last button free.
@@ -47,6 +52,7 @@ frmKlikTabla::frmKlikTabla() {
                             .anywhere = u"everywhere in text"_s,
                             .fromBeginning = u"from begining"_s});
     ui.search->MakeNarrow();
+    resize((screen()->availableSize() - Surroundings).boundedTo(Largest));
     ui.clickTable->LetKeysIn();
     SearchWith(ui.search, ui.lv1);
     HelpAndClose(ui.cmdHelp, ui.cmdClose);

@@ -33,8 +33,8 @@ void SetRecapColumns(forms::ListView& recap) {
     recap.SetColumns({{u"TaxID"_s, Qt::AlignLeft, -1},
                       {{}, Qt::AlignLeft, 0},
                       {u"Rate"_s, Qt::AlignRight, 60},
-                      {u"Amount"_s, Qt::AlignRight, 84},
-                      {u"Tax"_s, Qt::AlignRight, 74}});
+                      {u"Amount"_s, Qt::AlignRight, 76},
+                      {u"Tax"_s, Qt::AlignRight, 62}});
 }
 
 int AddToTaxRecap(const forms::ListView& lines, int line, forms::ListView& recap) {

@@ -58,6 +58,7 @@ void frmPopisRobe::Form_Load() {
     ui.DTPicker2->setDate(today);
     OpenAndSum(ProductsQuery);
     if (ui.lv1->Count() > 0) TakeTaxOut();
+    ui.lv1->setFocus();
 }
 
 void frmPopisRobe::TakeTaxOut() {

@@ -61,6 +61,7 @@ frmChangeUserSimple::frmChangeUserSimple() {
     ui.lblPassword->hide();
     delete ui.txtPassword;
     ui.txtPassword = nullptr;
+    resize(width(), minimumSizeHint().height());
     // The arrow keys look for a name in the open list; in the closed box they would take the next one at once.
     const auto openList = [this] { ui.txtUserName->showPopup(); };
     ControlKeys(ui.txtUserName,
