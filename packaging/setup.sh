@@ -17,10 +17,11 @@ install_missing() {
     DEBIAN_FRONTEND=noninteractive $root apt-get install -y -qq --no-install-recommends $missing >/dev/null
 }
 
+# build_program [TARGET...]: everything, or these programs.
 build_program() {
     install_missing
     local strict=OFF
     [ -n "${CI:-}" ] && strict=ON
     cmake --preset release -DVELTON_WERROR=$strict >/dev/null
-    cmake --build --preset release
+    cmake --build --preset release ${1:+--target "$@"}
 }

@@ -4,13 +4,10 @@
 #include <QFile>
 
 #include "app/Start.h"
-#include "core/InstanceLock.h"
+#include "cashier/Restart.h"
 #include "core/Session.h"
-#include "core/Settings.h"
-#include "core/dbModule.h"
 #include "delivery/Delivery.h"
 #include "forms/Program.h"
-#include "output/Channel.h"
 #include "output/Folder.h"
 #include "store/StorePath.h"
 #include "values/Clock.h"
@@ -108,16 +105,7 @@ void TillTest::LogIn(const QString& user, const QString& password) {
 }
 
 void TillTest::Crash() {
-    output::Channel1().Abandon();
-    forms::DropLoadedForms();
-    mdiORVA::Discard();
-    Settle();
-    CloseStores();
-    UnlockFolder();
-    TheSettings = {};
-    TheSession = {};
-    CallerForm = nullptr;
-    forms::ResetProgramEnd();
+    ForgetProgram();
 }
 
 forms::Form& TillTest::Sales() const {

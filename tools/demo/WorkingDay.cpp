@@ -1,7 +1,11 @@
 #include "demo/WorkingDay.h"
 
-#include "demo/Cashier.h"
-#include "values/Clock.h"
+#include <QDir>
+#include <QWidget>
+#include <stdexcept>
+
+#include "cashier/Cashier.h"
+#include "cashier/DayClock.h"
 #include "values/Locale.h"
 
 using namespace Qt::StringLiterals;
@@ -10,24 +14,17 @@ namespace {
 
 const auto OpeningTime = QDateTime(QDate(2026, 11, 24), QTime(8, 0, 0));
 
-// The day has a clock of its own, so that it reads the same whenever it is played.
-class DayClock {
-public:
-    DayClock() {
-        values::SetClock([this] { return now_; });
-    }
-    ~DayClock() { values::SetClock({}); }
-    DayClock(const DayClock&) = delete;
-    DayClock& operator=(const DayClock&) = delete;
-    void Pass(int minutes) { now_ = now_.addSecs(60 * minutes + 7); }
-
-private:
-    QDateTime now_ = OpeningTime;
-};
+// Pictures in the order in which they are taken.
+Cashier::Camera NumberedPictures(const QString& folder) {
+    if (!QDir().mkpath(folder)) throw std::runtime_error("The folder " + folder.toStdString() + " can't be made.");
+    return [folder, number = 0](QWidget& window, const QString& name) mutable {
+        window.grab().save(u"%1/%2-%3.png"_s.arg(folder).arg(++number, 2, 10, QChar(u'0')).arg(name));
+    };
+}
 
 void OpenTheShop(Cashier& cashier) {
     cashier.Start();
-    cashier.LogIn(u"voditelj"_s, u"1234"_s);
+    cashier.LogIn(u"voditelj"_s, u"1234"_s, u"login"_s);
     cashier.TakePicture(u"morning"_s);
     cashier.Within(u"frmDepozit"_s, [&] {
         cashier.Press(u"100"_s);
@@ -52,7 +49,7 @@ void SellInTheMorning(Cashier& cashier, DayClock& clock) {
     cashier.Touch(u"Kava espresso"_s);
     cashier.Weigh(u"3850101"_s, u"0.75"_s);
     cashier.TakePicture(u"coffee-and-wine"_s);
-    cashier.Post(u"10"_s);
+    cashier.Post(u"10"_s, u"change"_s);
 }
 
 void ChangeCashier(Cashier& cashier, DayClock& clock) {
@@ -130,8 +127,8 @@ void CloseTheShop(Cashier& cashier, DayClock& clock) {
 
 void PlayWorkingDay(const QString& pictures) {
     values::SetUserLocale(QLocale(u"hr_HR"_s));  // the demo shop's own
-    DayClock clock;
-    Cashier cashier(pictures);
+    DayClock clock(OpeningTime);
+    Cashier cashier(NumberedPictures(pictures));
     OpenTheShop(cashier);
     SellInTheMorning(cashier, clock);
     ChangeCashier(cashier, clock);

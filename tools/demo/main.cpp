@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QTemporaryDir>
 #include <cstdio>
 
 #include "app/Start.h"
@@ -11,17 +12,13 @@
 #include "demo/WorkingDay.h"
 #include "output/CodePage.h"
 #include "output/Folder.h"
+#include "player/Offscreen.h"
 #include "store/Database.h"
 #include "store/StorePath.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// The off-screen platform tells of each window that it cannot raise it; nobody wants to read that.
-void WriteMessage(QtMsgType, const QMessageLogContext&, const QString& message) {
-    if (!message.startsWith(u"This plugin does not support")) std::fprintf(stderr, "%s\n", qPrintable(message));
-}
 
 // A folder that an earlier day left; anything else is not ours to delete.
 void ClearFolder(const QString& path) {
@@ -63,8 +60,9 @@ void Play(const QString& path) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler(WriteMessage);
+    drivers::HushPlatform();
+    const QTemporaryDir screen;
+    drivers::UseTillScreen(screen.path());
     QApplication application(argc, argv);
     PrepareApplication(application);
     try {

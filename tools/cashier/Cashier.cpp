@@ -1,0 +1,195 @@
+#include "cashier/Cashier.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <stdexcept>
+
+#include "app/Start.h"
+#include "core/mdiORVA.h"
+#include "forms/Controls.h"
+#include "forms/Form.h"
+#include "masterdata/ClickTable.h"
+#include "player/Keys.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int LookEvery = 5;         // milliseconds
+constexpr int Patience = 10 * 1000;  // milliseconds
+
+[[noreturn]] void GiveUp(const QString& words) {
+    throw std::runtime_error(words.toStdString());
+}
+
+void CloseByForce(QWidget& modal) {
+    if (auto* dialog = qobject_cast<QDialog*>(&modal)) return dialog->reject();
+    if (auto* form = qobject_cast<forms::Form*>(&modal)) form->Unload();
+}
+
+}  // namespace
+
+Cashier::Cashier(Camera camera) : camera_(std::move(camera)) {
+    drivers::HearKeyTrouble([this](const QString& words) { trouble_ = words; });
+    WatchModal();
+}
+
+QWidget* Cashier::Screen(const QString& name) const {
+    auto* form = forms::FindForm(name);
+    if (!form) GiveUp(u"The screen %1 is not there."_s.arg(name));
+    return form;
+}
+
+// Looks after what comes up modally, within its own loop. Armed first: an answer may run a loop of its own.
+void Cashier::WatchModal() {
+    QTimer::singleShot(LookEvery, &watch_, [this] {
+        WatchModal();
+        QWidget* modal = QApplication::activeModalWidget();
+        if (!modal || inWork_.contains(modal)) return;
+        if (auto* box = qobject_cast<QMessageBox*>(modal)) return WorkOn(*modal, [&] { AnswerBox(*box); });
+        if (scripts_.isEmpty() || modal->objectName() != scripts_.first().first) return LosePatience(*modal);
+        WorkOn(*modal, scripts_.takeFirst().second);
+    });
+}
+
+// Nothing is thrown through the event loop.
+void Cashier::WorkOn(QWidget& modal, const Script& script) {
+    const QPointer<QWidget> alive = &modal;
+    inWork_ << alive;
+    try {
+        script();
+    } catch (const std::exception& error) {
+        trouble_ = QString::fromUtf8(error.what());
+        if (alive) CloseByForce(*alive);
+    }
+    inWork_.removeLast();
+}
+
+void Cashier::AnswerBox(QMessageBox& box) {
+    if (answers_.isEmpty() || answers_.first().text != box.text())
+        GiveUp(u"Nobody expected the message \"%1\"."_s.arg(box.text()));
+    const BoxAnswer answer = answers_.takeFirst();
+    if (!answer.picture.isEmpty()) TakePicture(answer.picture);
+    auto* button = box.button(answer.yes ? QMessageBox::Yes : QMessageBox::No);
+    (button ? button : box.button(QMessageBox::Ok))->click();
+}
+
+void Cashier::LosePatience(QWidget& modal) {
+    if (unattended_ != &modal) {
+        unattended_ = &modal;
+        waiting_.start();
+    }
+    if (waiting_.elapsed() < Patience) return;
+    trouble_ = u"Nobody answers %1 \"%2\"."_s.arg(modal.objectName(), modal.windowTitle());
+    CloseByForce(modal);
+}
+
+void Cashier::Start() {
+    if (!StartProgram()) GiveUp(u"The program ended at its start: %1"_s.arg(trouble_));
+    ExpectAllDone();
+}
+
+void Cashier::LogIn(const QString& user, const QString& password, const QString& picture) {
+    forms::Control(Screen(u"frmLogin"_s), u"txtUserName")->setFocus();
+    drivers::Keys(user + u"{Enter}"_s + password);
+    if (!picture.isEmpty()) TakePicture(picture);
+    drivers::Keys(u"{Enter}");
+    ExpectAllDone();
+}
+
+void Cashier::Scan(const QString& code) {
+    drivers::Keys(code + u"{Enter}"_s);
+    if (!trouble_.isEmpty()) GiveUp(trouble_);
+}
+
+void Cashier::Weigh(const QString& code, const QString& quantity) {
+    Scan(code);
+    drivers::Keys(quantity + u"{Enter}"_s);
+}
+
+void Cashier::Touch(const QString& name) {
+    const auto* table = Screen(u"frmORVAtouch"_s)->findChild<ClickTable*>();
+    for (int index = 0; index < ClickTable::ButtonCount; ++index) {
+        TouchButton* button = table->Button(index);
+        if (!button->text().startsWith(name + u" = "_s)) continue;
+        table->Tabs()->setCurrentIndex(index / ClickTable::ButtonsPerTab);
+        drivers::Click(button);
+        return;
+    }
+    GiveUp(u"There is no touch button for %1."_s.arg(name));
+}
+
+void Cashier::Press(const QString& keys) {
+    drivers::Keys(keys);
+}
+
+void Cashier::Click(const QString& screen, const QString& control) {
+    drivers::Click(forms::Control(Screen(screen), control));
+}
+
+void Cashier::Fill(const QString& screen, const QString& box, const QString& keys) {
+    auto* control = forms::Control(Screen(screen), box);
+    drivers::Settle();
+    control->setFocus();
+    if (auto* line = qobject_cast<QLineEdit*>(control)) line->selectAll();
+    drivers::Keys(keys);
+}
+
+void Cashier::Post(const QString& cash, const QString& picture) {
+    Within(u"frmMSGinvoice"_s, [this, cash, picture] {
+        drivers::Keys(cash + u"{Enter}"_s);
+        if (!picture.isEmpty()) TakePicture(picture);
+        drivers::Keys(u"{Enter}");
+    });
+    const QString number = Shown(u"txtInvoiceNumber"_s);
+    PressAndAnswer(u"{F5}"_s);
+    if (Shown(u"txtInvoiceNumber"_s) == number) GiveUp(u"Invoice %1 was not posted."_s.arg(number));
+}
+
+void Cashier::Answer(const QString& text, bool yes, const QString& picture) {
+    answers_ << BoxAnswer{text, yes, picture};
+}
+
+void Cashier::Within(const QString& screen, Script script) {
+    scripts_ << std::pair(screen, std::move(script));
+}
+
+void Cashier::Choose(const QString& entry) {
+    auto* action = mdiORVA::Window().findChild<QAction*>(entry);
+    if (!action || !action->isEnabled()) GiveUp(u"The menu entry %1 can't be chosen."_s.arg(entry));
+    action->trigger();
+    ExpectAllDone();
+}
+
+void Cashier::Visit(const QString& entry, const QString& screen, Script script) {
+    Within(screen, std::move(script));
+    Choose(entry);
+}
+
+void Cashier::PressAndAnswer(const QString& keys) {
+    drivers::Keys(keys);
+    ExpectAllDone();
+}
+
+void Cashier::ExpectAllDone() {
+    drivers::Settle();
+    if (!trouble_.isEmpty()) GiveUp(trouble_);
+    if (!answers_.isEmpty()) GiveUp(u"The message \"%1\" never came."_s.arg(answers_.first().text));
+    if (!scripts_.isEmpty()) GiveUp(u"The screen %1 never came."_s.arg(scripts_.first().first));
+}
+
+QString Cashier::Shown(const QString& control) const {
+    return forms::TextOf(forms::Control(Screen(u"frmORVAtouch"_s), control));
+}
+
+void Cashier::TakePicture(const QString& name) {
+    drivers::Settle();
+    QWidget* window = QApplication::activeWindow();
+    if (!window) GiveUp(u"There is no window to take the picture %1 of."_s.arg(name));
+    camera_(*window, name);
+}

@@ -1,0 +1,85 @@
+#include "screens/Picture.h"
+
+#include <QApplication>
+#include <QImageWriter>
+#include <QMainWindow>
+#include <QMenu>
+#include <QPainter>
+#include <QScreen>
+#include <QTextEdit>
+#include <QTimer>
+#include <QTimerEvent>
+
+#include "forms/Tokens.h"
+#include "player/Keys.h"
+#include "screens/Palette.h"
+
+using namespace Qt::StringLiterals;
+using forms::Tokens::LabelSize;
+using forms::Tokens::Margin;
+
+namespace screens {
+
+namespace {
+
+constexpr int BarHeight = 34;
+constexpr int Smallest = 9;  // the compression of a PNG
+
+// A clock on a screen goes on each second of the real time, whenever that comes.
+void BringClocksUpToDate(const QWidget& window) {
+    for (auto* timer : window.findChildren<QTimer*>(u"Timer1"_s)) {
+        if (!timer->isActive()) continue;
+        QTimerEvent tick(timer->timerId());
+        QCoreApplication::sendEvent(timer, &tick);
+    }
+}
+
+// A long text is laid out bit by bit, and its scroll bar tells how far that has come.
+void LayOutTexts(const QWidget& window) {
+    for (const auto* text : window.findChildren<QTextEdit*>()) text->document()->pageCount();
+    drivers::Settle();
+}
+
+// An open menu is a window of its own.
+void DrawOpenMenu(QPixmap& picture, const QWidget& window) {
+    if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+        QPainter(&picture).drawPixmap(window.mapFromGlobal(menu->pos()), menu->grab());
+    }
+}
+
+QPixmap WithTitle(const QPixmap& content, const QString& title) {
+    QPixmap picture(content.width() + 2, content.height() + BarHeight + 1);
+    QPainter painter(&picture);
+    painter.fillRect(picture.rect(), forms::Tokens::TabBehind);
+    painter.setPen(forms::Tokens::Edge);
+    painter.drawRect(picture.rect().adjusted(0, 0, -1, -1));
+    QFont bold = QApplication::font();
+    bold.setPixelSize(LabelSize);
+    bold.setBold(true);
+    painter.setFont(bold);
+    painter.setPen(forms::Tokens::Ink);
+    const QRect bar(Margin, 0, picture.width() - 2 * Margin, BarHeight);
+    painter.drawText(bar, Qt::AlignVCenter | Qt::AlignLeft, title);
+    painter.drawPixmap(1, BarHeight, content);
+    return picture;
+}
+
+}  // namespace
+
+QImage PictureOf(QWidget& window) {
+    BringClocksUpToDate(window);
+    LayOutTexts(window);
+    if (window.isMaximized()) window.resize(window.screen()->size());  // to the edges, without a frame
+    QPixmap picture = window.grab();
+    DrawOpenMenu(picture, window);
+    if (!qobject_cast<QMainWindow*>(&window)) picture = WithTitle(picture, window.windowTitle());
+    return picture.toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+bool SavePicture(const QImage& picture, const QString& path) {
+    QImageWriter writer(path, "png");
+    writer.setCompression(Smallest * 100 / 9);
+    return writer.write(picture.convertToFormat(QImage::Format_Indexed8, PaletteOf(picture)));
+}
+
+}  // namespace screens

@@ -1,0 +1,74 @@
+// velton-screens FOLDER: plays some days of the demo shop through the real screens, off-screen, and leaves a picture of
+// every screen in FOLDER. Fails, with names, when a screen is on no picture.
+
+#include <CLI/CLI.hpp>
+#include <QApplication>
+#include <QTemporaryDir>
+#include <cstdio>
+
+#include "app/Start.h"
+#include "delivery/Delivery.h"
+#include "output/Folder.h"
+#include "player/Offscreen.h"
+#include "screens/Album.h"
+#include "screens/Tour.h"
+#include "store/Database.h"
+#include "store/StorePath.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Arguments {
+    std::string folder;
+    std::pair<int, int> size{1366, 768};
+};
+
+// As a shop sets its register that has a fiscal printer and writes customers on invoices.
+void MakeShop(const QString& path) {
+    delivery::MakeProgramFolder(path, true);
+    const auto options = store::Database::Open(store::OptionsStorePath(path), store::OptionsSchema());
+    options->Execute(u"UPDATE Options SET FiskalniRacunDA = '1', Kupac = True"_s);
+    output::SetProgramFolder(path);
+}
+
+int TakePictures(const QString& folder, const QString& shop) {
+    MakeShop(shop);
+    screens::Album album(folder);
+    screens::TakeTour([&](QWidget& window, const QString& name) { album.Add(window, name); });
+    const QStringList missing = album.MissingScreens();
+    for (const QString& screen : missing) std::fprintf(stderr, "No picture shows %s.\n", qPrintable(screen));
+    if (missing.isEmpty())
+        std::printf("%lld pictures in %s\n", static_cast<long long>(album.Count()), qPrintable(folder));
+    return missing.isEmpty() ? 0 : 1;
+}
+
+int Run(int argc, char* argv[]) {
+    Arguments arguments;
+    CLI::App app("Takes a picture of every screen of VELTON", "velton-screens");
+    app.add_option("FOLDER", arguments.folder, "Takes the pictures; it is made when it is missing")->required();
+    app.add_option("--size", arguments.size, "The till's screen, 1366x768 when nothing is said")
+        ->delimiter('x')
+        ->check(CLI::Range(640, 4096))
+        ->type_name("WIDTHxHEIGHT");
+    CLI11_PARSE(app, argc, argv);
+
+    drivers::HushPlatform();
+    const QTemporaryDir temporary;
+    drivers::UseTillScreen(temporary.path(), {arguments.size.first, arguments.size.second});
+    QApplication application(argc, argv);
+    PrepareApplication(application);
+    QApplication::setCursorFlashTime(0);  // the caret always shows
+    return TakePictures(QString::fromLocal8Bit(arguments.folder), temporary.filePath(u"shop"_s));
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    try {
+        return Run(argc, argv);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "velton-screens: %s\n", error.what());
+        return 1;
+    }
+}
