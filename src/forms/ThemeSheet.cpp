@@ -25,6 +25,7 @@ QLineEdit[highlight="true"]:focus, QPlainTextEdit[highlight="true"]:focus, QText
 QLineEdit[role="entry"] { font-size: @entrySize; min-height: @entryHeight; }
 QLineEdit[role="entry"]:focus { min-height: @focusedEntryHeight; }
 QAbstractSpinBox { min-height: @spinHeight; }
+QSpinBox, QDoubleSpinBox { padding-right: 14px; }
 QLineEdit[role="entry"][fit="1"] { font-size: @entryFit1; }
 QLineEdit[role="entry"][fit="2"] { font-size: @entryFit2; }
 QLineEdit[role="entry"][fit="3"] { font-size: @entryFit3; }
