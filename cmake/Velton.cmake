@@ -39,6 +39,10 @@ function(velton_room name)
     set_target_properties(velton_${name} PROPERTIES AUTOMOC ON)
 endfunction()
 
+# What every test runs under.
+set(VELTON_TEST_ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=en_US.UTF-8;\
+LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/cmake/leaks.txt:print_suppressions=0")
+
 # velton_test(NAME LINK targets... SOURCES files...): one test program a room, run off-screen.
 function(velton_test name)
     cmake_parse_arguments(TEST "" "" "LINK;SOURCES;ENVIRONMENT" ${ARGN})
@@ -50,5 +54,5 @@ function(velton_test name)
     set_target_properties(test_${name} PROPERTIES AUTOMOC ON)
     add_test(NAME ${name} COMMAND test_${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 600
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=en_US.UTF-8;${TEST_ENVIRONMENT}")
+        ENVIRONMENT "${VELTON_TEST_ENVIRONMENT};${TEST_ENVIRONMENT}")
 endfunction()

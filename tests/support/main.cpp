@@ -11,13 +11,6 @@
 
 using namespace Qt::StringLiterals;
 
-#ifdef __SANITIZE_ADDRESS__
-// Qt forgets sixteen bytes of each view that scrolls under a finger.
-extern "C" const char* __lsan_default_suppressions() {
-    return "leak:QScroller::grabGesture\n";
-}
-#endif
-
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     const QTemporaryDir folder;
