@@ -29,7 +29,7 @@ QPixmap ReadPicture(const QString& path) {
     QImageReader::setAllocationLimit(largestPictureInMegabytes);
     const QSize size = reader.size();
     if (size.width() > largestSide || size.height() > largestSide)
-        reader.setScaledSize(size.scaled(largestSide, largestSide, Qt::KeepAspectRatio));
+        reader.setScaledSize(size.scaled(largestSide, largestSide, Qt::KeepAspectRatio).expandedTo({1, 1}));
     return QPixmap::fromImage(reader.read());
 }
 

@@ -187,6 +187,16 @@ TEST_F(KeysTest, NumericBoxesHonourSelectionLengthAndPaste) {
     EXPECT_EQ(form.txtAmount->text(), u"1x"_s);
 }
 
+TEST_F(KeysTest, PastedLineBreaksStayOutside) {
+    Show();
+    QGuiApplication::clipboard()->setText(u"385\r\n"_s);
+    drivers::Type(form, u"txtCode", u"{Ctrl+v}1");
+    EXPECT_EQ(form.txtCode->text(), u"3851"_s);
+    QGuiApplication::clipboard()->setText(u"a\nb\n"_s);
+    drivers::Type(form, u"txtCode", u"{Ctrl+v}");
+    EXPECT_EQ(form.txtCode->text(), u"a b"_s);
+}
+
 TEST_F(KeysTest, ABoxIsSelectedHoweverItGetsTheFocus) {
     form.HighlightOnFocus({form.txtCode, form.txtAmount});
     form.txtAmount->setText(u"12,50"_s);
