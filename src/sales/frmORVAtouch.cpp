@@ -255,7 +255,7 @@ void frmORVAtouch::cmdOsvjezi_Click() {
 void frmORVAtouch::Command2_Click(int index) {
     const QString code = ui.clickTable->Button(index)->Tag();
     if (code.isEmpty()) return;
-    ui.txtProdCode->setText(code);
+    ShowAnew(code);
     if (ui.txtDescription->text().isEmpty()) {
         forms::Tell(u"Product has meanwhile been deleted or does not exist."_s);
         ui.txtProdCode->clear();

@@ -48,6 +48,12 @@ void frmORVAtouch::ShowProduct() {
     txtQuantity_Change();
 }
 
+// The product as it is now, also when its code stands in the box already, which would be no change.
+void frmORVAtouch::ShowAnew(const QString& code) {
+    ui.txtProdCode->clear();
+    ui.txtProdCode->setText(code);
+}
+
 void frmORVAtouch::EmptyProduct() {
     for (QLineEdit* box : {ui.txtID, ui.txtSupply, ui.txtDescription, ui.txtTaxPercent, ui.txtUnitPrice, ui.txtPrice,
                            ui.txtTaxAmount, ui.txtTaxID, ui.txtUnit, ui.txtQuantity})

@@ -99,7 +99,7 @@ void frmORVAtouch::DeleteLine() {
 void frmORVAtouch::ChangeLineQuantity() {
     const int row = ui.lv1->Selected();
     if (row < 0) return;
-    ui.txtProdCode->setText(ui.lv1->Text(row, Code));
+    ShowAnew(ui.lv1->Text(row, Code));
     ui.txtTaxPercent->setText(ui.lv1->Text(row, TaxPercent));
     ui.txtQuantity->setText(ui.lv1->Text(row, Quantity));
     ui.lv1->Remove(row);

@@ -37,6 +37,7 @@ TEST_F(ClickTableTest, SellsAtTheStoresPriceAndTellsADeletedProduct) {
     drivers::Click(Button(0));
     EXPECT_EQ(Button(0)->text(), u"Novine = 2");
     EXPECT_EQ(Shown(u"txtTotalAmount"), u"3.00");
+    Keys(u"300");  // the code that the button is about to write
     Run(u"DELETE * FROM Products WHERE ProdCode = '300'"_s);
     {
         Boxes boxes;
