@@ -1,5 +1,7 @@
 #pragma once
+
 #include "PchCore.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QBoxLayout>
