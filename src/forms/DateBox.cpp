@@ -34,8 +34,6 @@ QChar TypedBy(const QKeyEvent& key) {
 
 DateBox::DateBox(QWidget* parent) : QDateEdit(parent) {
     setCalendarPopup(true);
-    // Digits typed to the calendar would be put together as Qt's own box does.
-    calendarWidget()->setDateEditEnabled(false);
 }
 
 void DateBox::keyPressEvent(QKeyEvent* event) {
@@ -93,6 +91,8 @@ void DateBox::stepBy(int steps) {
 
 void DateBox::mousePressEvent(QMouseEvent* event) {
     TakeTyped();
+    // The calendar is made by the first press. Digits typed to it would be put together as Qt's own box does.
+    calendarWidget()->setDateEditEnabled(false);
     QDateEdit::mousePressEvent(event);
 }
 

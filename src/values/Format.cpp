@@ -3,7 +3,6 @@
 #include "values/DateText.h"
 #include "values/Decimal.h"
 #include "values/Digits.h"
-#include "values/Locale.h"
 #include "values/NumberForm.h"
 #include "values/Numbers.h"
 
@@ -46,23 +45,6 @@ QString FormatDecimal(const Decimal& decimal, QStringView pattern) {
                                                   : GeneralText(decimal, WholeDigitsOfExact);
 }
 
-// What "0.00" makes of it. Nearly all that is formatted are amounts, whole lists of them at a time.
-QString AmountText(Money amount) {
-    constexpr quint64 unitsOfCent = Money::Scale / 100;
-    const bool negative = amount < Money();
-    const auto units = static_cast<quint64>(amount.Units());
-    quint64 cents = ((negative ? 0 - units : units) + unitsOfCent / 2) / unitsOfCent;
-    const bool showsMinus = negative && cents > 0;
-    QChar text[24];
-    QChar* front = std::end(text);
-    for (int digits = 0; digits < 3 || cents > 0; ++digits, cents /= 10) {
-        if (digits == 2) *--front = DecimalSeparatorChar();
-        *--front = QChar(static_cast<char16_t>(u'0' + cents % 10));
-    }
-    if (showsMinus) *--front = u'-';
-    return QString(front, std::end(text) - front);
-}
-
 QString FormatWhole(qint64 number, QStringView pattern) {
     return FormatDecimal(Decimal::FromUnits(number, 0), pattern);
 }
@@ -75,7 +57,6 @@ QString Format(double number, QStringView pattern) {
 }
 
 QString Format(Money number, QStringView pattern) {
-    if (pattern == u"0.00") return AmountText(number);
     return FormatDecimal(Decimal::FromUnits(number.Units(), 4), pattern);
 }
 

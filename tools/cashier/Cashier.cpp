@@ -13,6 +13,7 @@
 #include "core/mdiORVA.h"
 #include "forms/Controls.h"
 #include "forms/Form.h"
+#include "forms/ListView.h"
 #include "masterdata/ClickTable.h"
 #include "player/Keys.h"
 
@@ -43,6 +44,12 @@ QWidget* Cashier::Screen(const QString& name) const {
     auto* form = forms::FindForm(name);
     if (!form) GiveUp(u"The screen %1 is not there."_s.arg(name));
     return form;
+}
+
+forms::ListView* Cashier::List(const QString& screen) const {
+    auto* list = Screen(screen)->findChild<forms::ListView*>(u"lv1"_s);
+    if (!list) GiveUp(u"The screen %1 has no list."_s.arg(screen));
+    return list;
 }
 
 // Looks after what comes up modally, within its own loop. Armed first: an answer may run a loop of its own.

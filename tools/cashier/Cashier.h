@@ -9,6 +9,10 @@
 #include <functional>
 #include <utility>
 
+namespace forms {
+class ListView;
+}
+
 class QMessageBox;
 
 // A cashier who works the real screens with keys and touches, answers what comes up, and has pictures taken.
@@ -49,6 +53,8 @@ public:
     void ExpectAllDone();
 
     QWidget* Screen(const QString& name) const;
+    // The list of a loaded screen.
+    forms::ListView* List(const QString& screen) const;
     QString Shown(const QString& control) const;
     void TakePicture(const QString& name);
 

@@ -67,22 +67,16 @@ void Tour::Sell() {
 
 void Tour::Reprint() {
     clock.Pass(9);
-    cashier.Within(u"frmTrakaRacuna"_s, [this] {
-        cashier.TakePicture(u"ribbon"_s);
-        cashier.Press(u"{F12}"_s);
-    });
+    cashier.Within(u"frmTrakaRacuna"_s, Glance(u"ribbon"_s));
     cashier.PressAndAnswer(u"{F8}"_s);
 
     // One receipt from the list of invoices.
     cashier.Within(u"frmRacuni"_s, [this] {
         cashier.Click(u"frmRacuni"_s, u"Command1"_s);
-        auto* list = cashier.Screen(u"frmRacuni"_s)->findChild<forms::ListView*>();
+        auto* list = cashier.List(u"frmRacuni"_s);
         drivers::ClickRow(list, list->Count() - 1);
         cashier.TakePicture(u"invoices"_s);
-        cashier.Within(u"frmRacunPregled"_s, [this] {
-            cashier.TakePicture(u"preview"_s);
-            cashier.Press(u"{F12}"_s);
-        });
+        cashier.Within(u"frmRacunPregled"_s, Glance(u"preview"_s));
         cashier.PressAndAnswer(u"{F6}"_s);
         cashier.Press(u"{F12}"_s);
     });
@@ -109,10 +103,7 @@ void Tour::WorkTheFiscalPrinter() {
     clock.Pass(4);
     cashier.Visit(u"cmdUplatadepozita"_s, u"frmDepozit"_s, enter(u"100"_s, u"deposit"_s, u"Paid deposit."_s));
     cashier.Visit(u"cmdIsplatadepozita"_s, u"frmDepozitIsplata"_s, enter(u"250"_s, u"payout"_s, u"Deposit payout."_s));
-    cashier.Visit(u"cmdPeriodicniIzvjestaj"_s, u"frmFiskalniPeriodicniIzvjestaj"_s, [this] {
-        cashier.TakePicture(u"fiscal-period"_s);
-        cashier.Press(u"{F12}"_s);
-    });
+    cashier.Visit(u"cmdPeriodicniIzvjestaj"_s, u"frmFiskalniPeriodicniIzvjestaj"_s, Glance(u"fiscal-period"_s));
     cashier.Visit(u"cmdReklamiranjeRacuna"_s, u"frmReklamiranjeRacuna"_s, [this] {
         cashier.Press(u"21"_s);
         cashier.TakePicture(u"withdrawal"_s);

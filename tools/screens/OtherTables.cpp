@@ -43,7 +43,7 @@ const Table Tables[] = {
 };
 
 void Keep(Cashier& cashier, const Table& table) {
-    cashier.Screen(table.list)->findChild<forms::ListView*>(u"lv1"_s)->Select(table.edited);
+    cashier.List(table.list)->Select(table.edited);
     cashier.TakePicture(table.pictures[0]);
     cashier.Within(table.newRow, [&] {
         cashier.Press(table.typed);
@@ -51,7 +51,7 @@ void Keep(Cashier& cashier, const Table& table) {
         cashier.Press(u"{F12}"_s);
     });
     cashier.PressAndAnswer(u"{F5}"_s);
-    cashier.Screen(table.list)->findChild<forms::ListView*>(u"lv1"_s)->Select(table.edited);
+    cashier.List(table.list)->Select(table.edited);
     cashier.Within(table.editRow, [&] {
         cashier.TakePicture(table.pictures[2]);
         cashier.Press(u"{F12}"_s);
@@ -69,10 +69,7 @@ void Tour::KeepOtherTables() {
         cashier.TakePicture(u"own-password"_s);
         cashier.Press(u"{F12}"_s);
     });
-    cashier.Visit(u"cmdFirma"_s, u"frmFirma"_s, [this] {
-        cashier.TakePicture(u"company"_s);
-        cashier.Press(u"{F12}"_s);
-    });
+    cashier.Visit(u"cmdFirma"_s, u"frmFirma"_s, Glance(u"company"_s));
 }
 
 }  // namespace screens

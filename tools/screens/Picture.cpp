@@ -23,7 +23,7 @@ namespace screens {
 namespace {
 
 constexpr int BarHeight = 34;
-constexpr int Smallest = 9;  // the compression of a PNG
+constexpr int Smallest = 100;  // the compression, in per cent
 
 // A clock on a screen goes on each second of the real time, whenever that comes.
 void BringClocksUpToDate(const QWidget& window) {
@@ -78,7 +78,7 @@ QImage PictureOf(QWidget& window) {
 
 bool SavePicture(const QImage& picture, const QString& path) {
     QImageWriter writer(path, "png");
-    writer.setCompression(Smallest * 100 / 9);
+    writer.setCompression(Smallest);
     return writer.write(picture.convertToFormat(QImage::Format_Indexed8, PaletteOf(picture)));
 }
 

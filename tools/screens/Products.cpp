@@ -10,10 +10,6 @@ namespace {
 
 constexpr auto CoffeeWithMilk = u"3850002";
 
-forms::ListView* ListOf(const Cashier& cashier, const QString& screen) {
-    return cashier.Screen(screen)->findChild<forms::ListView*>(u"lv1"_s);
-}
-
 // Nothing of it is stored.
 void Compose(Cashier& cashier) {
     cashier.Within(u"frmViewer"_s, [&] {
@@ -35,7 +31,7 @@ void EditProduct(Cashier& cashier) {
 }
 
 void KeepList(Cashier& cashier) {
-    auto* list = ListOf(cashier, u"frmArtikli"_s);
+    auto* list = cashier.List(u"frmArtikli"_s);
     list->Select(list->Find(CoffeeWithMilk));
     cashier.TakePicture(u"products"_s);
     cashier.Within(u"frmEditProduct"_s, [&] { EditProduct(cashier); });
@@ -60,7 +56,7 @@ void Tour::KeepProducts() {
     cashier.Visit(u"cmdNoviArtikal"_s, u"frmNewProduct"_s, [this] { AddProduct(cashier); });
 
     cashier.Choose(u"cmdKliktabla"_s);
-    drivers::ClickRow(ListOf(cashier, u"frmKlikTabla"_s), 3);
+    drivers::ClickRow(cashier.List(u"frmKlikTabla"_s), 3);
     cashier.TakePicture(u"click-table"_s);
     cashier.Press(u"{F12}"_s);
 }

@@ -60,7 +60,7 @@ void Tour::LookAtTheRegister() {
     });
     cashier.Visit(u"mnuPregledZakljucaka1"_s, EndReports, [this] {
         cashier.Click(EndReports, u"Command1"_s);
-        cashier.Screen(EndReports)->findChild<forms::ListView*>(u"lv1"_s)->Select(2);
+        cashier.List(EndReports)->Select(2);
         cashier.TakePicture(u"end-reports"_s);
         cashier.Within(State, [this] {
             cashier.Press(u"2"_s);

@@ -43,23 +43,14 @@ void Tour::Configure() {
     cashier.PressAndAnswer(u"{F6}"_s);
 
     // No menu entry opens this one.
-    cashier.Within(u"frmMreza"_s, [this] {
-        cashier.TakePicture(u"network"_s);
-        cashier.Press(u"{F12}"_s);
-    });
+    cashier.Within(u"frmMreza"_s, Glance(u"network"_s));
     frmMreza().ShowModal();
     cashier.ExpectAllDone();
 }
 
 void Tour::ReadHelp() {
-    cashier.Visit(u"mnuHelp1"_s, u"frmHelp"_s, [this] {
-        cashier.TakePicture(u"help"_s);
-        cashier.Press(u"{F12}"_s);
-    });
-    cashier.Visit(u"mnuAbout"_s, u"frmAbout"_s, [this] {
-        cashier.TakePicture(u"about"_s);
-        cashier.Press(u"{Esc}"_s);
-    });
+    cashier.Visit(u"mnuHelp1"_s, u"frmHelp"_s, Glance(u"help"_s));
+    cashier.Visit(u"mnuAbout"_s, u"frmAbout"_s, Glance(u"about"_s, u"{Esc}"_s));
 }
 
 }  // namespace screens

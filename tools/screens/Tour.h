@@ -11,6 +11,9 @@ struct Tour {
     Cashier& cashier;
     DayClock& clock;
 
+    // A screen that is only looked at: its picture, and the key that closes it.
+    Cashier::Script Glance(const QString& picture, const QString& close = QStringLiteral("{F12}"));
+
     // What the shop sold before today, so that lists and reports have something to tell.
     void PlayEarlierDays();
 
