@@ -1,6 +1,7 @@
 #include "reports/EndReport.h"
 
 #include "core/dbModule.h"
+#include "values/Numbers.h"
 
 using namespace Qt::StringLiterals;
 
@@ -13,7 +14,11 @@ const auto OpenPeriodsQuery =
 
 }  // namespace
 
-void CloseOpenPeriods(QDate date, QTime time, qint16 number) {
+qint16 NextEndReport(qint16 lastNumber) {
+    return values::CInt16(lastNumber + 1);
+}
+
+void CloseOpenPeriods(QDate date, QTime time, qint16 lastNumber) {
     auto rs = MainStore().OpenRecordset(OpenPeriodsQuery);
     for (auto& period : rs) {
         period.Edit();
@@ -21,7 +26,7 @@ void CloseOpenPeriods(QDate date, QTime time, qint16 number) {
         period[u"TimeStoped"] = time;
         period[u"Payed"] = true;
         period[u"Closed"] = true;
-        period[u"Grupni"] = number;
+        period[u"Grupni"] = NextEndReport(lastNumber);
         period.Update();
     }
 }

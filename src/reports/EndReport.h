@@ -3,6 +3,10 @@
 #include <QDate>
 #include <QTime>
 
-// Takes every open period of every register into the End Report of this number, as stopped at this moment. One commit a
-// period: an error, or the end of the process, leaves the periods before it closed and numbered and the others open.
-void CloseOpenPeriods(QDate date, QTime time, qint16 number);
+// The number behind the last one; error 6 beyond 16 bits.
+qint16 NextEndReport(qint16 lastNumber);
+
+// Takes every open period of every register into the End Report behind the last one, as stopped at this moment. One
+// commit a period: an error, or the end of the process, leaves the periods before it closed and numbered and the others
+// open. Without an open period no number is reckoned.
+void CloseOpenPeriods(QDate date, QTime time, qint16 lastNumber);

@@ -245,15 +245,14 @@ void frmTrenutnoStanjeKasa::cmdZakljuci_Click() {
     const QDateTime now = values::Now();
     const QTime time(now.time().hour(), now.time().minute(), now.time().second());
     if (!forms::Ask(u"Do you want to make End Report?\n "_s, u"Do you want to make End Report?"_s)) return;
-    const qint16 number = values::CInt16(lastGrupni_ + 1);
     if (auto* salesScreen = forms::FindForm(u"frmORVAtouch")) salesScreen->Unload();
     endReportDone_ = true;
-    CloseOpenPeriods(now.date(), time, number);
+    CloseOpenPeriods(now.date(), time, lastGrupni_);
 
     ui.lblTipPregleda->setText(u"2"_s);
     ui.lblDatumZakljucka->setText(DateText(now.date()));
     ui.lblVrijemeZakljucka->setText(TimeText(time));
-    ui.lblZakljucakBr->setText(QString::number(number));
+    ui.lblZakljucakBr->setText(QString::number(NextEndReport(lastGrupni_)));
     ShowAsReview();
     ShowTab(0);
     forms::Tell(u"End Report is done.\n "_s, forms::Icon::Warning,

@@ -10,7 +10,6 @@
 #include "sales/frmORVAtouch.h"
 #include "values/Clock.h"
 #include "values/DateText.h"
-#include "values/Numbers.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,9 +20,9 @@ const auto LoginQuery = u"SELECT * FROM Login WHERE LogInNo = '%1'"_s;
 void MakeEndReport() {
     const QDateTime now = values::Now();
     const QTime time(now.time().hour(), now.time().minute(), now.time().second());
-    const qint16 number = values::CInt16(LastEndReportNumber() + 1);
+    const qint16 last = LastEndReportNumber();
     if (auto* screen = forms::FindForm(u"frmORVAtouch")) screen->Unload();
-    CloseOpenPeriods(now.date(), time, number);
+    CloseOpenPeriods(now.date(), time, last);
     forms::Tell(u"End Report is done?"_s, forms::Icon::Warning,
                 u"End Report "_s + values::DateText(now.date()) + u" "_s + values::TimeText(time));
 }
@@ -45,9 +44,17 @@ void ShowSalesScreen() {
 void LogOff() {
     const QString title = mdiORVA::Window().Caption();
     constexpr bool fatal = true;
-    if (TheSettings.PonudiZakljucak && forms::Ask(u"Do you want to make End Report?"_s, u"End Report? YES or NO"_s))
-        forms::Run(MakeEndReport, title);
-    if (forms::Ask(u"Close the program?"_s, u"END OF WORK"_s)) {
+    bool goesOn = true;
+    if (TheSettings.PonudiZakljucak && forms::Ask(u"Do you want to make End Report?"_s, u"End Report? YES or NO"_s)) {
+        goesOn = false;
+        forms::Run(
+            [&] {
+                MakeEndReport();
+                goesOn = true;
+            },
+            title);
+    }
+    if (goesOn && forms::Ask(u"Close the program?"_s, u"END OF WORK"_s)) {
         // A row that somebody cleared away must not keep the program from ending.
         forms::Run(CompleteLogin, title, fatal);
         forms::EndProgram(forms::ProgramExitCode());

@@ -113,7 +113,7 @@ TEST_F(EndReportTest, ANumberBeyondSixteenBitsClosesNothing) {
     drivers::Click(drivers::Get<QWidget>(form, u"cmdZakljuci"));
     EXPECT_EQ(Rows(u"SELECT SalesID FROM Sales WHERE Closed = False"_s).size(), 3);
     Keys(u"{Esc}");
-    EXPECT_FALSE(forms::ProgramIsEnding());
+    EXPECT_TRUE(forms::ProgramIsEnding()) << "the sales screen is off already";
 }
 
 TEST_F(EndReportTest, TakesTheSalesScreenOffThisRegister) {
