@@ -1,10 +1,9 @@
 #pragma once
 
+#include <QPointer>
 #include <QString>
 
-namespace forms {
-class Form;
-}
+#include "forms/Form.h"
 
 // Who logged in: set by a good login, read until the program ends. A change of cashier does not touch it.
 struct Session {
@@ -16,7 +15,7 @@ struct Session {
 
 inline Session TheSession;
 
-// The screen that opened a helper dialog: the dialog reads and writes its controls by name.
-inline forms::Form* CallerForm = nullptr;
+// The screen that opened a helper dialog: the dialog reads and writes its controls by name. Null once it is gone.
+inline QPointer<forms::Form> CallerForm;
 // The help text that frmHelp shows, below the program's folder.
 inline QString HelpFileName;

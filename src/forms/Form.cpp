@@ -145,6 +145,7 @@ void Form::Leave() {
     if (frontForm == this) frontForm = nullptr;
     behaviours_->focused = nullptr;
     hide();
+    Q_EMIT Unloaded();
     if (!qobject_cast<Frame*>(window())) return;
     // The frame would go on pointing at a control of ours that it believes to have the focus.
     if (QWidget* last = window()->focusWidget(); last && isAncestorOf(last)) last->clearFocus();

@@ -138,6 +138,10 @@ protected:
     void showEvent(QShowEvent* event) override;
     bool event(QEvent* event) override;
 
+Q_SIGNALS:
+    // The form has left the screen for good.
+    void Unloaded();
+
 private:
     friend class KeyDispatcher;
     template <typename T, typename... Arguments>

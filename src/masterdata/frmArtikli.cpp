@@ -42,6 +42,8 @@ void frmArtikli::Choose() {
     auto* list = qobject_cast<frmArtikli*>(forms::FindForm(u"frmArtikli"));
     if (!list) list = forms::Open<frmArtikli>();
     list->isChoosing_ = true;
+    // What was chosen would have nowhere to go.
+    connect(CallerForm, &forms::Form::Unloaded, list, &forms::Form::Unload, Qt::UniqueConnection);
     list->Show();
 }
 
@@ -92,7 +94,7 @@ void frmArtikli::lv1_DblClick() {
 void frmArtikli::Activate() {
     if (!isChoosing_) return cmdUpdate_Click();
     const QString code = ui.lv1->SelectedText();
-    forms::SetText(forms::Control(CallerForm, u"txtProdCode"), code);
+    if (CallerForm) forms::SetText(forms::Control(CallerForm, u"txtProdCode"), code);
     Unload();
 }
 

@@ -7,6 +7,7 @@
 #include "core/FillList.h"
 #include "core/Session.h"
 #include "core/dbModule.h"
+#include "forms/Controls.h"
 #include "forms/MsgBox.h"
 #include "masterdata/Module1.h"
 #include "values/Format.h"

@@ -66,7 +66,7 @@ void frmKupci::cmdNew_Click() {
 
 void frmKupci::cmdUpdate_Click() {
     if (ui.lv1->Count() == 0) return;
-    const QScopedValueRollback<forms::Form*> caller(CallerForm, this);
+    const QScopedValueRollback<QPointer<forms::Form>> caller(CallerForm, this);
     frmEditKupac().ShowModal();
 }
 

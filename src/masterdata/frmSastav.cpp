@@ -183,7 +183,7 @@ int frmSastav::FindComponent(const QString& code) const {
 
 void frmSastav::cmdF2izaberi_Click() {
     ui.txtProdCode->clear();
-    const QScopedValueRollback<forms::Form*> caller(CallerForm, this);
+    const QScopedValueRollback<QPointer<forms::Form>> caller(CallerForm, this);
     frmViewer().ShowModal();
 }
 

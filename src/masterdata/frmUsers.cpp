@@ -43,7 +43,7 @@ void frmUsers::ShowNew() {
 }
 
 void frmUsers::ShowEdit() {
-    const QScopedValueRollback<forms::Form*> caller(CallerForm, this);
+    const QScopedValueRollback<QPointer<forms::Form>> caller(CallerForm, this);
     frmEditUser().ShowModal();
 }
 

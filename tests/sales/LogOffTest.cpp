@@ -59,9 +59,24 @@ TEST_F(LogOffTest, TheEndReportClosesEveryPeriodAndTheNextBegins) {
     EXPECT_EQ(Rows(u"SELECT SalesID FROM Invoices"_s), (QStringList{u"1"_s, u"2"_s}));
 }
 
+TEST_F(LogOffTest, TheChooserGoesWithTheScreenThatItChoosesFor) {
+    LogIn();
+    Keys(u"{F2}");
+    ASSERT_TRUE(forms::FindForm(u"frmArtikli"));
+    mdiORVA::Window().activateWindow();
+    Boxes boxes;
+    boxes.Expect(Report, QMessageBox::Yes);
+    boxes.Expect(u"End Report is done?"_s);
+    boxes.Expect(Close, QMessageBox::No);
+    drivers::Click(drivers::Get<QWidget>(Sales(), u"cmdLogOff"));
+    EXPECT_FALSE(forms::FindForm(u"frmArtikli"));
+    Keys(u"100{Enter}");
+    EXPECT_EQ(drivers::List(Sales(), u"lv1").size(), 1u);
+}
+
 TEST_F(LogOffTest, AnEndReportWithoutOpenPeriodChangesNothing) {
     LogIn();
-    Run(u"UPDATE Sales SET Closed = True"_s);
+    Run(u"UPDATE Sales SET Closed = True, Grupni = 32767"_s);
     {
         Boxes boxes;
         boxes.Expect(Report, QMessageBox::Yes);
@@ -69,7 +84,7 @@ TEST_F(LogOffTest, AnEndReportWithoutOpenPeriodChangesNothing) {
         boxes.Expect(Close, QMessageBox::Yes);
         Keys(u"{F12}");
     }
-    EXPECT_EQ(Rows(u"SELECT Closed, Grupni FROM Sales"_s), QStringList{u"True|"_s});
+    EXPECT_EQ(Rows(u"SELECT Closed, Grupni FROM Sales"_s), QStringList{u"True|32767"_s});
 }
 
 TEST_F(LogOffTest, AClearedLogDoesNotKeepTheProgramFromEnding) {
@@ -87,11 +102,12 @@ TEST_F(LogOffTest, AClearedLogDoesNotKeepTheProgramFromEnding) {
 TEST_F(LogOffTest, AFailedEndReportLeavesAScreenToWorkOn) {
     LogIn();
     Run(u"UPDATE Sales SET Grupni = 32767"_s);
+    Keys(u"200{Enter}1{Enter}");
     Boxes boxes;
     boxes.Expect(Report, QMessageBox::Yes);
     boxes.ExpectBeginning(u"6"_s);
-    boxes.Expect(Close, QMessageBox::No);
     Keys(u"{F12}");
+    EXPECT_TRUE(drivers::List(Sales(), u"lv1").empty()) << "the screen went before the periods were closed";
     Keys(u"100{Enter}{F5}");
     EXPECT_EQ(Rows(u"SELECT InvoiceID FROM Invoices"_s), QStringList{u"1"_s});
 }
