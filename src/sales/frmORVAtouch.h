@@ -56,6 +56,7 @@ private:
     void cmdF2izaberi_Click();
     bool FindProduct(const QString& code);
     void ShowProduct();
+    void SetQuantity(const QString& text);
     void ShowAnew(const QString& code);
     void EmptyProduct();
     void ToggleAddButton();

@@ -44,8 +44,13 @@ void frmORVAtouch::ShowProduct() {
     ui.txtUnitPrice->setText(Format(rsProduct_[u"UnitPrice"], u"0.00"));
     ui.txtUnit->setText(rsProduct_[u"Unit"].TextOrEmpty());
     ui.txtTaxID->setText(rsProduct_[u"TaxID"].TextOrEmpty());
-    ui.txtQuantity->setText(u"1"_s);
-    txtQuantity_Change();
+    SetQuantity(u"1"_s);
+}
+
+// Amount and tax follow from the price and the rate that stand there now, also when the quantity stays what it was.
+void frmORVAtouch::SetQuantity(const QString& text) {
+    if (ui.txtQuantity->text() == text) return txtQuantity_Change();
+    ui.txtQuantity->setText(text);
 }
 
 // The product as it is now, also when its code stands in the box already, which would be no change.

@@ -101,7 +101,7 @@ void frmORVAtouch::ChangeLineQuantity() {
     if (row < 0) return;
     ShowAnew(ui.lv1->Text(row, Code));
     ui.txtTaxPercent->setText(ui.lv1->Text(row, TaxPercent));
-    ui.txtQuantity->setText(ui.lv1->Text(row, Quantity));
+    SetQuantity(ui.lv1->Text(row, Quantity));
     ui.lv1->Remove(row);
     RecomputeInvoice();
     ui.txtPosDisplay->clear();
