@@ -2,6 +2,7 @@
 
 #include "config/RegisterNumber.h"
 #include "core/dbModule.h"
+#include "forms/Controls.h"
 
 using namespace Qt::StringLiterals;
 
@@ -41,7 +42,7 @@ void frmMreza::Form_Load() {
 
 void frmMreza::cmdOK_Click() {
     const auto kasa = RegisterNumber(ui.txtKasa->text(), Caption());
-    if (!kasa) return ui.txtKasa->setFocus();
+    if (!kasa) return forms::GoTo(ui.txtKasa);
     rsOptions_.Edit();
     rsOptions_[u"ServerName"] = ui.txtServerName->text();
     rsOptions_[u"Kasa"] = *kasa;

@@ -5,6 +5,7 @@
 #include "config/RegisterNumber.h"
 #include "config/frmOptions.h"
 #include "core/Settings.h"
+#include "forms/Controls.h"
 #include "forms/MsgBox.h"
 
 using namespace Qt::StringLiterals;
@@ -13,7 +14,7 @@ void frmOptions::cmdOK_Click() {
     const auto kasa = RegisterNumber(ui.txtKasa->text(), Caption());
     if (!kasa) {
         ui.SSTab1->setCurrentWidget(ui.pageNetwork);
-        ui.txtKasa->setFocus();
+        forms::GoTo(ui.txtKasa);
         return;
     }
     rsOptions_.Edit();

@@ -171,7 +171,8 @@ bool Form::Behaviours::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool Form::Behaviours::FocusArrives(QWidget* box, Control& control, const QFocusEvent& event) {
-    if (!control.highlight) return false;
+    // The highlight belongs to coming to a control, not to a window that comes back: who was typing goes on typing.
+    if (!control.highlight || box == focused) return false;
     if (*control.highlight == OnFocus::SelectAll) {
         SelectWhole(box);
         control.clickedInto = event.reason() == Qt::MouseFocusReason;

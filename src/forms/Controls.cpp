@@ -76,6 +76,11 @@ void CaretToEnd(QLineEdit* box) {
     box->end(false);
 }
 
+void GoTo(QWidget* box) {
+    box->setFocus();
+    if (auto* line = qobject_cast<QLineEdit*>(box)) line->selectAll();
+}
+
 bool LoadPicture(QWidget* control, const QString& path) {
     const QPixmap picture = ReadPicture(path);
     if (picture.isNull()) return false;

@@ -21,6 +21,8 @@ void SendTab(QWidget* from);
 // {home}+{end}: the whole text is selected. {end}: the caret goes to the end.
 void SelectAll(QLineEdit* box);
 void CaretToEnd(QLineEdit* box);
+// The focus goes to a box whose text is to be typed anew: it is selected even if the focus was there all along.
+void GoTo(QWidget* box);
 
 // The control's picture from a file; false (and nothing changes) when the file is missing or is no picture.
 bool LoadPicture(QWidget* control, const QString& path);

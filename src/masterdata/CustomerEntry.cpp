@@ -1,5 +1,6 @@
 #include "masterdata/CustomerEntry.h"
 
+#include "forms/Controls.h"
 #include "values/Format.h"
 
 using namespace Qt::StringLiterals;
@@ -35,7 +36,7 @@ void CustomerEntry::txtRabatMarza_LostFocus() {
 }
 
 void CustomerEntry::cmdUpdate_Click() {
-    if (!AllFilled({ui.txtProdCode, ui.txtDescription})) return ui.txtProdCode->setFocus();
+    if (!AllFilled({ui.txtProdCode, ui.txtDescription})) return forms::GoTo(ui.txtProdCode);
     const auto store = [this] {
         BeginRow();
         StoreCustomer();

@@ -33,7 +33,7 @@ bool EntryForm::Trapped(const std::function<void()>& action, const QString& dupl
     } catch (const values::Error& error) {
         if (error.Number() == store::DuplicateKey) {
             forms::Tell(duplicate);
-            if (box) box->setFocus();
+            if (box) forms::GoTo(box);
         } else {
             forms::Inform(forms::ErrorText(error), Caption());
         }

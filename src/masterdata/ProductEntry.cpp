@@ -114,10 +114,10 @@ void ProductEntry::cmdDelPic_Click() {
 
 void ProductEntry::cmdSave_Click() {
     if (!AllFilled({ui.txtProdCode, ui.txtDescription, ui.txtQuantity, ui.txtUnit, ui.txtUnitPrice, ui.cboTax}))
-        return ui.txtProdCode->setFocus();
+        return forms::GoTo(ui.txtProdCode);
     if (!values::IsNumeric(ui.txtUnitPrice->text())) {
         forms::Inform(u"Price must be numeric."_s, Caption());
-        return ui.txtUnitPrice->setFocus();
+        return forms::GoTo(ui.txtUnitPrice);
     }
     const auto duplicate = u"Product with this code-barcode already exists.Change ProductID!"_s;
     if (Trapped([this] { StoreProduct(); }, duplicate, ui.txtProdCode)) ProductStored();

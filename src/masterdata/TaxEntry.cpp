@@ -1,6 +1,7 @@
 #include "masterdata/TaxEntry.h"
 
 #include "core/dbModule.h"
+#include "forms/Controls.h"
 #include "forms/MsgBox.h"
 #include "values/Format.h"
 #include "values/Numbers.h"
@@ -26,7 +27,7 @@ void TaxEntry::cmdAdd_Click() {
     if (!AllFilled({ui.txtTaxID, ui.txtPercent, ui.txtName})) return;
     if (!values::IsNumeric(ui.txtPercent->text())) {
         forms::Inform(u"Tax rate must be numeric."_s, Caption());
-        ui.txtPercent->setFocus();
+        forms::GoTo(ui.txtPercent);
         return;
     }
     if (Trapped([this] { Save(); }, duplicate_, ui.txtTaxID)) Unload();

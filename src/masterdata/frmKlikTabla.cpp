@@ -110,7 +110,7 @@ void frmKlikTabla::FillClickTableList() {
 
 // The screen is the caller for as long as the loaders run: beside it a list of products may be choosing for the till.
 void frmKlikTabla::LoadTable() {
-    const QScopedValueRollback<forms::Form*> caller(CallerForm, this);
+    const QScopedValueRollback<QPointer<forms::Form>> caller(CallerForm, this);
     LoadTabCaptions(this);
     LoadClickTable(this);
 }
@@ -126,7 +126,7 @@ void frmKlikTabla::cmdKarticeKlikTable_Click() {
     const QString name = TrimNull(ui.txtIzmjeni->text());
     if (name.isEmpty()) {
         forms::Inform(u"Tab name can't be empty."_s, Caption());
-        ui.txtIzmjeni->setFocus();
+        forms::GoTo(ui.txtIzmjeni);
         return;
     }
     const int tab = ui.clickTable->Tabs()->currentIndex();

@@ -1,5 +1,6 @@
 #include "receipts/FiscalEntry.h"
 
+#include "forms/Controls.h"
 #include "forms/MsgBox.h"
 #include "receipts/FiscalFile.h"
 #include "values/Numbers.h"
@@ -21,7 +22,7 @@ FiscalEntry::FiscalEntry(const Words& words) : notNumeric_(words.notNumeric), co
 void FiscalEntry::cmdClose_Click() {
     if (!values::IsNumeric(ui.txtPercent->text())) {
         forms::Inform(notNumeric_, Caption());
-        ui.txtPercent->setFocus();
+        forms::GoTo(ui.txtPercent);
         return;
     }
     AppendFiscalRecords({Record(ui.txtPercent->text())});

@@ -132,6 +132,24 @@ TEST_F(ItemEntryTest, ALoneMinusWaitsForItsNumber) {
     EXPECT_EQ(Shown(u"txtQuantity"), u"-");
     Keys(u"-");
     EXPECT_EQ(Shown(u"txtQuantity"), u"") << "two of them are no number";
+    drivers::Type(Sales(), u"txtProdCode", u"200{Enter}-");
+    Boxes boxes;
+    boxes.ExpectBeginning(u"13"_s);
+    Keys(u"{Enter}2{Enter}");
+    EXPECT_EQ(Line()[3], u"-2") << "the sign stays while the box is up";
+}
+
+TEST_F(ItemEntryTest, WhatComesUpInBetweenLeavesCaretAndSelectionAlone) {
+    LogIn();
+    Boxes boxes;
+    boxes.Expect(u"Do you want cancel the invoice?"_s, QMessageBox::No);
+    boxes.ExpectForm(u"frmTrakaRacuna"_s, [](QWidget&) { Keys(u"{Esc}"); });
+    Keys(u"1{Esc}0{F8}0");
+    EXPECT_EQ(Shown(u"txtDescription"), u"Cola");
+    boxes.Expect(u"Do you want to make End Report?"_s, QMessageBox::No);
+    boxes.Expect(u"Close the program?"_s, QMessageBox::No);
+    Keys(u"{Tab}12{F12}5{Enter}");
+    EXPECT_EQ(Line()[3], u"125");
 }
 
 TEST_F(ItemEntryTest, AnOverflowingQuantityIsIllogical) {
@@ -160,6 +178,20 @@ TEST_F(ItemEntryTest, AMergeTakesThePriceOfNow) {
     Keys(u"100{Enter}");
     EXPECT_EQ(Line()[2], u"1.50") << "the price column keeps what it shows";
     EXPECT_EQ(Line()[4], u"4.00");
+}
+
+TEST_F(ItemEntryTest, ALineTakenBackKeepsItsRateAndTheTaxOfIt) {
+    LogIn();
+    for (const auto& quantity : {u"1"_s, u"2"_s}) {
+        drivers::Type(Sales(), u"txtProdCode", u"200{Enter}"_s + quantity + u"{Enter}"_s);
+        Run(u"UPDATE Products SET TaxPercent = 10 WHERE ProdCode = '200'"_s);
+        const QStringList before = Line();
+        drivers::ClickRow(Lines(), 0, Qt::RightButton);
+        Keys(u"{Enter}");
+        EXPECT_EQ(Line(), before);
+        Run(u"UPDATE Products SET TaxPercent = 17 WHERE ProdCode = '200'"_s);
+        drivers::ClickRow(Lines(), 0);
+    }
 }
 
 TEST_F(ItemEntryTest, AClickDeletesAndTheRightButtonTakesBack) {
