@@ -4,10 +4,13 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QTest>
+#include <QThread>
 #include <QTimer>
 
 #include "SampleForm.h"
 #include "forms/FileDialog.h"
+#include "forms/LongWork.h"
 #include "forms/MsgBox.h"
 #include "support/ScreenTest.h"
 
@@ -152,6 +155,59 @@ TEST_F(ProgramTest, FileDialogsAnswerWithAPath) {
     boxes.ExpectFile(folder.filePath(u"gone.bmp"_s));
     EXPECT_EQ(forms::AskOpenName(nullptr, u"Open"_s, u"Pictures (*.bmp *.gif)"_s), folder.filePath(u"gone.bmp"_s))
         << "the screens tell what is missing";
+}
+
+// Waits until somebody leaves, and acts once the notice lets events in, with a look at it between two acts.
+void WaitFor(const QString& text, QList<std::function<void()>> acts) {
+    forms::LongWork wait(text);
+    std::function<void()> act = [&] {
+        acts.takeFirst()();
+        if (!acts.isEmpty()) QTimer::singleShot(100, qApp, act);
+    };
+    QTimer::singleShot(0, qApp, act);
+    while (wait.GoesOn(text + u" /"_s + QString(200, u'x'))) QThread::msleep(5);
+}
+
+TEST_F(ProgramTest, AWaitSaysWhatItWaitsForAndEscLeavesTheInnermost) {
+    frmSample below;
+    below.Show();
+    QPointer<frmSample> form = forms::Open<frmSample>();
+    form->onKey = [&](QKeyEvent& key) { return form->log << QKeySequence(key.key()).toString(), false; };
+    form->Show();
+    Settle();
+    form->txtCode->setFocus();
+    form->log.clear();
+    const auto notice = [](QWidget& over) { return over.findChild<QFrame*>(u"panelLongWork"_s); };
+    const auto press = [](Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); };
+    Boxes boxes;
+    boxes.Expect(u"now?"_s).Typing(u"{Esc}"_s);
+    const auto click = [&](QWidget* at) {
+        QTest::mouseClick(form->windowHandle(), Qt::LeftButton, {}, at->mapTo(form, at->rect().center()));
+    };
+    const auto within = [&] {
+        WaitFor(u"the inner one"_s, {[&] { press(Qt::Key_Escape); }});
+        EXPECT_FALSE(notice(*form)) << "the outer one shows itself again at its next look";
+    };
+    const auto small = [&] {
+        ASSERT_TRUE(notice(*form));
+        EXPECT_TRUE(form->rect().contains(notice(*form)->geometry()));
+        EXPECT_TRUE(notice(*form)->findChild<QLabel*>()->text().startsWith(u"the outer one /"));
+        press(Qt::Key_F5);
+        click(form->txtAmount);
+        EXPECT_EQ(QApplication::focusWidget(), form->txtCode);
+    };
+    const auto leave = [&] {
+        click(notice(*form)->findChild<QPushButton*>());
+        QTimer::singleShot(0, qApp, [&] { press(Qt::Key_F5); });
+    };
+    WaitFor(u"the outer one"_s, {within, small, [] { forms::Tell(u"now?"_s); }, leave});
+    EXPECT_FALSE(notice(*form));
+    Settle();
+    EXPECT_THAT(form->log, ElementsAre());
+    WaitFor(u"another"_s, {[&] { delete form; }, [&] { EXPECT_TRUE(notice(below)); },
+                           [&] { QTest::keyClick(&below, Qt::Key_Escape); }});
+    EXPECT_THAT(below.log, testing::Not(testing::Contains(u"unload"_s)));
+    EXPECT_FALSE(QApplication::overrideCursor());
 }
 
 }  // namespace
