@@ -103,7 +103,7 @@ private:
         lines_[u"ProdDescription"] = goods.name;
         lines_[u"UnitPrice"] = Money::FromUnits(goods.price);
         lines_[u"QtySold"] = Money::FromWhole(1);
-        TakeOffStock(goods.code, Money::FromWhole(1));
+        TakeOffStock(goods.code, Money::FromWhole(1), [](const values::Error&) {});
         lines_[u"Amount"] = Money::FromUnits(goods.price);
         lines_[u"TaxPercent"] = Money::FromUnits(goods.TaxPercent());
         lines_[u"TaxAmount"] = Money::FromUnits(goods.TaxIn(goods.price));

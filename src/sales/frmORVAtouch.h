@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/Form.h"
+#include "forms/LongWork.h"
 #include "receipts/InvoiceText.h"
 #include "store/Recordset.h"
 #include "ui_frmORVAtouch.h"
@@ -79,7 +80,8 @@ private:
     void PostInvoice();
     void RaiseRunningTotal();
     void StoreInvoice();
-    void StoreLine(int row);
+    void StoreLine(int row, forms::LongWork& wait);
+    void WaitForStock(int row, forms::LongWork& wait, const values::Error& why) const;
     InvoiceText TakeInvoiceText() const;
 
     Ui::frmORVAtouch ui;

@@ -21,10 +21,12 @@ void frmORVAtouch::PostInvoice() {
     RacunOrNo = Next(RacunOrNo);
     RaiseRunningTotal();
     {
+        forms::LongWork wait(u"Waiting for another register, which is writing to the store."_s, this);
+        const store::Patience patience(MainStore(), [&wait] { return wait.GoesOn(); });
         // All of it is on the disk before the paper moves.
         store::Burst burst(MainStore());
         StoreInvoice();
-        for (int row = 0; row < ui.lv1->Count(); ++row) StoreLine(row);
+        for (int row = 0; row < ui.lv1->Count(); ++row) StoreLine(row, wait);
         rsSales_.Edit();
         UpdateSalesPeriod();
         rsSales_.Update();
@@ -73,7 +75,7 @@ void frmORVAtouch::StoreInvoice() {
     rsInvoices_.Update();
 }
 
-void frmORVAtouch::StoreLine(int row) {
+void frmORVAtouch::StoreLine(int row, forms::LongWork& wait) {
     const auto text = [&](int column) { return ui.lv1->Text(row, column); };
     rsSalesDetails_.AddNew();
     rsSalesDetails_[u"Kas"] = 0;
@@ -82,11 +84,21 @@ void frmORVAtouch::StoreLine(int row) {
     rsSalesDetails_[u"ProdDescription"] = text(1);
     rsSalesDetails_[u"UnitPrice"] = CMoney(text(2));
     rsSalesDetails_[u"QtySold"] = CMoney(text(3));
-    TakeOffStock(text(0), CMoney(text(3)));
+    TakeOffStock(text(0), CMoney(text(3)), [&](const values::Error& why) { WaitForStock(row, wait, why); });
     rsSalesDetails_[u"Amount"] = CMoney(text(4));
     rsSalesDetails_[u"TaxPercent"] = CMoney(text(5));
     rsSalesDetails_[u"TaxAmount"] = CMoney(text(6));
     rsSalesDetails_[u"Unit"] = text(7);
     rsSalesDetails_[u"TaxID"] = text(8);
     rsSalesDetails_.Update();
+}
+
+// A sale must not lose its stock for a lock that goes away, nor hold the cashier for an error that stays.
+void frmORVAtouch::WaitForStock(int row, forms::LongWork& wait, const values::Error& why) const {
+    const QString goods = ui.lv1->Text(row, 1);
+    if (wait.GoesOn(u"The stock of %1 can't be written yet. %2"_s.arg(goods, why.Description()))) return;
+    const QString stays =
+        u"Invoice %1 is stored with %2 of its %3 lines. These stay, and so does the stock taken off."_s;
+    throw store::StoreError(
+        why.Number(), why.Description() + u'\n' + stays.arg(ui.txtInvoiceNumber->text()).arg(row).arg(ui.lv1->Count()));
 }

@@ -98,6 +98,14 @@ Watch::~Watch() {
     database_.GetEngine().AskWhileWorking({});
 }
 
+Patience::Patience(Database& database, std::function<bool()> goesOn) : database_(database) {
+    database_.GetEngine().AskWhileWaiting(std::move(goesOn));
+}
+
+Patience::~Patience() {
+    database_.GetEngine().AskWhileWaiting({});
+}
+
 Burst::Burst(Database& database) : database_(database) {
     database_.engine_->BeginBurst();
 }

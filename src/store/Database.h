@@ -78,6 +78,19 @@ private:
     Database& database_;
 };
 
+// While it lives, `goesOn` is asked every few milliseconds for which another writer of the store is waited for; false
+// gives up at once, with error 3218. The function leaves the store alone.
+class Patience {
+public:
+    Patience(Database& database, std::function<bool()> goesOn);
+    ~Patience();
+    Patience(const Patience&) = delete;
+    Patience& operator=(const Patience&) = delete;
+
+private:
+    Database& database_;
+};
+
 // While it lives, commits are visible and kept in order at once, but reach the disk together: at the latest when End()
 // returns. A killed process loses nothing of what was acknowledged; a power cut in the middle keeps a prefix of it.
 class Burst {

@@ -66,6 +66,8 @@ public:
 
     // Asked every few milliseconds of a statement's work; false stops it with 3059. An empty function: nobody asks.
     virtual void AskWhileWorking(std::function<bool()> goesOn) = 0;
+    // Asked every few milliseconds while another writer is waited for; false gives up at once, with 3218.
+    virtual void AskWhileWaiting(std::function<bool()> goesOn) = 0;
 
     virtual Stamp Now() = 0;
     virtual bool StillAt(const Stamp& stamp) = 0;

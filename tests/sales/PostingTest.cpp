@@ -1,3 +1,11 @@
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QTest>
+#include <QTimer>
+
 #include "core/Session.h"
 #include "support/Till.h"
 
@@ -81,6 +89,61 @@ TEST_F(PostingTest, AProductDeletedMeanwhileStopsThePostingWithItsError) {
     Keys(u"{F5}");
     EXPECT_EQ(Rows(u"SELECT InvoiceID FROM Invoices"_s), (QStringList{u"1"_s, u"1"_s}));
     EXPECT_EQ(Shown(u"txtInvoiceNumber"), u"3");
+}
+
+TEST_F(PostingTest, AStockThatCannotBeWrittenIsWaitedForUntilItCanOrTheCashierLeaves) {
+    LogIn();
+    SQLite::Database raw(Path(u"ORVA.pos"_s).toStdString(), SQLite::OPEN_READWRITE);
+    const auto refuse = [&] {
+        raw.exec(
+            "CREATE TRIGGER stop BEFORE UPDATE ON Products WHEN old.ProdCode = '300' BEGIN "
+            "SELECT raise(ABORT, 'no room'); END");
+    };
+    const auto onNotice = [this](std::function<void(QWidget*)> act) {
+        QTimer::singleShot(1100, qApp, [this, act] {
+            auto* notice = Sales().findChild<QLabel*>(u"lblWaitsFor"_s);
+            ASSERT_TRUE(notice);
+            EXPECT_TRUE(notice->text().startsWith(u"The stock of Novine can't be written yet."))
+                << notice->text().toStdString();
+            drivers::Grab(Sales(), u"frmORVAtouch-waiting"_s);
+            act(QApplication::focusWidget());
+        });
+    };
+    refuse();
+    Keys(u"100{Enter}300{Enter}");
+    onNotice([&](QWidget*) { raw.exec("DROP TRIGGER stop"); });
+    Keys(u"{F5}");
+    EXPECT_EQ(Shown(u"txtInvoiceNumber"), u"2");
+    EXPECT_EQ(Stock(u"300"_s), u"9");
+
+    refuse();
+    Keys(u"100{Enter}300{Enter}");
+    Boxes boxes;
+    boxes.Expect(
+        u"3200Other rows of the store refer to this one, running a query (no room).\n"
+        u"Invoice 2 is stored with 1 of its 2 lines. These stay, and so does the stock taken off."_s);
+    onNotice([](QWidget* focus) { QTest::keyClick(focus, Qt::Key_Escape); });
+    Keys(u"{F5}");
+    EXPECT_EQ(Shown(u"cmdNew"), u"F5-Print");
+    EXPECT_EQ(Rows(u"SELECT InvoiceID, ProdCode FROM SalesDetails"_s),
+              (QStringList{u"1|100"_s, u"1|300"_s, u"2|100"_s}));
+    EXPECT_EQ(Stock(u"100"_s) + u' ' + Stock(u"300"_s), u"18 9");
+}
+
+TEST_F(PostingTest, AnotherWriterIsWaitedForAndCanBeLeft) {
+    LogIn();
+    Keys(u"100{Enter}");
+    SQLite::Database other(Path(u"ORVA.pos"_s).toStdString(), SQLite::OPEN_READWRITE);
+    other.exec("BEGIN IMMEDIATE");
+    Boxes boxes;
+    boxes.ExpectBeginning(u"3218"_s);
+    QTimer::singleShot(1100, qApp, [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape); });
+    QElapsedTimer time;
+    time.start();
+    Keys(u"{F5}");
+    EXPECT_LT(time.elapsed(), 2500);
+    other.exec("ROLLBACK");
+    EXPECT_TRUE(Rows(u"SELECT InvoiceID FROM Invoices"_s).isEmpty());
 }
 
 TEST_F(PostingTest, TheReceiptLiesInThePortOnTheRibbonAndInTheFiscalFile) {

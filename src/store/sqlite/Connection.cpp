@@ -39,6 +39,7 @@ int Connection::WaitForOthers(void* self, int tries) {
     const auto now = std::chrono::steady_clock::now();
     if (tries == 0) connection.waitingSince_ = now;
     if (now - connection.waitingSince_ >= connection.patience_) return 0;
+    if (connection.goesOn_ && !connection.goesOn_()) return 0;
     const auto unevenness = std::chrono::microseconds(now.time_since_epoch().count() / 1000 % 1000);
     std::this_thread::sleep_for(std::chrono::milliseconds(std::min(tries, longestNap)) + unevenness);
     return 1;

@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <chrono>
+#include <functional>
 #include <memory>
 
 namespace store::sqlite {
@@ -24,6 +25,8 @@ public:
     SQLite::Database& Database() { return database_; }
     sqlite3* Handle() { return database_.getHandle(); }
     void SetPatience(Patience patience) { patience_ = patience; }
+    // Asked while others are waited for; false ends the patience. An empty function: nobody asks.
+    void AskWhileWaiting(std::function<bool()> goesOn) { goesOn_ = std::move(goesOn); }
     // Runs a statement without rows; a StoreError when it fails.
     void Run(const char* sql);
     // How much of the file is kept in memory, and how much is sorted at once; as it was when that is refused.
@@ -35,6 +38,7 @@ private:
     SQLite::Database database_;
     Patience patience_;
     std::chrono::steady_clock::time_point waitingSince_;
+    std::function<bool()> goesOn_;
 };
 
 }  // namespace store::sqlite

@@ -38,6 +38,7 @@ public:
     void EndBurst() override;
 
     void AskWhileWorking(std::function<bool()> goesOn) override;
+    void AskWhileWaiting(std::function<bool()> goesOn) override;
 
     Stamp Now() override;
     bool StillAt(const Stamp& stamp) override;

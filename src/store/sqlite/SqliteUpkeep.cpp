@@ -57,6 +57,10 @@ void SqliteEngine::AskWhileWorking(std::function<bool()> goesOn) {
     connection_->UseMemory(goesOn_ ? MemoryWhileAsked : UsualMemory);
 }
 
+void SqliteEngine::AskWhileWaiting(std::function<bool()> goesOn) {
+    connection_->AskWhileWaiting(std::move(goesOn));
+}
+
 QStringList SqliteEngine::CheckIntegrity() {
     return FaultsOf(*connection_);
 }
