@@ -11,7 +11,9 @@ namespace store {
 
 class Engine;
 
-// One open store. Several processes may hold one store open at once; each writes one commit an Update.
+// One open store. Several processes may hold one store open at once; each writes one commit an Update. When its files
+// are deleted, moved or replaced while it is open, the next write and every later one throws FilesLost, and what was
+// stored until then is saved as a store of its own beside it (ORVA-saved-YYYYMMDD-hhmmss.pos).
 class Database {
 public:
     // Opens an existing store for shared reading and writing, carrying an older one forward to the schema's version.

@@ -47,7 +47,8 @@ public:
     // The highest identity of a table, 0 when it is empty.
     virtual qint64 LastRow(const Table& table) = 0;
 
-    // Writes; each is a commit of its own outside Begin and Commit. Fields come in the order of the columns.
+    // Writes; each is a commit of its own outside Begin and Commit. Fields come in the order of the columns. When the
+    // store's files are no longer those in the folder, every write, Begin, Commit and EndBurst throws FilesLost.
     virtual qint64 Insert(const Table& table, std::span<const FieldChange> fields) = 0;
     // False when the row is gone, or when a field is no longer exactly as expected.
     virtual bool Change(const Table& table, qint64 row, std::span<const FieldChange> fields,

@@ -37,6 +37,16 @@ enum ErrorNumber : int {
 class StoreError : public values::Error {
 public:
     using values::Error::Error;
+    // Trying again is in vain, for as long as the store stays open.
+    virtual bool NeverHeals() const { return false; }
+};
+
+// The files of an open store were deleted, moved away or replaced. What the connection had stored is saved beside the
+// store when that is possible, and the description names the copy; nothing is written any more.
+class FilesLost : public StoreError {
+public:
+    explicit FilesLost(QString description) : StoreError(DiskError, std::move(description)) {}
+    bool NeverHeals() const override { return true; }
 };
 
 // A place in a query text, in UTF-16 units from its start.

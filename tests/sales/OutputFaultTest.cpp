@@ -1,4 +1,6 @@
+#include <QDir>
 #include <QFile>
+#include <QPushButton>
 #include <QTcpServer>
 
 #include "support/Till.h"
@@ -72,6 +74,31 @@ TEST_F(OutputFaultTest, ACodeTooLongForTheFirstLayoutEndsTheReceipt) {
     }
     EXPECT_EQ(forms::ProgramExitCode(), 1);
     EXPECT_EQ(Rows(u"SELECT InvoiceID FROM Invoices"_s), QStringList{u"1"_s});
+}
+
+// Somebody puts a backup in the place of the store while the till is open, or clears its log away.
+TEST_F(OutputFaultTest, AStoreThatIsTakenAwayIsSavedAndTakesNoMore) {
+    LogIn();
+    Keys(u"100{Enter}{F5}");
+    for (const QString& ending : {u"-wal"_s, u"-shm"_s}) ASSERT_TRUE(QFile::remove(Path(u"ORVA.pos"_s + ending)));
+    const QString sentence = u"3043The store "_s + Path(u"ORVA.pos"_s);
+    {
+        Boxes boxes;
+        for (int i = 0; i < 2; ++i) boxes.ExpectBeginning(sentence).WithIcon(QMessageBox::Information);
+        Keys(u"100{Enter}{F5}{F5}");
+        EXPECT_EQ(drivers::Get<QPushButton>(Sales(), u"cmdNew")->text(), u"F5-Print"_s);
+
+        boxes.Expect(u"Do you want to make End Report?"_s, QMessageBox::Yes);
+        boxes.ExpectBeginning(sentence);
+        boxes.Expect(u"Close the program?"_s, QMessageBox::Yes);
+        boxes.ExpectBeginning(sentence).WithIcon(QMessageBox::Critical);
+        Keys(u"{F12}");
+    }
+    EXPECT_EQ(forms::ProgramExitCode(), 1);
+    const QStringList saved = QDir(folder.path()).entryList({u"ORVA-saved-*.pos"_s});
+    ASSERT_EQ(saved.size(), 1);
+    const auto copy = store::Database::Open(Path(saved.first()), store::MainSchema());
+    EXPECT_EQ(copy->OpenRecordset(u"SELECT * FROM SalesDetails"_s)[u"QtySold"].Text(), u"1"_s);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <QDir>
 #include <QFile>
 #include <csignal>
 #include <thread>
@@ -232,6 +233,138 @@ TEST_F(DurabilityTest, ABackupReplacesNoFileAndLeavesNoneWhenItFails) {
     Database::Batch batch(*store);
     EXPECT_EQ(ErrorOf([&] { store->BackupTo(PathOf(u"copy.pos"_s)); }), NotSupported);
     EXPECT_FALSE(QFile::exists(PathOf(u"copy.pos"_s)));
+}
+
+// What somebody does to the files in the folder while a till is open.
+class LostFilesTest : public StoreTest {
+protected:
+    enum class Deed { DeletesLog, DeletesIndex, DeletesAll, MovesAway, RestoresABackup, RenamesTheFolder };
+
+    void Do(Deed deed) const {
+        const auto remove = [&](const QString& ending) { ASSERT_TRUE(QFile::remove(StorePath() + ending)); };
+        const auto moveAway = [&] {
+            for (const QString& ending : {u""_s, u"-wal"_s, u"-shm"_s})
+                ASSERT_TRUE(QFile::rename(StorePath() + ending, PathOf(u"old/ORVA.pos"_s + ending)));
+        };
+        switch (deed) {
+            case Deed::DeletesLog:
+                return remove(u"-wal"_s);
+            case Deed::DeletesIndex:
+                return remove(u"-shm"_s);
+            case Deed::DeletesAll:
+                for (const QString& ending : {u""_s, u"-wal"_s, u"-shm"_s}) remove(ending);
+                return;
+            case Deed::MovesAway:
+                return moveAway();
+            case Deed::RestoresABackup:
+                moveAway();
+                ASSERT_TRUE(QFile::copy(PathOf(u"backup.pos"_s), StorePath()));
+                return;
+            case Deed::RenamesTheFolder:
+                ASSERT_TRUE(QDir().rename(folder_.path(), folder_.path() + u"-renamed"_s));
+        }
+    }
+    QStringList Saved() const { return QDir(folder_.path()).entryList({u"ORVA-saved-*.pos"_s}); }
+};
+
+TEST_F(LostFilesTest, ALostStoreTakesNoMoreAndIsSavedBesideItsPlace) {
+    const auto stored = QStringList{u"A"_s, u"B"_s};
+    for (const Deed deed :
+         {Deed::DeletesLog, Deed::DeletesIndex, Deed::DeletesAll, Deed::MovesAway, Deed::RestoresABackup}) {
+        SCOPED_TRACE(static_cast<int>(deed));
+        QDir(folder_.path()).removeRecursively();
+        QDir().mkpath(PathOf(u"old"_s));
+        store = Database::Create(StorePath(), MainSchema());
+        store->BackupTo(PathOf(u"backup.pos"_s));
+        AddTaxes(stored);
+        ASSERT_NO_FATAL_FAILURE(Do(deed));
+
+        const auto isRefused = [](const auto& write) {
+            try {
+                write();
+            } catch (const StoreError& error) {
+                EXPECT_TRUE(error.NeverHeals() && error.Number() == DiskError);
+                EXPECT_TRUE(error.Description().contains(u"ORVA-saved-"_s)) << error.what();
+                return true;
+            }
+            return false;
+        };
+        EXPECT_TRUE(isRefused([&] { AddTaxes({u"C"_s}); }));
+        EXPECT_TRUE(isRefused([&] { AddTaxes({u"D"_s}); }));
+        EXPECT_TRUE(isRefused([&] { store->Execute(u"DELETE * FROM Tax"_s); }));
+        EXPECT_TRUE(isRefused([&] { Database::Batch batch(*store); }));
+        EXPECT_EQ(Column(u"SELECT TaxID FROM Tax"_s), stored) << "reading goes on";
+
+        ASSERT_EQ(Saved().size(), 1);
+        const auto saved = Database::Open(PathOf(Saved().first()), MainSchema());
+        EXPECT_EQ(Column(*saved, u"SELECT TaxID FROM Tax"_s), stored);
+        const bool isThere = QFile::exists(StorePath());
+        store.reset();
+        EXPECT_TRUE(!isThere || OpenAgain()->CheckIntegrity().empty());
+    }
+}
+
+TEST_F(LostFilesTest, ACommitOnItsWayIsNotAcknowledged) {
+    AddTaxes({u"A"_s});
+    {
+        Database::Batch batch(*store);
+        AddTaxes({u"B"_s});
+        Do(Deed::DeletesLog);
+        EXPECT_EQ(ErrorOf([&] { batch.Commit(); }), DiskError);
+    }
+    EXPECT_EQ(Column(u"SELECT TaxID FROM Tax"_s), QStringList{u"A"_s});
+    store.reset();
+    EXPECT_EQ(Saved().size(), 1);
+}
+
+TEST_F(LostFilesTest, ABurstThatLostItsFilesDoesNotEndWell) {
+    Burst burst(*store);
+    AddTaxes({u"A"_s});
+    Do(Deed::DeletesAll);
+    EXPECT_EQ(ErrorOf([&] { burst.End(); }), DiskError);
+}
+
+TEST_F(LostFilesTest, WithoutRoomForACopyThisIsSaid) {
+    AddTaxes({u"A"_s});
+    Do(Deed::RenamesTheFolder);
+    try {
+        AddTaxes({u"B"_s});
+        FAIL();
+    } catch (const FilesLost& error) {
+        EXPECT_TRUE(error.Description().contains(u"no copy"_s)) << error.what();
+    }
+    store.reset();
+    QDir().rename(folder_.path() + u"-renamed"_s, folder_.path());
+    store = OpenAgain();
+    EXPECT_EQ(Column(u"SELECT TaxID FROM Tax"_s), QStringList{u"A"_s});
+}
+
+TEST_F(LostFilesTest, AnEndWithoutAWriteSavesWhatWasWritten) {
+    AddTaxes({u"A"_s});
+    Do(Deed::DeletesAll);
+    store.reset();
+    EXPECT_EQ(Saved().size(), 1);
+}
+
+TEST_F(LostFilesTest, OthersThatComeAndGoAndCheckpointsAreNoLoss) {
+    ASSERT_TRUE(QFile::link(StorePath(), PathOf(u"link.pos"_s)));
+    store = Database::Open(PathOf(u"link.pos"_s), MainSchema());
+    for (int i = 0; i < 20; ++i) {
+        AddTaxes({QString::number(i)});
+        OpenAgain()->Execute(u"UPDATE Tax SET Percent = 1"_s);
+    }
+    Database::Batch(*store).Commit();
+    auto invoices = store->OpenRecordset(u"SELECT * FROM Invoices"_s);
+    Database::Batch batch(*store);
+    for (int i = 0; i < 20'000; ++i) {
+        invoices.AddNew();
+        invoices[u"CashierName"] = QString(300, u'x');
+        invoices.Update();
+    }
+    batch.Commit();
+    AddTaxes({u"last"_s});
+    QFile::remove(PathOf(u"link.pos"_s));
+    EXPECT_EQ(ErrorOf([&] { AddTaxes({u"gone"_s}); }), DiskError);
 }
 
 }  // namespace store::test

@@ -105,7 +105,7 @@ std::unique_ptr<Engine> OpenFile(const QString& path, const Schema& schema) {
         MigrateSchema(connection->Database(), schema);
         CheckTables(connection->Database(), schema, path);
         connection->SetPatience(WorkingPatience);
-        return std::make_unique<SqliteEngine>(std::move(connection));
+        return std::make_unique<SqliteEngine>(std::move(connection), path);
     } catch (const SQLite::Exception& error) {
         ThrowOpeningError(CodeOf(error), QString::fromUtf8(error.what()), path);
     } catch (const StoreError& error) {

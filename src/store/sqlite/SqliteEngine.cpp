@@ -8,17 +8,26 @@ using namespace Qt::StringLiterals;
 
 namespace store::sqlite {
 
-SqliteEngine::SqliteEngine(std::shared_ptr<Connection> connection)
-    : connection_(std::move(connection)), log_(Handle()) {}
+SqliteEngine::SqliteEngine(std::shared_ptr<Connection> connection, const QString& path)
+    : connection_(std::move(connection)), log_(Handle()), files_(Handle(), path) {}
+
+SqliteEngine::~SqliteEngine() {
+    if (isLost_ || files_.AreInPlace()) return;
+    GiveUp();
+    if (writes_ > 0) SaveBesideTheStore();
+}
 
 void SqliteEngine::Begin() {
     if (InTransaction()) throw StoreError(NotSupported, u"A batch is open already."_s);
+    RequireOwnFiles();
     connection_->Run("BEGIN IMMEDIATE");
 }
 
 void SqliteEngine::Commit() {
+    RequireOwnFiles();
     connection_->Run("COMMIT");
     if (bursts_ == 0) EndRelaxed();
+    RequireOwnFiles();
 }
 
 void SqliteEngine::Rollback() noexcept {
@@ -60,6 +69,7 @@ void SqliteEngine::EndRelaxed() {
     isRelaxed_ = false;
     if (code != SQLITE_OK)
         ThrowCode(code, QString::fromUtf8(sqlite3_errstr(code)), u"bringing a burst of changes to the disk"_s);
+    if (writes_ != writesWhenRelaxed_) RequireOwnFiles();
 }
 
 Stamp SqliteEngine::Now() {

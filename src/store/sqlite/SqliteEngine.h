@@ -5,6 +5,7 @@
 #include "store/Engine.h"
 #include "store/sqlite/Connection.h"
 #include "store/sqlite/Statement.h"
+#include "store/sqlite/StoreFiles.h"
 #include "store/sqlite/WalWatch.h"
 
 namespace store::sqlite {
@@ -12,7 +13,8 @@ namespace store::sqlite {
 // The embedded engine: one file, a write-ahead log, one connection.
 class SqliteEngine : public Engine {
 public:
-    explicit SqliteEngine(std::shared_ptr<Connection> connection);
+    SqliteEngine(std::shared_ptr<Connection> connection, const QString& path);
+    ~SqliteEngine() override;
 
     void ReadAll(const dialect::Query& query, RowBlock& rows) override;
     void ReadKeyset(const dialect::Query& query, int withData, std::vector<qint64>& keys, RowBlock& rows) override;
@@ -69,10 +71,19 @@ private:
     void ReadRange(const dialect::Query& query, std::span<const qint64> keys, RowBlock& rows);
     void ReadEach(const dialect::Query& query, std::span<const qint64> keys, RowBlock& rows);
     void EndRelaxed();
+    void Write(Statement& statement);
+    void RequireOwnFiles();
+    void GiveUp() noexcept;
+    void SaveBesideTheStore();
+    [[noreturn]] void ThrowFilesLost() const;
     sqlite3* Handle() const { return connection_->Handle(); }
 
     std::shared_ptr<Connection> connection_;
     WalWatch log_;
+    StoreFiles files_;
+    bool isLost_ = false;
+    QString savedAs_;
+    QString whyNotSaved_;
     std::map<ShapeKey, Statement> statements_;
     quint64 writes_ = 0;
     int bursts_ = 0;

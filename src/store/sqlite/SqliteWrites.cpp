@@ -20,8 +20,7 @@ qint64 SqliteEngine::Insert(const Table& table, std::span<const FieldChange> fie
     Statement& statement = StatementFor({Shape::Insert, &table, ColumnSet(fields)});
     const StatementUse use(statement);
     for (int i = 0; const FieldChange& field : fields) statement.Bind(++i, field.value);
-    ++writes_;
-    statement.Step();
+    Write(statement);
     return sqlite3_last_insert_rowid(Handle());
 }
 
@@ -33,8 +32,7 @@ bool SqliteEngine::Change(const Table& table, qint64 row, std::span<const FieldC
     for (const FieldChange& field : fields) statement.Bind(++parameter, field.value);
     statement.Bind(++parameter, row);
     for (const FieldChange& field : expected) statement.Bind(++parameter, field.value);
-    ++writes_;
-    statement.Step();
+    Write(statement);
     return sqlite3_changes64(Handle()) > 0;
 }
 
@@ -42,8 +40,7 @@ bool SqliteEngine::Remove(const Table& table, qint64 row) {
     Statement& statement = StatementFor({Shape::Remove, &table});
     const StatementUse use(statement);
     statement.Bind(1, row);
-    ++writes_;
-    statement.Step();
+    Write(statement);
     return sqlite3_changes64(Handle()) > 0;
 }
 
@@ -52,9 +49,24 @@ qint64 SqliteEngine::Execute(const dialect::Query& action) {
     Statement& statement = prepared.Get(prepared.whole, [&] { return ActionSql(*action.plan); });
     const StatementUse use(statement);
     statement.BindAll(action.values);
-    ++writes_;
-    statement.Step();
+    Write(statement);
     return sqlite3_changes64(Handle());
+}
+
+// The files are looked at on both sides of a commit, so that nothing is acknowledged which went into lost ones. Inside
+// a batch its own commit decides; inside a burst the look behind one commit is the one before the next.
+void SqliteEngine::Write(Statement& statement) {
+    const bool commits = !InTransaction();
+    const bool justLooked = isRelaxed_ && writes_ != writesWhenRelaxed_;
+    if (commits && (isLost_ || !justLooked)) RequireOwnFiles();
+    ++writes_;
+    try {
+        statement.Step();
+    } catch (const StoreError&) {
+        if (commits) RequireOwnFiles();
+        throw;
+    }
+    if (commits) RequireOwnFiles();
 }
 
 Statement& SqliteEngine::StatementFor(const ShapeKey& key) {
