@@ -12,8 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace store::sqlite {
 
-void SqliteEngine::RequireOwnFiles() {
-    if (!isLost_ && files_.AreInPlace()) return;
+void SqliteEngine::RequireInPlace(bool isInPlace) {
+    if (!isLost_ && isInPlace) return;
     GiveUp();
     if (savedAs_.isEmpty()) SaveBesideTheStore();
     ThrowFilesLost();

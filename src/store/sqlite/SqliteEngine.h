@@ -72,7 +72,9 @@ private:
     void ReadEach(const dialect::Query& query, std::span<const qint64> keys, RowBlock& rows);
     void EndRelaxed();
     void Write(Statement& statement);
-    void RequireOwnFiles();
+    void RequireOwnFiles() { RequireInPlace(files_.AreInPlace()); }
+    void RequireOwnLog() { RequireInPlace(files_.LogIsInPlace()); }
+    void RequireInPlace(bool isInPlace);
     void GiveUp() noexcept;
     void SaveBesideTheStore();
     [[noreturn]] void ThrowFilesLost() const;

@@ -54,11 +54,12 @@ qint64 SqliteEngine::Execute(const dialect::Query& action) {
 }
 
 // The files are looked at on both sides of a commit, so that nothing is acknowledged which went into lost ones. Inside
-// a batch its own commit decides; inside a burst the look behind one commit is the one before the next.
+// a batch its own commit decides. A burst is acknowledged when it ends, and its commits come close behind each other:
+// there the look at the log behind one of them serves the next.
 void SqliteEngine::Write(Statement& statement) {
     const bool commits = !InTransaction();
-    const bool justLooked = isRelaxed_ && writes_ != writesWhenRelaxed_;
-    if (commits && (isLost_ || !justLooked)) RequireOwnFiles();
+    const bool isInsideBurst = isRelaxed_ && writes_ != writesWhenRelaxed_;
+    if (commits && (isLost_ || !isInsideBurst)) RequireOwnFiles();
     ++writes_;
     try {
         statement.Step();
@@ -66,7 +67,7 @@ void SqliteEngine::Write(Statement& statement) {
         if (commits) RequireOwnFiles();
         throw;
     }
-    if (commits) RequireOwnFiles();
+    if (commits) isRelaxed_ ? RequireOwnLog() : RequireOwnFiles();
 }
 
 Statement& SqliteEngine::StatementFor(const ShapeKey& key) {

@@ -25,7 +25,7 @@ StoreFiles::StoreFiles(sqlite3* connection, const QString& path) {
     const char* opened = sqlite3_db_filename(connection, "main");
     storePath_ = QFile::decodeName(opened);
     files_[0].path = QFile::encodeName(QFileInfo(path).absoluteFilePath());
-    files_[1].path = sqlite3_filename_wal(opened);
+    files_[LogFile].path = sqlite3_filename_wal(opened);
     files_[2].path = QByteArray(opened) + "-shm";
     try {
         for (File& file : files_) Open(file);

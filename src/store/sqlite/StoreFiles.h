@@ -23,6 +23,8 @@ public:
 
     // Whether they still lie where they were opened.
     bool AreInPlace() const;
+    // The same of the log alone, at a third of the price: commits go into it.
+    bool LogIsInPlace() const { return IsInPlace(files_[LogFile]); }
     // Where the store really lies, when its path is a link.
     const QString& StorePath() const { return storePath_; }
 
@@ -35,6 +37,8 @@ private:
 
     static void Open(File& file);
     static bool IsInPlace(const File& file);
+
+    static constexpr size_t LogFile = 1;
 
     QString storePath_;
     std::array<File, 3> files_;
