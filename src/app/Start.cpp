@@ -3,6 +3,7 @@
 #include <csignal>
 
 #include "app/Screens.h"
+#include "core/PrinterWait.h"
 #include "core/frmLogin.h"
 #include "core/mdiORVA.h"
 #include "forms/Theme.h"
@@ -25,7 +26,9 @@ void ShowSalesScreen() {
 }  // namespace
 
 void PrepareApplication(QApplication& application) {
-    std::signal(SIGPIPE, SIG_IGN);  // a printer that hangs up is an error to report, not an end
+    // A printer that hangs up and a file that may not grow any further are errors to report, not an end.
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
     QApplication::setApplicationName(u"VELTON"_s);
     QApplication::setApplicationVersion(QStringLiteral(VELTON_VERSION));
     QApplication::setQuitOnLastWindowClosed(false);
@@ -33,6 +36,7 @@ void PrepareApplication(QApplication& application) {
 }
 
 bool StartProgram() {
+    ShowWaitsOfOutput();
     forms::Run([] { forms::Open<frmLogin>(ShowSalesScreen)->Show(); }, u"VELTON"_s);
     return !forms::ProgramIsEnding() && !forms::LoadedForms().isEmpty();
 }

@@ -1,5 +1,6 @@
 #include "output/Channel.h"
 
+#include <csignal>
 #include <utility>
 
 #include "output/CodePage.h"
@@ -17,7 +18,11 @@ constexpr qsizetype BufferSize = 64 * 1024;
 
 }  // namespace
 
-Channel::Channel() = default;
+// A reader that hangs up and a file that may not grow any further are errors of a write, not the end of the process.
+Channel::Channel() {
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+}
 
 Channel::~Channel() {
     Abandon();

@@ -1,12 +1,11 @@
 #include <QFile>
 #include <cerrno>
-#include <csignal>
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
-#include "output/Channel.h"
+#include "output/Descriptor.h"
+#include "output/DeviceSink.h"
 #include "output/OsError.h"
 #include "output/Sink.h"
 
@@ -18,19 +17,14 @@ namespace {
 
 class FileSink : public Sink {
 public:
-    FileSink(int descriptor, QString name) : descriptor_(descriptor), name_(std::move(name)) {}
-    FileSink(const FileSink&) = delete;
-    FileSink& operator=(const FileSink&) = delete;
-    ~FileSink() override {
-        if (descriptor_ >= 0) ::close(descriptor_);
-    }
+    FileSink(int descriptor, QString name) : file_(descriptor), name_(std::move(name)) {}
 
     void Write(const QByteArray& bytes) override;
     void Sync() override;
     void Close() override;
 
 private:
-    int descriptor_;
+    output::Descriptor file_;
     QString name_;
 };
 
@@ -38,7 +32,7 @@ void FileSink::Write(const QByteArray& bytes) {
     const char* from = bytes.constData();
     const char* const end = from + bytes.size();
     while (from < end) {
-        const ssize_t written = ::write(descriptor_, from, static_cast<size_t>(end - from));
+        const ssize_t written = ::write(file_.Number(), from, static_cast<size_t>(end - from));
         if (written > 0) {
             from += written;
         } else if (written == 0 || errno != EINTR) {
@@ -48,32 +42,50 @@ void FileSink::Write(const QByteArray& bytes) {
 }
 
 void FileSink::Sync() {
-    // A pipe or a device cannot be synced, and says so with EINVAL.
-    if (::fdatasync(descriptor_) != 0 && errno != EINVAL && errno != EROFS)
+    if (::fdatasync(file_.Number()) != 0 && errno != EINVAL && errno != EROFS)
         ThrowOsError(u"Cannot save "_s + name_, errno);
 }
 
 void FileSink::Close() {
-    // The descriptor is gone whatever close answers; an interrupted close has lost nothing.
-    if (::close(std::exchange(descriptor_, -1)) != 0 && errno != EINTR)
-        ThrowOsError(u"Cannot write to "_s + name_, errno);
+    // An interrupted close has lost nothing.
+    if (file_.Close() != 0 && errno != EINTR) ThrowOsError(u"Cannot write to "_s + name_, errno);
 }
 
+// Opening never waits: a pipe without a reader would hold the till for good.
 int Open(const QString& path, int flags) {
-    // A reader that hangs up is an error of the write, not the end of the process.
-    [[maybe_unused]] static const auto before = std::signal(SIGPIPE, SIG_IGN);
     const QByteArray name = QFile::encodeName(path);
     int descriptor;
     do {
-        descriptor = ::open(name.constData(), flags | O_WRONLY | O_CLOEXEC | O_NOCTTY, 0666);
+        descriptor = ::open(name.constData(), flags | O_NONBLOCK | O_CLOEXEC | O_NOCTTY, 0666);
     } while (descriptor < 0 && errno == EINTR);
     return descriptor;
 }
 
+bool IsRegular(int descriptor) {
+    struct stat facts {};
+    return ::fstat(descriptor, &facts) == 0 && S_ISREG(facts.st_mode);
+}
+
 std::unique_ptr<Sink> OpenFile(const QString& path, int flags) {
-    const int descriptor = Open(path, flags | O_CREAT);
+    const int descriptor = Open(path, flags | O_WRONLY | O_CREAT);
     if (descriptor < 0) ThrowOsError(u"Cannot open "_s + path, errno);
-    return std::make_unique<FileSink>(descriptor, path);
+    if (IsRegular(descriptor)) return std::make_unique<FileSink>(descriptor, path);
+    return std::make_unique<DeviceSink>(
+        descriptor, WaitWords{u"Cannot write to "_s + path, u"Waiting for %1, which takes nothing now."_s.arg(path)});
+}
+
+bool IsCharacterDevice(const QString& path) {
+    struct stat facts {};
+    return ::stat(QFile::encodeName(path).constData(), &facts) == 0 && S_ISCHR(facts.st_mode);
+}
+
+// For reading as well where the printer's own words are wanted and the device lets itself be read.
+int OpenAsked(const QString& path, bool& isAsked) {
+    isAsked = isAsked && IsCharacterDevice(path);
+    const int descriptor = isAsked ? Open(path, O_APPEND | O_RDWR) : -1;
+    if (descriptor >= 0) return descriptor;
+    isAsked = false;
+    return Open(path, O_APPEND | O_WRONLY);
 }
 
 }  // namespace
@@ -86,16 +98,12 @@ std::unique_ptr<Sink> OpenFileForAppend(const QString& path) {
     return OpenFile(path, O_APPEND);
 }
 
-std::unique_ptr<Sink> OpenDevice(const QString& path) {
-    // Opening must not wait, or a pipe without a reader would hold the till for good; writing must, since a device that
-    // is closed with bytes under way drops them.
-    const int descriptor = Open(path, O_APPEND | O_NONBLOCK);
+std::unique_ptr<Sink> OpenDevice(const QString& path, const Port& port) {
+    bool isAsked = port.isAsked;
+    const int descriptor = OpenAsked(path, isAsked);
     if (descriptor < 0) ThrowOsError(u"Cannot open the printer "_s + path, errno == ENOENT ? ENODEV : errno);
-    auto sink = std::make_unique<FileSink>(descriptor, path);
-    const int flags = ::fcntl(descriptor, F_GETFL);
-    if (flags < 0 || ::fcntl(descriptor, F_SETFL, flags & ~O_NONBLOCK) < 0)
-        ThrowOsError(u"Cannot open the printer "_s + path, errno);
-    return sink;
+    return std::make_unique<DeviceSink>(
+        descriptor, WaitWords{u"Cannot write to the printer "_s + path, WaitsForPrinter(port.name, path)}, isAsked);
 }
 
 }  // namespace output

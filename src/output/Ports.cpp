@@ -1,6 +1,9 @@
 #include "output/Ports.h"
 
 #include <QFile>
+#include <QFileInfo>
+#include <QHash>
+#include <QStringDecoder>
 
 #include "output/Channel.h"
 #include "output/Folder.h"
@@ -11,36 +14,48 @@ namespace output {
 
 namespace {
 
-// The value of a key in the section [ports], as it stands: QSettings would take commas and backslashes apart.
-QString PortsEntry(const QString& key) {
+constexpr qint64 LargestPortsFile = 64 * 1024;
+
+// The text of ports.ini, empty when there is none. Editors of other systems save it with two bytes a character.
+QString PortsText() {
     QFile file(InProgramFolder(u"ports.ini"_s));
     if (!file.exists()) return {};
-    if (!file.open(QIODevice::ReadOnly))
-        throw OutputError(PermissionDenied, u"Cannot read "_s + file.fileName() + u": "_s + file.errorString());
+    const QString action = u"Cannot read "_s + file.fileName() + u": "_s;
+    if (!QFileInfo(file).isFile()) throw OutputError(PathNotAFile, action + u"it is no file."_s);
+    if (!file.open(QIODevice::ReadOnly)) throw OutputError(PermissionDenied, action + file.errorString() + u'.');
+    const QByteArray bytes = file.read(LargestPortsFile + 1);
+    if (bytes.size() > LargestPortsFile) throw OutputError(PathNotAFile, action + u"it is too long."_s);
+    const auto encoding = QStringConverter::encodingForData(bytes).value_or(QStringConverter::Utf8);
+    return QStringDecoder(encoding)(bytes);
+}
+
+// The keys of the section [ports] in small letters, with their values as they stand: QSettings would take commas and
+// backslashes apart. Of two equal keys the later one counts.
+QHash<QString, QString> PortsEntries() {
+    QHash<QString, QString> entries;
     bool inPorts = false;
-    QString value;
-    for (const QString& rawLine : QString::fromUtf8(file.readAll()).split(u'\n')) {
+    for (const QString& rawLine : PortsText().split(u'\n')) {
         const QString line = rawLine.trimmed();
         if (line.startsWith(u'[')) inPorts = line.compare(u"[ports]", Qt::CaseInsensitive) == 0;
         const qsizetype equals = line.indexOf(u'=');
         if (!inPorts || equals < 0 || line.startsWith(u';') || line.startsWith(u'#')) continue;
-        if (line.left(equals).trimmed().compare(key, Qt::CaseInsensitive) == 0) value = line.mid(equals + 1).trimmed();
+        entries[line.left(equals).trimmed().toLower()] = line.mid(equals + 1).trimmed();
     }
-    return value;
+    return entries;
 }
 
 [[noreturn]] void ThrowBadEntry(const QString& entry) {
     throw OutputError(DeviceUnavailable, u"ports.ini has no printer behind \"%1\"."_s.arg(entry));
 }
 
-std::unique_ptr<Sink> OpenNetworkPrinter(const QString& entry) {
+std::unique_ptr<Sink> OpenNetworkPrinter(const QString& entry, const Port& port) {
     const qsizetype colon = entry.lastIndexOf(u':');
     QString host = entry.mid(4, colon - 4).trimmed();
     bool isNumber = false;
-    const ushort port = entry.mid(colon + 1).trimmed().toUShort(&isNumber);
+    const ushort number = entry.mid(colon + 1).trimmed().toUShort(&isNumber);
     if (host.startsWith(u'[') && host.endsWith(u']')) host = host.mid(1, host.size() - 2);
-    if (!isNumber || port == 0 || host.isEmpty()) ThrowBadEntry(entry);
-    return ConnectTo(host, port);
+    if (!isNumber || number == 0 || host.isEmpty() || host.contains(u'[')) ThrowBadEntry(entry);
+    return ConnectTo(host, number, port);
 }
 
 QString BelowFolderUnlessAbsolute(const QString& path) {
@@ -54,10 +69,13 @@ std::unique_ptr<Sink> OpenPortSink(const QString& port) {
     if (key != u"lpt1" && key != u"lpt2")
         throw OutputError(DeviceUnavailable, u"There is no printer port \"%1\"."_s.arg(port));
 
-    const QString entry = PortsEntry(key);
-    if (entry.isEmpty()) return OpenDevice(key == u"lpt1" ? u"/dev/lp0"_s : u"/dev/lp1"_s);
-    if (entry.startsWith(u"tcp:", Qt::CaseInsensitive)) return OpenNetworkPrinter(entry);
-    if (!entry.startsWith(u"file:", Qt::CaseInsensitive)) return OpenDevice(BelowFolderUnlessAbsolute(entry));
+    const auto entries = PortsEntries();
+    const QString entry = entries.value(key);
+    if (entry.contains(QChar(0))) ThrowBadEntry(entry);
+    const Port known{.name = key.toUpper()};
+    if (entry.isEmpty()) return OpenDevice(key == u"lpt1" ? u"/dev/lp0"_s : u"/dev/lp1"_s, known);
+    if (entry.startsWith(u"tcp:", Qt::CaseInsensitive)) return OpenNetworkPrinter(entry, known);
+    if (!entry.startsWith(u"file:", Qt::CaseInsensitive)) return OpenDevice(BelowFolderUnlessAbsolute(entry), known);
     const QString path = entry.mid(5).trimmed();
     if (path.isEmpty()) ThrowBadEntry(entry);
     return OpenFileForAppend(BelowFolderUnlessAbsolute(path));

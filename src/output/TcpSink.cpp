@@ -1,17 +1,17 @@
 #include <QElapsedTimer>
 #include <QThread>
 #include <cerrno>
-#include <utility>
 
 #include <linux/sockios.h>
 #include <netdb.h>
 #include <poll.h>
 #include <sys/ioctl.h>
 #include <sys/socket.h>
-#include <unistd.h>
 
 #include "output/Channel.h"
+#include "output/Descriptor.h"
 #include "output/OsError.h"
+#include "output/Patience.h"
 #include "output/Sink.h"
 
 using namespace Qt::StringLiterals;
@@ -21,55 +21,52 @@ namespace output {
 namespace {
 
 constexpr int ConnectTimeoutMs = 5000;
-constexpr int StallTimeoutMs = 30000;
 // How long a printer that has everything may take to hang up; many keep the line open until the paper is out.
 constexpr int HangUpTimeoutMs = 500;
+constexpr int LookEveryMs = 20;
 
 class TcpSink : public Sink {
 public:
-    TcpSink(int descriptor, QString name) : descriptor_(descriptor), name_(std::move(name)) {}
-    TcpSink(const TcpSink&) = delete;
-    TcpSink& operator=(const TcpSink&) = delete;
-    ~TcpSink() override {
-        if (descriptor_ >= 0) ::close(descriptor_);
-    }
+    TcpSink(int descriptor, QString name, const Port& port)
+        : socket_(descriptor), name_(std::move(name)), port_(port) {}
 
-    void Connect(const addrinfo& address, int timeoutMs);
+    // Throws when the address cannot be reached before the wait ends.
+    void Connect(const addrinfo& address, Wait& wait);
     void Write(const QByteArray& bytes) override;
     void Close() override;
+    int Descriptor() const override { return port_.isAsked ? socket_.Number() : -1; }
 
 private:
-    [[noreturn]] void Fail(int errnoValue) const {
-        ThrowOsError(u"Cannot write to the printer "_s + name_, errnoValue);
-    }
+    QString WriteAction() const { return u"Cannot write to the printer "_s + name_; }
+    [[noreturn]] void Fail(int errnoValue) const { ThrowOsError(WriteAction(), errnoValue); }
+    WaitWords Words() const { return {WriteAction(), WaitsForPrinter(port_.name, name_)}; }
     int PendingError() const;
     int UntakenBytes() const;
     bool PeerHasHungUp() const;
     void WaitUntilTaken() const;
 
-    int descriptor_;
+    output::Descriptor socket_;
     QString name_;
+    Port port_;
+    bool failed_ = false;
 };
 
-bool WaitWritable(int descriptor, int timeoutMs) {
+// A moment at most.
+bool IsWritable(int descriptor) {
     pollfd waiting{.fd = descriptor, .events = POLLOUT, .revents = 0};
-    int ready;
-    do {
-        ready = ::poll(&waiting, 1, timeoutMs);
-    } while (ready < 0 && errno == EINTR);
-    return ready > 0;
+    return ::poll(&waiting, 1, LookEveryMs) > 0;
 }
 
 int TcpSink::PendingError() const {
     int error = 0;
     socklen_t size = sizeof error;
-    return ::getsockopt(descriptor_, SOL_SOCKET, SO_ERROR, &error, &size) == 0 ? error : errno;
+    return ::getsockopt(socket_.Number(), SOL_SOCKET, SO_ERROR, &error, &size) == 0 ? error : errno;
 }
 
 // Sent, but not yet acknowledged by the other side.
 int TcpSink::UntakenBytes() const {
     int count = 0;
-    if (::ioctl(descriptor_, SIOCOUTQ, &count) != 0) Fail(errno);
+    if (::ioctl(socket_.Number(), SIOCOUTQ, &count) != 0) Fail(errno);
     return count;
 }
 
@@ -77,7 +74,7 @@ int TcpSink::UntakenBytes() const {
 bool TcpSink::PeerHasHungUp() const {
     char answer[512];
     while (true) {
-        const ssize_t count = ::recv(descriptor_, answer, sizeof answer, MSG_DONTWAIT);
+        const ssize_t count = ::recv(socket_.Number(), answer, sizeof answer, MSG_DONTWAIT);
         if (count == 0) return true;
         if (count > 0 || errno == EINTR) continue;
         if (errno != EAGAIN) Fail(errno);
@@ -85,82 +82,90 @@ bool TcpSink::PeerHasHungUp() const {
     }
 }
 
-void TcpSink::Connect(const addrinfo& address, int timeoutMs) {
+void TcpSink::Connect(const addrinfo& address, Wait& wait) {
     const QString action = u"Cannot reach the printer "_s + name_;
-    if (::connect(descriptor_, address.ai_addr, address.ai_addrlen) == 0) return;
+    if (::connect(socket_.Number(), address.ai_addr, address.ai_addrlen) == 0) return;
     if (errno != EINPROGRESS) ThrowOsError(action, errno);
-    if (!WaitWritable(descriptor_, timeoutMs)) ThrowOsError(action, EHOSTUNREACH);
+    while (!IsWritable(socket_.Number())) wait.GoOn();
     if (const int error = PendingError()) ThrowOsError(action, error);
 }
 
 void TcpSink::Write(const QByteArray& bytes) {
-    const char* from = bytes.constData();
-    const char* const end = from + bytes.size();
-    while (from < end) {
-        const ssize_t sent = ::send(descriptor_, from, static_cast<size_t>(end - from), MSG_NOSIGNAL);
-        if (sent >= 0) {
-            from += sent;
-        } else if (errno == EAGAIN) {
-            if (!WaitWritable(descriptor_, StallTimeoutMs)) Fail(ETIMEDOUT);
-        } else if (errno != EINTR) {
-            Fail(errno);
-        }
+    failed_ = true;
+    Wait wait(Words(), StallTimeoutMs);
+    qint64 sent = 0;
+    while (sent < bytes.size()) {
+        const auto size = static_cast<size_t>(bytes.size() - sent);
+        const ssize_t count = ::send(socket_.Number(), bytes.constData() + sent, size, MSG_NOSIGNAL);
+        if (count < 0 && errno != EAGAIN && errno != EINTR) Fail(errno);
+        if (count >= 0)
+            sent += count;
+        else if (errno == EAGAIN && !IsWritable(socket_.Number()))
+            wait.GoOn(sent);
     }
+    failed_ = false;
 }
 
 // A connection that is closed at once would hide a reset that comes behind the last byte.
 void TcpSink::WaitUntilTaken() const {
-    QElapsedTimer sinceProgress;
-    sinceProgress.start();
-    int before = -1;
+    Wait wait(Words(), StallTimeoutMs);
+    QElapsedTimer sinceTaken;
+    sinceTaken.start();
     while (true) {
         const int untaken = UntakenBytes();
         const bool hungUp = PeerHasHungUp();
         if (const int error = PendingError()) Fail(error);
-        if (untaken == 0 && hungUp) return;
-        if (std::exchange(before, untaken) != untaken) sinceProgress.restart();
-        if (untaken == 0 && sinceProgress.hasExpired(HangUpTimeoutMs)) return;
-        if (sinceProgress.hasExpired(StallTimeoutMs)) Fail(ETIMEDOUT);
+        if (untaken == 0 && (hungUp || sinceTaken.hasExpired(HangUpTimeoutMs))) return;
+        if (untaken != 0) sinceTaken.restart();
+        wait.GoOn(untaken);
         QThread::msleep(2);
     }
 }
 
+// What has failed is not waited for a second time.
 void TcpSink::Close() {
-    if (::shutdown(descriptor_, SHUT_WR) != 0) Fail(errno);
+    if (failed_) return;
+    failed_ = true;
+    if (::shutdown(socket_.Number(), SHUT_WR) != 0) Fail(errno);
     WaitUntilTaken();
-    ::close(std::exchange(descriptor_, -1));
+    socket_.Close();
 }
 
-struct AddressList {
+using Addresses = std::unique_ptr<addrinfo, decltype(&::freeaddrinfo)>;
+
+Addresses Lookup(const QByteArray& host, const QByteArray& number, int flags) {
+    addrinfo wanted{};
+    wanted.ai_socktype = SOCK_STREAM;
+    wanted.ai_flags = AI_NUMERICSERV | flags;
     addrinfo* first = nullptr;
-    AddressList() = default;
-    AddressList(const AddressList&) = delete;
-    AddressList& operator=(const AddressList&) = delete;
-    ~AddressList() {
-        if (first) ::freeaddrinfo(first);
-    }
-};
+    const int error = ::getaddrinfo(host.constData(), number.constData(), &wanted, &first);
+    return {error == 0 ? first : nullptr, &::freeaddrinfo};
+}
+
+// A name is asked for beside the program's own thread: a name server that is gone keeps whoever asks for a long time.
+Addresses AddressesOf(const QString& host, quint16 number, const WaitWords& words) {
+    const QByteArray name = host.toUtf8();
+    const QByteArray service = QByteArray::number(number);
+    if (auto numeric = Lookup(name, service, AI_NUMERICHOST)) return numeric;
+    return Wait(words, ConnectTimeoutMs).For([name, service] { return Lookup(name, service, 0); });
+}
 
 }  // namespace
 
-std::unique_ptr<Sink> ConnectTo(const QString& host, quint16 port) {
-    const QString name = host + u':' + QString::number(port);
-    addrinfo wanted{};
-    wanted.ai_socktype = SOCK_STREAM;
-    wanted.ai_flags = AI_NUMERICSERV;
-    AddressList addresses;
-    if (::getaddrinfo(host.toUtf8().constData(), QByteArray::number(port).constData(), &wanted, &addresses.first) != 0)
-        throw OutputError(DeviceUnavailable, u"The printer "_s + name + u" has no known address."_s);
+std::unique_ptr<Sink> ConnectTo(const QString& host, quint16 number, const Port& port) {
+    const QString name = host + u':' + QString::number(number);
+    const WaitWords words{u"Cannot reach the printer "_s + name, WaitsForPrinter(port.name, name)};
+    const Addresses addresses = AddressesOf(host, number, words);
+    if (!addresses) throw OutputError(DeviceUnavailable, u"The printer "_s + name + u" has no known address."_s);
 
-    QElapsedTimer timer;
-    timer.start();
-    for (const addrinfo* address = addresses.first;; address = address->ai_next) {
+    Wait wait(words, ConnectTimeoutMs);
+    for (const addrinfo* address = addresses.get();; address = address->ai_next) {
         const int descriptor = ::socket(address->ai_family, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
         if (descriptor < 0 && address->ai_next) continue;
-        if (descriptor < 0) ThrowOsError(u"Cannot reach the printer "_s + name, errno);
-        auto sink = std::make_unique<TcpSink>(descriptor, name);
+        if (descriptor < 0) ThrowOsError(words.error, errno);
+        auto sink = std::make_unique<TcpSink>(descriptor, name, port);
         try {
-            sink->Connect(*address, std::max(0, ConnectTimeoutMs - static_cast<int>(timer.elapsed())));
+            sink->Connect(*address, wait);
             return sink;
         } catch (const OutputError&) {
             if (!address->ai_next) throw;

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include "OutputFixture.h"
+#include "output/Patience.h"
 
 using namespace Qt::StringLiterals;
 using namespace output;
@@ -151,6 +152,7 @@ TEST_F(ChannelTest, APipeWithoutAReaderIsRefusedAndOneThatHangsUpIsReported) {
     ASSERT_EQ(::mkfifo(pipe.constData(), 0600), 0);
     SetPorts("lpt1=pipe\n");
     EXPECT_EQ(ErrorOf([&] { channel.OpenPort(u"lpt1:"_s); }), DeviceUnavailable);
+    EXPECT_EQ(ErrorOf([&] { channel.OpenForAppend(Path(u"pipe"_s)); }), DeviceUnavailable);
 
     const int reader = ::open(pipe.constData(), O_RDONLY | O_NONBLOCK);
     channel.OpenPort(u"lpt1:"_s);
@@ -177,6 +179,29 @@ TEST_F(ChannelTest, ASlowPipeGetsEveryByte) {
     slow.join();
     ::close(reader);
     EXPECT_EQ(taken, 500'000);
+}
+
+TEST_F(ChannelTest, WhatTakesNothingFurtherIsLeftWhenTheUserSaysSo) {
+    const QByteArray pipe = Path(u"pipe"_s).toUtf8();
+    ASSERT_EQ(::mkfifo(pipe.constData(), 0600), 0);
+    const int reader = ::open(pipe.constData(), O_RDONLY | O_NONBLOCK);
+    SetPorts("lpt2=pipe\n");
+    for (const bool isPort : {true, false}) {
+        QString said;
+        int begun = 0;
+        SetPatience(
+            [&] { return ++begun, [&](const QString& waitsFor) { return std::exchange(said, waitsFor).isEmpty(); }; });
+        if (isPort)
+            channel.OpenPort(u"lpt2:"_s);
+        else
+            channel.OpenForAppend(Path(u"pipe"_s));
+        EXPECT_EQ(ErrorOf([&] { channel.WriteBytes(QByteArray(500'000, 'x')); }), DeviceError);
+        EXPECT_TRUE(said.contains(isPort ? u"printer on LPT2 ("_s : Path(u"pipe"_s))) << said.toStdString();
+        channel.Abandon();
+        EXPECT_EQ(begun, 1) << "what has failed is not waited for again";
+    }
+    SetPatience({});
+    ::close(reader);
 }
 
 }  // namespace

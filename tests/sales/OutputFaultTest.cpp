@@ -1,8 +1,15 @@
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QPushButton>
 #include <QTcpServer>
+#include <QTimer>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "core/mdiORVA.h"
 #include "support/Till.h"
 
 using namespace Qt::StringLiterals;
@@ -35,25 +42,37 @@ protected:
     }
 };
 
-TEST_F(OutputFaultTest, APortThatIsGone) {
-    Ports("/dev/no-such-printer");
-    SellAndFail();
-    EXPECT_TRUE(File(u"invoices.txt"_s).isEmpty()) << "no ribbon behind a failed paper";
-}
+class PortFaultTest : public OutputFaultTest, public testing::WithParamInterface<const char*> {};
 
-TEST_F(OutputFaultTest, APortThatIsFull) {
-    Ports("/dev/full");
+TEST_P(PortFaultTest, LeavesNoRibbonBehindAFailedPaper) {
+    Ports(GetParam());
     SellAndFail();
     EXPECT_TRUE(File(u"invoices.txt"_s).isEmpty());
 }
+INSTANTIATE_TEST_SUITE_P(All, PortFaultTest,
+                         testing::Values("/dev/no-such-printer", "/dev/full", "tcp:127.0.0.1:1", "tcp:[::1"));
 
-TEST_F(OutputFaultTest, APrinterThatRefusesTheConnection) {
-    QTcpServer server;
-    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
-    const quint16 port = server.serverPort();
-    server.close();
-    Ports("tcp:127.0.0.1:" + QByteArray::number(port));
+TEST_F(OutputFaultTest, APrinterThatTakesNothingIsWaitedForUntilTheCashierLeaves) {
+    const QByteArray pipe = Path(u"pipe"_s).toUtf8();
+    ASSERT_EQ(::mkfifo(pipe.constData(), 0600), 0);
+    const int reader = ::open(pipe.constData(), O_RDWR | O_NONBLOCK);
+    while (::write(reader, QByteArray(4096, 'x').constData(), 4096) > 0) {
+    }
+    Ports("pipe");
+    QString said;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        const auto* notice = mdiORVA::Window().findChild<QWidget*>(u"panelLongWork"_s);
+        if (!notice || !said.isEmpty()) return;
+        said = notice->findChild<QLabel*>()->text();
+        drivers::Grab(mdiORVA::Window(), u"printer-waited-for"_s);
+        Keys(u"{F5}7{Esc}");
+    });
+    timer.start(20);
     SellAndFail();
+    EXPECT_TRUE(said.startsWith(u"Waiting for the printer on LPT1 ("_s)) << said.toStdString();
+    EXPECT_TRUE(File(u"invoices.txt"_s).isEmpty());
+    ::close(reader);
 }
 
 TEST_F(OutputFaultTest, AFiscalFileInAMissingFolder) {
