@@ -12,6 +12,7 @@
 #include <QPlainTextEdit>
 #include <QTextEdit>
 
+#include "forms/OneLine.h"
 #include "forms/TextView.h"
 
 namespace forms {
@@ -53,7 +54,7 @@ QString TextOf(const QWidget* control) {
 }
 
 void SetText(QWidget* control, const QString& text) {
-    if (auto* box = qobject_cast<QLineEdit*>(control)) return box->setText(text);
+    if (auto* box = qobject_cast<QLineEdit*>(control)) return ShowWhole(box, text);
     if (auto* box = qobject_cast<QComboBox*>(control)) return box->setCurrentText(text);
     if (auto* label = qobject_cast<QLabel*>(control)) return label->setText(text);
     if (auto* button = qobject_cast<QAbstractButton*>(control)) return button->setText(text);

@@ -12,7 +12,8 @@ namespace forms {
 // A named control of a form; asserts that it exists.
 QWidget* Control(QWidget* form, QStringView name);
 
-// The text of a line edit, combo box, label, button or text view.
+// The text of a line edit, combo box, label, button or text view. What is set is shown whole, also where less may be
+// typed.
 QString TextOf(const QWidget* control);
 void SetText(QWidget* control, const QString& text);
 

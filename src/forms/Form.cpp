@@ -6,12 +6,12 @@
 #include <QPointer>
 #include <QScreen>
 #include <QTimer>
-#include <QValidator>
 #include <QWindow>
 
 #include "forms/Behaviours.h"
 #include "forms/Frame.h"
 #include "forms/KeyDispatcher.h"
+#include "forms/OneLine.h"
 #include "forms/ShrinkToFit.h"
 
 namespace forms {
@@ -21,21 +21,6 @@ namespace {
 QList<Form*> loadedForms;
 // The form in front; message boxes and file dialogs above it change nothing about that.
 QPointer<Form> frontForm;
-
-// A copied cell of a spreadsheet ends with a line break: a code with one is never found again, a name with one breaks
-// the lines of a receipt.
-class OneLine : public QValidator {
-public:
-    using QValidator::QValidator;
-
-    State validate(QString& text, int& caret) const override {
-        text.remove(u'\r');
-        while (text.endsWith(u'\n')) text.chop(1);
-        text.replace(u'\n', u' ');
-        caret = qMin(caret, static_cast<int>(text.size()));
-        return Acceptable;
-    }
-};
 
 QRect RoomAround(const QWidget* window) {
     if (window && window->isVisible()) return window->frameGeometry();
@@ -68,8 +53,7 @@ void Form::Load() {
     if (objectName().isEmpty()) setObjectName(QString::fromLatin1(metaObject()->className()));
     loaded_ = true;
     loadedForms.append(this);
-    for (auto* box : findChildren<QLineEdit*>())
-        if (!box->validator()) box->setValidator(new OneLine(box));
+    for (auto* box : findChildren<QLineEdit*>()) KeepToOneLine(box);
     try {
         Form_Load();
     } catch (...) {

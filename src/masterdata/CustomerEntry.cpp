@@ -1,6 +1,7 @@
 #include "masterdata/CustomerEntry.h"
 
 #include "forms/Controls.h"
+#include "forms/OneLine.h"
 #include "values/Format.h"
 
 using namespace Qt::StringLiterals;
@@ -24,7 +25,7 @@ QList<std::pair<QString, QLineEdit*>> CustomerEntry::Fields() const {
 }
 
 void CustomerEntry::ShowCustomer() {
-    for (const auto& [field, box] : Fields()) ShowWhole(box, rsCustomer_[field].TextOrEmpty());
+    for (const auto& [field, box] : Fields()) forms::ShowWhole(box, rsCustomer_[field].TextOrEmpty());
 }
 
 void CustomerEntry::StoreCustomer() {

@@ -15,11 +15,6 @@ void EntryForm::SaveHelpAndClose(QAbstractButton* save, QAbstractButton* help, Q
     EnterMovesOn();
 }
 
-void EntryForm::ShowWhole(QLineEdit* box, const QString& text) {
-    box->setMaxLength(std::max(box->maxLength(), static_cast<int>(text.size())));
-    box->setText(text);
-}
-
 bool EntryForm::AllFilled(std::initializer_list<QWidget*> boxes) const {
     if (std::ranges::none_of(boxes, [](const QWidget* box) { return forms::TextOf(box).isEmpty(); })) return true;
     forms::Inform(u"Fill in all required fields."_s, Caption());

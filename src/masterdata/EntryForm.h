@@ -12,9 +12,6 @@ protected:
                           std::initializer_list<Qt::Key> closeKeys = {Qt::Key_F12},
                           const QString& helpFile = ProgramHelp);
 
-    // Shows a stored text in its full length, however long the box lets one type: the save writes it back.
-    static void ShowWhole(QLineEdit* box, const QString& text);
-
     // Tells "Fill in all required fields." and gives false when one of the texts is empty.
     bool AllFilled(std::initializer_list<QWidget*> boxes) const;
 

@@ -1,5 +1,7 @@
 #include "masterdata/PasswordEntry.h"
 
+#include <algorithm>
+
 #include "forms/MsgBox.h"
 
 using namespace Qt::StringLiterals;
@@ -10,6 +12,10 @@ void PasswordEntry::EnterPassword(QLineEdit* password, QLineEdit* again, QCheckB
     unmask_ = unmask;
     HighlightOnFocus({password, again});
     On(unmask, &PasswordEntry::chkUnmaskPassword_Click);
+    // A stored password that is longer than one may be typed must be confirmed in full.
+    connect(password, &QLineEdit::textChanged, again, [again, length = again->maxLength()](const QString& text) {
+        again->setMaxLength(std::max(length, static_cast<int>(text.size())));
+    });
 }
 
 bool PasswordEntry::PasswordsAgree() {

@@ -1,5 +1,7 @@
 #include "masterdata/UserEntry.h"
 
+#include "forms/OneLine.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -36,12 +38,12 @@ void UserEntry::cmdAdd_Click() {
 // The password must be confirmed at each save, so its second box stays empty. A level that the box does not offer is
 // shown as none, and has to be chosen anew.
 void UserEntry::ShowUser() {
-    ShowWhole(ui.txtUserID, rsUsers_[u"UserID"].TextOrEmpty());
-    ShowWhole(ui.txtUserName, rsUsers_[u"UserName"].TextOrEmpty());
+    forms::ShowWhole(ui.txtUserID, rsUsers_[u"UserID"].TextOrEmpty());
+    forms::ShowWhole(ui.txtUserName, rsUsers_[u"UserName"].TextOrEmpty());
     ui.txtName->setText(rsUsers_[u"UserFullName"].TextOrEmpty());
     ui.txtPosition->setText(rsUsers_[u"UserPosition"].TextOrEmpty());
     ui.cboAccLevel->setCurrentIndex(ui.cboAccLevel->findText(rsUsers_[u"AccLevel"].TextOrEmpty()));
-    ui.txtPassword->setText(rsUsers_[u"Password"].TextOrEmpty());
+    forms::ShowWhole(ui.txtPassword, rsUsers_[u"Password"].TextOrEmpty());
 }
 
 void UserEntry::StoreUser() {

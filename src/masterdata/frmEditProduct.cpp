@@ -2,6 +2,7 @@
 
 #include "core/dbModule.h"
 #include "forms/Controls.h"
+#include "forms/OneLine.h"
 #include "masterdata/frmSastav.h"
 #include "output/Folder.h"
 #include "values/Format.h"
@@ -65,8 +66,8 @@ void frmEditProduct::ShowTax(store::Recordset& tax) {
 
 // The percent comes after the tax: it is the product's own until a tax is chosen.
 void frmEditProduct::ShowProduct() {
-    ShowWhole(ui.txtProdCode, rsProduct_[u"ProdCode"].TextOrEmpty());
-    ShowWhole(ui.txtDescription, rsProduct_[u"ProdDescription"].TextOrEmpty());
+    forms::ShowWhole(ui.txtProdCode, rsProduct_[u"ProdCode"].TextOrEmpty());
+    forms::ShowWhole(ui.txtDescription, rsProduct_[u"ProdDescription"].TextOrEmpty());
     ui.txtQuantity->setText(rsProduct_[u"Qty"].TextOrEmpty());
     Choose(ui.txtUnit, rsProduct_[u"Unit"].TextOrEmpty());
     ui.txtUnitPrice->setText(Format(rsProduct_[u"UnitPrice"], u"0.00"));

@@ -192,7 +192,7 @@ void frmSastav::EditCompositionItem() {
     if (row < 0) return;
     const QString quantity = ui.lv1->Text(row, 2);
     ui.txtProdCode->clear();  // the same code once more is looked up as well
-    ui.txtProdCode->setText(ui.lv1->Text(row));
+    forms::SetText(ui.txtProdCode, ui.lv1->Text(row));
     ui.txtQuantity->setText(quantity);
     ui.lv1->Remove(row);
     ui.txtQuantity->setFocus();

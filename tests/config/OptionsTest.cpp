@@ -207,6 +207,19 @@ TEST_F(OptionsTest, ASaveStoresWhatItShouldAndSomeOfItWorksAtOnce) {
     EXPECT_EQ(Row(u"Kasa"_s), u"0");
 }
 
+TEST_F(OptionsTest, ATextOfTwoLinesIsStoredAsItWasUnlessItIsEdited) {
+    for (const QString& field : {u"Footer"_s, u"MjestoProdaje"_s, u"Currency"_s}) Setting(field, u"A\r\nB\n"_s);
+    LogIn(u"admin"_s);
+    Use<frmOptions>([this](frmOptions& screen) {
+        Get<QTabWidget>(screen, u"SSTab1")->setCurrentIndex(1);
+        Type(screen, u"txtMjestoProdaje", u"{End}!{Backspace}");
+        Type(screen, u"txtFooter", u"{End}{Backspace}C");
+        Save(screen);
+    });
+    EXPECT_EQ(Row(u"Footer"_s), u"A\r\nBC");
+    EXPECT_EQ(Row(u"MjestoProdaje"_s) + Row(u"Currency"_s), u"A\r\nB\nA\r\nB\n");
+}
+
 TEST_F(OptionsTest, TheAmountShowsAndHidesAtOnce) {
     LogIn(u"admin"_s);
     const auto panel = [](int number) {

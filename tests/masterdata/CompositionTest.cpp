@@ -180,14 +180,19 @@ TEST_F(CompositionTest, AComponentWithoutAProductStopsTheOpening) {
 }
 
 TEST_F(CompositionTest, TakesAComponentFromTheSearchAndSavesTwoHundredAtOnce) {
-    Compose(u"300"_s, [this](frmSastav& form) {
+    const auto longCode = u"20000000000000"_s;  // longer than one can be typed
+    Run(u"UPDATE Products SET ProdCode = '%1' WHERE ProdCode = '200'"_s.arg(longCode));
+    Compose(u"300"_s, [&](frmSastav& form) {
         boxes_.ExpectForm(u"frmViewer"_s, [&](QWidget& viewer) {
             EXPECT_EQ(Box(form, u"txtProdCode"), u"");
             Get<QWidget>(viewer, u"lv1")->setFocus();
             Keys(u"{Down}{Enter}");
         });
         Keys(u"77{F2}{Enter}2{Enter}");
-        EXPECT_EQ(Codes(form), QStringList{u"200"_s});
+        EXPECT_EQ(Codes(form), QStringList{longCode});
+        drivers::ClickRow(Parts(form), 0, Qt::RightButton);
+        Keys(u"{Enter}");
+        EXPECT_EQ(Codes(form), QStringList{longCode});
         for (int number = 1; number < 200; ++number)
             Parts(form)->Add({u"part %1"_s.arg(number), u"Part"_s, u"1.000"_s, u"pcs"_s, u"1.00"_s});
         QElapsedTimer clock;

@@ -121,6 +121,28 @@ TEST_F(UsersTest, AnEditWantsThePasswordConfirmedAndMayChangeTheNumber) {
     });
 }
 
+// A password from elsewhere is kept whole until it is typed anew, which takes no more than 15 characters.
+TEST_F(UsersTest, ALongPasswordCanBeConfirmed) {
+    const auto password = u"12345678901234567890"_s;
+    Run(u"UPDATE Users SET [Password] = '%1' WHERE UserID = '2'"_s.arg(password));
+    Use<frmUsers>([&](frmUsers&) {
+        Enter(u"{Down}{F4}", u"frmEditUser"_s, [&](QWidget& form) {
+            drivers::Type(form, u"txtReTypePassword", password);
+            drivers::Type(form, u"txtUserName", u"ana{F5}");
+        });
+        EXPECT_EQ(Users()[1], u"2|ana|ana||1|"_s + password);
+        Enter(u"{Down}{F4}", u"frmEditUser"_s, [&](QWidget& form) {
+            drivers::Type(form, u"txtPassword", u"{End}{Left}{Backspace}x");
+            EXPECT_EQ(Box(form, u"txtPassword"), u"1234567890123456780");
+            boxes_.Expect(u"Different passwords!"_s);
+            Keys(u"{F5}");
+            drivers::Type(form, u"txtPassword", password);
+            drivers::Type(form, u"txtReTypePassword", password + u"{F5}"_s);
+        });
+        EXPECT_EQ(Users()[1], u"2|ana|ana||1|"_s + password.left(15));
+    });
+}
+
 TEST_F(UsersTest, ShowPasswordTakesTheStarsOffBothBoxes) {
     Use<frmUsers>([this](frmUsers&) {
         Enter(u"{F5}", u"frmNewUser"_s, [](QWidget& form) {
