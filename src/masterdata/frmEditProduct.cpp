@@ -14,19 +14,10 @@ namespace {
 
 const auto ProductQuery = u"SELECT * FROM Products WHERE ProdCode = '%1'"_s;
 
-// Nobody can type into a box that is hidden, so an empty field must not keep the product from being saved.
-QString HiddenPrice(const values::Value& price) {
-    return Format(price.IsNull() ? values::Value(0) : price, u"0.00");
-}
-
 // A text that is no longer in its table is shown, and saved, all the same.
 void Choose(QComboBox* list, const QString& text) {
     if (!text.isEmpty() && list->findText(text) < 0) list->addItem(text);
     list->setCurrentText(text);
-}
-
-QString Assignment(const QString& field, const QString& value) {
-    return u' ' + field + u" = '"_s + value + u'\'';
 }
 
 }  // namespace
@@ -71,9 +62,9 @@ void frmEditProduct::ShowProduct() {
     ui.txtQuantity->setText(rsProduct_[u"Qty"].TextOrEmpty());
     Choose(ui.txtUnit, rsProduct_[u"Unit"].TextOrEmpty());
     ui.txtUnitPrice->setText(Format(rsProduct_[u"UnitPrice"], u"0.00"));
-    ui.txtUnitPricebezPDV->setText(HiddenPrice(rsProduct_[u"UnitPricebezPDV"]));
-    ui.txtVPUnitPrice->setText(HiddenPrice(rsProduct_[u"VPUnitPrice"]));
-    ui.txtVPUnitPricebezPDV->setText(HiddenPrice(rsProduct_[u"VPUnitPricebezPDV"]));
+    ui.txtUnitPricebezPDV->setText(Format(rsProduct_[u"UnitPricebezPDV"], u"0.00"));
+    ui.txtVPUnitPrice->setText(Format(rsProduct_[u"VPUnitPrice"], u"0.00"));
+    ui.txtVPUnitPricebezPDV->setText(Format(rsProduct_[u"VPUnitPricebezPDV"], u"0.00"));
     Choose(ui.cboTax, rsProduct_[u"TaxID"].TextOrEmpty());
     ui.txtTaxPercent->setText(rsProduct_[u"TaxPercent"].TextOrEmpty());
 
@@ -91,6 +82,12 @@ void frmEditProduct::StoreProduct() {
 
 void frmEditProduct::ProductStored() {
     Unload();
+}
+
+// What had no value, and was given none, is left without: no text in quotes could say so.
+QString frmEditProduct::Assignment(const QString& field, const QString& value) {
+    const bool isNull = value.isEmpty() && rsProduct_[field].IsNull();
+    return u' ' + field + u" = "_s + (isNull ? u"Null"_s : u'\'' + value + u'\'');
 }
 
 void frmEditProduct::UpdateProduct() {

@@ -19,6 +19,7 @@ private:
     void cmdSastav_Click();
 
     void ShowProduct();
+    QString Assignment(const QString& field, const QString& value);
     void UpdateProduct();
     void RefreshProductRow();
 

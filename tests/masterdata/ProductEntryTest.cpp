@@ -202,7 +202,7 @@ TEST_F(ProductEntryTest, PicturesThatCannotBeShownAreTold) {
             Keys(u"{F5}");
         },
         u"481"_s);
-    EXPECT_EQ(Product(u"300"_s), QStringList{u"300|Novine|10|pcs|2|0|0|0|N|0||-1"_s});
+    EXPECT_EQ(Product(u"300"_s), QStringList{u"300|Novine|10|pcs|2||||N|0||-1"_s});
 }
 
 TEST_F(ProductEntryTest, TheListShowsAnEditedProductWithItsOwnPercent) {
@@ -221,13 +221,28 @@ TEST_F(ProductEntryTest, TheListShowsAnEditedProductWithItsOwnPercent) {
         drivers::Grab(screen, u"frmEditProduct"_s);
         Keys(u"{F5}");
     });
-    EXPECT_EQ(list, (QStringList{u"100"_s, u"Cola 0,5 l"_s, u"8.5"_s, u"pcs"_s, u"1.60"_s, u"17"_s, u"0.00"_s,
-                                 u"1.25"_s, u"0.00"_s}));
-    EXPECT_EQ(Product(u"100"_s), QStringList{u"100|Cola 0,5 l|8.5|pcs|1.6|0|1.25|0|P|17|gone.bmp|5"_s});
+    EXPECT_EQ(list, (QStringList{u"100"_s, u"Cola 0,5 l"_s, u"8.5"_s, u"pcs"_s, u"1.60"_s, u"17"_s, u""_s, u"1.25"_s,
+                                 u""_s}));
+    EXPECT_EQ(Product(u"100"_s), QStringList{u"100|Cola 0,5 l|8.5|pcs|1.6||1.25||P|17|gone.bmp|5"_s});
     // The tax chosen again has its percent of today.
     const auto again = Edit(u"100"_s, [](QWidget& screen) { Type(screen, u"cboTax", u"{Space}{Enter}{F5}"); });
     EXPECT_EQ(again[5], u"20.00");
     EXPECT_EQ(Rows(u"SELECT TaxPercent FROM Products WHERE ProdCode = '100'"_s), QStringList{u"20"_s});
+}
+
+TEST_F(ProductEntryTest, WhatHasNoValueHasNoneAfterASave) {
+    LogIn(u"admin"_s);
+    Run(u"UPDATE Products SET UnitPricebezPDV = Null, VPUnitPrice = Null, VPUnitPricebezPDV = Null, TaxPercent = Null,"
+        " Pict = Null, Qty = Null, UnitPrice = Null WHERE ProdCode = '100'"_s);
+    Edit(u"100"_s, [this](QWidget& screen) {
+        boxes_.Expect(u"Fill in all required fields."_s);
+        Keys(u"{F5}");
+        Type(screen, u"txtQuantity", u"3");
+        Type(screen, u"txtUnitPrice", u"2{F5}");
+    });
+    EXPECT_EQ(Rows(u"SELECT Qty, UnitPrice FROM Products WHERE UnitPricebezPDV Is Null AND VPUnitPrice Is Null "
+                   "AND VPUnitPricebezPDV Is Null AND TaxPercent Is Null AND Pict Is Null"_s),
+              QStringList{u"3|2"_s});
 }
 
 TEST_F(ProductEntryTest, AUnitAndATaxThatAreGoneStayWithTheProduct) {
@@ -241,7 +256,7 @@ TEST_F(ProductEntryTest, AUnitAndATaxThatAreGoneStayWithTheProduct) {
         EXPECT_EQ(Box(screen, u"txtTaxPercent"), u"10");
         Keys(u"{F5}");
     });
-    EXPECT_EQ(Product(u"100"_s), QStringList{u"100|Cola|20|crate|1.5|0|0|0|OLD|10||-1"_s});
+    EXPECT_EQ(Product(u"100"_s), QStringList{u"100|Cola|20|crate|1.5||||OLD|10||-1"_s});
 }
 
 TEST_F(ProductEntryTest, ACodeAndANameFromElsewhereKeepTheirLength) {
@@ -295,7 +310,7 @@ TEST_F(ProductEntryTest, TheLastOfTwoRegistersWins) {
         Run(u"UPDATE Products SET ProdDescription = 'Theirs', UnitPrice = 9, Qty = 1, Tab = 3 WHERE ProdCode = '100'"_s);
         Keys(u"Ours{F5}");
     });
-    EXPECT_EQ(Product(u"100"_s), QStringList{u"100|Ours|20|pcs|1.5|0|0|0|P|17||3"_s});
+    EXPECT_EQ(Product(u"100"_s), QStringList{u"100|Ours|20|pcs|1.5||||P|17||3"_s});
 }
 
 TEST_F(ProductEntryTest, NumbersAreOfTheUsersLocale) {
