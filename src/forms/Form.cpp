@@ -12,6 +12,7 @@
 #include "forms/Frame.h"
 #include "forms/KeyDispatcher.h"
 #include "forms/OneLine.h"
+#include "forms/OptionGroups.h"
 #include "forms/ShrinkToFit.h"
 
 namespace forms {
@@ -54,6 +55,7 @@ void Form::Load() {
     loaded_ = true;
     loadedForms.append(this);
     for (auto* box : findChildren<QLineEdit*>()) KeepToOneLine(box);
+    KeepFocusOnChosenOptions(*this);
     try {
         Form_Load();
     } catch (...) {

@@ -220,6 +220,24 @@ TEST_F(OptionsTest, ATextOfTwoLinesIsStoredAsItWasUnlessItIsEdited) {
     EXPECT_EQ(Row(u"MjestoProdaje"_s) + Row(u"Currency"_s), u"A\r\nB\nA\r\nB\n");
 }
 
+// Space, pressed where the Tab key leads, must not choose another layout.
+TEST_F(OptionsTest, TheFocusIsOnTheChosenOptionOfAGroup) {
+    Setting(u"TipRacuna"_s, u"3"_s);
+    LogIn(u"admin"_s);
+    boxes_.ExpectForm(u"frmOptions"_s, [](QWidget& screen) {
+        EXPECT_TRUE(Get<QWidget>(screen, u"optTipRacuna3")->hasFocus());
+        Keys(u"{Tab}{Shift+Tab}{Space}");
+        EXPECT_TRUE(Get<QWidget>(screen, u"optTipRacuna3")->hasFocus());
+        EXPECT_EQ(TheSettings.TipRacuna, u"3");
+        Keys(u"{Down}{Tab}{Enter}{Shift+Tab}");
+        Get<QWidget>(screen, u"optTipRacuna1")->setFocus();
+        Keys(u"{Space}");
+        EXPECT_EQ(TheSettings.TipRacuna, u"4");
+        Keys(u"{Esc}");
+    });
+    mdiORVA::Window().Choose(u"mnuProgram"_s);
+}
+
 TEST_F(OptionsTest, TheAmountShowsAndHidesAtOnce) {
     LogIn(u"admin"_s);
     const auto panel = [](int number) {

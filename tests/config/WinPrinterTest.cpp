@@ -51,6 +51,8 @@ TEST_F(WinPrinterTest, ASizeWorksAtItsClickAndAFontAtTheSave) {
     LogIn(u"admin"_s);
     Use<frmWinPrinter>([this](frmWinPrinter& screen) {
         EXPECT_TRUE(Get<QRadioButton>(screen, u"optVelFont2")->isChecked());
+        Keys(u"{Tab}");
+        EXPECT_EQ(QApplication::focusWidget()->objectName(), u"optVelFont2");
         EXPECT_EQ(drivers::List(screen, u"List1"),
                   (std::vector<QStringList>{
                       {u"Courier New"_s}, {u"Courier New Bold"_s}, {u"OCR-B 10 BT"_s}, {u"Lucida Console"_s}}));
@@ -80,6 +82,7 @@ TEST_F(WinPrinterTest, ASizeWithoutButtonAndAFontThatNobodyHasAreStoredAsTheySta
     Setting(u"VelFont"_s, u"12"_s);
     LogIn(u"admin"_s);
     Use<frmWinPrinter>([](frmWinPrinter& screen) {
+        Keys(u"{Tab}{Shift+Tab}");  // to arrive at an option is not to choose it
         for (const auto* button : screen.findChildren<QRadioButton*>()) EXPECT_FALSE(button->isChecked());
         drivers::Type(screen, u"txtFont", u"Nobody Sans{F5}");
     });
