@@ -117,10 +117,10 @@ protected:
     void OnMouseUp(QWidget* control, Qt::MouseButton button, void (Screen::*handler)()) {
         WatchMouse(control, button, Guarded(handler));
     }
-    // Double click on a row.
+    // Double click in a list that has a selected row, wherever among or below the rows.
     template <typename Screen>
     void OnDoubleClick(ListView* list, void (Screen::*handler)()) {
-        connect(list, &QAbstractItemView::doubleClicked, this, Guarded(handler));
+        connect(list, &ListView::DoubleClicked, this, Guarded(handler));
     }
     template <typename Screen>
     void OnTimer(QTimer* timer, void (Screen::*handler)()) {

@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QHelpEvent>
+#include <QMouseEvent>
 #include <QToolTip>
 
 #include "forms/RowModel.h"
@@ -130,6 +131,11 @@ void ListView::EndFill() {
     rows_->EndFill();
     setUpdatesEnabled(true);
     WidenForNumbers();
+}
+
+void ListView::mouseDoubleClickEvent(QMouseEvent* event) {
+    QTreeView::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton && Selected() >= 0) Q_EMIT DoubleClicked();
 }
 
 void ListView::resizeEvent(QResizeEvent* event) {

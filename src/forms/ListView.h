@@ -52,7 +52,12 @@ public:
     void BeginFill();
     void EndFill();
 
+Q_SIGNALS:
+    // A double click while a row is selected, wherever in the list it falls.
+    void DoubleClicked();
+
 protected:
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     bool viewportEvent(QEvent* event) override;

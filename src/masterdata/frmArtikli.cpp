@@ -34,7 +34,7 @@ frmArtikli::frmArtikli() {
                         {u"Second Price without Tax"_s, Qt::AlignLeft, 0}});
     KeepList(ui);
     ControlKeys(ui.lv1, {{Qt::Key_Return, Guarded(&frmArtikli::Activate)}});
-    OnDoubleClick(ui.lv1, &frmArtikli::lv1_DblClick);
+    OnDoubleClick(ui.lv1, &frmArtikli::Activate);
 }
 
 // There is one list of products: when it is open already it comes to the front, as it is.
@@ -85,10 +85,6 @@ void frmArtikli::FillProductGrid() {
                 Format(product[u"VPUnitPrice"].Get(), u"0.00"),
                 Format(product[u"VPUnitPricebezPDV"].Get(), u"0.00")};
     });
-}
-
-void frmArtikli::lv1_DblClick() {
-    if (ui.lv1->Selected() >= 0) Activate();
 }
 
 void frmArtikli::Activate() {

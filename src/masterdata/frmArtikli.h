@@ -25,7 +25,6 @@ protected:
     void cmdDelete_Click() override;
 
 private:
-    void lv1_DblClick();
     void Activate();
 
     void FillProductGrid();

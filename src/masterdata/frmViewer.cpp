@@ -32,7 +32,7 @@ frmViewer::frmViewer() {
     HelpAndClose(ui.cmdHelp, ui.cmdClose, {Qt::Key_Escape, Qt::Key_F12});
     FunctionKeys({{Qt::Key_F11, ui.search->cmdRefresh}});
     ControlKeys(ui.lv1, {{Qt::Key_Return, Guarded(&frmViewer::lv1_Enter)}});
-    OnDoubleClick(ui.lv1, &frmViewer::lv1_DblClick);
+    OnDoubleClick(ui.lv1, &frmViewer::Pick);
 }
 
 // Listing all products takes its time in a large shop: the register's setting says whether the window opens with them.
@@ -68,10 +68,6 @@ void frmViewer::FillViewerGrid() {
                 product[u"Qty"].TextOrEmpty(),
                 product[u"Unit"].TextOrEmpty()};
     });
-}
-
-void frmViewer::lv1_DblClick() {
-    if (ui.lv1->Selected() >= 0) Pick();
 }
 
 void frmViewer::lv1_Enter() {

@@ -18,7 +18,6 @@ protected:
     void cmdRefresh_Click() override;
 
 private:
-    void lv1_DblClick();
     void lv1_Enter();
     void Pick();
 

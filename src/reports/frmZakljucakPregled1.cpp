@@ -30,17 +30,13 @@ frmZakljucakPregled1::frmZakljucakPregled1() : PeriodReport(Facts) {
     AddButton(u"cmdPrintPregledListe"_s, u"F5-Print review"_s, Qt::Key_F5,
               &frmZakljucakPregled1::cmdPrintPregledListe_Click);
     ControlKeys(ui.lv1, {{Qt::Key_Return, Guarded(&frmZakljucakPregled1::lv1_Enter)}});
-    OnDoubleClick(ui.lv1, &frmZakljucakPregled1::lv1_DblClick);
+    OnDoubleClick(ui.lv1, &frmZakljucakPregled1::OpenEndReport);
 }
 
 // The first choice of days replaces this condition, so that it never reaches the store.
 void frmZakljucakPregled1::Form_Load() {
     PeriodReport::Form_Load();
     queryWhere_ = u" AND (Closed = True)"_s;
-}
-
-void frmZakljucakPregled1::lv1_DblClick() {
-    if (ui.lv1->Selected() >= 0) OpenEndReport();
 }
 
 void frmZakljucakPregled1::lv1_Enter() {

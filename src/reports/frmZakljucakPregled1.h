@@ -13,7 +13,6 @@ protected:
     void Form_Load() override;
 
 private:
-    void lv1_DblClick();
     void lv1_Enter();
     void cmdPrintPregledListe_Click();
     void OpenEndReport();

@@ -157,24 +157,29 @@ void Click(QWidget* control, Qt::MouseButton button) {
     Settle();
 }
 
+namespace {
+
+QPoint PlaceOf(forms::ListView* list, int row) {
+    QPoint place(list->viewport()->width() / 2, list->viewport()->height() - 2);
+    if (row < 0) return place;
+    list->scrollTo(list->model()->index(row, 0));
+    place.setY(list->visualRect(list->model()->index(row, 0)).center().y());
+    if (list->visualRect(list->model()->index(row, 0)).isEmpty())
+        place.setY(list->visualRect(list->model()->index(row, list->model()->columnCount() - 1)).center().y());
+    return place;
+}
+
+}  // namespace
+
 void ClickRow(forms::ListView* list, int row, Qt::MouseButton button) {
     Settle();
-    QWidget* viewport = list->viewport();
-    QPoint place(viewport->width() / 2, viewport->height() - 2);
-    if (row >= 0) {
-        list->scrollTo(list->model()->index(row, 0));
-        place.setY(list->visualRect(list->model()->index(row, 0)).center().y());
-        if (list->visualRect(list->model()->index(row, 0)).isEmpty())
-            place.setY(list->visualRect(list->model()->index(row, list->model()->columnCount() - 1)).center().y());
-    }
-    QTest::mouseClick(viewport, button, {}, place);
+    QTest::mouseClick(list->viewport(), button, {}, PlaceOf(list, row));
     Settle();
 }
 
 void DoubleClickRow(forms::ListView* list, int row) {
     ClickRow(list, row);
-    const QPoint place(list->viewport()->width() / 2, list->visualRect(list->model()->index(row, 0)).center().y());
-    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
+    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, PlaceOf(list, row));
     Settle();
 }
 
