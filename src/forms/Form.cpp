@@ -193,6 +193,14 @@ void Form::ShrinkFigures(std::initializer_list<QLineEdit*> boxes) {
     for (QLineEdit* box : boxes) new ShrinkToFit(box);
 }
 
+// A handler may have given the form another caption before it failed.
+void Form::Run(const std::function<void()>& handler) {
+    const QPointer<const Form> alive = this;
+    const QString before = Caption();
+    RunTitled(
+        handler, [&] { return alive ? alive->Caption() : before; }, fatal_);
+}
+
 void Form::ConnectTimer(QTimer* timer, std::function<void()> handler) {
     connect(timer, &QTimer::timeout, this, std::move(handler));
 }

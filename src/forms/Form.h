@@ -132,7 +132,7 @@ protected:
     std::function<void()> Guarded(void (Screen::*handler)()) {
         return [this, handler] { Run([&] { (static_cast<Screen*>(this)->*handler)(); }); };
     }
-    void Run(const std::function<void()>& handler) { forms::Run(handler, Caption(), fatal_); }
+    void Run(const std::function<void()>& handler);
 
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;

@@ -66,15 +66,20 @@ void ResetProgramEnd() {
 }
 
 void Run(const std::function<void()>& handler, const QString& title, bool fatal) {
+    RunTitled(
+        handler, [&] { return title; }, fatal);
+}
+
+void RunTitled(const std::function<void()>& handler, const std::function<QString()>& title, bool fatal) {
     if (ending) return;
     try {
         handler();
     } catch (const ProgramEnds&) {
         // EndProgram has already stopped the loops.
     } catch (const values::Error& error) {
-        ReportAndPerhapsEnd(error, title, fatal || error.EndsProgram());
+        ReportAndPerhapsEnd(error, title(), fatal || error.EndsProgram());
     } catch (const std::exception& error) {
-        ReportAndPerhapsEnd(error, title, fatal);
+        ReportAndPerhapsEnd(error, title(), fatal);
     }
 }
 

@@ -21,6 +21,8 @@ void ResetProgramEnd();
 // goes on; an error that ends the program (Error::EndsProgram, or any error with `fatal`) is shown and ends it with
 // exit code 1. Nothing is thrown through Qt.
 void Run(const std::function<void()>& handler, const QString& title, bool fatal = false);
+// The same under the title that holds when the error is told.
+void RunTitled(const std::function<void()>& handler, const std::function<QString()>& title, bool fatal);
 
 // "number" directly followed by "description", as the system's own handlers show an error.
 QString ErrorText(const std::exception& error);

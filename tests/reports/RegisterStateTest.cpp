@@ -168,7 +168,7 @@ TEST_F(RegisterStateTest, RefreshingReadsAgainButKeepsTheTax) {
 
 TEST_F(RegisterStateTest, AFailedQueryIsToldAndTheScreenGoesOn) {
     Boxes boxes;
-    boxes.ExpectBeginning(u"3075"_s);
+    boxes.ExpectBeginning(u"3075"_s).Titled(u"End Report"_s);
     auto& form = ShowReview({}, {}, {});
     EXPECT_TRUE(form.isVisible());
     Keys(u"{F12}");
