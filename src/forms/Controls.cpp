@@ -4,37 +4,17 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QIcon>
-#include <QImageReader>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPixmap>
 #include <QPlainTextEdit>
 #include <QTextEdit>
 
 #include "forms/OneLine.h"
+#include "forms/Pictures.h"
 #include "forms/TextView.h"
 
 namespace forms {
-
-namespace {
-
-// Beyond any thumbnail, but far from what would bring a till to its knees.
-constexpr int largestSide = 2000;
-constexpr int largestPictureInMegabytes = 64;
-
-QPixmap ReadPicture(const QString& path) {
-    QImageReader reader(path);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    QImageReader::setAllocationLimit(largestPictureInMegabytes);
-    const QSize size = reader.size();
-    if (size.width() > largestSide || size.height() > largestSide)
-        reader.setScaledSize(size.scaled(largestSide, largestSide, Qt::KeepAspectRatio).expandedTo({1, 1}));
-    return QPixmap::fromImage(reader.read());
-}
-
-}  // namespace
 
 QWidget* Control(QWidget* form, QStringView name) {
     auto* control = form->findChild<QWidget*>(name.toString());
@@ -83,14 +63,14 @@ void GoTo(QWidget* box) {
 }
 
 bool LoadPicture(QWidget* control, const QString& path) {
-    const QPixmap picture = ReadPicture(path);
-    if (picture.isNull()) return false;
     if (auto* button = qobject_cast<QAbstractButton*>(control)) {
-        button->setIcon(QIcon(picture));
-        return true;
+        const QIcon icon = PictureIcon(path);
+        if (!icon.isNull()) button->setIcon(icon);
+        return !icon.isNull();
     }
     auto* label = qobject_cast<QLabel*>(control);
-    if (!label) return false;
+    const QPixmap picture = ReadPicture(path);
+    if (!label || picture.isNull()) return false;
     label->setPixmap(picture);
     return true;
 }

@@ -25,7 +25,8 @@ void CaretToEnd(QLineEdit* box);
 // The focus goes to a box whose text is to be typed anew: it is selected even if the focus was there all along.
 void GoTo(QWidget* box);
 
-// The control's picture from a file; false (and nothing changes) when the file is missing or is no picture.
+// The control's picture from a file; false (and nothing changes) when the file is missing or holds no picture that a
+// till can show in no time. A button's is read when it is first painted.
 bool LoadPicture(QWidget* control, const QString& path);
 
 }  // namespace forms

@@ -81,7 +81,8 @@ void TouchButton::paintEvent(QPaintEvent*) {
 
 void TouchButton::PaintFace(QPainter& painter) const {
     QRect face = rect().adjusted(Margin, Margin, -Margin, -Margin);
-    if (!icon().isNull()) {
+    // Only now is the file read, and may turn out to hold no picture.
+    if (!icon().availableSizes().isEmpty()) {
         const QRect picture(face.left(), face.top(), qMin(PictureWidth, face.width() / 3), face.height());
         icon().paint(&painter, picture);
         face.setLeft(picture.right() + Margin);

@@ -310,6 +310,15 @@ TEST_F(FormTest, PicturesLoadByContentAndAMissingOneChangesNothing) {
     text.close();
     EXPECT_FALSE(forms::LoadPicture(&label, text.fileName()));
     EXPECT_EQ(label.pixmap().size(), QSize(4, 4));
+
+    // What costs a till its time to look at is none either; what changed on the disk is read anew.
+    QImage big(3000, 3000, QImage::Format_Mono);
+    big.fill(0);
+    ASSERT_TRUE(big.save(path, "PNG"));
+    EXPECT_FALSE(forms::LoadPicture(&label, path));
+    ASSERT_TRUE(big.copy(0, 0, 4, 900).save(path, "PNG"));
+    EXPECT_TRUE(forms::LoadPicture(&label, path));
+    EXPECT_GT(label.pixmap().height(), 4);
 }
 
 }  // namespace

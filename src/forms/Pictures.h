@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QIcon>
+#include <QPixmap>
+
+// Pictures of files, read no larger than a thumbnail, and read again only when the file has changed. One that would
+// cost a till its time (16 MB, or 4 million points; 16 million of a JPEG, which is read small) is none.
+namespace forms {
+
+// Null when there is none.
+QPixmap ReadPicture(const QString& path);
+// Read when it is first looked at, so that a table of many buttons is there at once; null when the file's head tells
+// that there is none.
+QIcon PictureIcon(const QString& path);
+
+}  // namespace forms
