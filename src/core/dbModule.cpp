@@ -1,9 +1,11 @@
 #include "core/dbModule.h"
 
 #include <QFileInfo>
+#include <algorithm>
 
 #include "forms/Form.h"
 #include "output/Channel.h"
+#include "output/CodePage.h"
 #include "output/Folder.h"
 #include "output/PagePrinter.h"
 #include "store/StorePath.h"
@@ -77,12 +79,13 @@ void FeedBlankLines(qint16 count) {
 }
 
 QString PadLeft(qint32 width, const QString& text) {
-    return text.rightJustified(width);
+    return QString(std::max(0, width - output::Columns(text)), u' ') + text;
 }
 
 QString PadRight(qint32 width, const QString& text) {
     if (width < 0) throw values::Error(InvalidCall, u"A text does not fit its line."_s);
-    return text.leftJustified(width, u' ', true);
+    const QString cut = output::FirstColumns(text, width);
+    return cut + QString(width - output::Columns(cut), u' ');
 }
 
 bool FileExists(const QString& path) {

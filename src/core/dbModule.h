@@ -29,7 +29,7 @@ void PrintToChannel(const QString& mode, const QString& line);
 // Empty lines on channel 1, whatever the output.
 void FeedBlankLines(qint16 count);
 
-// Right-justified in `width` columns; a longer text stays whole.
+// Right-justified in `width` columns, as output::Columns counts them; a longer text stays whole.
 QString PadLeft(qint32 width, const QString& text);
 // Left-justified in `width` columns; a longer text is cut. A negative width is Error 5.
 QString PadRight(qint32 width, const QString& text);

@@ -73,6 +73,12 @@ const CodePage& UserPage() {
     return IsCentralEuropean(values::UserLocale()) ? CentralPage() : WesternPage();
 }
 
+// The UTF-16 units of the sign that begins there.
+qsizetype SignAt(QStringView text, qsizetype at) {
+    const bool isPair = text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
+    return isPair ? 2 : 1;
+}
+
 QString Decoded(const QByteArray& bytes, const CodePage& page) {
     QString result;
     result.reserve(bytes.size());
@@ -86,12 +92,20 @@ QByteArray ToCodePage(QStringView text) {
     const CodePage& page = UserPage();
     QByteArray result;
     result.reserve(text.size());
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        result += page.bytes.value(text[i].unicode(), '?');
-        const bool isPair = text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
-        if (isPair) ++i;
-    }
+    for (qsizetype i = 0; i < text.size(); i += SignAt(text, i)) result += page.bytes.value(text[i].unicode(), '?');
     return result;
+}
+
+qint32 Columns(QStringView text) {
+    qint32 columns = 0;
+    for (qsizetype i = 0; i < text.size(); i += SignAt(text, i)) ++columns;
+    return columns;
+}
+
+QString FirstColumns(const QString& text, qint32 columns) {
+    qsizetype end = 0;
+    for (; end < text.size() && columns > 0; --columns) end += SignAt(text, end);
+    return text.first(end);
 }
 
 QString FromCodePage(const QByteArray& bytes) {

@@ -9,6 +9,11 @@ namespace output {
 // that are written in Latin letters, 1252 elsewhere. What the page lacks becomes "?", one a character.
 QByteArray ToCodePage(QStringView text);
 QString FromCodePage(const QByteArray& bytes);
+// The columns that a text takes on paper: the bytes that ToCodePage makes of it. A sign of two UTF-16 units is one, a
+// combining mark is one of its own beside its letter.
+qint32 Columns(QStringView text);
+// The beginning of a text, in so many columns at most; never half a sign.
+QString FirstColumns(const QString& text, qint32 columns);
 // Text that names its page by itself, whatever the user's locale: 1250; any other number is taken for 1252.
 QString FromNumberedPage(const QByteArray& bytes, int page);
 

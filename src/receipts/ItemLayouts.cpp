@@ -4,6 +4,7 @@
 
 #include "core/Settings.h"
 #include "core/dbModule.h"
+#include "output/CodePage.h"
 #include "values/Error.h"
 #include "values/Format.h"
 #include "values/Numbers.h"
@@ -27,13 +28,9 @@ void PrintHeader(const QString& OutputMode, const QString& rule, const QStringLi
     PrintToChannel(OutputMode, rule);
 }
 
-qint32 Length(const QString& text) {
-    return static_cast<qint32>(text.size());
-}
-
 // A code or row number and the description behind it, which share `width` columns beside the blank between them.
 QString Labelled(qint32 width, const QString& label, const QString& description) {
-    return label + u' ' + PadRight(width - Length(label), description);
+    return label + u' ' + PadRight(width - output::Columns(label), description);
 }
 
 QString WideFigures(const InvoiceText::Item& item) {

@@ -2,6 +2,7 @@
 
 #include "core/Settings.h"
 #include "core/dbModule.h"
+#include "output/CodePage.h"
 #include "output/PagePrinter.h"
 #include "receipts/InvoiceOutput.h"
 #include "values/Clock.h"
@@ -66,8 +67,8 @@ void PrintDateAndNumberLines(const QString& OutputMode, const QString& label, co
 
 void PrintInvoiceTotals(const QString& OutputMode, const InvoiceText& invoice) {
     const QString rule = TotalsRule();
-    const auto figureWidth = static_cast<qint32>(invoice.total.size());
-    const auto labelWidth = static_cast<qint32>(rule.size()) - figureWidth;
+    const qint32 figureWidth = output::Columns(invoice.total);
+    const qint32 labelWidth = output::Columns(rule) - figureWidth;
     const auto printTotal = [&](const QString& label, const QString& figure) {
         PrintToChannel(OutputMode,
                        PadLeft(labelWidth, label + TheSettings.Currency + u": "_s) + PadLeft(figureWidth, figure));

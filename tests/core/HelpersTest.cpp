@@ -14,6 +14,11 @@ TEST(TextHelpers, PadLeftKeepsAnOverlongTextAndPadRightCutsIt) {
     EXPECT_EQ(PadLeft(0, u""_s), u"");
     EXPECT_EQ(PadRight(0, u"ab"_s), u"");
     EXPECT_THROW(PadRight(-1, u"ab"_s), values::Error);
+    // A sign of two UTF-16 units is one "?" on paper, a combining mark one beside its letter.
+    EXPECT_EQ(PadLeft(4, u"a😀"_s), u"  a😀");
+    EXPECT_EQ(PadRight(4, u"a😀"_s), u"a😀  ");
+    EXPECT_EQ(PadRight(2, u"a😀😀"_s), u"a😀");
+    EXPECT_EQ(PadRight(3, u"c\u030C"_s), u"c\u030C ");
 }
 
 TEST(TextHelpers, ProperCaseRaisesFirstLettersAndLowersNothing) {
