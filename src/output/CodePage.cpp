@@ -1,6 +1,8 @@
 #include "output/CodePage.h"
 
 #include <QHash>
+#include <QRegularExpression>
+#include <algorithm>
 #include <array>
 
 #include <iconv.h>
@@ -39,26 +41,6 @@ CodePage::CodePage(const char* name) {
     iconv_close(converter);
 }
 
-bool IsCentralEuropean(const QLocale& locale) {
-    switch (locale.language()) {
-        case QLocale::Croatian:
-        case QLocale::Slovenian:
-        case QLocale::Czech:
-        case QLocale::Slovak:
-        case QLocale::Polish:
-        case QLocale::Hungarian:
-        case QLocale::Romanian:
-        case QLocale::Albanian:
-            return true;
-        case QLocale::Bosnian:
-        case QLocale::Serbian:
-            return locale.script() == QLocale::LatinScript;
-        default:
-            // Montenegrin, which is not known as a language of its own everywhere.
-            return locale.territory() == QLocale::Montenegro && locale.script() == QLocale::LatinScript;
-    }
-}
-
 const CodePage& CentralPage() {
     static const CodePage page("CP1250");
     return page;
@@ -70,7 +52,10 @@ const CodePage& WesternPage() {
 }
 
 const CodePage& UserPage() {
-    return IsCentralEuropean(values::UserLocale()) ? CentralPage() : WesternPage();
+    // Numbers may follow another locale than texts, and either may be all that tells the language.
+    const bool isCentral =
+        IsCentralEuropean(values::UserLocaleName()) || IsCentralEuropean(values::UserLocale().bcp47Name());
+    return isCentral ? CentralPage() : WesternPage();
 }
 
 // The UTF-16 units of the sign that begins there.
@@ -87,6 +72,22 @@ QString Decoded(const QByteArray& bytes, const CodePage& page) {
 }
 
 }  // namespace
+
+bool IsCentralEuropean(QStringView locale) {
+    static const QRegularExpression partEnd(u"[_.@-]"_s);
+    const QStringList parts = locale.toString().toLower().split(partEnd);
+    const auto says = [&](QStringView end) {
+        return std::ranges::any_of(parts, [&](const QString& part) { return part.endsWith(end); });
+    };
+    static const QStringList always{u"hr"_s, u"sl"_s, u"cs"_s, u"sk"_s, u"pl"_s, u"hu"_s, u"ro"_s, u"sq"_s};
+    static const QStringList unlessCyrillic{u"bs"_s, u"sh"_s, u"hbs"_s, u"cnr"_s, u"me"_s};
+    const QString& language = parts.first();
+    if (always.contains(language)) return true;
+    const bool isCyrillic = says(u"cyrl") || says(u"cyrillic");
+    if (unlessCyrillic.contains(language)) return !isCyrillic;
+    // Serbian is written in Cyrillic letters unless it is said otherwise, or spoken in Montenegro.
+    return language == u"sr" && !isCyrillic && (says(u"latn") || says(u"latin") || parts.contains(u"me"));
+}
 
 QByteArray ToCodePage(QStringView text) {
     const CodePage& page = UserPage();

@@ -23,6 +23,11 @@ LocaleTexts& InstalledTexts() {
     return texts;
 }
 
+QString& InstalledName() {
+    static QString name = LocaleNameInEnvironment();
+    return name;
+}
+
 }  // namespace
 
 LocaleTexts::LocaleTexts(const QLocale& from)
@@ -50,6 +55,17 @@ const QLocale& UserLocale() {
 
 void SetUserLocale(const QLocale& locale) {
     InstalledTexts() = LocaleTexts(locale);
+    InstalledName() = locale.bcp47Name();
+}
+
+const QString& UserLocaleName() {
+    return InstalledName();
+}
+
+QString LocaleNameInEnvironment() {
+    for (const char* variable : {"LC_ALL", "LC_CTYPE", "LANG"})
+        if (const QString name = qEnvironmentVariable(variable); !name.isEmpty()) return name;
+    return {};
 }
 
 QChar DecimalSeparatorChar() {

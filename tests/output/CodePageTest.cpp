@@ -35,6 +35,24 @@ TEST(CodePage, FollowsTheLanguageOfTheUser) {
     }
 }
 
+TEST(CodePage, KnowsTheLatinLettersOfTheRegionHoweverTheyAreSpelled) {
+    for (const QString& locale : {u"sr_RS@latin"_s, u"sr_RS.utf8@latin"_s, u"sr_RS.UTF-8@latin"_s,
+                                  u"sr_Latn_RS.UTF-8"_s, u"sr-Latn"_s, u"sr_ME"_s, u"sr_BA@ijekavianlatin"_s,
+                                  u"bs_BA"_s, u"hr"_s, u"me"_s, u"cnr_ME"_s, u"sh_YU.ISO-8859-2"_s, u"sq_AL"_s})
+        EXPECT_TRUE(IsCentralEuropean(locale)) << qPrintable(locale);
+    for (const QString& locale : {u""_s, u"C"_s, u"C.UTF-8"_s, u"en_US.UTF-8"_s, u"sr_RS"_s, u"sr_Cyrl_ME"_s,
+                                  u"sr_ME@cyrillic"_s, u"bs_BA@cyrillic"_s, u"uz_UZ@latin"_s, u"de_DE@euro"_s})
+        EXPECT_FALSE(IsCentralEuropean(locale)) << qPrintable(locale);
+    const std::pair<const char*, QString> environment[] = {
+        {"LANG", u"en_US"_s}, {"LC_CTYPE", u"sr_RS@latin"_s}, {"LC_ALL", u"hr"_s}};
+    for (const auto& [variable, name] : environment) qunsetenv(variable);
+    for (const auto& [variable, name] : environment) {
+        qputenv(variable, name.toLatin1());
+        EXPECT_EQ(values::LocaleNameInEnvironment(), name);
+    }
+    for (const auto& [variable, name] : environment) qunsetenv(variable);
+}
+
 TEST(CodePage, LosesNoPlaceInALine) {
     values::SetUserLocale(QLocale(u"hr_HR"_s));
     EXPECT_EQ(ToCodePage(u"a😀b日c"_s), "a?b?c");
