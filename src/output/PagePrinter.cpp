@@ -63,6 +63,7 @@ struct PagePrinter::Job {
     double y = 0;
 
     explicit Job(const QPageLayout& paper);
+    bool Holds(const QFont& font) const;
     void Print(const QString& line, const QFont& font);
     void End();
     bool DeviceFailed() const;
@@ -82,6 +83,11 @@ PagePrinter::Job::Job(const QPageLayout& paper) {
 bool PagePrinter::Job::DeviceFailed() const {
     const auto* printer = dynamic_cast<const QPrinter*>(device.get());
     return printer && (printer->printerState() == QPrinter::Error || printer->printerState() == QPrinter::Aborted);
+}
+
+bool PagePrinter::Job::Holds(const QFont& font) const {
+    const QFontMetricsF metrics(font, device.get());
+    return metrics.height() <= device->height() && metrics.horizontalAdvance(u'0') <= device->width();
 }
 
 void PagePrinter::Job::Print(const QString& line, const QFont& font) {
@@ -108,7 +114,7 @@ void PagePrinter::SetFontName(const QString& name) {
 }
 
 void PagePrinter::SetFontSize(double points) {
-    fontSize_ = points > 0 ? points : DefaultFontSize;
+    fontSize_ = points > 0 && points <= LargestFontSize ? points : DefaultFontSize;
 }
 
 void PagePrinter::SetPaper(const QPageLayout& paper) {
@@ -125,7 +131,8 @@ QPageLayout PagePrinter::Paper() const {
 
 void PagePrinter::PrintLine(const QString& line) {
     if (!job_) job_ = std::make_unique<Job>(Paper());
-    const QFont font = LineFont(fontName_, fontSize_);
+    QFont font = LineFont(fontName_, fontSize_);
+    if (!job_->Holds(font)) font.setPointSizeF(DefaultFontSize);
     // A footer of several lines takes several lines on the page as well.
     for (QString part : line.split(u'\n')) {
         if (part.endsWith(u'\r')) part.chop(1);

@@ -75,6 +75,23 @@ TEST_F(PagePrinterTest, AFullPageIsFollowedByAnotherAndNoLineIsLost) {
     EXPECT_EQ(printed, expected);
 }
 
+TEST_F(PagePrinterTest, ASizeThatNoPageHoldsIsNine) {
+    for (const double size : {0.0, -1.0, 1000.0, 1e300}) {
+        printer.SetFontSize(size);
+        for (int i = 0; i < 30; ++i) printer.PrintLine(u"line"_s);
+        printer.EndJob();
+        EXPECT_EQ(Pages(First).size(), 1) << size;
+        QFile::remove(Path(First));
+    }
+    printer.SetPaper({QPageSize(QPageSize::A6), QPageLayout::Portrait, {}});
+    printer.SetFontSize(450);
+    printer.PrintLine(u"line"_s);
+    printer.PrintLine(u"line"_s);
+    printer.SetPaper({});
+    printer.EndJob();
+    EXPECT_EQ(Pages(First).size(), 1);
+}
+
 TEST_F(PagePrinterTest, NothingPrintedOrAbandonedLeavesNoFile) {
     printer.EndJob();
     printer.PrintLine(u"never mind"_s);
