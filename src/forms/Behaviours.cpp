@@ -8,6 +8,8 @@
 #include "forms/Controls.h"
 #include "values/Locale.h"
 
+using namespace Qt::StringLiterals;
+
 namespace forms {
 
 namespace {
@@ -173,6 +175,11 @@ bool Form::Behaviours::eventFilter(QObject* watched, QEvent* event) {
 bool Form::Behaviours::FocusArrives(QWidget* box, Control& control, const QFocusEvent& event) {
     // The highlight belongs to coming to a control, not to a window that comes back: who was typing goes on typing.
     if (!control.highlight || box == focused) return false;
+    // Yellow now, and white when it is left, whatever it was before.
+    if (box->property("role") == u"pale"_s) {
+        box->setProperty("role", {});
+        Restyle(box);
+    }
     if (*control.highlight == OnFocus::SelectAll) {
         SelectWhole(box);
         control.clickedInto = event.reason() == Qt::MouseFocusReason;

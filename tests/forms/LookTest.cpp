@@ -135,6 +135,8 @@ public:
         auto* empty = Field({});
         empty->setPlaceholderText(u"Custumer Ident"_s);
         grid->addWidget(empty, 3, 3);
+        pale->setProperty("role", u"pale"_s);
+        grid->addWidget(pale, 0, 2);
         auto* entry = Field(u"3850104003217"_s);
         entry->setProperty("role", u"entry"_s);
         grid->addWidget(entry, 4, 1);
@@ -199,7 +201,7 @@ public:
         closed->addWidget(Button(u"Esc-Delete"_s, u"danger"_s));
         off_->setEnabled(false);
         column->addWidget(off_);
-        HighlightOnFocus({focused, editable});
+        HighlightOnFocus({focused, editable, pale});
         focused->setFocus();
         resize(760, 700);
     }
@@ -208,6 +210,7 @@ public:
     QComboBox* editable = new QComboBox;
     QDateEdit* calendar = new QDateEdit(QDate(2026, 11, 24));
     QLineEdit* readOnly = Field(u"40084107"_s, true);
+    QLineEdit* pale = Field(u"12"_s);
     QLineEdit* focused = Field(u"Čokolada mliječna 100 g"_s);
 
 private:
@@ -250,8 +253,13 @@ TEST_F(LookTest, ControlsOfEachKind) {
     EXPECT_EQ(ColourOf(form.readOnly), u"#ffffff"_s);
     EXPECT_EQ(form.readOnly->height(), 36);
 
+    EXPECT_EQ(ColourOf(form.pale), u"#edf0f3"_s);
+    form.pale->setFocus();
+    EXPECT_EQ(ColourOf(form.pale), u"#ffff00"_s);
+
     form.editable->setFocus();
     drivers::Settle();
+    EXPECT_EQ(ColourOf(form.pale), u"#ffffff"_s) << "grey until it had the focus";
     const QImage combo = form.editable->grab().toImage();
     for (const int x : {5, combo.width() / 2, combo.width() - 5})
         EXPECT_EQ(combo.pixelColor(x, 8).name(), u"#ffff00"_s) << "an editable combo box, at " << x;
