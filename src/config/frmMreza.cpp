@@ -14,24 +14,14 @@ const auto OptionsQuery = u"SELECT * FROM Options"_s;
 
 frmMreza::frmMreza() {
     ui.setupUi(this);
-    LayOutToolBar();
     StoreErrorsEndProgram();
     HelpAndClose(ui.cmdHelp, ui.cmdCancel, {Qt::Key_Escape, Qt::Key_F12}, u"\\Podesavanje.rtf"_s);
     FunctionKeys({{Qt::Key_F5, ui.cmdOK}});
     EnterMovesOn();
     HighlightOnFocus({ui.txtServerName, ui.txtKasa});
     On(ui.cmdOK, &frmMreza::cmdOK_Click);
-    connect(ui.save, &QAction::triggered, ui.cmdOK, &QPushButton::click);
-    connect(ui.help, &QAction::triggered, ui.cmdHelp, &QPushButton::click);
-    connect(ui.close, &QAction::triggered, ui.cmdCancel, &QPushButton::click);
-}
-
-// The work on the left, help and close on the right, as everywhere.
-void frmMreza::LayOutToolBar() {
-    ui.Tlbr1->widgetForAction(ui.save)->setProperty("role", u"main"_s);
-    auto* gap = new QWidget;
-    gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    ui.Tlbr1->insertWidget(ui.help, gap);
+    TieToolBar(ui.Tlbr1, {{ui.save, ui.cmdOK}, {ui.help, ui.cmdHelp}, {ui.close, ui.cmdCancel}});
+    SpreadToolBar(ui.Tlbr1);
 }
 
 void frmMreza::Form_Load() {

@@ -18,8 +18,6 @@ protected:
 private:
     void cmdOK_Click();
 
-    void LayOutToolBar();
-
     Ui::frmMreza ui;
     store::Recordset rsOptions_;
 };

@@ -63,9 +63,7 @@ frmOptions::frmOptions(int tab) {
     On(ui.chkFiskalniRacunDA, &frmOptions::chkFiskalniRacunDA_Click);
     On(ui.cmdUradi, &frmOptions::cmdUradi_Click);
     On(ui.cmdOK, &frmOptions::cmdOK_Click);
-    connect(ui.save, &QAction::triggered, ui.cmdOK, &QPushButton::click);
-    connect(ui.help, &QAction::triggered, ui.cmdHelp, &QPushButton::click);
-    connect(ui.close, &QAction::triggered, ui.cmdCancel, &QPushButton::click);
+    TieToolBar(ui.Tlbr1, {{ui.save, ui.cmdOK}, {ui.help, ui.cmdHelp}, {ui.close, ui.cmdCancel}});
     // The work begins on the page, not on its tab.
     const QList<QWidget*> first{ui.optPrinterZaRacun1, ui.txtMjestoProdaje, ui.optTipRacuna1, ui.txtServerName};
     first[tab]->setFocus();

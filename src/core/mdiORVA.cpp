@@ -6,6 +6,7 @@
 #include <QStatusBar>
 
 #include "core/AccessLevels.h"
+#include "core/ImageList.h"
 #include "values/Clock.h"
 #include "values/Format.h"
 
@@ -152,6 +153,10 @@ void mdiORVA::SetEntryEnabled(const QString& name, bool enabled) {
 void mdiORVA::ApplyAccessLevel(const QString& accLevel) {
     for (const QString& name : EntriesSwitchedOff(accLevel)) SetEntryEnabled(name, false);
     for (const QString& name : EntriesSwitchedOn(accLevel)) SetEntryEnabled(name, true);
+}
+
+QIcon mdiORVA::Image(const QString& key, const QColor& ink) {
+    return DrawImage(key, ink);
 }
 
 QString mdiORVA::RunningTotal() const {

@@ -36,6 +36,8 @@ public:
     void ShowRunningTotal(bool visible);
 
     QString Caption() const { return windowTitle(); }
+    // A picture of the image list, by the key of a tool bar's button.
+    static QIcon Image(const QString& key, const QColor& ink);
 
 private:
     void BuildMenu();

@@ -17,21 +17,11 @@ const auto Duplicate = u"User with this code or a name already exists.Change nam
 frmChangePassword::frmChangePassword() {
     ui.setupUi(this);
     ui.SSTab1->widget(0)->setObjectName(ui.SSTab1->tabText(0));
-    LayOutToolBar();
     EnterPassword(ui.txtPassword, ui.txtReTypePassword, ui.chkUnmaskPassword);
     SaveHelpAndClose(ui.cmdAdd, ui.cmdHelp, ui.cmdClose, {Qt::Key_Escape, Qt::Key_F12}, u"\\Lozinka.rtf"_s);
     On(ui.cmdAdd, &frmChangePassword::cmdAdd_Click);
-    connect(ui.save, &QAction::triggered, ui.cmdAdd, &QPushButton::click);
-    connect(ui.help, &QAction::triggered, ui.cmdHelp, &QPushButton::click);
-    connect(ui.close, &QAction::triggered, ui.cmdClose, &QPushButton::click);
-}
-
-// The work on the left, help and close on the right, as everywhere.
-void frmChangePassword::LayOutToolBar() {
-    ui.Tlbr1->widgetForAction(ui.save)->setProperty("role", u"main"_s);
-    auto* gap = new QWidget;
-    gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    ui.Tlbr1->insertWidget(ui.help, gap);
+    TieToolBar(ui.Tlbr1, {{ui.save, ui.cmdAdd}, {ui.help, ui.cmdHelp}, {ui.close, ui.cmdClose}});
+    SpreadToolBar(ui.Tlbr1);
 }
 
 void frmChangePassword::Form_Load() {

@@ -17,7 +17,6 @@ protected:
 private:
     void cmdAdd_Click();
 
-    void LayOutToolBar();
     void ShowPasswordUser();
     void StoreNewPassword();
 

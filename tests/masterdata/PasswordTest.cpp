@@ -51,6 +51,8 @@ TEST_F(PasswordTest, AnEmptyOneAndTwoDifferentOnesAreRefused) {
 
 TEST_F(PasswordTest, TheToolBarHelpsAndCloses) {
     Use<frmChangePassword>([this](frmChangePassword& screen) {
+        for (const auto& key : {u"save"_s, u"help"_s, u"close"_s})
+            EXPECT_FALSE(drivers::Get<QAction>(screen, key)->icon().isNull()) << key.toStdString();
         drivers::ExpectHelp(boxes_, u"\\Lozinka.rtf"_s);
         Keys(u"{F1}");
         drivers::ExpectHelp(boxes_, u"\\Lozinka.rtf"_s);
