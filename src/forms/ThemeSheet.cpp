@@ -30,14 +30,10 @@ QLineEdit[role="entry"][fit="1"] { font-size: @entryFit1; }
 QLineEdit[role="entry"][fit="2"] { font-size: @entryFit2; }
 QLineEdit[role="entry"][fit="3"] { font-size: @entryFit3; }
 QComboBox[role="entry"] { font-size: @entrySize; }
-QLineEdit[role="plain"], QLineEdit[role="plain"]:read-only, QLineEdit[role="plain"]:disabled {
-    background: transparent; border: none; padding: 0; min-height: 24px; color: @ink;
-    font-size: @strongSize; font-weight: 500;
+QLineEdit[role="plain"], QLineEdit[role="plainAccent"] {
+    border: none; padding: 0 6px; min-height: 26px; color: @ink; font-size: @strongSize; font-weight: 500;
 }
-QLineEdit[role="plainAccent"], QLineEdit[role="plainAccent"]:read-only, QLineEdit[role="plainAccent"]:disabled {
-    background: transparent; border: none; padding: 0; min-height: 24px; color: @accent;
-    font-size: @plainAccentSize; font-weight: 500;
-}
+QLineEdit[role="plainAccent"] { color: @accent; font-size: @plainAccentSize; }
 QComboBox QLineEdit, QComboBox QLineEdit:focus, QComboBox QLineEdit:disabled, QComboBox QLineEdit:read-only,
 QAbstractSpinBox QLineEdit, QAbstractSpinBox QLineEdit:focus, QAbstractSpinBox QLineEdit:disabled,
 QAbstractSpinBox QLineEdit:read-only {

@@ -63,6 +63,11 @@ TEST_F(ReviewTest, ThePreviewOfAllInvoicesComesFirst) {
     Use<frmRacPRG>([this](frmRacPRG& form) {
         EXPECT_EQ(form.Caption(), u"Invoices - print, view, save");
         drivers::Grab(form, u"frmRacPRG"_s);
+        for (const auto& name :
+             {u"txtInvoiceNumber"_s, u"txtORNumber"_s, u"txtDatum"_s, u"txtVrijeme"_s, u"txtCashier"_s}) {
+            const QImage box = drivers::Get<QWidget>(form, name)->grab().toImage();
+            EXPECT_EQ(box.pixelColor(box.width() / 2, 3).name(), u"#e0e0e0") << name.toStdString();
+        }
         EXPECT_EQ(Box(form, u"txtInvoiceNumber"), u"1");
         EXPECT_EQ(Box(form, u"txtORNumber"), u"1");
         EXPECT_EQ(Box(form, u"txtTotalAmount"), u"8.90");
