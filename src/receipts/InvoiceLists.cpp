@@ -1,11 +1,8 @@
 #include "receipts/InvoiceLists.h"
 
-#include "values/Format.h"
-#include "values/Numbers.h"
+#include "receipts/TaxRecap.h"
 
 using namespace Qt::StringLiterals;
-using values::CMoney;
-using values::Format;
 
 namespace {
 
@@ -37,32 +34,13 @@ void SetRecapColumns(forms::ListView& recap) {
                       {u"Tax"_s, Qt::AlignRight, 62}});
 }
 
-int AddToTaxRecap(const forms::ListView& lines, int line, forms::ListView& recap) {
-    const QString amount = lines.Text(line, Amount);
-    const QString tax = lines.Text(line, TaxAmount);
-    const int row = recap.Find(lines.Text(line, TaxID));
-    if (row < 0) {
-        recap.Add({lines.Text(line, TaxID),
-                   {},
-                   Format(lines.Text(line, TaxPercent), u"0.00"),
-                   Format(amount, u"0.00"),
-                   Format(tax, u"0.00")});
-        return -1;
-    }
-    const auto add = [&](TaxColumn column, const QString& text) {
-        const double sum = (CMoney(recap.Text(row, column)) + CMoney(text)).ToDouble();
-        recap.SetText(row, column, Format(sum, u"0.00"));
-    };
-    add(RecapAmount, amount);
-    add(RecapTax, tax);
-    return row;
-}
-
 void RebuildTaxRecap(const forms::ListView& lines, forms::ListView& recap) {
     recap.Clear();
+    QList<InvoiceText::Tax> taxes;
     int joined = -1;
-    for (int line = 0; line < lines.Count(); ++line)
-        if (const int row = AddToTaxRecap(lines, line, recap); row >= 0) joined = row;
+    for (const auto& item : ItemsOf(lines))
+        if (const int row = AddToTaxRecap(item, taxes); row >= 0) joined = row;
+    for (const auto& tax : taxes) recap.Add({tax.taxID, {}, tax.percent, tax.amount, tax.taxAmount});
     if (joined >= 0) recap.Select(joined);
 }
 

@@ -13,9 +13,6 @@ enum class LinesOf { Sale, Review };
 void SetLineColumns(forms::ListView& lines, LinesOf screen);
 void SetRecapColumns(forms::ListView& recap);
 
-// Adds a line to the tax recapitulation: one row a TaxID in the order of first appearance, each sum rounded to "0.00"
-// at every step. Gives the row that the line joined, -1 when it began a new one.
-int AddToTaxRecap(const forms::ListView& lines, int line, forms::ListView& recap);
 // The recapitulation of all lines anew; the row that a line joined last is selected.
 void RebuildTaxRecap(const forms::ListView& lines, forms::ListView& recap);
 

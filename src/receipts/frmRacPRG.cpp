@@ -8,23 +8,14 @@
 #include "receipts/InvoiceLists.h"
 #include "receipts/InvoiceOutput.h"
 #include "receipts/ReviewReceipt.h"
+#include "receipts/StoredInvoice.h"
 #include "receipts/TextFiles.h"
 #include "receipts/frmRacunPregled.h"
 #include "support/Help.h"
-#include "values/Format.h"
 
 using namespace Qt::StringLiterals;
-using values::Format;
 
 namespace {
-
-const auto InvoicesQuery =
-    u"SELECT InvoiceID, Val(OrNo) as No, DateSold, TimeSold, CashAmount, TaxTotal, CashierName"
-    u" FROM Invoices "_s;
-const auto InvoicesOrder = u" ORDER BY Val(OrNo)"_s;
-const auto DetailsQuery =
-    u"SELECT ProdCode, ProdDescription, UnitPrice, QtySold, Unit, Amount, Taxamount, TaxPercent, TaxID, InvoiceID"
-    u" FROM SalesDetails"_s;
 
 const auto PreviewTitle = u"Review Invoice"_s;
 
@@ -55,21 +46,20 @@ frmRacPRG::frmRacPRG() {
 
 void frmRacPRG::Form_Load() {
     DeleteTextFile(output::InProgramFolder(PreviewFile));
-    rsInvoices_ = MainStore().OpenRecordset(InvoicesQuery + strSQLwhere + InvoicesOrder);
+    rsInvoices_ = MainStore().OpenRecordset(StoredInvoicesQuery(strSQLwhere));
     if (rsInvoices_.RecordCount() == 0) return forms::Inform(u"Currently there is no single invoice"_s, Caption());
     PreviewAllInvoices();
     cmdFirst_Click();
 }
 
+// Thousands of invoices go by that nobody sees: the receipts are written from the rows, and only the last is shown.
 void frmRacPRG::PreviewAllInvoices() {
     // Without an invoice the move to the first one fails, and ends the program as a failed printing does.
     PrintOrEndProgram([this] {
         rsInvoices_.MoveFirst();
-        for (; !rsInvoices_.AtEOF(); rsInvoices_.MoveNext()) {
-            ShowInvoice();
-            AppendInvoiceToPreview(TakeInvoiceText());
-        }
+        for (; !rsInvoices_.AtEOF(); rsInvoices_.MoveNext()) AppendInvoiceToPreview(ReadInvoice(rsInvoices_));
         rsInvoices_.MoveLast();
+        ShowInvoice();
     });
     frmRacunPregled::Preview(PreviewFile, PreviewTitle);
 }
@@ -80,29 +70,25 @@ void frmRacPRG::ShowInvoice() {
 }
 
 void frmRacPRG::ShowInvoiceHeader() {
+    const InvoiceText head = ReadInvoiceHead(rsInvoices_);
     ui.txtInvoiceNumber->setText(rsInvoices_[u"InvoiceID"].TextOrEmpty());
-    ui.txtORNumber->setText(rsInvoices_[u"No"].TextOrEmpty());
-    ui.txtTotalAmount->setText(Format(rsInvoices_[u"CashAmount"].Get(), u"0.00"));
-    ui.txtTaxTotal->setText(Format(rsInvoices_[u"TaxTotal"].Get(), u"0.00"));
+    ui.txtORNumber->setText(head.orNo);
+    ui.txtTotalAmount->setText(head.total);
+    ui.txtTaxTotal->setText(head.taxTotal);
     ui.txtDatum->setText(rsInvoices_[u"DateSold"].TextOrEmpty());
     ui.txtVrijeme->setText(rsInvoices_[u"TimeSold"].TextOrEmpty());
-    ui.txtCashier->setText(rsInvoices_[u"CashierName"].TextOrEmpty());
+    ui.txtCashier->setText(head.cashier);
     ui.txtCashier->setCursorPosition(0);
-    ui.txtCashier->setToolTip(ui.txtCashier->text());
+    ui.txtCashier->setToolTip(head.cashier);
 }
 
 void frmRacPRG::ShowInvoiceLines() {
     ui.lv1->BeginFill();
     const auto end = qScopeGuard([this] { ui.lv1->EndFill(); });
     ui.lv1->Clear();
-    auto rs = MainStore().OpenRecordset(DetailsQuery + u" WHERE InvoiceID = '"_s +
-                                        rsInvoices_[u"InvoiceID"].TextOrEmpty() + u"'"_s);
-    for (auto& line : rs)
-        ui.lv1->Add({line[u"ProdCode"].TextOrEmpty(), line[u"ProdDescription"].TextOrEmpty(),
-                     Format(line[u"UnitPrice"].Get(), u"0.00"), line[u"QtySold"].TextOrEmpty(),
-                     Format(line[u"Amount"].Get(), u"0.00"), Format(line[u"TaxPercent"].Get(), u"0.00"),
-                     Format(line[u"TaxAmount"].Get(), u"0.00"), line[u"Unit"].TextOrEmpty(),
-                     line[u"TaxID"].TextOrEmpty()});
+    for (const auto& line : ReadInvoiceLines(rsInvoices_))
+        ui.lv1->Add({line.code, line.description, line.unitPrice, line.quantity, line.amount, line.taxPercent,
+                     line.taxAmount, line.unit, line.taxID});
     RebuildTaxRecap(*ui.lv1, *ui.lvPorez);
 }
 

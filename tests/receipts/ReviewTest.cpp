@@ -6,7 +6,10 @@
 
 #include "ReceiptCase.h"
 #include "ScreenCase.h"
+#include "core/Settings.h"
 #include "core/dbModule.h"
+#include "receipts/InvoiceLists.h"
+#include "receipts/ReviewReceipt.h"
 
 using namespace Qt::StringLiterals;
 using drivers::Box;
@@ -185,6 +188,135 @@ TEST_F(ReviewTest, APreviewThatCannotBeWrittenEndsTheProgram) {
     boxes_.ExpectBeginning(u"75"_s).WithIcon(QMessageBox::Critical);
     forms::Run([] { frmRacPRG().ShowModal(); }, {});
     ExpectEndOfProgram();
+}
+
+// A shop whose rows are as odd as a store lets them be.
+class OddShopTest : public ReviewTest {
+protected:
+    using Fields = std::initializer_list<std::pair<QStringView, values::Value>>;
+
+    void Add(const QString& table, Fields fields) {
+        auto rs = MainStore().OpenRecordset(u"SELECT * FROM "_s + table);
+        rs.AddNew();
+        for (const auto& [name, value] : fields) rs[name] = value;
+        rs.Update();
+    }
+    void AddInvoice(const values::Value& id, const QString& orNo, const values::Value& cashier = u"Ana"_s,
+                    qint64 units = 98765) {
+        const auto total = values::Money::FromUnits(units);
+        Add(u"Invoices"_s,
+            {{u"InvoiceID", id}, {u"OrNo", orNo}, {u"CashierName", cashier}, {u"CashAmount", total}, {u"TaxTotal", 0}});
+    }
+    void AddLine(const QString& id, const QString& code, const values::Value& taxID, double percent, double amount,
+                 double quantity = 1.2345) {
+        Add(u"SalesDetails"_s, {{u"InvoiceID", id},
+                                {u"ProdCode", code},
+                                {u"ProdDescription", u"Šećer\r\n漢 "_s + code},
+                                {u"UnitPrice", -amount},
+                                {u"QtySold", quantity},
+                                {u"Amount", amount},
+                                {u"TaxPercent", percent},
+                                {u"TaxAmount", amount / 8},
+                                {u"Unit", u"kg\nm"_s},
+                                {u"TaxID", taxID}});
+    }
+    void AddOddInvoices() {
+        AddInvoice(u"abc"_s, u"x12"_s);
+        AddInvoice(u"ABC"_s, u"2"_s, values::Value(), -50'000);
+        AddInvoice(u"007"_s, u"3"_s, u"Š漢\r\n\"x"_s);
+        AddInvoice(u"7"_s, u"4.50"_s);
+        AddInvoice(u"1"_s, u"5"_s);
+        AddInvoice(u"1"_s, u"5"_s, u"Eva"_s);
+        AddInvoice(values::Value(), u" 6"_s, u""_s, std::numeric_limits<qint64>::max());
+        AddInvoice(u"none"_s, u"1e3"_s);
+        for (const double amount : {0.005, -2.675, 90'000'000'000'000.12, 0.333, -0.0})
+            AddLine(u"Abc"_s, u"1"_s, u"P"_s, 17, amount);
+        for (const QString& taxID : {u"P"_s, u"p"_s, u" P"_s, u"P"_s, u""_s, u"č"_s, u"Č"_s})
+            AddLine(u"007"_s, u"12345678901234567890"_s, taxID, static_cast<double>(taxID.size()) * 5.555, 123.456);
+        AddLine(u"7"_s, u""_s, values::Value(), 0, -0.0, -0.0);
+        AddLine(u"1"_s, u"2"_s, u"N"_s, 0.005, 9.99, 1000);
+        AddLine(u"1"_s, u"3"_s, u"N"_s, 25, -99'999.995, -3);
+        Add(u"SalesDetails"_s, {{u"InvoiceID", u""_s}, {u"TaxAmount", 0}});
+    }
+    // What the controls show of the invoice in sight.
+    static InvoiceText ShownIn(frmRacPRG& form) {
+        return {.orNo = Box(form, u"txtORNumber"),
+                .customer = {},
+                .ident = {},
+                .cashier = Box(form, u"txtCashier"),
+                .total = Box(form, u"txtTotalAmount"),
+                .taxTotal = Box(form, u"txtTaxTotal"),
+                .items = ItemsOf(*Get<forms::ListView>(form, u"lv1")),
+                .taxes = TaxesOf(*Get<forms::ListView>(form, u"lvPorez"))};
+    }
+    void ExpectPreviewAsShown() {
+        Review([this](frmRacPRG& form) {
+            const QByteArray fromRows = PreviewText();
+            QFile::remove(Path(u"tempracun.txt"_s));
+            for (qsizetype left = fromRows.count("TOTAL..."); left > 0; --left) {
+                AppendInvoiceToPreview(ShownIn(form));
+                drivers::Click(Get<QWidget>(form, u"cmdNext"));
+            }
+            EXPECT_EQ(PreviewText().toStdString(), fromRows.toStdString());
+            drivers::Click(Get<QWidget>(form, u"cmdFirst"));
+            ExpectPreview();
+            Keys(u"{F7}");
+            EXPECT_EQ(Box(form, u"txtORNumber"), u"1000");
+            EXPECT_EQ(Box(form, u"txtInvoiceNumber"), u"none");
+        });
+    }
+};
+
+TEST_F(OddShopTest, ThePreviewHoldsWhatTheControlsShow) {
+    LogIn();
+    AddOddInvoices();
+    for (const QString& locale : {u"en_US"_s, u"hr_HR"_s, u"de_CH"_s})
+        for (const QChar layout : u"12345678"_s) {
+            values::SetUserLocale(QLocale(locale));
+            TheSettings.TipRacuna = layout;
+            TheSettings.RekapPoreza = layout == u'4' ? u"2"_s : u"1"_s;
+            ExpectPreviewAsShown();
+        }
+}
+
+// The text then ends within that invoice.
+TEST_F(OddShopTest, AnInvoiceThatCannotBeWrittenEndsTheProgram) {
+    struct Case {
+        const char* error;
+        const char* ending;
+        std::function<void()> add;
+    };
+    const Case cases[] = {
+        {"3075", "", [this] { AddInvoice(u"a'b"_s, u"3"_s); }},
+        {"13", "",
+         [this] {
+             AddInvoice(u"3"_s, u"3"_s);
+             for (int line = 0; line < 2; ++line) Add(u"SalesDetails"_s, {{u"InvoiceID", u"3"_s}});
+         }},
+        {"13", "----------------------------------------\r\n",
+         [this] {
+             Add(u"Invoices"_s, {{u"InvoiceID", u"3"_s}, {u"OrNo", u"3"_s}, {u"TaxTotal", 1}});
+         }},
+        {"5", "Amount\r\n----------------------------------------\r\n",
+         [this] {
+             AddInvoice(u"3"_s, u"3"_s);
+             AddLine(u"3"_s, QString(40, u'9'), u"P"_s, 17, 1);
+         }},
+    };
+    for (const Case& failing : cases) {
+        LogIn();
+        for (const QString& table : {u"Invoices"_s, u"SalesDetails"_s}) ExecuteSql(u"DELETE FROM "_s + table);
+        AddInvoice(u"1"_s, u"1"_s);
+        AddInvoice(u"9"_s, u"9"_s);
+        failing.add();
+        boxes_.ExpectBeginning(QString::fromUtf8(failing.error)).WithIcon(QMessageBox::Critical);
+        forms::Run([] { frmRacPRG().ShowModal(); }, {});
+        ExpectEndOfProgram();
+        EXPECT_EQ(PreviewText().count("TOTAL..."), 1) << failing.error;
+        EXPECT_TRUE(PreviewText().endsWith(failing.ending[0] ? failing.ending : "\r\n\r\n\r\n"))
+            << PreviewText().toStdString();
+        Crash();
+    }
 }
 
 TEST_F(ReviewTest, TenThousandInvoicesAreWrittenQuickly) {
