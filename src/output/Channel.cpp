@@ -51,8 +51,11 @@ void Channel::OpenForAppend(const QString& path) {
     sink_ = OpenFileForAppend(path);
 }
 
+// Receipts are written by the ten thousand: the text goes straight into the buffer.
 void Channel::WriteLine(const QString& line) {
-    WriteBytes(ToCodePage(line) + "\r\n");
+    RequireOpen();
+    AppendInCodePage(pending_, line);
+    WriteBytes("\r\n"_ba);
 }
 
 void Channel::WriteBytes(const QByteArray& bytes) {

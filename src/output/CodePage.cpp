@@ -1,6 +1,5 @@
 #include "output/CodePage.h"
 
-#include <QHash>
 #include <QRegularExpression>
 #include <algorithm>
 #include <array>
@@ -20,13 +19,14 @@ namespace {
 struct CodePage {
     explicit CodePage(const char* name);
     std::array<char16_t, 256> characters;
-    QHash<char16_t, char> bytes;
+    std::array<char, 0x10000> bytes;  // "?" for what the page lacks
 };
 
 CodePage::CodePage(const char* name) {
     const iconv_t converter = iconv_open("UTF-16LE", name);
     if (converter == reinterpret_cast<iconv_t>(-1))
         throw OutputError(DeviceUnavailable, u"This system lacks the code page %1."_s.arg(QLatin1StringView(name)));
+    bytes.fill('?');
     for (size_t code = 0; code < characters.size(); ++code) {
         char in = static_cast<char>(code);
         uchar out[4] = {};
@@ -36,7 +36,7 @@ CodePage::CodePage(const char* name) {
         size_t outLeft = sizeof out;
         const bool known = iconv(converter, &from, &inLeft, &to, &outLeft) != static_cast<size_t>(-1);
         characters[code] = static_cast<char16_t>(known ? out[0] | out[1] << 8 : code);
-        bytes.insert(characters[code], static_cast<char>(code));
+        bytes[characters[code]] = static_cast<char>(code);
     }
     iconv_close(converter);
 }
@@ -52,10 +52,14 @@ const CodePage& WesternPage() {
 }
 
 const CodePage& UserPage() {
+    static QString known;
+    static const CodePage* page = nullptr;
+    if (page && known == values::UserLocaleName()) return *page;
+    known = values::UserLocaleName();
     // Numbers may follow another locale than texts, and either may be all that tells the language.
-    const bool isCentral =
-        IsCentralEuropean(values::UserLocaleName()) || IsCentralEuropean(values::UserLocale().bcp47Name());
-    return isCentral ? CentralPage() : WesternPage();
+    const bool isCentral = IsCentralEuropean(known) || IsCentralEuropean(values::UserLocale().bcp47Name());
+    page = isCentral ? &CentralPage() : &WesternPage();
+    return *page;
 }
 
 // The UTF-16 units of the sign that begins there.
@@ -90,11 +94,18 @@ bool IsCentralEuropean(QStringView locale) {
 }
 
 QByteArray ToCodePage(QStringView text) {
-    const CodePage& page = UserPage();
     QByteArray result;
-    result.reserve(text.size());
-    for (qsizetype i = 0; i < text.size(); i += SignAt(text, i)) result += page.bytes.value(text[i].unicode(), '?');
+    AppendInCodePage(result, text);
     return result;
+}
+
+void AppendInCodePage(QByteArray& bytes, QStringView text) {
+    const CodePage& page = UserPage();
+    const qsizetype before = bytes.size();
+    bytes.resize(before + text.size());
+    char* end = bytes.data() + before;
+    for (qsizetype i = 0; i < text.size(); i += SignAt(text, i)) *end++ = page.bytes[text[i].unicode()];
+    bytes.truncate(end - bytes.constData());
 }
 
 qint32 Columns(QStringView text) {

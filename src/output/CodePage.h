@@ -8,6 +8,7 @@ namespace output {
 // Text in the single-byte code page of the user's locale: 1250 for the languages of central and south-eastern Europe
 // that are written in Latin letters, 1252 elsewhere. What the page lacks becomes "?", one a character.
 QByteArray ToCodePage(QStringView text);
+void AppendInCodePage(QByteArray& bytes, QStringView text);
 // Whether a locale, however it is spelled ("sr_RS.utf8@latin", "sr-Latn", "hr"), is one of page 1250.
 bool IsCentralEuropean(QStringView locale);
 QString FromCodePage(const QByteArray& bytes);

@@ -1,5 +1,6 @@
 #include "receipts/ItemLayouts.h"
 
+#include <QStringBuilder>
 #include <array>
 
 #include "core/Settings.h"
@@ -30,16 +31,16 @@ void PrintHeader(const QString& OutputMode, const QString& rule, const QStringLi
 
 // A code or row number and the description behind it, which share `width` columns beside the blank between them.
 QString Labelled(qint32 width, const QString& label, const QString& description) {
-    return label + u' ' + PadRight(width - output::Columns(label), description);
+    return label % u' ' % PadRight(width - output::Columns(label), description);
 }
 
 QString WideFigures(const InvoiceText::Item& item) {
-    return PadLeft(8, item.unitPrice) + u' ' + PadLeft(7, item.quantity) + u' ' + PadLeft(5, item.taxPercent) +
-           u"% "_s + PadLeft(7, item.taxAmount) + u' ' + PadLeft(8, item.amount);
+    return PadLeft(8, item.unitPrice) % u' ' % PadLeft(7, item.quantity) % u' ' % PadLeft(5, item.taxPercent) %
+           u"% "_s % PadLeft(7, item.taxAmount) % u' ' % PadLeft(8, item.amount);
 }
 
 QString NarrowFigures(const InvoiceText::Item& item) {
-    return PadLeft(8, item.unitPrice) + PadLeft(6, item.quantity) + PadLeft(8, item.amount);
+    return PadLeft(8, item.unitPrice) % PadLeft(6, item.quantity) % PadLeft(8, item.amount);
 }
 
 // Price / (1 + percent / 100): both sides are rounded to money, the quotient is a double.

@@ -1,5 +1,7 @@
 #include "receipts/ReceiptParts.h"
 
+#include <QStringBuilder>
+
 #include "core/Settings.h"
 #include "core/dbModule.h"
 #include "output/CodePage.h"
@@ -20,7 +22,7 @@ constexpr double ShopNameFontSize = 20;
 
 QString DateAndTime() {
     const QDateTime now = values::Now();
-    return Format(now.date(), u"dd.mm.yyyy") + u"  "_s + Format(now.time(), u"hh:mm:ss");
+    return Format(now.date(), u"dd.mm.yyyy") % u"  "_s % Format(now.time(), u"hh:mm:ss");
 }
 
 QString TotalsRule() {
@@ -57,7 +59,7 @@ void PrintShopLines(const QString& OutputMode) {
 }
 
 void PrintNumberLine(const QString& OutputMode, const QString& label, const QString& orNo) {
-    PrintToChannel(OutputMode, label + orNo + u"    "_s + DateAndTime());
+    PrintToChannel(OutputMode, label % orNo % u"    "_s % DateAndTime());
 }
 
 void PrintDateAndNumberLines(const QString& OutputMode, const QString& label, const QString& orNo) {
@@ -71,7 +73,7 @@ void PrintInvoiceTotals(const QString& OutputMode, const InvoiceText& invoice) {
     const qint32 labelWidth = output::Columns(rule) - figureWidth;
     const auto printTotal = [&](const QString& label, const QString& figure) {
         PrintToChannel(OutputMode,
-                       PadLeft(labelWidth, label + TheSettings.Currency + u": "_s) + PadLeft(figureWidth, figure));
+                       PadLeft(labelWidth, label % TheSettings.Currency % u": "_s) % PadLeft(figureWidth, figure));
     };
     PrintToChannel(OutputMode, rule);
     printTotal(u"Subtotal......"_s, Format(CMoney(invoice.total) - CMoney(invoice.taxTotal), u"0.00"));
@@ -85,7 +87,7 @@ void PrintTaxRecapitulation(const QString& OutputMode, const InvoiceText& invoic
     PrintToChannel(OutputMode, u"Rate     Amount"_s);
     Money sum;
     for (const auto& tax : invoice.taxes) {
-        PrintToChannel(OutputMode, PadLeft(5, tax.percent) + u"% "_s + PadLeft(8, tax.taxAmount));
+        PrintToChannel(OutputMode, PadLeft(5, tax.percent) % u"% "_s % PadLeft(8, tax.taxAmount));
         sum += CMoney(tax.taxAmount);
     }
     PrintToChannel(OutputMode, QString(15, u'-'));

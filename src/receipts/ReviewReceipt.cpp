@@ -52,10 +52,12 @@ void ReprintInvoice(const InvoiceText& invoice) {
 }
 
 void AppendInvoiceToPreview(const InvoiceText& invoice) {
-    PrintOrEndProgram([&] {
-        output::Channel1().OpenForAppend(output::InProgramFolder(PreviewFile));
-        PrintReviewText(PreviewMode, PreviewLabel, invoice);
-        FeedBlankLines(PreviewBlankLines);
-        output::Channel1().Close();
-    });
+    output::Channel& channel = output::Channel1();
+    if (!channel.IsOpen()) channel.OpenForAppend(output::InProgramFolder(PreviewFile));
+    PrintReviewText(PreviewMode, PreviewLabel, invoice);
+    FeedBlankLines(PreviewBlankLines);
+}
+
+void ClosePreview() {
+    output::Channel1().Close();
 }

@@ -10,5 +10,6 @@ void ReprintInvoice(const InvoiceText& invoice);
 
 // The text of the preview, below the program's folder as the preview takes it.
 inline const QString PreviewFile = QStringLiteral("\\tempracun.txt");
-// Adds the receipt and two blank lines at the end of that text.
+// Adds the receipt and two blank lines at the end of that text, which then stands open for the next one.
 void AppendInvoiceToPreview(const InvoiceText& invoice);
+void ClosePreview();

@@ -58,6 +58,7 @@ void frmRacPRG::PreviewAllInvoices() {
     PrintOrEndProgram([this] {
         rsInvoices_.MoveFirst();
         for (; !rsInvoices_.AtEOF(); rsInvoices_.MoveNext()) AppendInvoiceToPreview(ReadInvoice(rsInvoices_));
+        ClosePreview();
         rsInvoices_.MoveLast();
         ShowInvoice();
     });

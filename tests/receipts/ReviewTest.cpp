@@ -257,6 +257,7 @@ protected:
                 AppendInvoiceToPreview(ShownIn(form));
                 drivers::Click(Get<QWidget>(form, u"cmdNext"));
             }
+            ClosePreview();
             EXPECT_EQ(PreviewText().toStdString(), fromRows.toStdString());
             drivers::Click(Get<QWidget>(form, u"cmdFirst"));
             ExpectPreview();
