@@ -31,12 +31,15 @@ public:
         int index = 0;
     };
     virtual Data Load(Place place) = 0;
+
+    // All rows as they are at one moment; those that are gone are left out.
+    virtual RowBlock ReadNow() = 0;
 };
 
 // All rows are taken at opening: of a join or an aggregate, or because they are only to be read.
 class SnapshotRows final : public CursorRows {
 public:
-    SnapshotRows(Engine& engine, const dialect::Query& query) { engine.ReadAll(query, rows_); }
+    explicit SnapshotRows(RowBlock rows) : rows_(std::move(rows)) {}
 
     Place First() override { return rows_.Rows() > 0 ? 0 : Nowhere; }
     Place Last() override { return rows_.Rows() - 1; }
@@ -47,6 +50,7 @@ public:
     qint64 RowAt(Place place) const override { return place + 1; }
     Place Find(qint64 row, Place) override { return row >= 1 && row <= rows_.Rows() ? row - 1 : Nowhere; }
     Data Load(Place place) override { return {&rows_, static_cast<int>(place)}; }
+    RowBlock ReadNow() override { return rows_; }
 
 private:
     RowBlock rows_;

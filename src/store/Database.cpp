@@ -1,5 +1,6 @@
 #include "store/Database.h"
 
+#include "store/ListingImpl.h"
 #include "store/RecordsetImpl.h"
 #include "store/sqlite/OpenSqlite.h"
 
@@ -16,6 +17,7 @@ struct Database::Internals {
     Schema schema;
     QString path;
     dialect::Compiler compiler;
+    std::shared_ptr<SideEngine> side;  // once a listing was opened
 };
 
 Database::Database(std::unique_ptr<Engine> engine, const Schema& schema, QString path)
@@ -40,13 +42,31 @@ dialect::Query Database::Internals::CompileSelect(const QString& query) {
 
 Recordset Database::OpenRecordset(const QString& query) {
     dialect::Query compiled = internals_->CompileSelect(query);
-    const bool isKeyset = compiled.plan->table != nullptr;
-    return Recordset(std::make_unique<Recordset::Impl>(*engine_, internals_->compiler, std::move(compiled), isKeyset));
+    if (compiled.plan->table == nullptr) return SnapshotOf(std::move(compiled));
+    return Recordset(std::make_unique<Recordset::Impl>(*engine_, internals_->compiler, std::move(compiled)));
 }
 
 Recordset Database::OpenSnapshot(const QString& query) {
+    return SnapshotOf(internals_->CompileSelect(query));
+}
+
+Recordset Database::SnapshotOf(dialect::Query query) {
+    RowBlock rows;
+    engine_->ReadAll(query, rows);
+    return Recordset(std::make_unique<Recordset::Impl>(*engine_, internals_->compiler, std::move(query),
+                                                       std::make_unique<SnapshotRows>(std::move(rows))));
+}
+
+// What is not committed yet is seen by this connection only.
+Listing Database::OpenListing(const QString& query) {
     dialect::Query compiled = internals_->CompileSelect(query);
-    return Recordset(std::make_unique<Recordset::Impl>(*engine_, internals_->compiler, std::move(compiled), false));
+    auto& side = internals_->side;
+    if (!side && !engine_->InTransaction())
+        if (auto engine = engine_->OpenBeside()) side = std::make_shared<SideEngine>(std::move(engine));
+    if (side && !engine_->InTransaction()) return Listing(std::make_unique<Listing::Impl>(std::move(compiled), side));
+    RowBlock rows;
+    engine_->ReadAll(compiled, rows);
+    return Listing(std::make_unique<Listing::Impl>(std::move(compiled), std::move(rows)));
 }
 
 qint64 Database::Execute(const QString& query) {

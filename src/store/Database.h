@@ -4,12 +4,16 @@
 #include <functional>
 #include <memory>
 
+#include "store/Listing.h"
 #include "store/Recordset.h"
 #include "store/Schema.h"
 
 namespace store {
 
 class Engine;
+namespace dialect {
+struct Query;
+}
 
 // One open store. Several processes may hold one store open at once; each writes one commit an Update. When its files
 // are deleted, moved or replaced while it is open, the next write and every later one throws FilesLost, and what was
@@ -27,6 +31,8 @@ public:
     // All rows at once, as they are at this moment and for reading only: of many rows that are looked at from the first
     // to the last, a keyset would read each twice.
     Recordset OpenSnapshot(const QString& query);
+    // The rows for a list that shows them: of one moment and for reading only, too, but on hand as they come in.
+    Listing OpenListing(const QString& query);
     // Runs an action query (UPDATE, DELETE) as one commit; gives the number of rows it touched.
     qint64 Execute(const QString& query);
 
@@ -59,6 +65,7 @@ public:
     Engine& GetEngine() { return *engine_; }
 
 private:
+    Recordset SnapshotOf(dialect::Query query);
     Database(std::unique_ptr<Engine> engine, const Schema& schema, QString path);
     friend class Recordset;
     friend class Burst;

@@ -3,6 +3,7 @@
 #include <QStringList>
 #include <array>
 #include <functional>
+#include <memory>
 #include <span>
 #include <vector>
 
@@ -32,6 +33,10 @@ public:
 
     // All rows of a query.
     virtual void ReadAll(const dialect::Query& query, RowBlock& rows) = 0;
+    // The same in blocks of so many rows, the last of what is left. The first call, without rows, tells that the moment
+    // is taken of which all rows are.
+    virtual void ReadInBlocks(const dialect::Query& query, int rowsEach,
+                              const std::function<void(RowBlock&&)>& take) = 0;
     // The identities of all rows of a one-table query in its order, and the data of the first `withData` of them.
     virtual void ReadKeyset(const dialect::Query& query, int withData, std::vector<qint64>& keys, RowBlock& rows) = 0;
     // Up to `limit` rows with after < identity <= upTo, by identity; the query's own condition and order are left out.
@@ -69,6 +74,9 @@ public:
     virtual void AskWhileWorking(std::function<bool()> goesOn) = 0;
     // Asked every few milliseconds while another writer is waited for; false gives up at once, with 3218.
     virtual void AskWhileWaiting(std::function<bool()> goesOn) = 0;
+
+    // Another connection to the same store, for another thread; null when there is none to be had.
+    virtual std::unique_ptr<Engine> OpenBeside() = 0;
 
     virtual Stamp Now() = 0;
     virtual bool StillAt(const Stamp& stamp) = 0;

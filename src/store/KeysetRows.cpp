@@ -160,6 +160,16 @@ CursorRows::Data KeysetRows::Load(Place place) {
     return {&window_, static_cast<int>(place - windowStart_)};
 }
 
+RowBlock KeysetRows::ReadNow() {
+    LearnUpTo(upTo_);
+    std::vector<qint64> all = base_;
+    all.insert(all.end(), added_.begin(), added_.end());
+    RowBlock rows;
+    engine_.ReadRows(query_, all, rows);
+    rows.DropGone();
+    return rows;
+}
+
 void KeysetRows::FillWindow(Place place) {
     const std::vector<qint64>& rows = place >= FirstAdded ? added_ : base_;
     const size_t length = static_cast<size_t>(readAhead_);

@@ -23,6 +23,7 @@ public:
     qint64 RowAt(Place place) const override;
     Place Find(qint64 row, Place likely) override;
     Data Load(Place place) override;
+    RowBlock ReadNow() override;
     // Whether the row that Load gave is known to be in the store still.
     bool StillThere() { return engine_.StillAt(stamp_) || engine_.StillAt(confirmed_); }
 

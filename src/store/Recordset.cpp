@@ -52,6 +52,12 @@ qint64 Recordset::RecordCount() const {
     return Open().rows->KnownCount();
 }
 
+Recordset Recordset::Snapshot() {
+    Impl& impl = Open();
+    auto rows = std::make_unique<SnapshotRows>(impl.rows->ReadNow());
+    return Recordset(std::make_unique<Impl>(impl.engine, impl.compiler, impl.query, std::move(rows)));
+}
+
 void Recordset::AddNew() {
     Open().AddNew();
 }

@@ -82,6 +82,9 @@ public:
     // Above 0 when there is a row; the full count after MoveLast.
     qint64 RecordCount() const;
 
+    // The rows of the cursor as they all are now, of one moment, without those that were deleted; for reading only.
+    Recordset Snapshot();
+
     // Fields, by name (case ignored) or by position from 0; 3265 for a name that the cursor does not have.
     Field operator[](QStringView name);
     Field operator[](int position);

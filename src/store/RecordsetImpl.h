@@ -11,7 +11,11 @@ struct Recordset::Impl {
     // Deleted: on the place of a row that this cursor deleted, before its successor.
     enum class Position { Before, OnRow, Deleted, After };
 
-    Impl(Engine& itsEngine, dialect::Compiler& itsCompiler, dialect::Query itsQuery, bool isKeyset);
+    // A keyset, or rows that were taken already.
+    Impl(Engine& itsEngine, dialect::Compiler& itsCompiler, dialect::Query itsQuery);
+    Impl(Engine& itsEngine, dialect::Compiler& itsCompiler, dialect::Query itsQuery,
+         std::unique_ptr<SnapshotRows> itsRows);
+    void OpenOnFirst();
 
     // Position
     bool IsEmpty() const { return position == Position::After && rows->KnownCount() == 0; }

@@ -12,15 +12,21 @@ namespace {
 
 }  // namespace
 
-Recordset::Impl::Impl(Engine& itsEngine, dialect::Compiler& itsCompiler, dialect::Query itsQuery, bool isKeyset)
+Recordset::Impl::Impl(Engine& itsEngine, dialect::Compiler& itsCompiler, dialect::Query itsQuery)
     : engine(itsEngine), compiler(itsCompiler), query(std::move(itsQuery)) {
-    if (isKeyset) {
-        auto updatable = std::make_unique<KeysetRows>(engine, query);
-        keyset = updatable.get();
-        rows = std::move(updatable);
-    } else {
-        rows = std::make_unique<SnapshotRows>(engine, query);
-    }
+    auto updatable = std::make_unique<KeysetRows>(engine, query);
+    keyset = updatable.get();
+    rows = std::move(updatable);
+    OpenOnFirst();
+}
+
+Recordset::Impl::Impl(Engine& itsEngine, dialect::Compiler& itsCompiler, dialect::Query itsQuery,
+                      std::unique_ptr<SnapshotRows> itsRows)
+    : engine(itsEngine), compiler(itsCompiler), query(std::move(itsQuery)), rows(std::move(itsRows)) {
+    OpenOnFirst();
+}
+
+void Recordset::Impl::OpenOnFirst() {
     place = rows->First();
     if (place == CursorRows::Nowhere) return;
     position = Position::OnRow;

@@ -1,6 +1,18 @@
 #include "store/RowBlock.h"
 
+#include <algorithm>
+
 namespace store {
+
+void RowBlock::DropGone() {
+    int kept = 0;
+    for (int row = 0; row < Rows(); ++row) {
+        if (Gone(row)) continue;
+        if (kept != row) std::copy_n(cells_.begin() + row * columns_, columns_, cells_.begin() + kept * columns_);
+        ++kept;
+    }
+    cells_.resize(static_cast<size_t>(kept) * static_cast<size_t>(columns_));
+}
 
 RowBlock RowBlock::Row(int row) const {
     RowBlock single;

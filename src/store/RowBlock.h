@@ -28,6 +28,8 @@ public:
         texts_.clear();
     }
 
+    void Reserve(int rows) { cells_.reserve(static_cast<size_t>(rows) * static_cast<size_t>(columns_)); }
+
     // The cells of a new row, all null, to be filled at once.
     Cell* AddRow() {
         cells_.resize(cells_.size() + static_cast<size_t>(columns_));
@@ -52,6 +54,8 @@ public:
     QByteArrayView Text(const Cell& cell) const { return {texts_.data() + cell.offset, qsizetype{cell.length}}; }
     bool Gone(int row) const { return At(row, 0).kind == Cell::Kind::Gone; }
 
+    // Takes the rows out that are not in the store any more.
+    void DropGone();
     // One row as a block of its own.
     RowBlock Row(int row) const;
     // One cell as a value to be stored.

@@ -63,6 +63,34 @@ TEST_F(MembershipTest, KeepsTheRowsOfASnapshotAsTheyWere) {
     EXPECT_EQ(Codes(snapshot), QStringList({u"3"_s, u"1"_s}));
 }
 
+TEST_F(MembershipTest, ListsTheRowsOfOneMomentThoughTheyComeInLater) {
+    AddProducts(1, 20'000);
+    const auto other = OpenAgain();
+    const auto firstOf = [](Listing& rows) { return rows.At(0, rows.Column(u"prodcode")).TextOrEmpty(); };
+    auto all = store->OpenListing(u"SELECT Qty, ProdCode FROM Products"_s);
+    auto cursor = store->OpenRecordset(u"SELECT * FROM Products WHERE Qty > 19998"_s);
+    EXPECT_GE(all.WaitFor(1), 1);
+    other->Execute(u"DELETE * FROM Products WHERE ProdCode <> '20000'"_s);
+    EXPECT_EQ(all.WaitFor(1'000'000), 20'000);
+    EXPECT_TRUE(all.IsWhole());
+    EXPECT_EQ(all.At(19'998, 0).ToMoney(), Money::FromWhole(19'999));
+    EXPECT_EQ(firstOf(all), u"1");
+    EXPECT_EQ(ErrorOf([&] { all.Column(u"Nothing"); }), ItemNotFound);
+
+    auto left = store->OpenListing(u"SELECT * FROM Products WHERE Qty > 0 ORDER BY Qty"_s);
+    EXPECT_EQ(left.WaitFor(1'000'000), 1);
+    EXPECT_EQ(firstOf(left), u"20000");
+    auto now = cursor.Snapshot();
+    EXPECT_EQ(Codes(now), QStringList{u"20000"_s});
+
+    // What is written but not committed is seen too.
+    Database::Batch batch(*store);
+    store->Execute(u"UPDATE Products SET ProdCode = 'x'"_s);
+    auto pending = store->OpenListing(u"SELECT ProdCode FROM Products"_s);
+    EXPECT_EQ(pending.WaitFor(1), 1);
+    EXPECT_EQ(firstOf(pending), u"x");
+}
+
 TEST_F(MembershipTest, PutsItsOwnAdditionsBehindTheOtherRows) {
     AddProducts(1, 600);
     for (const auto& query : {u"SELECT * FROM Products"_s, u"SELECT * FROM Products WHERE Qty < 1000"_s}) {

@@ -21,6 +21,10 @@ Connection::Connection(const QString& path, bool create, Patience patience)
     RegisterTextRules(Handle());
 }
 
+std::shared_ptr<Connection> Connection::OpenBeside() {
+    return std::make_shared<Connection>(QFile::decodeName(sqlite3_db_filename(Handle(), "main")), false, patience_);
+}
+
 void Connection::Run(const char* sql) {
     if (sqlite3_exec(Handle(), sql, nullptr, nullptr, nullptr) != SQLITE_OK)
         ThrowLast(Handle(), QString::fromUtf8(sql));

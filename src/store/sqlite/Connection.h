@@ -22,6 +22,9 @@ public:
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
+    // Another one to the same file, which waits for others as long as this one.
+    std::shared_ptr<Connection> OpenBeside();
+
     SQLite::Database& Database() { return database_; }
     sqlite3* Handle() { return database_.getHandle(); }
     void SetPatience(Patience patience) { patience_ = patience; }

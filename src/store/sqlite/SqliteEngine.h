@@ -17,6 +17,7 @@ public:
     ~SqliteEngine() override;
 
     void ReadAll(const dialect::Query& query, RowBlock& rows) override;
+    void ReadInBlocks(const dialect::Query& query, int rowsEach, const std::function<void(RowBlock&&)>& take) override;
     void ReadKeyset(const dialect::Query& query, int withData, std::vector<qint64>& keys, RowBlock& rows) override;
     void ReadAfter(const dialect::Query& query, qint64 after, qint64 upTo, int limit, std::vector<qint64>& keys,
                    RowBlock& rows) override;
@@ -41,6 +42,8 @@ public:
 
     void AskWhileWorking(std::function<bool()> goesOn) override;
     void AskWhileWaiting(std::function<bool()> goesOn) override;
+
+    std::unique_ptr<Engine> OpenBeside() override;
 
     Stamp Now() override;
     bool StillAt(const Stamp& stamp) override;

@@ -50,6 +50,27 @@ void SqliteEngine::ReadAll(const dialect::Query& query, RowBlock& rows) {
     while (statement.Step()) statement.AppendRow(rows, withRow ? 1 : 0);
 }
 
+// The statement is not the plan's own, which belongs to another connection when a thread reads.
+void SqliteEngine::ReadInBlocks(const dialect::Query& query, int rowsEach,
+                                const std::function<void(RowBlock&&)>& take) {
+    const ReadTransaction moment(*connection_, true);
+    connection_->Run("SELECT 1 FROM sqlite_schema LIMIT 1");
+    take({});
+    Statement statement(Handle(), SelectSql(*query.plan, false));
+    statement.BindAll(query.values);
+    bool isLast = false;
+    while (!isLast) {
+        RowBlock rows;
+        rows.Clear(OutputColumns(query));
+        rows.Reserve(rowsEach);
+        while (!isLast && rows.Rows() < rowsEach) {
+            isLast = !statement.Step();
+            if (!isLast) statement.AppendRow(rows, 0);
+        }
+        take(std::move(rows));
+    }
+}
+
 void SqliteEngine::ReadKeyset(const dialect::Query& query, int withData, std::vector<qint64>& keys, RowBlock& rows) {
     Prepared& prepared = PreparedFor(*query.plan, connection_);
     Statement& statement = prepared.Get(prepared.whole, [&] { return SelectSql(*query.plan, true); });

@@ -61,6 +61,18 @@ void SqliteEngine::AskWhileWaiting(std::function<bool()> goesOn) {
     connection_->AskWhileWaiting(std::move(goesOn));
 }
 
+// What was put in the place of these files is another store.
+std::unique_ptr<Engine> SqliteEngine::OpenBeside() {
+    if (isLost_ || !files_.AreInPlace()) return nullptr;
+    try {
+        return std::make_unique<SqliteEngine>(connection_->OpenBeside(), files_.StorePath());
+    } catch (const SQLite::Exception&) {
+        return nullptr;
+    } catch (const StoreError&) {
+        return nullptr;
+    }
+}
+
 QStringList SqliteEngine::CheckIntegrity() {
     return FaultsOf(*connection_);
 }
