@@ -3,7 +3,6 @@
 #include <QLabel>
 #include <QScopeGuard>
 #include <QScopedValueRollback>
-#include <optional>
 
 #include "core/Settings.h"
 #include "core/dbModule.h"
@@ -30,29 +29,21 @@ forms::ListColumn ListColumnOf(const ReportColumn& column) {
     return {column.heading, column.look == Look::Text ? Qt::AlignLeft : Qt::AlignRight, column.width};
 }
 
-// A value that can't be shown leaves its cell empty; the end of a row or of the whole report is not for the cell to
-// hide.
+// A value that can't be shown leaves its cell empty.
 QString Cell(store::Recordset& row, const ReportColumn& column, int position) {
     try {
         const values::Value value = column.field.isEmpty() ? row[position].Get() : row[column.field].Get();
         return column.look == Look::Amount ? Format(value, u"0.00") : value.TextOrEmpty();
-    } catch (const values::Error& error) {
-        if (error.Number() == store::RowDeleted || error.Number() == store::Cancelled) throw;
+    } catch (const values::Error&) {
         return {};
     }
 }
 
-// Nothing for a row that was deleted since the cursor was opened.
-std::optional<QStringList> CellsOf(store::Recordset& row, const std::vector<ReportColumn>& columns) {
-    try {
-        QStringList cells;
-        cells.reserve(static_cast<qsizetype>(columns.size()));
-        for (const ReportColumn& column : columns) cells << Cell(row, column, static_cast<int>(cells.size()));
-        return cells;
-    } catch (const store::StoreError& error) {
-        if (error.Number() != store::RowDeleted) throw;
-        return std::nullopt;
-    }
+QStringList CellsOf(store::Recordset& row, const std::vector<ReportColumn>& columns) {
+    QStringList cells;
+    cells.reserve(static_cast<qsizetype>(columns.size()));
+    for (const ReportColumn& column : columns) cells << Cell(row, column, static_cast<int>(cells.size()));
+    return cells;
 }
 
 }  // namespace
@@ -132,14 +123,18 @@ bool ListReport::OpenAndSum(const QString& query) {
     }
 }
 
-// From where the cursor stands: on its first row when it was just opened.
 void ListReport::FillList() {
     ui.lv1->Clear();
+    if (rsList_.IsOpen()) AddRows(rsList_);
+}
+
+// From where the cursor stands: on its first row when it was just opened.
+void ListReport::AddRows(store::Recordset& rows) {
     ui.lv1->BeginFill();
     const auto end = qScopeGuard([this] { ui.lv1->EndFill(); });
-    for (; rsList_.IsOpen() && !rsList_.AtEOF(); rsList_.MoveNext()) {
+    for (; !rows.AtEOF(); rows.MoveNext()) {
         if (work_ && !work_->GoesOn()) throw store::StoreError(store::Cancelled, u"The report was left."_s);
-        if (const auto cells = CellsOf(rsList_, facts_.columns)) ui.lv1->Add(*cells);
+        ui.lv1->Add(CellsOf(rows, facts_.columns));
     }
 }
 

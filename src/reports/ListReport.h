@@ -21,6 +21,8 @@ protected:
     bool OpenAndSum(const QString& query);
     // The rows of the cursor into the list; a value that can't be shown leaves its cell empty.
     virtual void FillList();
+    // These behind the rows of the list; they are of one moment, so that none can be gone.
+    void AddRows(store::Recordset& rows);
     // The sums of the texts as they are shown.
     void SumList();
     values::Money SumOf(int column) const;

@@ -39,8 +39,10 @@ void frmStanjeArtikala::Form_Load() {
 }
 
 void frmStanjeArtikala::FillList() {
-    PassOverErrors([this] { rsList_.MoveFirst(); });
-    ListReport::FillList();
+    if (!rsList_.IsOpen()) return ui.lv1->Clear();
+    auto rows = rsList_.Snapshot();
+    ui.lv1->Clear();
+    AddRows(rows);
 }
 
 // The same rows with what they hold now; the total stays that of the opening.
