@@ -1,22 +1,53 @@
 #include "core/FillList.h"
 
+#include "values/Error.h"
+#include "values/Format.h"
+
 namespace {
 
-qint64 Count(store::Recordset& rows) {
-    if (rows.RecordCount() > 0) rows.MoveLast();
-    return rows.RecordCount();
-}
+using namespace std::chrono_literals;
 
-}  // namespace
+// More than a screenful.
+constexpr int FirstRows = 256;
+// Rows that are rare among many others must not keep the screen from answering.
+constexpr auto FirstPatience = 8ms;
 
-void FillList(forms::ListView& list, store::Recordset& rows, CellsOf cells) {
-    list.ShowRows(static_cast<int>(Count(rows)), [&rows, cells = std::move(cells)](int row) -> QStringList {
+class ListingRows : public forms::RowSource {
+public:
+    ListingRows(store::Listing rows, const std::vector<ListCell>& cells) : rows_(std::move(rows)) {
+        for (const ListCell& cell : cells) cells_.push_back({rows_.Column(cell.field), cell.pattern});
+    }
+
+    int WaitFor(int rows, std::chrono::milliseconds atMost) override {
+        return static_cast<int>(rows_.WaitFor(rows, atMost));
+    }
+    bool IsWhole() const override { return rows_.IsWhole(); }
+    QString Text(int row, int column) const override {
         try {
-            rows.MoveTo(row);
-            return cells(rows);
+            const auto& [field, pattern] = cells_[static_cast<size_t>(column)];
+            const values::Value value = rows_.At(row, field);
+            return pattern.isEmpty() ? value.TextOrEmpty() : values::Format(value, pattern);
         } catch (const values::Error&) {
             return {};
         }
-    });
-    if (list.Count() > 0) list.Select(0);
+    }
+
+private:
+    struct Cell {
+        int field;
+        QString pattern;
+    };
+
+    store::Listing rows_;
+    std::vector<Cell> cells_;
+};
+
+}  // namespace
+
+void FillList(forms::ListView& list, store::Listing rows, const std::vector<ListCell>& cells) {
+    auto source = std::make_unique<ListingRows>(std::move(rows), cells);
+    // Both would use the same connection, and nobody will see what is still to come.
+    list.StopComingIn();
+    source->WaitFor(FirstRows, FirstPatience);
+    list.ShowRows(std::move(source));
 }

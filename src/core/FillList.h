@@ -1,15 +1,19 @@
 #pragma once
 
-#include <QStringList>
-#include <functional>
+#include <QString>
+#include <vector>
 
 #include "forms/ListView.h"
-#include "store/Recordset.h"
+#include "store/Listing.h"
 
-// The cells of a list's row, taken from the current row of a cursor.
-using CellsOf = std::function<QStringList(store::Recordset& row)>;
+// A cell of a list's row: a field as it comes, or by a pattern of values::Format. One that can't be shown is empty.
+struct ListCell {
+    QString field;
+    QString pattern = {};
+};
 
-// Empties the list, gives it a row for each row of the cursor, and selects the first. A long list reads its later rows
-// from the cursor when they are first looked at, so the cursor must live until the list is filled anew. A row that
-// cannot be read, since it was deleted meanwhile for instance, has empty cells.
-void FillList(forms::ListView& list, store::Recordset& rows, CellsOf cells);
+// Gives the list a row for each row of the query in the place of what it held, and selects the first. All rows are of
+// one moment, and none is read from the store when the list is painted. The first rows are there when this returns,
+// the others may come in later; whoever asks the list for one that is missing, or for the count, waits for it. An error
+// met at the beginning is thrown; one met later is told by the list, which then is empty.
+void FillList(forms::ListView& list, store::Listing rows, const std::vector<ListCell>& cells);

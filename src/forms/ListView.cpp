@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <QToolTip>
 
+#include "forms/Program.h"
 #include "forms/RowModel.h"
 #include "values/Error.h"
 
@@ -16,16 +17,37 @@ namespace {
 
 constexpr int NothingSelected = 91;
 constexpr int narrowestFlexibleColumn = 60;
-constexpr int rowsMadeAtOnce = 1000;
+constexpr int betweenLooks = 15;  // milliseconds, while rows are coming in
 // What the style leaves free on both sides of a cell's text.
 constexpr int cellPadding = 22;
+
+// To paint a heading is to ask whether all rows of its column are chosen.
+class Headings : public QHeaderView {
+public:
+    Headings(RowModel& rows, QWidget* parent) : QHeaderView(Qt::Horizontal, parent), rows_(rows) {
+        setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        const RowModel::ViewAsks viewAsks(rows_);
+        QHeaderView::paintEvent(event);
+    }
+
+private:
+    RowModel& rows_;
+};
 
 }  // namespace
 
 ListView::ListView(QWidget* parent) : QTreeView(parent), rows_(new RowModel(this)) {
+    setHeader(new Headings(*rows_, this));
     setModel(rows_);
-    // Not at once: rows are made while the list is painted, too.
+    // Not at once: rows are looked at while the list is painted.
     connect(rows_, &RowModel::TextsGrew, this, &ListView::WidenForNumbers, Qt::QueuedConnection);
+    // Not at once either: whoever has just found the list empty has work of his own under way.
+    connect(rows_, &RowModel::Failed, this, &ListView::Report, Qt::QueuedConnection);
+    connect(&comingIn_, &QTimer::timeout, this, &ListView::TakeIn);
     setRootIsDecorated(false);
     setItemsExpandable(false);
     setIndentation(0);
@@ -73,7 +95,7 @@ void ListView::Remove(int row) {
 }
 
 QString ListView::Text(int row, int column) const {
-    return rows_->Cell(row, column).toString();
+    return rows_->Cell(row, column);
 }
 
 void ListView::SetText(int row, int column, const QString& text) {
@@ -88,6 +110,7 @@ int ListView::Find(QStringView text) const {
 }
 
 int ListView::Selected() const {
+    rows_->hasChildren();  // the first row is selected as soon as it is there
     const QModelIndexList chosen = selectionModel()->selectedRows();
     return chosen.isEmpty() ? -1 : chosen.first().row();
 }
@@ -100,26 +123,51 @@ QString ListView::SelectedText(int column) const {
 
 void ListView::Select(int row) {
     rows_->Publish();
-    if (row < 0 || row >= Count()) {
+    selectsFirst_ = false;
+    const QModelIndex index = rows_->index(row, FirstShownColumn());
+    if (!index.isValid()) {
         selectionModel()->clear();
         return;
     }
-    const QModelIndex index = rows_->index(row, FirstShownColumn());
+    const RowModel::ViewAsks viewAsks(*rows_);
     selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     // A list that nobody sees scrolls to its current row by itself when it is shown, and need not be laid out now.
     if (isVisible()) scrollTo(index);
 }
 
 void ListView::BringIntoView(int row) {
-    if (row < 0 || row >= Count()) return;
     rows_->Publish();
-    scrollTo(rows_->index(row, FirstShownColumn()));
+    const QModelIndex index = rows_->index(row, FirstShownColumn());
+    if (index.isValid()) scrollTo(index);
 }
 
-void ListView::ShowRows(int count, std::function<QStringList(int row)> make) {
-    rows_->ShowRows(count, std::move(make));
-    for (int row = 0; row < qMin(count, rowsMadeAtOnce); ++row) rows_->Cell(row, 0);
+void ListView::ShowRows(std::unique_ptr<RowSource> source) {
+    rows_->ShowRows(std::move(source));
+    if (rows_->IsComingIn()) comingIn_.start(betweenLooks);
     WidenForNumbers();
+    selectsFirst_ = true;
+    SelectFirst();
+}
+
+void ListView::StopComingIn() {
+    if (rows_->IsComingIn()) rows_->Clear();
+    comingIn_.stop();
+}
+
+void ListView::TakeIn() {
+    rows_->TakeIn();
+    if (!rows_->IsComingIn()) comingIn_.stop();
+}
+
+void ListView::SelectFirst() {
+    if (selectsFirst_ && rows_->KnownToView() > 0) Select(0);
+}
+
+// The list can't show a part for good.
+void ListView::Report(const std::exception_ptr& why) {
+    const QWidget* titled = this;
+    while (titled->windowTitle().isEmpty() && titled->parentWidget()) titled = titled->parentWidget();
+    Run([&why] { std::rethrow_exception(why); }, titled->windowTitle());
 }
 
 void ListView::BeginFill() {
@@ -136,6 +184,39 @@ void ListView::EndFill() {
 void ListView::mouseDoubleClickEvent(QMouseEvent* event) {
     QTreeView::mouseDoubleClickEvent(event);
     if (event->button() == Qt::LeftButton && Selected() >= 0) Q_EMIT DoubleClicked();
+}
+
+void ListView::reset() {
+    const RowModel::ViewAsks viewAsks(*rows_);
+    QTreeView::reset();
+}
+
+void ListView::doItemsLayout() {
+    const RowModel::ViewAsks viewAsks(*rows_);
+    QTreeView::doItemsLayout();
+}
+
+void ListView::updateGeometries() {
+    const RowModel::ViewAsks viewAsks(*rows_);
+    QTreeView::updateGeometries();
+}
+
+void ListView::rowsInserted(const QModelIndex& parent, int first, int last) {
+    {
+        const RowModel::ViewAsks viewAsks(*rows_);
+        QTreeView::rowsInserted(parent, first, last);
+    }
+    SelectFirst();
+}
+
+void ListView::keyPressEvent(QKeyEvent* event) {
+    const RowModel::ViewAsks viewAsks(*rows_);
+    QTreeView::keyPressEvent(event);
+}
+
+QModelIndex ListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    if (action == MoveEnd) rows_->Count();
+    return QTreeView::moveCursor(action, modifiers);
 }
 
 void ListView::resizeEvent(QResizeEvent* event) {
@@ -159,6 +240,7 @@ bool ListView::viewportEvent(QEvent* event) {
             return true;
         }
     }
+    const RowModel::ViewAsks viewAsks(*rows_);
     return QTreeView::viewportEvent(event);
 }
 

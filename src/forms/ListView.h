@@ -1,8 +1,11 @@
 #pragma once
 
+#include <QTimer>
 #include <QTreeView>
-#include <functional>
+#include <memory>
 #include <vector>
+
+#include "forms/RowSource.h"
 
 namespace forms {
 
@@ -45,9 +48,11 @@ public:
     // Makes a row visible without selecting it.
     void BringIntoView(int row);
 
-    // Many rows that are made as they are needed: the list holds `count` rows, and asks `make` for the cells of each
-    // when it is first looked at, the first thousand at once. Takes the place of what the list held.
-    void ShowRows(int count, std::function<QStringList(int row)> make);
+    // Takes the place of what the list held, and selects the first row. Rows that are not here yet appear when they
+    // are; whoever asks before for the count, or for one of them, waits for it.
+    void ShowRows(std::unique_ptr<RowSource> source);
+    // Empties a list whose rows are still coming in, and waits no longer for them.
+    void StopComingIn();
     // Many rows at once: between Begin and End nothing is repainted.
     void BeginFill();
     void EndFill();
@@ -58,6 +63,12 @@ Q_SIGNALS:
 
 protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void reset() override;
+    void doItemsLayout() override;
+    void updateGeometries() override;
+    void rowsInserted(const QModelIndex& parent, int first, int last) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void resizeEvent(QResizeEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     bool viewportEvent(QEvent* event) override;
@@ -65,6 +76,9 @@ protected:
                                                          const QEvent* event = nullptr) const override;
 
 private:
+    void TakeIn();
+    void SelectFirst();
+    void Report(const std::exception_ptr& why);
     void LayOutColumns();
     void WidenForNumbers();
     int FirstShownColumn() const;
@@ -72,6 +86,8 @@ private:
 
     RowModel* rows_;
     std::vector<ListColumn> columns_;
+    QTimer comingIn_;
+    bool selectsFirst_ = false;
 };
 
 }  // namespace forms

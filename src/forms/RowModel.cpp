@@ -1,10 +1,21 @@
 #include "forms/RowModel.h"
 
+#include <QScopedValueRollback>
 #include <QSize>
+#include <limits>
 
 #include "forms/Tokens.h"
 
 namespace forms {
+
+namespace {
+
+constexpr int AllRows = std::numeric_limits<int>::max();
+constexpr std::chrono::hours Patience(24);
+// Rows of a source whose texts make room for themselves before they are seen.
+constexpr int RowsMeasured = 64;
+
+}  // namespace
 
 void RowModel::SetColumns(const std::vector<ListColumn>& columns) {
     beginResetModel();
@@ -13,13 +24,14 @@ void RowModel::SetColumns(const std::vector<ListColumn>& columns) {
     endResetModel();
 }
 
-int RowModel::Count() const {
-    if (make_) return toMake_;
-    return headings_.empty() ? 0 : static_cast<int>(cells_.size() / Width());
+int RowModel::Count() {
+    if (!source_) return headings_.empty() ? 0 : static_cast<int>(cells_.size() / Width());
+    Need(AllRows);
+    return published_;
 }
 
 void RowModel::Clear() {
-    if (Count() == 0) return;
+    if (!source_ && Count() == 0) return;
     beginResetModel();
     Empty();
     endResetModel();
@@ -28,9 +40,8 @@ void RowModel::Clear() {
 void RowModel::Empty() {
     texts_.clear();
     cells_.clear();
-    make_ = nullptr;
-    made_.clear();
-    toMake_ = 0;
+    source_.reset();
+    written_.clear();
     longest_.assign(Width(), 0);
     published_ = 0;
 }
@@ -39,45 +50,52 @@ size_t RowModel::PlaceOf(int row, int column) const {
     return static_cast<size_t>(row) * Width() + static_cast<size_t>(column);
 }
 
-bool RowModel::HasCell(int row, int column) const {
-    return row >= 0 && row < Count() && column >= 0 && column < columnCount();
-}
-
-void RowModel::ShowRows(int count, std::function<QStringList(int row)> make) {
+void RowModel::ShowRows(std::unique_ptr<RowSource> source) {
     beginResetModel();
     Empty();
-    make_ = std::move(make);
-    toMake_ = count;
-    published_ = count;
+    source_ = std::move(source);
+    published_ = source_->WaitFor(0, {});
+    const int measured = qMin(published_, RowsMeasured);
+    for (int row = 0; row < measured; ++row)
+        for (int column = 0; column < static_cast<int>(Width()); ++column)
+            Measure(column, source_->Text(row, column).size());
     endResetModel();
 }
 
-QStringList& RowModel::Made(int row) const {
-    const auto [place, isNew] = made_.try_emplace(row);
-    if (!isNew) return place->second;
-    QStringList cells = make_(row);
-    cells.resize(static_cast<qsizetype>(Width()));
-    if (Measure(cells)) Q_EMIT const_cast<RowModel*>(this)->TextsGrew();
-    return place->second = std::move(cells);
-}
-
-bool RowModel::Measure(const QStringList& cells) const {
-    bool grew = false;
-    for (size_t column = 0; column < Width(); ++column) {
-        const qsizetype length = cells.value(static_cast<qsizetype>(column)).size();
-        if (length <= longest_[column]) continue;
-        longest_[column] = length;
-        grew = true;
+// To whoever asks, a list whose rows can't be had is empty; the list tells why.
+void RowModel::Take(int rows) {
+    const QScopedValueRollback taking(isTaking_, true);
+    try {
+        const int here = source_->WaitFor(rows, Patience);
+        if (here == published_) return;
+        beginInsertRows({}, published_, here - 1);
+        published_ = here;
+        endInsertRows();
+    } catch (...) {
+        Clear();
+        Q_EMIT Failed(std::current_exception());
     }
-    return grew;
 }
 
-void RowModel::MakeAll() {
-    if (!make_) return;
-    for (int row = 0; row < toMake_; ++row)
-        for (const QString& cell : Made(row)) cells_.push_back(Keep(cell));
-    make_ = nullptr;
-    made_.clear();
+// Whoever counts rows does not mean to change the list; that it grows by what was on its way is no change.
+void RowModel::Need(int rows) const {
+    if (rows > published_ && IsComingIn() && !isTaking_) const_cast<RowModel*>(this)->Take(rows);
+}
+
+bool RowModel::Measure(int column, qsizetype length) const {
+    qsizetype& longest = longest_[static_cast<size_t>(column)];
+    if (length <= longest) return false;
+    longest = length;
+    return true;
+}
+
+void RowModel::LeaveSource() {
+    if (!source_) return;
+    Need(AllRows);
+    for (int row = 0; row < published_; ++row)
+        for (int column = 0; column < static_cast<int>(Width()); ++column) cells_.push_back(Keep(TextAt(row, column)));
+    source_.reset();
+    written_.clear();
 }
 
 RowModel::Piece RowModel::Keep(const QString& text) {
@@ -88,17 +106,20 @@ RowModel::Piece RowModel::Keep(const QString& text) {
 }
 
 int RowModel::Add(const QStringList& cells) {
-    MakeAll();
+    LeaveSource();
     const int row = Count();
-    for (qsizetype column = 0; column < columnCount(); ++column) cells_.push_back(Keep(cells.value(column)));
-    Measure(cells);
+    for (int column = 0; column < static_cast<int>(Width()); ++column) {
+        const QString& text = cells.value(column);
+        cells_.push_back(Keep(text));
+        Measure(column, text.size());
+    }
     if (fills_ == 0) Publish();
     return row;
 }
 
 void RowModel::Remove(int row) {
     if (row < 0 || row >= Count()) return;
-    MakeAll();
+    LeaveSource();
     Publish();
     beginRemoveRows({}, row, row);
     const auto first = cells_.begin() + static_cast<std::ptrdiff_t>(PlaceOf(row, 0));
@@ -107,20 +128,32 @@ void RowModel::Remove(int row) {
     endRemoveRows();
 }
 
-QStringView RowModel::Cell(int row, int column) const {
-    if (!HasCell(row, column)) return {};
-    if (make_) return Made(row)[column];
-    const Piece& piece = cells_[PlaceOf(row, column)];
-    return {texts_.data() + piece.start, piece.length};
+QString RowModel::TextAt(int row, int column) const {
+    if (!source_) {
+        const Piece& piece = cells_[PlaceOf(row, column)];
+        return QStringView(texts_.data() + piece.start, piece.length).toString();
+    }
+    const auto written = written_.find(PlaceOf(row, column));
+    return written == written_.end() ? source_->Text(row, column) : written->second;
+}
+
+bool RowModel::HasCell(int row, int column) {
+    if (row < 0 || !HasColumn(column)) return false;
+    Need(row + 1);
+    return row < (source_ ? published_ : Count());
+}
+
+QString RowModel::Cell(int row, int column) {
+    return HasCell(row, column) ? TextAt(row, column) : QString();
 }
 
 void RowModel::SetCell(int row, int column, const QString& text) {
     if (!HasCell(row, column)) return;
-    if (make_)
-        Made(row)[column] = text;
+    if (source_)
+        written_[PlaceOf(row, column)] = text;
     else
         cells_[PlaceOf(row, column)] = Keep(text);
-    longest_[static_cast<size_t>(column)] = qMax(longest_[static_cast<size_t>(column)], text.size());
+    Measure(column, text.size());
     if (row >= published_) return;
     const QModelIndex changed = index(row, column);
     Q_EMIT dataChanged(changed, changed, {Qt::DisplayRole});
@@ -131,14 +164,28 @@ void RowModel::EndFill() {
 }
 
 void RowModel::Publish() {
-    if (published_ == Count()) return;
+    if (source_ || published_ == Count()) return;
     beginInsertRows({}, published_, Count() - 1);
     published_ = Count();
     endInsertRows();
 }
 
+QModelIndex RowModel::index(int row, int column, const QModelIndex& parent) const {
+    if (row < 0 || !HasColumn(column) || parent.isValid()) return {};
+    Need(row + 1);
+    return row < published_ ? createIndex(row, column) : QModelIndex();
+}
+
+bool RowModel::hasChildren(const QModelIndex& parent) const {
+    if (parent.isValid() || headings_.empty()) return false;
+    Need(1);
+    return published_ > 0;
+}
+
 int RowModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : published_;
+    if (parent.isValid()) return 0;
+    if (viewAsks_ == 0) Need(AllRows);
+    return published_;
 }
 
 int RowModel::columnCount(const QModelIndex& parent) const {
@@ -146,7 +193,12 @@ int RowModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant RowModel::data(const QModelIndex& index, int role) const {
-    if (role == Qt::DisplayRole) return Cell(index.row(), index.column()).toString();
+    if (role == Qt::DisplayRole) {
+        if (!index.isValid() || index.row() >= published_ || !HasColumn(index.column())) return {};
+        QString text = TextAt(index.row(), index.column());
+        if (source_ && Measure(index.column(), text.size())) Q_EMIT TextsGrew();
+        return text;
+    }
     if (role == Qt::TextAlignmentRole) return headerData(index.column(), Qt::Horizontal, role);
     // From here and not from the style sheet, which a list that is filled before it is shown does not have yet.
     if (role == Qt::SizeHintRole) return QSize(0, Tokens::RowHeight);

@@ -1,8 +1,8 @@
 #include "masterdata/TableList.h"
 
-#include "core/dbModule.h"
 #include "forms/Controls.h"
 #include "forms/MsgBox.h"
+#include "masterdata/ListedRow.h"
 
 TableList::TableList(const Facts& facts)
     : rowQuery_(facts.rowQuery), isProtected_(facts.isProtected), deleted_(facts.deleted) {
@@ -32,7 +32,7 @@ void TableList::cmdEdit_Click() {
 
 void TableList::cmdDelete_Click() {
     if (ui.lv1->Count() == 0) return;
-    auto row = MainStore().OpenRecordset(rowQuery_.arg(SelectedKey(this)));
+    auto row = OpenListedRow(rowQuery_.arg(SelectedKey(this)));
     if (row[u"Del"].IsNull() || row[u"Del"].YesNo()) return forms::Inform(isProtected_, Caption());
     if (!forms::Ask(DeleteQuestion(row), Caption())) return;
     row.Delete();

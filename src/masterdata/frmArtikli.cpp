@@ -4,17 +4,26 @@
 #include "core/Session.h"
 #include "core/dbModule.h"
 #include "forms/Controls.h"
+#include "masterdata/ListedRow.h"
 #include "masterdata/frmEditProduct.h"
 #include "masterdata/frmNewProduct.h"
-#include "values/Format.h"
 
 using namespace Qt::StringLiterals;
-using values::Format;
 
 namespace {
 
 const auto ProductsQuery = u"SELECT * FROM Products"_s;
 const auto ProductQuery = u"SELECT * FROM Products WHERE ProdCode = '%1'"_s;
+
+const std::vector<ListCell> Cells{{u"ProdCode"_s},
+                                  {u"ProdDescription"_s},
+                                  {u"Qty"_s},
+                                  {u"Unit"_s},
+                                  {u"UnitPrice"_s, u"0.00"_s},
+                                  {u"TaxPercent"_s, u"0.00"_s},
+                                  {u"UnitPricebezPDV"_s, u"0.00"_s},
+                                  {u"VPUnitPrice"_s, u"0.00"_s},
+                                  {u"VPUnitPricebezPDV"_s, u"0.00"_s}};
 
 const auto NameEntry = u"Product name"_s;
 const auto CodeEntry = u"ProductID - BarCode"_s;
@@ -69,22 +78,11 @@ QString frmArtikli::SearchedField(const QString& entry) const {
 }
 
 void frmArtikli::ShowRows(const QString& query) {
-    rsProducts_ = MainStore().OpenRecordset(query);
-    FillProductGrid();
+    FillProductGrid(MainStore().OpenListing(query));
 }
 
-void frmArtikli::FillProductGrid() {
-    FillList(*ui.lv1, rsProducts_, [](store::Recordset& product) -> QStringList {
-        return {product[u"ProdCode"].TextOrEmpty(),
-                product[u"ProdDescription"].TextOrEmpty(),
-                product[u"Qty"].TextOrEmpty(),
-                product[u"Unit"].TextOrEmpty(),
-                Format(product[u"UnitPrice"].Get(), u"0.00"),
-                Format(product[u"TaxPercent"].Get(), u"0.00"),
-                Format(product[u"UnitPricebezPDV"].Get(), u"0.00"),
-                Format(product[u"VPUnitPrice"].Get(), u"0.00"),
-                Format(product[u"VPUnitPricebezPDV"].Get(), u"0.00")};
-    });
+void frmArtikli::FillProductGrid(store::Listing products) {
+    FillList(*ui.lv1, std::move(products), Cells);
 }
 
 void frmArtikli::Activate() {
@@ -105,7 +103,7 @@ void frmArtikli::cmdUpdate_Click() {
 
 void frmArtikli::cmdDelete_Click() {
     if (ui.lv1->Count() == 0) return;
-    auto product = MainStore().OpenRecordset(ProductQuery.arg(ui.lv1->SelectedText()));
+    auto product = OpenListedRow(ProductQuery.arg(ui.lv1->SelectedText()));
     const QString question = u"ProductID - Barcode: "_s + product[u"ProdCode"].TextOrEmpty() + u"\nProduct name: "_s +
                              product[u"ProdDescription"].TextOrEmpty() + u"\nDo you want to delete this item?"_s;
     DeleteRow(product, question, u"Product deleted."_s);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "masterdata/SearchList.h"
+#include "store/Listing.h"
 #include "ui_frmArtikli.h"
 
 // All products: search, new, edit, delete. In the choosing mode it gives the code of a product to its caller instead.
@@ -27,9 +28,8 @@ protected:
 private:
     void Activate();
 
-    void FillProductGrid();
+    void FillProductGrid(store::Listing products);
 
     Ui::frmArtikli ui;
-    store::Recordset rsProducts_;
     bool isChoosing_ = false;
 };

@@ -1,8 +1,8 @@
 #include "masterdata/frmEditKupac.h"
 
 #include "core/Session.h"
-#include "core/dbModule.h"
 #include "forms/Controls.h"
+#include "masterdata/ListedRow.h"
 
 using namespace Qt::StringLiterals;
 
@@ -22,7 +22,7 @@ frmEditKupac::frmEditKupac()
 void frmEditKupac::Form_Load() {
     lv1_ = qobject_cast<forms::ListView*>(forms::Control(CallerForm, u"lv1"));
     row_ = lv1_->Selected();
-    rsCustomer_ = MainStore().OpenRecordset(CustomerQuery.arg(lv1_->SelectedText()));
+    rsCustomer_ = OpenListedRow(CustomerQuery.arg(lv1_->SelectedText()));
     ShowCustomer();
 }
 

@@ -3,6 +3,7 @@
 #include "core/dbModule.h"
 #include "forms/Controls.h"
 #include "forms/OneLine.h"
+#include "masterdata/ListedRow.h"
 #include "masterdata/frmSastav.h"
 #include "output/Folder.h"
 #include "values/Format.h"
@@ -44,7 +45,7 @@ void frmEditProduct::Form_Load() {
     const QString query = ProductQuery.arg(lv1_->SelectedText());
     FillTaxList();
     FillUnitList();
-    rsProduct_ = MainStore().OpenRecordset(query);
+    rsProduct_ = OpenListedRow(query);
     ShowProduct();
 }
 

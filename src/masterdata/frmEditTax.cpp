@@ -1,6 +1,6 @@
 #include "masterdata/frmEditTax.h"
 
-#include "core/dbModule.h"
+#include "masterdata/ListedRow.h"
 #include "masterdata/TableList.h"
 
 using namespace Qt::StringLiterals;
@@ -19,7 +19,7 @@ frmEditTax::frmEditTax()
 }
 
 void frmEditTax::Form_Load() {
-    rsTax_ = MainStore().OpenRecordset(TaxQuery.arg(SelectedKey(forms::FindForm(u"frmTax"))));
+    rsTax_ = OpenListedRow(TaxQuery.arg(SelectedKey(forms::FindForm(u"frmTax"))));
     ShowTax();
 }
 

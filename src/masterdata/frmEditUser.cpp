@@ -1,7 +1,7 @@
 #include "masterdata/frmEditUser.h"
 
 #include "core/Session.h"
-#include "core/dbModule.h"
+#include "masterdata/ListedRow.h"
 #include "masterdata/TableList.h"
 
 using namespace Qt::StringLiterals;
@@ -15,7 +15,7 @@ const auto UserQuery = u"SELECT * FROM Users WHERE UserID = '%1'"_s;
 frmEditUser::frmEditUser() : UserEntry(u"frmEditUser"_s, u"Edit User"_s) {}
 
 void frmEditUser::Form_Load() {
-    rsUsers_ = MainStore().OpenRecordset(UserQuery.arg(SelectedKey(CallerForm)));
+    rsUsers_ = OpenListedRow(UserQuery.arg(SelectedKey(CallerForm)));
     ShowUser();
 }
 

@@ -10,10 +10,8 @@
 #include "forms/Controls.h"
 #include "forms/MsgBox.h"
 #include "masterdata/Module1.h"
-#include "values/Format.h"
 
 using namespace Qt::StringLiterals;
-using values::Format;
 
 namespace {
 
@@ -97,15 +95,12 @@ QString frmKlikTabla::SearchedField(const QString&) const {
 }
 
 void frmKlikTabla::ShowRows(const QString& query) {
-    rsProducts_ = MainStore().OpenRecordset(query);
-    FillClickTableList();
+    FillClickTableList(MainStore().OpenListing(query));
+    query_ = query;
 }
 
-void frmKlikTabla::FillClickTableList() {
-    FillList(*ui.lv1, rsProducts_, [](store::Recordset& product) -> QStringList {
-        return {product[u"ProdCode"].TextOrEmpty(), product[u"ProdDescription"].TextOrEmpty(),
-                Format(product[u"UnitPrice"].Get(), u"0.00")};
-    });
+void frmKlikTabla::FillClickTableList(store::Listing products) {
+    FillList(*ui.lv1, std::move(products), {{u"ProdCode"_s}, {u"ProdDescription"_s}, {u"UnitPrice"_s, u"0.00"_s}});
 }
 
 // The screen is the caller for as long as the loaders run: beside it a list of products may be choosing for the till.
@@ -188,18 +183,17 @@ void frmKlikTabla::cmdAutomatic_Click() {
 // when one can't be placed, those before it stay placed.
 void frmKlikTabla::AutoPlaceProducts() {
     const WaitCursor wait;
-    rsProducts_.MoveFirst();
+    const int count = ui.lv1->Count();
+    if (count == 0) throw store::StoreError(store::NoCurrentRow, u"No current row."_s);
     store::Database::Batch placement(MainStore());
     try {
-        for (int counter = 0; !rsProducts_.AtEOF(); ++counter, rsProducts_.MoveNext())
-            Place(rsProducts_[u"ProdCode"].TextOrEmpty(), counter < PlacedAutomatically ? counter : OffTheTable);
+        for (int row = 0; row < count; ++row) Place(ui.lv1->Text(row), row < PlacedAutomatically ? row : OffTheTable);
     } catch (const values::Error&) {
         placement.Commit();
         throw;
     }
     placement.Commit();
-    rsProducts_.MoveFirst();
-    FillClickTableList();
+    ShowRows(query_);
 }
 
 void frmKlikTabla::cmdOsvjezi_Click() {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "masterdata/SearchScreen.h"
-#include "store/Recordset.h"
+#include "store/Listing.h"
 #include "ui_frmKlikTabla.h"
 
 // Sets up the click table: places products on its buttons, by hand or all at once, and names its tabs. Each change goes
@@ -28,7 +28,7 @@ private:
     void cmdAutomatic_Click();
     void cmdOsvjezi_Click();
 
-    void FillClickTableList();
+    void FillClickTableList(store::Listing products);
     void LoadTable();
     void PlaceSelected(int index);
     void TakeOff(int index);
@@ -38,7 +38,7 @@ private:
     void AutoPlaceProducts();
 
     Ui::frmKlikTabla ui;
-    store::Recordset rsProducts_;
+    QString query_;  // of the products that are listed
     // What waits to be placed; the code is empty when nothing does.
     QString selectedCode_;
     QString selectedName_;

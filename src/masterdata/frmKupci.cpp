@@ -5,6 +5,7 @@
 #include "core/FillList.h"
 #include "core/Session.h"
 #include "core/dbModule.h"
+#include "masterdata/ListedRow.h"
 #include "masterdata/frmEditKupac.h"
 #include "masterdata/frmNewKupac.h"
 
@@ -14,6 +15,9 @@ namespace {
 
 const auto CustomersQuery = u"SELECT * FROM Custumer"_s;
 const auto CustomerQuery = u"SELECT * FROM Custumer WHERE Sifra = %1"_s;
+
+const std::vector<ListCell> Cells{{u"Sifra"_s},   {u"Naziv"_s},   {u"Adresa"_s},    {u"JMBG"_s},
+                                  {u"Telefon"_s}, {u"Telefax"_s}, {u"RabatMarza"_s}};
 
 }  // namespace
 
@@ -46,17 +50,11 @@ QString frmKupci::SearchedField(const QString& entry) const {
 }
 
 void frmKupci::ShowRows(const QString& query) {
-    rsCustomers_ = MainStore().OpenRecordset(query);
-    FillCustomerGrid();
+    FillCustomerGrid(MainStore().OpenListing(query));
 }
 
-void frmKupci::FillCustomerGrid() {
-    FillList(*ui.lv1, rsCustomers_, [](store::Recordset& customer) -> QStringList {
-        return {customer[u"Sifra"].TextOrEmpty(),     customer[u"Naziv"].TextOrEmpty(),
-                customer[u"Adresa"].TextOrEmpty(),    customer[u"JMBG"].TextOrEmpty(),
-                customer[u"Telefon"].TextOrEmpty(),   customer[u"Telefax"].TextOrEmpty(),
-                customer[u"RabatMarza"].TextOrEmpty()};
-    });
+void frmKupci::FillCustomerGrid(store::Listing customers) {
+    FillList(*ui.lv1, std::move(customers), Cells);
 }
 
 // The list is not read again after a new customer, F11 brings it in; an edited one writes its row itself.
@@ -72,7 +70,7 @@ void frmKupci::cmdUpdate_Click() {
 
 void frmKupci::cmdDelete_Click() {
     if (ui.lv1->Count() == 0) return;
-    auto customer = MainStore().OpenRecordset(CustomerQuery.arg(ui.lv1->SelectedText()));
+    auto customer = OpenListedRow(CustomerQuery.arg(ui.lv1->SelectedText()));
     const QString question =
         u"Custumer: "_s + customer[u"Naziv"].TextOrEmpty() + u"\nDo you want to delete the customer?"_s;
     DeleteRow(customer, question, u"Custumer deleted."_s);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "masterdata/SearchList.h"
+#include "store/Listing.h"
 #include "ui_frmKupci.h"
 
 // All customers and suppliers: search, new, edit, delete.
@@ -19,8 +20,7 @@ protected:
     void cmdDelete_Click() override;
 
 private:
-    void FillCustomerGrid();
+    void FillCustomerGrid(store::Listing customers);
 
     Ui::frmKupci ui;
-    store::Recordset rsCustomers_;
 };

@@ -5,10 +5,8 @@
 #include "forms/MsgBox.h"
 #include "masterdata/frmEditTax.h"
 #include "masterdata/frmNewTax.h"
-#include "values/Format.h"
 
 using namespace Qt::StringLiterals;
-using values::Format;
 
 namespace {
 
@@ -30,14 +28,11 @@ frmTax::frmTax()
                  .deleted = u"Tax deleted."_s}) {}
 
 void frmTax::ShowRows() {
-    rsTax_ = MainStore().OpenRecordset(TaxesQuery);
-    FillTaxGrid();
+    FillTaxGrid(MainStore().OpenListing(TaxesQuery));
 }
 
-void frmTax::FillTaxGrid() {
-    FillList(*ui.lv1, rsTax_, [](store::Recordset& tax) -> QStringList {
-        return {tax[u"TaxID"].TextOrEmpty(), Format(tax[u"Percent"].Get(), u"0.00"), tax[u"Name"].TextOrEmpty()};
-    });
+void frmTax::FillTaxGrid(store::Listing taxes) {
+    FillList(*ui.lv1, std::move(taxes), {{u"TaxID"_s}, {u"Percent"_s, u"0.00"_s}, {u"Name"_s}});
 }
 
 void frmTax::ShowNew() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "masterdata/TableList.h"
+#include "store/Listing.h"
 
 // The tax rates.
 class frmTax : public TableList {
@@ -17,7 +18,5 @@ protected:
     void cmdDelete_Click() override;
 
 private:
-    void FillTaxGrid();
-
-    store::Recordset rsTax_;
+    void FillTaxGrid(store::Listing taxes);
 };

@@ -28,14 +28,11 @@ frmUsers::frmUsers()
                  .deleted = u"User deleted."_s}) {}
 
 void frmUsers::ShowRows() {
-    rsUsers_ = MainStore().OpenRecordset(UsersQuery);
-    FillUserGrid();
+    FillUserGrid(MainStore().OpenListing(UsersQuery));
 }
 
-void frmUsers::FillUserGrid() {
-    FillList(*ui.lv1, rsUsers_, [](store::Recordset& user) -> QStringList {
-        return {user[u"UserID"].TextOrEmpty(), user[u"UserName"].TextOrEmpty(), user[u"AccLevel"].TextOrEmpty()};
-    });
+void frmUsers::FillUserGrid(store::Listing users) {
+    FillList(*ui.lv1, std::move(users), {{u"UserID"_s}, {u"UserName"_s}, {u"AccLevel"_s}});
 }
 
 void frmUsers::ShowNew() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "masterdata/TableList.h"
+#include "store/Listing.h"
 
 // The cashiers and the other users. A user may be deleted whatever the log and the invoices hold.
 class frmUsers : public TableList {
@@ -16,7 +17,5 @@ protected:
     QString DeleteQuestion(store::Recordset& user) const override;
 
 private:
-    void FillUserGrid();
-
-    store::Recordset rsUsers_;
+    void FillUserGrid(store::Listing users);
 };

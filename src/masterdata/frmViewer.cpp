@@ -4,16 +4,18 @@
 #include "core/Session.h"
 #include "core/dbModule.h"
 #include "forms/Controls.h"
-#include "values/Format.h"
 
 using namespace Qt::StringLiterals;
-using values::Format;
 
 namespace {
 
 const auto ListedQuery = u"SELECT ProdCode, ProdDescription, Qty, Unit, UnitPrice, TaxPercent FROM Products"_s;
 const auto ProductsQuery = u"SELECT * FROM Products"_s;
 const auto OptionsQuery = u"SELECT * FROM Options"_s;
+
+const std::vector<ListCell> Cells{
+    {u"ProdCode"_s}, {u"ProdDescription"_s}, {u"UnitPrice"_s, u"0.00"_s}, {u"TaxPercent"_s, u"0.00"_s}, {u"Qty"_s},
+    {u"Unit"_s}};
 
 const auto NameEntry = u"Product Name"_s;
 const auto CodeEntry = u"ProductID-BarCode"_s;
@@ -39,10 +41,10 @@ frmViewer::frmViewer() {
 void frmViewer::Form_Load() {
     base_ = ListedQuery;
     SetSearchFields({NameEntry, CodeEntry});
-    rsProducts_ = MainStore().OpenRecordset(base_);
+    auto products = MainStore().OpenListing(base_);
     auto options = OptionsStore().OpenRecordset(OptionsQuery);
     const values::Value atOnce = options[u"PrikaziOdmah"];
-    if (!atOnce.IsNull() && atOnce.ToBool()) FillViewerGrid();
+    if (!atOnce.IsNull() && atOnce.ToBool()) FillViewerGrid(std::move(products));
 }
 
 QString frmViewer::SearchedField(const QString& entry) const {
@@ -50,8 +52,7 @@ QString frmViewer::SearchedField(const QString& entry) const {
 }
 
 void frmViewer::ShowRows(const QString& query) {
-    rsProducts_ = MainStore().OpenRecordset(query);
-    FillViewerGrid();
+    FillViewerGrid(MainStore().OpenListing(query));
 }
 
 void frmViewer::cmdRefresh_Click() {
@@ -59,15 +60,8 @@ void frmViewer::cmdRefresh_Click() {
     SearchScreen::cmdRefresh_Click();
 }
 
-void frmViewer::FillViewerGrid() {
-    FillList(*ui.lv1, rsProducts_, [](store::Recordset& product) -> QStringList {
-        return {product[u"ProdCode"].TextOrEmpty(),
-                product[u"ProdDescription"].TextOrEmpty(),
-                Format(product[u"UnitPrice"].Get(), u"0.00"),
-                Format(product[u"TaxPercent"].Get(), u"0.00"),
-                product[u"Qty"].TextOrEmpty(),
-                product[u"Unit"].TextOrEmpty()};
-    });
+void frmViewer::FillViewerGrid(store::Listing products) {
+    FillList(*ui.lv1, std::move(products), Cells);
 }
 
 void frmViewer::lv1_Enter() {

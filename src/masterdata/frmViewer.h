@@ -1,7 +1,7 @@
 #pragma once
 
 #include "masterdata/SearchScreen.h"
-#include "store/Recordset.h"
+#include "store/Listing.h"
 #include "ui_frmViewer.h"
 
 // Finds a product for another screen: the code of the chosen one goes into the box txtProdCode of CallerForm.
@@ -21,8 +21,7 @@ private:
     void lv1_Enter();
     void Pick();
 
-    void FillViewerGrid();
+    void FillViewerGrid(store::Listing products);
 
     Ui::frmViewer ui;
-    store::Recordset rsProducts_;
 };

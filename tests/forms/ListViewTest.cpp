@@ -9,6 +9,7 @@
 
 #include "SampleForm.h"
 #include "support/ScreenTest.h"
+#include "values/Error.h"
 
 using drivers::Keys;
 using drivers::Settle;
@@ -164,21 +165,39 @@ TEST_F(ListViewTest, ColumnsShareTheWidth) {
     EXPECT_FALSE(header->sectionsClickable());
 }
 
-TEST_F(ListViewTest, RowsMadeAsTheyAreNeededAreRowsLikeOthers) {
+// A hundred thousand rows of which those that were waited for are here; beyond them `fails` may stand.
+class Rows : public forms::RowSource {
+public:
+    explicit Rows(int here, bool fails = false) : here_(here), fails_(fails) {}
+    int WaitFor(int rows, std::chrono::milliseconds atMost) override {
+        if (fails_ && rows > here_) throw values::Error(3043, u"The disk is gone."_s);
+        if (rows > here_ && atMost.count() > 0) here_ = qMin(rows, All);
+        return here_;
+    }
+    bool IsWhole() const override { return here_ == All; }
+    QString Text(int row, int column) const override {
+        ++looks;
+        return column != 2 ? QString::number(row) : row == 99'000 ? u"123456789012.00"_s : u"1.00"_s;
+    }
+    static constexpr int All = 100'000;
+    static inline int looks = 0;
+
+private:
+    int here_;
+    bool fails_;
+};
+
+TEST_F(ListViewTest, RowsOfASourceAreRowsLikeOthers) {
     list.resize(500, 300);
     list.show();
-    std::vector<int> made;
-    const auto make = [&made](int row) {
-        made.push_back(row);
-        return QStringList{QString::number(row), u"Name"_s, row == 99'000 ? u"123456789012.00"_s : u"1.00"_s};
-    };
-    list.ShowRows(100'000, make);
+    Rows::looks = 0;
+    list.ShowRows(std::make_unique<Rows>(Rows::All));
     EXPECT_EQ(list.Count(), 100'000);
-    EXPECT_EQ(made.size(), 1000u);
+    EXPECT_EQ(list.Selected(), 0);
     const int width = list.header()->sectionSize(2);
     list.Select(99'000);
     Settle();
-    EXPECT_LT(made.size(), 1100u);
+    EXPECT_LT(Rows::looks, 1000) << "only what is seen is made a text";
     EXPECT_EQ(list.Text(99'000, 0), u"99000");
     EXPECT_GT(list.header()->sectionSize(2), width) << "the long number is cut";
 
@@ -188,9 +207,37 @@ TEST_F(ListViewTest, RowsMadeAsTheyAreNeededAreRowsLikeOthers) {
     list.Remove(0);
     EXPECT_EQ(list.Text(49'999, 1), u"written");
     EXPECT_EQ(list.Text(99'999, 0), u"added");
-    list.ShowRows(2, make);
-    EXPECT_EQ(list.Text(1, 0), u"1");
-    EXPECT_EQ(list.Text(2, 0), QString());
+}
+
+TEST_F(ListViewTest, NobodyTakesRowsThatAreStillComingInForAll) {
+    list.show();
+    const auto showAPart = [this](int here) {
+        list.ShowRows(std::make_unique<Rows>(here));
+        Settle();
+        EXPECT_TRUE(list.visualRect(list.model()->index(qMax(here, 1) - 1, 0)).isValid());
+    };
+    showAPart(300);
+    EXPECT_EQ(list.model()->rowCount(), Rows::All);
+    showAPart(300);
+    EXPECT_EQ(list.Count(), Rows::All);
+    showAPart(300);
+    EXPECT_EQ(list.model()->index(99'999, 0).data(), u"99999"_s);
+    showAPart(300);
+    EXPECT_EQ(list.Find(u"70000"), 70'000);
+    showAPart(300);
+    list.setFocus();
+    Keys(u"{Down}{Down}");
+    EXPECT_EQ(list.Selected(), 2);
+    Keys(u"{End}");
+    EXPECT_EQ(list.Selected(), 99'999);
+    list.ShowRows(std::make_unique<Rows>(0));
+    EXPECT_EQ(list.SelectedText(), u"0") << "the first row is waited for";
+
+    drivers::Boxes boxes;
+    list.ShowRows(std::make_unique<Rows>(300, true));
+    boxes.Expect(u"3043The disk is gone."_s);
+    EXPECT_EQ(list.Count(), 0);
+    Settle();
 }
 
 }  // namespace

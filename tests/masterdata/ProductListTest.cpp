@@ -4,6 +4,7 @@
 #include <QLineEdit>
 
 #include "core/Session.h"
+#include "core/dbModule.h"
 #include "support/Office.h"
 
 using namespace Qt::StringLiterals;
@@ -164,6 +165,38 @@ TEST_F(ProductListTest, TheChooserKeepsItsCallerWhateverIsOpenedBesideIt) {
     Lv1(chooser).setFocus();
     Keys(u"{Enter}");
     EXPECT_EQ(Shown(u"txtDescription"), u"Cola");
+}
+
+TEST_F(ProductListTest, TheListShowsOneMomentWhateverAnotherRegisterDoes) {
+    LogIn(u"admin"_s);
+    {
+        store::Database::Batch batch(MainStore());
+        auto products = MainStore().OpenRecordset(u"SELECT * FROM Products"_s);
+        for (int i = 1000; i < 4000; ++i) {
+            products.AddNew();
+            products[u"ProdCode"] = QString::number(i);
+            products[u"ProdDescription"] = u"Before"_s;
+            products.Update();
+        }
+        batch.Commit();
+    }
+    Use<frmArtikli>([this](frmArtikli& screen) {
+        const auto other = store::Database::Open(Path(u"ORVA.pos"_s), store::MainSchema());
+        other->Execute(u"DELETE * FROM Products WHERE ProdCode = '2400'"_s);
+        other->Execute(u"UPDATE Products SET ProdDescription = 'After' WHERE ProdCode BETWEEN '2401' AND '2500'"_s);
+        const auto rows = drivers::List(screen, u"lv1");
+        ASSERT_EQ(rows.size(), 3005u);
+        for (size_t row = 5; row < rows.size(); ++row)
+            ASSERT_EQ(rows[row].mid(0, 2), (QStringList{QString::number(995 + row), u"Before"_s}));
+        Lv1(screen).Select(Lv1(screen).Find(u"2400"));
+        for (const auto key : {u"{F4}", u"{F6}"}) {
+            boxes_.Expect(u"3021The row was deleted after this list was read."_s).Titled(u"Products"_s);
+            Keys(key);
+        }
+        // Read by whoever has typed, without a turn of the event loop.
+        Get<QLineEdit>(screen, u"cboTemp")->setText(u"after"_s);
+        EXPECT_EQ(Lv1(screen).model()->rowCount(), 100);
+    });
 }
 
 }  // namespace
