@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QThread>
@@ -31,11 +32,32 @@ TEST_F(BackupTest, RefusesToOverwriteAndToGoNowhere) {
     EXPECT_EQ(answer.exitCode, 1);
     EXPECT_THAT(answer.err.toStdString(), StartsWith("3204: "));
     EXPECT_EQ(ReadFile(Path(u"copy.pos"_s)), "precious");
-    EXPECT_EQ(Tool({u"backup"_s, folder_, folder_ + u"/ORVA.pos"_s}).exitCode, 1);
-    EXPECT_EQ(Tool({u"backup"_s, folder_, Path(u"none/copy.pos"_s)}).exitCode, 1);
+    ASSERT_TRUE(QFile::link(Path(u"new.pos"_s), Path(u"link.pos"_s)));
+    const QStringList before = QDir(shop_.path()).entryList(QDir::NoFilter);
+    for (const auto& [target, number] : QList<std::pair<QString, const char*>>{{folder_ + u"/ORVA.pos"_s, "3204: "},
+                                                                               {folder_ + u"/ORVA.pos-wal"_s, "3251: "},
+                                                                               {Path(u"link.pos"_s), "3204: "},
+                                                                               {folder_, "3204: "},
+                                                                               {Path(u"new.pos/"_s), "3251: "},
+                                                                               {Path(u"none/copy.pos"_s), "3024: "},
+                                                                               {u"/dev/null"_s, "3204: "},
+                                                                               {u"-"_s, "5: "}})
+        EXPECT_THAT(Tool({u"backup"_s, folder_, target}).err.toStdString(), StartsWith(number)) << target.toStdString();
     EXPECT_EQ(Tool({u"backup"_s, Path(u"none"_s), Path(u"new.pos"_s)}).exitCode, 1);
-    EXPECT_FALSE(QFile::exists(Path(u"new.pos"_s)));
+    EXPECT_EQ(QDir(shop_.path()).entryList(QDir::NoFilter), before);
     EXPECT_EQ(Sql(u"SELECT Count(*) AS N FROM Unit"_s), Done("N\n4\n"));
+}
+
+TEST_F(BackupTest, ClearsAwayWhatAKilledOneLeftButNotWhatIsBeingMade) {
+    for (const QString& name : {u"killed.pos.velton.part"_s, u"killed.pos.velton.part-journal"_s,
+                                u"killed.pos.velton.part-lock"_s, u"busy.pos.velton.part"_s, u"film.part"_s})
+        WriteFile(Path(name), "x");
+    const Answer answer = Shell(u"umask 0; flock -n \"$3\" \"$TOOL\" backup \"$1\" \"$2\""_s,
+                                {folder_, Path(u"copy.pos"_s), Path(u"busy.pos.velton.part-lock"_s)});
+    EXPECT_EQ(answer, Done());
+    EXPECT_EQ(QDir(shop_.path()).entryList(QDir::Files),
+              (QStringList{u"busy.pos.velton.part"_s, u"busy.pos.velton.part-lock"_s, u"copy.pos"_s, u"film.part"_s}));
+    EXPECT_FALSE(QFile::permissions(Path(u"copy.pos"_s)) & ~(QFile::Permissions(0x6600))) << "for its user alone";
 }
 
 TEST_F(BackupTest, IsOfOneMomentWhileARegisterWrites) {

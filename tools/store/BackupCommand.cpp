@@ -1,5 +1,3 @@
-#include <QFileInfo>
-
 #include "Commands.h"
 #include "delivery/FileError.h"
 
@@ -8,8 +6,8 @@ using namespace Qt::StringLiterals;
 namespace tool {
 
 void Backup(const QString& folder, const QString& file) {
-    if (QFileInfo::exists(file))
-        throw delivery::FileError(delivery::StoreExists, u"The file '%1' exists already."_s.arg(file));
+    if (file == u"-")
+        throw delivery::FileError(delivery::InvalidCall, u"A copy goes into a file, not to the standard output."_s);
     OpenStore(folder, Which::Main)->BackupTo(file);
 }
 
