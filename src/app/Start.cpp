@@ -1,5 +1,7 @@
 #include "app/Start.h"
 
+#include <sys/stat.h>
+
 #include <csignal>
 
 #include "app/Screens.h"
@@ -26,6 +28,7 @@ void ShowSalesScreen() {
 }  // namespace
 
 void PrepareApplication(QApplication& application) {
+    ::umask(077);  // a shop's files belong to its user alone
     // A printer that hangs up and a file that may not grow any further are errors to report, not an end.
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);

@@ -1,4 +1,5 @@
 #include <QFile>
+#include <QFileInfo>
 #include <cerrno>
 
 #include <fcntl.h>
@@ -51,13 +52,25 @@ void FileSink::Close() {
     if (file_.Close() != 0 && errno != EINTR) ThrowOsError(u"Cannot write to "_s + name_, errno);
 }
 
+// A new file belongs to its user alone, and to a group as well where the folder hands its own on to what is made in it
+// (setgid): so a program of another user can be let at the fiscal file.
+mode_t ModeIn(const QString& folder) {
+    constexpr mode_t user = 0600, group = 0060;
+    struct stat there = {};
+    const bool handsGroupOn = ::stat(QFile::encodeName(folder).constData(), &there) == 0 && (there.st_mode & S_ISGID);
+    return handsGroupOn ? user | (there.st_mode & group) : user;
+}
+
 // Opening never waits: a pipe without a reader would hold the till for good.
 int Open(const QString& path, int flags) {
     const QByteArray name = QFile::encodeName(path);
+    const bool isNew = (flags & O_CREAT) != 0 && ::access(name.constData(), F_OK) != 0;
+    const mode_t mode = ModeIn(QFileInfo(path).absolutePath());
     int descriptor;
     do {
-        descriptor = ::open(name.constData(), flags | O_NONBLOCK | O_CLOEXEC | O_NOCTTY, 0666);
+        descriptor = ::open(name.constData(), flags | O_NONBLOCK | O_CLOEXEC | O_NOCTTY, mode);
     } while (descriptor < 0 && errno == EINTR);
+    if (isNew && descriptor >= 0) ::fchmod(descriptor, mode);  // whatever the umask
     return descriptor;
 }
 

@@ -80,6 +80,14 @@ TEST_F(NewTest, CopiesTheProgramWithItsTime) {
     EXPECT_EQ(QFileInfo(Path(u"shop/velton"_s)).lastModified(), built);
 }
 
+TEST_F(NewTest, MakesWhatBelongsToItsUserAloneAndClearsAwayWhatAKilledOneLeft) {
+    QDir(room_.path()).mkpath(u"shop/velton-new-Ab12Cd/img"_s);
+    EXPECT_EQ(Shell(u"umask 0; exec \"$1\" new \"$2\""_s, {Path(u"velton-store"_s), Path(u"shop"_s)}), Done());
+    EXPECT_FALSE(QFile::exists(Path(u"shop/velton-new-Ab12Cd"_s)));
+    EXPECT_EQ(Shell(u"cd \"$1\" && find img images * -perm /077; stat -c %a velton ORVA.pos img"_s, {Path(u"shop"_s)}),
+              Done("700\n600\n700\n"));
+}
+
 TEST_F(NewTest, LeavesNothingBehindWhenItFails) {
     QFile::remove(Path(u"velton"_s));
     const Answer noProgram = New({Path(u"a/shop"_s)});

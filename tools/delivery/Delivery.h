@@ -8,8 +8,9 @@ namespace delivery {
 
 // Makes the folder of one register: the program's file (none when `programPath` is empty), both stores as delivered or
 // with the demo shop, pictures, help texts and a ports.ini that sends both ports to spool files. A folder that holds a
-// store is refused (3204). Files that are there already stay, but for the program, which is replaced. When it fails it
-// leaves no store behind, and no folder that was not there before.
+// store is refused (3204). What is made belongs to the user alone, whatever the umask. Files that are there already
+// stay, but for the program, which is replaced. When it fails it leaves no store behind, and no folder that was not
+// there before.
 void MakeProgramFolder(const QString& folder, bool withDemo, const QString& programPath = {});
 
 // Fill newly made stores, each as one commit.

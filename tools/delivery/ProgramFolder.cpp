@@ -1,3 +1,6 @@
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -16,6 +19,7 @@ namespace {
 const auto MainStore = u"ORVA.pos"_s;
 const auto OptionsStore = u"opt.pos"_s;
 const auto Program = u"velton"_s;
+constexpr auto OwnerAlone = QFile::ReadOwner | QFile::WriteOwner;
 const auto PortsIni = "[ports]\nlpt1=file:lpt1.prn\nlpt2=file:lpt2.prn\n"_ba;
 
 // Brings finished files into a folder and, unless Keep was called, takes them and the folders it made away again.
@@ -33,7 +37,8 @@ public:
         if (QDir(path).exists()) return;
         const QString parent = QFileInfo(path).absolutePath();
         if (parent != path) MakeFolder(parent);
-        if (!QDir().mkdir(path)) throw FileError(PathFault, u"Cannot make the folder '%1'."_s.arg(path));
+        if (!QDir().mkdir(path, OwnerAlone | QFile::ExeOwner))
+            throw FileError(PathFault, u"Cannot make the folder '%1'."_s.arg(path));
         made_.append(path);
     }
 
@@ -66,6 +71,52 @@ private:
     QStringList made_;
 };
 
+// Where everything is made ready: inside the folder, on the same disk. It is locked for as long as somebody works in
+// it, so that what a killed one left there can be told and is cleared away.
+class Workshop {
+public:
+    explicit Workshop(const QString& folder) : place_(folder + u'/' + Name + u"XXXXXX"_s) {
+        ClearAbandoned(folder);
+        if (!place_.isValid())
+            throw FileError(PathFault, u"Cannot write to '%1': %2"_s.arg(folder, place_.errorString()));
+        lock_ = Locked(place_.path());
+    }
+    ~Workshop() {
+        place_.remove();
+        if (lock_ >= 0) ::close(lock_);
+    }
+    Workshop(const Workshop&) = delete;
+    Workshop& operator=(const Workshop&) = delete;
+
+    QString Path() const { return place_.path(); }
+    QString FilePath(const QString& name) const { return place_.filePath(name); }
+
+private:
+    static constexpr auto Name = "velton-new-"_L1;
+
+    // A descriptor that holds the lock of a folder; -1 when another process has it.
+    static int Locked(const QString& path) {
+        const int folder = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+        if (folder >= 0 && ::flock(folder, LOCK_EX | LOCK_NB) == 0) return folder;
+        if (folder >= 0) ::close(folder);
+        return -1;
+    }
+
+    void ClearAbandoned(const QString& folder) const {
+        for (const QString& name : QDir(folder).entryList({Name + u"??????"_s}, QDir::Dirs | QDir::NoSymLinks)) {
+            QDir old(folder + u'/' + name);
+            if (old.path() == place_.path()) continue;
+            const int lock = Locked(old.path());
+            if (lock < 0) continue;
+            old.removeRecursively();
+            ::close(lock);
+        }
+    }
+
+    QTemporaryDir place_;
+    int lock_ = -1;
+};
+
 // The log of a store that was lost would be taken for that of the new one.
 void RefuseStores(const QString& folder) {
     for (const QString& store : {MainStore, OptionsStore})
@@ -84,7 +135,7 @@ void MakeStores(const QString& folder, bool withDemo) {
 void WriteFile(const QString& path, const QByteArray& content) {
     QDir().mkpath(QFileInfo(path).absolutePath());
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.flush())
+    if (!file.open(QIODevice::WriteOnly, OwnerAlone) || file.write(content) != content.size() || !file.flush())
         throw FileError(file, u"write '%1'"_s.arg(path));
 }
 
@@ -106,7 +157,8 @@ QStringList WriteSupplies(const QString& folder) {
 void CopyProgram(const QString& from, const QString& folder) {
     const QString target = folder + u'/' + Program;
     QFile program(from);
-    if (!program.copy(target)) throw FileError(program, u"copy the program"_s);
+    if (!program.copy(target) || !QFile::setPermissions(target, OwnerAlone | QFile::ExeOwner))
+        throw FileError(program, u"copy the program"_s);
     const auto time = QFileInfo(from).lastModified();
     QFile copy(target);
     if (!copy.open(QIODevice::ReadOnly) || !copy.setFileTime(time, QFileDevice::FileModificationTime))
@@ -123,19 +175,17 @@ void MakeProgramFolder(const QString& folder, bool withDemo, const QString& prog
         throw FileError(FileMissing, u"The program is missing: '%1'"_s.arg(programPath));
 
     Placing placing(target);
-    // Everything is made ready inside the folder, on the same disk, and put in place only when all of it is there.
-    const QTemporaryDir workshop(target + u"/new-XXXXXX"_s);
-    if (!workshop.isValid())
-        throw FileError(PathFault, u"Cannot write to '%1': %2"_s.arg(target, workshop.errorString()));
-    MakeStores(workshop.path(), withDemo);
-    const QStringList supplies = WriteSupplies(workshop.path());
-    if (withProgram) CopyProgram(programPath, workshop.path());
+    // Put in place only when all of it is there.
+    const Workshop workshop(target);
+    MakeStores(workshop.Path(), withDemo);
+    const QStringList supplies = WriteSupplies(workshop.Path());
+    if (withProgram) CopyProgram(programPath, workshop.Path());
 
     for (const QString& name : supplies)
-        if (!placing.Has(name)) placing.Move(workshop.filePath(name), name);
-    if (withProgram) placing.Replace(workshop.filePath(Program), Program);
-    placing.Move(workshop.filePath(OptionsStore), OptionsStore);
-    placing.Move(workshop.filePath(MainStore), MainStore);
+        if (!placing.Has(name)) placing.Move(workshop.FilePath(name), name);
+    if (withProgram) placing.Replace(workshop.FilePath(Program), Program);
+    placing.Move(workshop.FilePath(OptionsStore), OptionsStore);
+    placing.Move(workshop.FilePath(MainStore), MainStore);
     placing.Keep();
 }
 

@@ -1,3 +1,4 @@
+#include <sys/stat.h>
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
 #include <csignal>
@@ -106,6 +107,7 @@ int Run(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    ::umask(077);  // a shop's files belong to its user alone
     tool::HoldStandardStreams();
     std::signal(SIGPIPE, SIG_IGN);
     // Standard error holds nothing but our own line.
