@@ -51,6 +51,11 @@ void Channel::OpenForAppend(const QString& path) {
     sink_ = OpenFileForAppend(path);
 }
 
+PrinterState Channel::AskPrinter(PrinterFamily family) const {
+    RequireOpen();
+    return StateOf(*sink_, family);
+}
+
 // Receipts are written by the ten thousand: the text goes straight into the buffer.
 void Channel::WriteLine(const QString& line) {
     RequireOpen();
@@ -91,6 +96,11 @@ void Channel::Abandon() {
     } catch (const OutputError&) {
         // The error that brought us here is the one to tell.
     }
+}
+
+void Channel::Drop() {
+    sink_.reset();
+    pending_.clear();
 }
 
 Channel& Channel1() {

@@ -4,6 +4,7 @@
 #include <QString>
 #include <memory>
 
+#include "output/PrinterStatus.h"
 #include "values/Error.h"
 
 namespace output {
@@ -41,6 +42,9 @@ public:
     void OpenForOutput(const QString& path);
     void OpenForAppend(const QString& path);
     bool IsOpen() const { return sink_ != nullptr; }
+    // What the printer behind the port says of itself, to be asked before the first byte. Ready where ports.ini does
+    // not want it asked, or what stands there cannot answer.
+    PrinterState AskPrinter(PrinterFamily family) const;
 
     void WriteLine(const QString& line);
     void WriteBytes(const QByteArray& bytes);  // no line end: control codes
@@ -50,6 +54,8 @@ public:
     // Closes what is open without a word; a handler that passes over errors leaves no channel open behind it. Lines
     // that were written before stay written if they can.
     void Abandon();
+    // Closes a port without waiting for anything; what was written is lost.
+    void Drop();
 
 private:
     void RequireClosed() const;

@@ -35,7 +35,7 @@ int DrainAndClose(Descriptor& device) {
 }  // namespace
 
 DeviceSink::DeviceSink(int descriptor, WaitWords words, bool isAsked)
-    : device_(std::make_shared<output::Descriptor>(descriptor)), words_(std::move(words)), isAsked_(isAsked) {
+    : device_(std::make_shared<Descriptor>(descriptor)), words_(std::move(words)), isAsked_(isAsked) {
     const int flags = ::fcntl(descriptor, F_GETFL);
     if (flags < 0 || ::fcntl(descriptor, F_SETFL, flags & ~O_NONBLOCK) < 0) ThrowOsError(words_.error, errno);
 }

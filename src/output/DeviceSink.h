@@ -19,14 +19,14 @@ public:
 
     void Write(const QByteArray& bytes) override;
     void Close() override;
-    int Descriptor() const override { return isAsked_ ? device_->Number() : -1; }
+    int AskedDescriptor() const override { return isAsked_ ? device_->Number() : -1; }
 
 private:
     // `work` answers with an errno.
     void Do(const std::function<int()>& work, const std::function<qint64()>& position = {});
 
     // Shared with a write that is left behind.
-    std::shared_ptr<output::Descriptor> device_;
+    std::shared_ptr<Descriptor> device_;
     WaitWords words_;
     bool isAsked_;
     bool failed_ = false;

@@ -25,7 +25,7 @@ public:
     void Close() override;
 
 private:
-    output::Descriptor file_;
+    Descriptor file_;
     QString name_;
 };
 

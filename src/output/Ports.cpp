@@ -48,6 +48,13 @@ QHash<QString, QString> PortsEntries() {
     throw OutputError(DeviceUnavailable, u"ports.ini has no printer behind \"%1\"."_s.arg(entry));
 }
 
+bool IsYes(const QString& key, const QString& word) {
+    const QString known = word.toLower();
+    if (known == u"yes" || known == u"1" || known == u"on" || known == u"true") return true;
+    if (known.isEmpty() || known == u"no" || known == u"0" || known == u"off" || known == u"false") return false;
+    throw OutputError(DeviceUnavailable, u"ports.ini has \"%1\" at %2, which is yes or no."_s.arg(word, key));
+}
+
 std::unique_ptr<Sink> OpenNetworkPrinter(const QString& entry, const Port& port) {
     const qsizetype colon = entry.lastIndexOf(u':');
     QString host = entry.mid(4, colon - 4).trimmed();
@@ -72,7 +79,8 @@ std::unique_ptr<Sink> OpenPortSink(const QString& port) {
     const auto entries = PortsEntries();
     const QString entry = entries.value(key);
     if (entry.contains(QChar(0))) ThrowBadEntry(entry);
-    const Port known{.name = key.toUpper()};
+    const QString statusKey = key + u".status"_s;
+    const Port known{.name = key.toUpper(), .isAsked = IsYes(statusKey, entries.value(statusKey))};
     if (entry.isEmpty()) return OpenDevice(key == u"lpt1" ? u"/dev/lp0"_s : u"/dev/lp1"_s, known);
     if (entry.startsWith(u"tcp:", Qt::CaseInsensitive)) return OpenNetworkPrinter(entry, known);
     if (!entry.startsWith(u"file:", Qt::CaseInsensitive)) return OpenDevice(BelowFolderUnlessAbsolute(entry), known);

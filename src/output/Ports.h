@@ -13,6 +13,7 @@ namespace output {
 //     lpt1=/dev/usb/lp0             a device
 //     lpt2=file:lpt2.prn            a spool file, below the program's folder or absolute, appended to
 //     lpt2=tcp:192.168.1.40:9100    a printer on the network; an IPv6 address stands in brackets
+//     lpt2.status=yes               it is asked for paper, cover and errors before a receipt; "no" without this line
 std::unique_ptr<Sink> OpenPortSink(const QString& port);
 
 }  // namespace output

@@ -21,7 +21,7 @@ public:
     virtual void Sync() {}
     virtual void Close() = 0;
     // Of a printer that is to be asked how it does, to be read and written; -1 where there is nothing to ask.
-    virtual int Descriptor() const { return -1; }
+    virtual int AskedDescriptor() const { return -1; }
 };
 
 constexpr int StallTimeoutMs = 30000;

@@ -34,7 +34,7 @@ public:
     void Connect(const addrinfo& address, Wait& wait);
     void Write(const QByteArray& bytes) override;
     void Close() override;
-    int Descriptor() const override { return port_.isAsked ? socket_.Number() : -1; }
+    int AskedDescriptor() const override { return port_.isAsked ? socket_.Number() : -1; }
 
 private:
     QString WriteAction() const { return u"Cannot write to the printer "_s + name_; }
@@ -45,7 +45,7 @@ private:
     bool PeerHasHungUp() const;
     void WaitUntilTaken() const;
 
-    output::Descriptor socket_;
+    Descriptor socket_;
     QString name_;
     Port port_;
     bool failed_ = false;

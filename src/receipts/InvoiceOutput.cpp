@@ -2,6 +2,7 @@
 
 #include "core/Settings.h"
 #include "core/dbModule.h"
+#include "forms/MsgBox.h"
 #include "output/Channel.h"
 #include "output/OutputGuard.h"
 #include "output/PagePrinter.h"
@@ -16,10 +17,37 @@ struct ControlCodes {
     QByteArray cutter;
 };
 
-// The command sets of the two families of receipt printers.
+output::PrinterFamily Family() {
+    return TheSettings.Emulacija == u"2" ? output::PrinterFamily::Star : output::PrinterFamily::Epson;
+}
+
 ControlCodes PrinterCodes() {
-    if (TheSettings.Emulacija == u"2") return {.drawer = "\x07"_ba, .cutter = "\x1B\x64\x33"_ba};
+    if (Family() == output::PrinterFamily::Star) return {.drawer = "\x07"_ba, .cutter = "\x1B\x64\x33"_ba};
     return {.drawer = "\x1B\x70\x00\x3C\x78"_ba, .cutter = "\x1D\x56\x42\x00"_ba};
+}
+
+// Empty for a printer that is ready.
+QString Trouble(output::PrinterState state) {
+    switch (state) {
+        case output::PrinterState::Ready:
+            return {};
+        case output::PrinterState::NoPaper:
+            return u"has no paper"_s;
+        case output::PrinterState::CoverOpen:
+            return u"has its cover open"_s;
+        case output::PrinterState::Offline:
+            return u"is offline or has an error"_s;
+        case output::PrinterState::Silent:
+            return u"does not answer"_s;
+    }
+    return {};
+}
+
+bool WantsAnotherTry(const QString& OutputMode, const QString& trouble) {
+    return forms::Ask(
+        u"The printer on LPT%1 %2. Nothing is printed yet.\n\n"
+        u"Yes: look at it again. No: print all the same."_s.arg(OutputMode, trouble),
+        {});
 }
 
 bool IsPort(const QString& OutputMode) {
@@ -28,10 +56,21 @@ bool IsPort(const QString& OutputMode) {
 
 }  // namespace
 
+// The printer is let go while the question stands: it may be switched off, or answer late.
+void OpenPrinterPort(const QString& OutputMode) {
+    for (bool isAsked = true;;) {
+        output::Channel1().OpenPort(u"lpt"_s + OutputMode + u':');
+        const QString trouble = isAsked ? Trouble(output::Channel1().AskPrinter(Family())) : QString();
+        if (trouble.isEmpty()) return;
+        output::Channel1().Drop();
+        isAsked = WantsAnotherTry(OutputMode, trouble);
+    }
+}
+
 void OpenInvoiceOutput(const QString& OutputMode) {
     if (OutputMode == u"3") SetPageFont();
     if (!IsPort(OutputMode)) return;
-    output::Channel1().OpenPort(u"lpt"_s + OutputMode + u':');
+    OpenPrinterPort(OutputMode);
     output::Channel1().WriteBytes(PrinterCodes().drawer);
 }
 

@@ -5,6 +5,10 @@
 
 // Output modes: "1" and "2" are the printer ports, "3" is the page printer; any other prints nothing.
 
+// Opens the printer behind a port for whatever is to be printed. One that says it cannot print is told of first; the
+// user has it asked again or prints all the same.
+void OpenPrinterPort(const QString& OutputMode);
+
 // Opens the printer for receipts; on a port the drawer springs open.
 void OpenInvoiceOutput(const QString& OutputMode);
 // Feeds and cuts the paper and closes the port, or ends the page printer's job.

@@ -57,8 +57,8 @@ void PrintLines(QFile& file, const std::function<void(int)>& progress,
     if (file.error() != QFileDevice::NoError) ThrowFileError(u"Cannot read "_s, file);
 }
 
-void PrintOnPort(const QString& port, QFile& file, const std::function<void(int)>& progress) {
-    output::Channel1().OpenPort(port);
+void PrintOnPort(const QString& OutputMode, QFile& file, const std::function<void(int)>& progress) {
+    OpenPrinterPort(OutputMode);
     OpenForReading(file);
     // The bytes as they lie there: the file is in the code page of the ports already.
     PrintLines(file, progress, [](const QByteArray& line) { output::Channel1().WriteBytes(line + "\r\n"); });
@@ -79,8 +79,7 @@ void PrintTextFile(const QString& path, const std::function<void(int)>& progress
     PrintOrEndProgram([&] {
         QFile file(path);
         const QString& printer = TheSettings.PrinterZaIzvjestaj;
-        if (printer == u"1") PrintOnPort(u"lpt1:"_s, file, progress);
-        if (printer == u"2") PrintOnPort(u"lpt2:"_s, file, progress);
+        if (printer == u"1" || printer == u"2") PrintOnPort(printer, file, progress);
         if (printer == u"3") PrintOnPages(file, progress);
     });
 }

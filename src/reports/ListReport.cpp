@@ -169,7 +169,7 @@ void ListReport::cmdPrint_Click() {
     const QString mode = TheSettings.PrinterZaIzvjestaj;
     const output::OutputGuard guard;
     if (mode == u"1" || mode == u"2") {
-        output::Channel1().OpenPort(u"lpt"_s + mode + u':');
+        OpenPrinterPort(mode);
         PrintReport(mode);
         FeedBlankLines(TheSettings.PraznihLinijaPoslijeRacuna);
         output::Channel1().Close();

@@ -118,6 +118,7 @@ TEST_F(ChannelTest, PortsFollowTheirEntries) {
         {"lpt1=file:lpt1.prn\nlpt2=file:lpt2.prn\n", u"lpt1:"_s, u"lpt1.prn"_s},
         {"lpt1=file:lpt1.prn\nlpt2=file:lpt2.prn\n", u"lpt2:"_s, u"lpt2.prn"_s},
         {"; lpt1=file:no.prn\r\nLPT1 = file:spool\\a, b.prn \r\n", u"LPT1:"_s, u"spool/a, b.prn"_s},
+        {"\n[ports]\nlpt1=file:no.prn\nlpt1=file:last.prn\nlpt3=x\nlpt1.status=no\n", u"lpt1:"_s, u"last.prn"_s},
         {"lpt1=file:" + Path(u"absolute.prn"_s).toUtf8() + "\n[other]\nlpt1=file:no.prn\n", u"lpt1:"_s,
          u"absolute.prn"_s},
     };
@@ -135,16 +136,27 @@ TEST_F(ChannelTest, PortsFollowTheirEntries) {
 }
 
 TEST_F(ChannelTest, PortsWithoutAPrinterAreRefusedAndNothingIsMade) {
-    const QByteArray entries[] = {"lpt1=/dev/no-such-printer\n", "lpt1=printer.dev\n",
-                                  "lpt1=tcp:localhost\n",        "lpt1=tcp::9100\n",
-                                  "lpt1=tcp:host:99999\n",       "lpt1=file:\n"};
+    const QByteArray entries[] = {"lpt1=/dev/no-such-printer\n",
+                                  "lpt1=printer.dev\n",
+                                  "lpt1=tcp:localhost\n",
+                                  "lpt1=tcp::9100\n",
+                                  "lpt1=tcp:host:99999\n",
+                                  "lpt1=file:\n",
+                                  "lpt1=tcp:\n",
+                                  "lpt1=tcp:[::1\n",
+                                  "lpt1=file:a\0b\n"_ba,
+                                  "lpt1=file:a\nlpt1.status=perhaps\n"};
     for (const auto& entry : entries) {
         SetPorts(entry);
         EXPECT_EQ(ErrorOf([&] { channel.OpenPort(u"lpt1:"_s); }), DeviceUnavailable) << entry.toStdString();
     }
     EXPECT_EQ(ErrorOf([&] { channel.OpenPort(u"lpt3:"_s); }), DeviceUnavailable);
     EXPECT_FALSE(channel.IsOpen());
-    EXPECT_FALSE(Exists(u"printer.dev"_s));
+    EXPECT_FALSE(Exists(u"printer.dev"_s) || Exists(u"a"_s));
+    SetPorts(QByteArray(100'000, '\n') + "lpt1=file:a\n");
+    EXPECT_EQ(ErrorOf([&] { channel.OpenPort(u"lpt1:"_s); }), PathNotAFile);
+    ASSERT_TRUE(QFile::remove(Path(u"ports.ini"_s)) && QDir().mkdir(Path(u"ports.ini"_s)));
+    EXPECT_EQ(ErrorOf([&] { channel.OpenPort(u"lpt1:"_s); }), PathNotAFile);
 }
 
 TEST_F(ChannelTest, APipeWithoutAReaderIsRefusedAndOneThatHangsUpIsReported) {

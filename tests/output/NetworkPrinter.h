@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <thread>
 
 #include <arpa/inet.h>
@@ -8,11 +9,14 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-// A printer on the network that takes one job: all of it, or some bytes and then it is switched off.
+// A printer on the network that takes whole jobs, or some bytes and then it is switched off. Asked how it does it gives
+// its answers in turn, hangs up at HangsUp, and is silent when it has none left.
 class NetworkPrinter {
 public:
     enum class Manner { TakesAll, KeepsTheLineOpen, IsSwitchedOff };
+    static constexpr auto HangsUp = "hangs up";
 
+    explicit NetworkPrinter(const QList<QByteArray>& answers) : NetworkPrinter(Manner::TakesAll) { answers_ = answers; }
     explicit NetworkPrinter(Manner manner, int family = AF_INET) : manner_(manner) {
         listener_ = ::socket(family, SOCK_STREAM, 0);
         sockaddr_storage address{};
@@ -43,12 +47,20 @@ public:
 
 private:
     void Serve() {
-        const int job = ::accept(listener_, nullptr, nullptr);
+        for (int job; (job = ::accept(listener_, nullptr, nullptr)) >= 0;) Take(job);
+    }
+    void Take(int job) {
         char buffer[1000];
         ssize_t count = 0;
         while ((count = ::recv(job, buffer, sizeof buffer, 0)) > 0) {
-            taken_.append(buffer, count);
+            const QByteArray bytes(buffer, count);
+            const bool isQuestion = bytes.startsWith("\x10\x04") || bytes.startsWith("\x1B\x06\x01");
+            if (!isQuestion) taken_ += bytes;
             if (manner_ == Manner::IsSwitchedOff) break;
+            if (!isQuestion || answers_.isEmpty()) continue;
+            const QByteArray answer = answers_.takeFirst();
+            if (answer == HangsUp) break;
+            ::send(job, answer.constData(), static_cast<size_t>(answer.size()), MSG_NOSIGNAL);
         }
         if (manner_ == Manner::KeepsTheLineOpen) ::usleep(1'500'000);
         if (manner_ == Manner::IsSwitchedOff)
@@ -69,5 +81,6 @@ private:
     quint16 port_ = 0;
     bool isListening_ = false;
     QByteArray taken_;
+    QList<QByteArray> answers_;
     std::thread worker_;
 };

@@ -2,6 +2,8 @@
 
 #include <QElapsedTimer>
 
+#include <pty.h>
+
 #include "OutputFixture.h"
 
 using namespace Qt::StringLiterals;
@@ -64,6 +66,65 @@ TEST_F(NetworkPrinterTest, APrinterThatIsNotThereIsReported) {
     }
     SetPorts("lpt1=tcp:127.0.0.1:" + port);
     EXPECT_EQ(ErrorOf([&] { Print("abc"); }), DeviceUnavailable);
+}
+
+TEST_F(NetworkPrinterTest, APrinterIsAskedHowItDoesInItsOwnWords) {
+    struct Case {
+        PrinterFamily family;
+        QList<QByteArray> answers;
+        PrinterState state;
+    };
+    const auto epson = PrinterFamily::Epson;
+    const auto star = PrinterFamily::Star;
+    const Case cases[] = {
+        {epson, {"\x12", "\x12", "\x12"}, PrinterState::Ready},
+        {epson, {"\x12", "\x14\x7F\x12", "\x1E"}, PrinterState::Ready},  // news of its own, the roll near its end
+        {epson, {"\x1A", "\x32", "\x72"}, PrinterState::NoPaper},
+        {epson, {"\x12", "\x12", "\x72"}, PrinterState::NoPaper},
+        {epson, {"\x1A", "\x16", "\x12"}, PrinterState::CoverOpen},
+        {epson, {"\x1A", "\x12", "\x12"}, PrinterState::Offline},
+        {epson, {"\x12", "\x52", "\x12"}, PrinterState::Offline},
+        {epson, {}, PrinterState::Silent},
+        {epson, {"hello"}, PrinterState::Silent},
+        {epson, {"\x12", NetworkPrinter::HangsUp}, PrinterState::Silent},
+        {star, {"\x0F\x06\0\0\0\0\0"_ba}, PrinterState::Ready},
+        {star, {"\0\x23\x06\0\0\0\x04\0\0\0"_ba}, PrinterState::Ready},
+        {star, {"\x0F\x06\x08\0\0\x08\0"_ba}, PrinterState::NoPaper},
+        {star, {"\x0F\x06\x28\0\0\0\0"_ba}, PrinterState::CoverOpen},
+        {star, {"\x0F\x06\x08\0\0\0\0"_ba}, PrinterState::Offline},
+        {star, {"\x0F\x06\0\x08\0\0\0"_ba}, PrinterState::Offline},
+        {star, {"\x0F\x06\0"_ba}, PrinterState::Silent},
+        {star, {QByteArray(9000, 'e')}, PrinterState::Silent},
+    };
+    for (const auto& [family, answers, state] : cases) {
+        NetworkPrinter printer(answers);
+        SetPorts("lpt1=tcp:127.0.0.1:" + printer.Port() + "\nLPT1.Status = Yes\n");
+        Channel1().OpenPort(u"lpt1:"_s);
+        EXPECT_EQ(Channel1().AskPrinter(family), state)
+            << (answers + QList<QByteArray>{{}}).first().toHex().toStdString();
+        Channel1().Drop();
+    }
+}
+
+TEST_F(NetworkPrinterTest, APrinterOnASerialLineIsAskedAsWell) {
+    int line = -1;
+    int device = -1;
+    char name[100];
+    ASSERT_EQ(::openpty(&line, &device, name, nullptr, nullptr), 0);
+    std::thread printer([line] {
+        char question[3];
+        for (const char answer : {'\x12', '\x16', '\x12'})
+            if (::read(line, question, 3) != 3 || ::write(line, &answer, 1) != 1) return;
+    });
+    for (const bool isAsked : {false, true}) {
+        SetPorts(QByteArray("lpt1=") + name + (isAsked ? "\nlpt1.status=yes\n" : "\nlpt1.status=no\n"));
+        Channel1().OpenPort(u"lpt1:"_s);
+        EXPECT_EQ(Channel1().AskPrinter(PrinterFamily::Epson), isAsked ? PrinterState::CoverOpen : PrinterState::Ready);
+        Channel1().Drop();
+    }
+    printer.join();
+    ::close(line);
+    ::close(device);
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include "core/mdiORVA.h"
+#include "output/NetworkPrinter.h"
 #include "support/Till.h"
 
 using namespace Qt::StringLiterals;
@@ -73,6 +74,31 @@ TEST_F(OutputFaultTest, APrinterThatTakesNothingIsWaitedForUntilTheCashierLeaves
     EXPECT_TRUE(said.startsWith(u"Waiting for the printer on LPT1 ("_s)) << said.toStdString();
     EXPECT_TRUE(File(u"invoices.txt"_s).isEmpty());
     ::close(reader);
+}
+
+TEST_F(OutputFaultTest, APrinterThatCannotPrintIsToldOfBeforeTheFirstByte) {
+    const auto asks = [](const char16_t* trouble) {
+        return u"The printer on LPT1 %1. Nothing is printed yet.\n\nYes: look at it again. No: print all the same."_s
+            .arg(trouble);
+    };
+    const QList<QByteArray> noPaper = {"\x1A", "\x32", "\x72"};
+    const QList<QByteArray> ready = {"\x12", "\x12", "\x12"};
+    Ports("file:lpt1.prn");
+    LogIn();
+    Boxes boxes;
+    for (const bool isLooked : {true, false}) {
+        NetworkPrinter printer(isLooked ? noPaper + ready : QList<QByteArray>{NetworkPrinter::HangsUp});
+        Ports("tcp:127.0.0.1:" + printer.Port() + "\nlpt1.status=yes");
+        boxes.Expect(asks(isLooked ? u"has no paper" : u"does not answer"),
+                     isLooked ? QMessageBox::Yes : QMessageBox::No);
+        Keys(u"100{Enter}{F5}");
+        EXPECT_EQ(boxes.Left(), 0);
+        const QByteArray paper = printer.Taken();
+        EXPECT_TRUE(paper.startsWith("\x1Bp\0<x"_ba) && paper.endsWith("\x1DVB\0"_ba));
+        EXPECT_EQ(paper.count("\x1Bp"), 1);
+    }
+    EXPECT_EQ(Rows(u"SELECT COUNT(*) FROM Invoices"_s), QStringList{u"2"_s});
+    EXPECT_FALSE(forms::ProgramIsEnding());
 }
 
 TEST_F(OutputFaultTest, AFiscalFileInAMissingFolder) {
