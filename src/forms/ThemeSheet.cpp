@@ -113,9 +113,8 @@ QFrame[role="panel"] { background: @paper; border: 1px solid @line; border-radiu
 QFrame[role="night"] { background: @night; border: none; border-radius: @corner; }
 QFrame[role="strip"] { background: @strip; border: 1px solid @stripLine; border-radius: @corner; }
 QFrame[role="strip"] QLineEdit, QLabel[role="strip"], QLineEdit[role="strip"] { font-size: @textSize; }
-QLabel[role="strip"], QLineEdit[role="strip"], QLineEdit[role="strip"]:read-only {
-    background: @strip; border: 1px solid @stripLine; border-radius: @corner; padding: 0 12px;
-}
+QLabel[role="strip"] { background: @strip; border: 1px solid @stripLine; border-radius: @corner; padding: 0 12px; }
+QLineEdit[role="strip"] { border: 1px solid @line; border-radius: @corner; padding: 0 12px; }
 QLabel[role="picture"] { color: @muted; border: 1px dotted @edge; border-radius: @corner; font-size: @labelSize; }
 QGroupBox {
     background: @paper; border: 1px solid @line; border-radius: @corner; margin-top: 20px; padding: 4px;
