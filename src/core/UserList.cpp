@@ -2,6 +2,8 @@
 
 void ListUserNames(QComboBox& box, store::Recordset& users) {
     box.clear();
-    for (auto& user : users) box.addItem(user[u"UserName"].TextOrEmpty());
+    QStringList names;
+    for (auto& user : users) names << user[u"UserName"].TextOrEmpty();
+    box.addItems(names);
     box.setCurrentIndex(-1);
 }

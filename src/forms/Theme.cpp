@@ -4,7 +4,7 @@
 #include <QFontDatabase>
 #include <QHash>
 #include <QPalette>
-#include <QRegularExpression>
+#include <algorithm>
 
 #include "forms/ThemeStyle.h"
 #include "forms/Tokens.h"
@@ -109,17 +109,19 @@ QHash<QString, QString> Names() {
     };
 }
 
-QString Filled(const QString& sheet) {
-    static const QRegularExpression name(u"@(\\w+)"_s);
+QString Filled(QStringView sheet) {
     const auto tokens = Names();
     QString filled;
-    qsizetype end = 0;
-    for (const auto& match : name.globalMatch(sheet)) {
-        Q_ASSERT(tokens.contains(match.captured(1)));
-        filled += sheet.mid(end, match.capturedStart() - end) + tokens.value(match.captured(1));
-        end = match.capturedEnd();
+    for (qsizetype at; (at = sheet.indexOf(u'@')) >= 0;) {
+        const auto name = sheet.sliced(at + 1);
+        const auto isOfName = [](QChar c) { return c.isLetterOrNumber(); };
+        const auto length = std::ranges::find_if_not(name, isOfName) - name.begin();
+        const QString token = name.first(length).toString();
+        Q_ASSERT(tokens.contains(token));
+        filled.append(sheet.first(at)).append(tokens.value(token));
+        sheet = name.sliced(length);
     }
-    return filled + sheet.mid(end);
+    return filled.append(sheet);
 }
 
 }  // namespace
