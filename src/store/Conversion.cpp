@@ -14,7 +14,8 @@ namespace {
 // The usual conversion drops a byte order mark at the start, but what was stored is what must come back.
 QString FromUtf8(QByteArrayView text) {
     constexpr QByteArrayView mark("\xEF\xBB\xBF");
-    if (!text.startsWith(mark)) return QString::fromUtf8(text);
+    const bool mayHaveMark = !text.empty() && text[0] == mark[0];
+    if (!mayHaveMark || !text.startsWith(mark)) return QString::fromUtf8(text);
     return QChar(QChar::ByteOrderMark) + QString::fromUtf8(text.sliced(mark.size()));
 }
 
