@@ -235,7 +235,7 @@ bool ListView::viewportEvent(QEvent* event) {
         const auto* help = static_cast<QHelpEvent*>(event);
         const QModelIndex index = indexAt(help->pos());
         const QString text = Text(index.row(), index.column());
-        if (fontMetrics().horizontalAdvance(text) > visualRect(index).width() - cellPadding) {
+        if (index.isValid() && fontMetrics().horizontalAdvance(text) > visualRect(index).width() - cellPadding) {
             QToolTip::showText(help->globalPos(), text, this);
             return true;
         }

@@ -80,7 +80,8 @@ std::unique_ptr<Sink> OpenPortSink(const QString& port) {
     const QString entry = entries.value(key);
     if (entry.contains(QChar(0))) ThrowBadEntry(entry);
     const QString statusKey = key + u".status"_s;
-    const Port known{.name = key.toUpper(), .isAsked = IsYes(statusKey, entries.value(statusKey))};
+    const QString status = entries.value(statusKey, entries.value(u"status"_s));
+    const Port known{.name = key.toUpper(), .isAsked = IsYes(statusKey, status)};
     if (entry.isEmpty()) return OpenDevice(key == u"lpt1" ? u"/dev/lp0"_s : u"/dev/lp1"_s, known);
     if (entry.startsWith(u"tcp:", Qt::CaseInsensitive)) return OpenNetworkPrinter(entry, known);
     if (!entry.startsWith(u"file:", Qt::CaseInsensitive)) return OpenDevice(BelowFolderUnlessAbsolute(entry), known);

@@ -55,11 +55,14 @@ void frmORVAtouch::AddLine() {
 // than a new line's, and the price column keeps what it shows.
 void frmORVAtouch::MergeInto(int row) {
     ui.lv1->Select(row);
+    // Read before the line changes, as for a new one: a part of it would stand beside the totals of the whole.
+    const double price = CDouble(ui.txtUnitPrice->text());
+    const double percent = CDouble(ui.txtTaxPercent->text());
     LineAmount_ = (CMoney(ui.txtQuantity->text()) + CMoney(ui.lv1->Text(row, Quantity))).ToDouble();
     ui.lv1->SetText(row, Quantity, Format(LineAmount_, u""));
-    LineAmount_ = CDouble(ui.txtUnitPrice->text()) * LineAmount_;
+    LineAmount_ = price * LineAmount_;
     ui.lv1->SetText(row, Amount, Format(LineAmount_, u"0.00"));
-    const double tax = LineAmount_ - LineAmount_ / (1 + CDouble(ui.txtTaxPercent->text()) / 100);
+    const double tax = LineAmount_ - LineAmount_ / (1 + percent / 100);
     ui.lv1->SetText(row, TaxAmount, Format(tax, u"0.00"));
     ui.txtPosDisplay->setText(ui.lv1->Text(row, Quantity) + u" x "_s + ui.txtDescription->text() + u"   "_s +
                               ui.txtUnitPrice->text() + u" = "_s + ui.lv1->Text(row, Amount));

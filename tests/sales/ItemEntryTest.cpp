@@ -251,8 +251,12 @@ TEST_F(ItemEntryTest, AProductWithoutFiguresLeavesNoLine) {
     boxes.ExpectBeginning(u"13"_s);
     Keys(u"100{Enter}");
     EXPECT_EQ(Lines()->Count(), 0);
+    drivers::Type(Sales(), u"txtProdCode", u"300{Enter}");
+    Run(u"UPDATE Products SET UnitPrice = Null WHERE ProdCode = '300'"_s);
+    boxes.ExpectBeginning(u"13"_s);
     drivers::Type(Sales(), u"txtProdCode", u"300{Enter}{F5}");
     EXPECT_EQ(Rows(u"SELECT CashAmount FROM Invoices"_s), QStringList{u"2"_s});
+    EXPECT_EQ(Rows(u"SELECT QtySold, Amount FROM SalesDetails"_s), QStringList{u"1|2"_s});
 }
 
 TEST_F(ItemEntryTest, LargeFiguresShrinkInsteadOfLosingDigits) {

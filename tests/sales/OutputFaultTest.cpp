@@ -135,9 +135,10 @@ TEST_F(OutputFaultTest, AStoreThatIsTakenAwayIsSavedAndTakesNoMore) {
 
         boxes.Expect(u"Do you want to make End Report?"_s, QMessageBox::Yes);
         boxes.ExpectBeginning(sentence);
+        boxes.Expect(u"Do you want to make End Report?"_s, QMessageBox::No);
         boxes.Expect(u"Close the program?"_s, QMessageBox::Yes);
         boxes.ExpectBeginning(sentence).WithIcon(QMessageBox::Critical);
-        Keys(u"{F12}");
+        Keys(u"{F12}{F12}");
     }
     EXPECT_EQ(forms::ProgramExitCode(), 1);
     const QStringList saved = QDir(folder.path()).entryList({u"ORVA-saved-*.pos"_s});
