@@ -261,7 +261,7 @@ TEST_F(ProductEntryTest, AUnitAndATaxThatAreGoneStayWithTheProduct) {
 
 TEST_F(ProductEntryTest, ACodeAndANameFromElsewhereKeepTheirLength) {
     LogIn(u"admin"_s);
-    const QString name(60, u'n');
+    const QString name = QString(60, u'n') + u"\r\nn"_s;
     Run(u"UPDATE Products SET ProdCode = '38501040032171', ProdDescription = '%1' WHERE ProdCode = '200'"_s.arg(name));
     Edit(u"38501040032171"_s, [](QWidget& screen) { Type(screen, u"txtUnitPrice", u"5{F5}"); });
     EXPECT_EQ(Rows(u"SELECT ProdDescription, UnitPrice FROM Products WHERE ProdCode = '38501040032171'"_s),
