@@ -30,10 +30,14 @@ QLineEdit[role="entry"][fit="1"] { font-size: @entryFit1; }
 QLineEdit[role="entry"][fit="2"] { font-size: @entryFit2; }
 QLineEdit[role="entry"][fit="3"] { font-size: @entryFit3; }
 QComboBox[role="entry"] { font-size: @entrySize; }
-QLineEdit[role="plain"], QLineEdit[role="plainAccent"] {
-    border: none; padding: 0 6px; min-height: 26px; color: @ink; font-size: @strongSize; font-weight: 500;
+QLineEdit[role="plain"], QLineEdit[role="plain"]:read-only, QLineEdit[role="plain"]:disabled {
+    background: transparent; border: none; padding: 0; min-height: 24px; color: @ink;
+    font-size: @strongSize; font-weight: 500;
 }
-QLineEdit[role="plainAccent"] { color: @accent; font-size: @plainAccentSize; }
+QLineEdit[role="plainAccent"], QLineEdit[role="plainAccent"]:read-only, QLineEdit[role="plainAccent"]:disabled {
+    background: transparent; border: none; padding: 0; min-height: 24px; color: @accent;
+    font-size: @plainAccentSize; font-weight: 500;
+}
 QComboBox QLineEdit, QComboBox QLineEdit:focus, QComboBox QLineEdit:disabled, QComboBox QLineEdit:read-only,
 QAbstractSpinBox QLineEdit, QAbstractSpinBox QLineEdit:focus, QAbstractSpinBox QLineEdit:disabled,
 QAbstractSpinBox QLineEdit:read-only {
@@ -113,8 +117,9 @@ QFrame[role="panel"] { background: @paper; border: 1px solid @line; border-radiu
 QFrame[role="night"] { background: @night; border: none; border-radius: @corner; }
 QFrame[role="strip"] { background: @strip; border: 1px solid @stripLine; border-radius: @corner; }
 QFrame[role="strip"] QLineEdit, QLabel[role="strip"], QLineEdit[role="strip"] { font-size: @textSize; }
-QLabel[role="strip"] { background: @strip; border: 1px solid @stripLine; border-radius: @corner; padding: 0 12px; }
-QLineEdit[role="strip"] { border: 1px solid @line; border-radius: @corner; padding: 0 12px; }
+QLabel[role="strip"], QLineEdit[role="strip"], QLineEdit[role="strip"]:read-only {
+    background: @strip; border: 1px solid @stripLine; border-radius: @corner; padding: 0 12px;
+}
 QLabel[role="picture"] { color: @muted; border: 1px dotted @edge; border-radius: @corner; font-size: @labelSize; }
 QGroupBox {
     background: @paper; border: 1px solid @line; border-radius: @corner; margin-top: 20px; padding: 4px;

@@ -217,7 +217,7 @@ void frmORVAtouch::cmdESCponisti_Click() {
 void frmORVAtouch::txtUserFullName_Change() {
     constexpr int narrowest = 60;
     const int text = ui.txtUserFullName->fontMetrics().horizontalAdvance(ui.txtUserFullName->text());
-    ui.txtUserFullName->setFixedWidth(qMax(narrowest, text + 20));
+    ui.txtUserFullName->setFixedWidth(qMax(narrowest, text + 16));
 }
 
 void frmORVAtouch::cmdPrijava_Click() {
