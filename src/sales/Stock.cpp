@@ -32,6 +32,9 @@ void Decrease(store::Recordset& product, Money amount, const WaitForStore& wait)
         product[u"Qty"] = product[u"Qty"].Money() - amount;
         try {
             product.Update();
+        } catch (const store::StoreError& error) {
+            if (error.NeverHeals()) throw;
+            failure = error;
         } catch (const values::Error& error) {
             failure = error;
         }
