@@ -9,6 +9,7 @@
 #include "masterdata/frmArtikli.h"
 #include "sales/frmORVAtouch.h"
 #include "values/Format.h"
+#include "values/LineAmount.h"
 #include "values/Numbers.h"
 #include "values/Tax.h"
 
@@ -26,8 +27,6 @@ const auto UnknownProduct = u"Product with this ID-barcode does not exist."_s;
 // Printed on a card at the till: posts the invoice without touching the keyboard.
 const auto PostingBarcode = u"9999999999994"_s;
 const auto Pieces = u"pcs"_s;
-
-const auto QuantitySteps = Money::FromWhole(1000);
 
 }  // namespace
 
@@ -152,10 +151,9 @@ void frmORVAtouch::txtQuantity_Change() {
     }
 }
 
-// At most three decimals, cut and not rounded: a negative quantity is floored away from zero.
 void frmORVAtouch::LimitQuantity() {
     const QString text = ui.txtQuantity->text();
-    const double limited = std::floor((CMoney(text) * QuantitySteps).ToDouble()) / 1000;
+    const double limited = values::CutQuantity(CMoney(text));
     if (limited == CDouble(text)) return;
     ui.txtQuantity->setText(values::NumberText(limited));
     forms::CaretToEnd(ui.txtQuantity);

@@ -6,6 +6,7 @@
 #include "sales/frmORVAtouch.h"
 #include "store/CaseFold.h"
 #include "values/Format.h"
+#include "values/LineAmount.h"
 #include "values/Numbers.h"
 
 using namespace Qt::StringLiterals;
@@ -36,7 +37,7 @@ int frmORVAtouch::FindLine() const {
 }
 
 void frmORVAtouch::AddLine() {
-    LineAmount_ = (CMoney(ui.txtUnitPrice->text()) * CMoney(ui.txtQuantity->text())).ToDouble();
+    LineAmount_ = values::NewLineAmount(CMoney(ui.txtUnitPrice->text()), CMoney(ui.txtQuantity->text()));
     // Read before the line stands, so that a product without figures leaves no line that nobody can post.
     const Money percent = CMoney(ui.txtTaxPercent->text());
     const Money tax = CMoney(ui.txtTaxAmount->text());
@@ -56,14 +57,12 @@ void frmORVAtouch::AddLine() {
 void frmORVAtouch::MergeInto(int row) {
     ui.lv1->Select(row);
     // Read before the line changes, as for a new one: a part of it would stand beside the totals of the whole.
-    const double price = CDouble(ui.txtUnitPrice->text());
-    const double percent = CDouble(ui.txtTaxPercent->text());
-    LineAmount_ = (CMoney(ui.txtQuantity->text()) + CMoney(ui.lv1->Text(row, Quantity))).ToDouble();
-    ui.lv1->SetText(row, Quantity, Format(LineAmount_, u""));
-    LineAmount_ = price * LineAmount_;
-    ui.lv1->SetText(row, Amount, Format(LineAmount_, u"0.00"));
-    const double tax = LineAmount_ - LineAmount_ / (1 + percent / 100);
-    ui.lv1->SetText(row, TaxAmount, Format(tax, u"0.00"));
+    const auto merged = values::MergeLines(CMoney(ui.lv1->Text(row, Quantity)), CMoney(ui.txtQuantity->text()),
+                                           CDouble(ui.txtUnitPrice->text()), CDouble(ui.txtTaxPercent->text()));
+    LineAmount_ = merged.amount;
+    ui.lv1->SetText(row, Quantity, Format(merged.quantity, u""));
+    ui.lv1->SetText(row, Amount, Format(merged.amount, u"0.00"));
+    ui.lv1->SetText(row, TaxAmount, Format(merged.tax, u"0.00"));
     ui.txtPosDisplay->setText(ui.lv1->Text(row, Quantity) + u" x "_s + ui.txtDescription->text() + u"   "_s +
                               ui.txtUnitPrice->text() + u" = "_s + ui.lv1->Text(row, Amount));
     NextEntry();
@@ -82,8 +81,8 @@ void frmORVAtouch::RecomputeInvoice() {
     TotalAmountValue_ = 0;
     TaxTotalValue_ = 0;
     for (int row = 0; row < ui.lv1->Count(); ++row) {
-        TotalAmountValue_ = (Money::FromDouble(TotalAmountValue_) + CMoney(ui.lv1->Text(row, Amount))).ToDouble();
-        TaxTotalValue_ = (Money::FromDouble(TaxTotalValue_) + CMoney(ui.lv1->Text(row, TaxAmount))).ToDouble();
+        TotalAmountValue_ = values::AddToSum(TotalAmountValue_, CMoney(ui.lv1->Text(row, Amount)));
+        TaxTotalValue_ = values::AddToSum(TaxTotalValue_, CMoney(ui.lv1->Text(row, TaxAmount)));
     }
     RebuildTaxRecap(*ui.lv1, *ui.lvPorez);
     ui.txtTotalAmount->setText(Format(TotalAmountValue_, u"0.00"));
