@@ -15,6 +15,7 @@ namespace output {
 namespace {
 
 constexpr qint64 LargestPortsFile = 64 * 1024;
+constexpr qsizetype LongestEntry = 1000;
 
 // The text of ports.ini, empty when there is none. Editors of other systems save it with two bytes a character.
 QString PortsText() {
@@ -34,7 +35,7 @@ QString PortsText() {
 QHash<QString, QString> PortsEntries() {
     QHash<QString, QString> entries;
     bool inPorts = false;
-    for (const QString& rawLine : PortsText().split(u'\n')) {
+    for (const QString& rawLine : PortsText().replace(u'\r', u'\n').split(u'\n')) {
         const QString line = rawLine.trimmed();
         if (line.startsWith(u'[')) inPorts = line.compare(u"[ports]", Qt::CaseInsensitive) == 0;
         const qsizetype equals = line.indexOf(u'=');
@@ -78,7 +79,7 @@ std::unique_ptr<Sink> OpenPortSink(const QString& port) {
 
     const auto entries = PortsEntries();
     const QString entry = entries.value(key);
-    if (entry.contains(QChar(0))) ThrowBadEntry(entry);
+    if (entry.contains(QChar(0)) || entry.size() > LongestEntry) ThrowBadEntry(entry.left(40).remove(QChar(0)));
     const QString statusKey = key + u".status"_s;
     const QString status = entries.value(statusKey, entries.value(u"status"_s));
     const Port known{.name = key.toUpper(), .isAsked = IsYes(statusKey, status)};
