@@ -60,7 +60,8 @@ PrinterState Channel::AskPrinter(PrinterFamily family) const {
 void Channel::WriteLine(const QString& line) {
     RequireOpen();
     AppendInCodePage(pending_, line);
-    WriteBytes("\r\n"_ba);
+    AppendInCodePage(pending_, u"\r\n");
+    if (pending_.size() >= BufferSize) Flush();
 }
 
 void Channel::WriteBytes(const QByteArray& bytes) {

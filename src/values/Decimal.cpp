@@ -14,6 +14,7 @@ namespace values {
 namespace {
 
 constexpr int SignificantDigits = 15;
+constexpr double TooManyDigits = 1e15;
 constexpr qint64 LargestExponent = 1'000'000'000;
 
 char ToDigit(QChar c) {
@@ -123,6 +124,9 @@ Decimal Decimal::FromDouble(double number) {
     if (!std::isfinite(number)) ThrowOverflow();
     Decimal decimal;
     if (number == 0) return decimal;
+    // Most are money: the double next to so many units has no other text of 15 digits than theirs.
+    const double units = std::nearbyint(number * 10'000);
+    if (std::abs(units) < TooManyDigits && units / 10'000 == number) return FromUnits(static_cast<qint64>(units), 4);
     char text[SignificantDigits + 8];
     const auto end = std::to_chars(std::begin(text), std::end(text), std::abs(number), std::chars_format::scientific,
                                    SignificantDigits - 1)
