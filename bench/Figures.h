@@ -20,7 +20,8 @@ Figure TouchTableFigure(const BusyTill& till);
 Figure PreviewFigure(const BusyTill& till);
 Figure RegisterListsFigure(const BusyTill& till);
 Figure ProductListFigure(const BusyTill& till);
-Figure ProductSearchFigure(const BusyTill& till, bool anywhere);
+Figure FirstFoundFigure(const BusyTill& till, bool anywhere);
+Figure AllFoundFigure(const BusyTill& till, bool anywhere);
 // These two write to the till.
 Figure PlacementFigure(const BusyTill& till);
 Figure RecipeFigure(const BusyTill& till);

@@ -18,6 +18,7 @@ constexpr int Patience = 120'000;  // milliseconds
 struct Memory {
     double resident;      // MiB, shared libraries counted in full
     double proportional;  // MiB, what is shared divided among those who share it
+    double growth;        // MiB, of the resident memory since the first hundred invoices
 };
 
 // The programs print so many numbers as their last line; nothing when one fails.
@@ -34,9 +35,9 @@ QList<double> NumbersOf(const QString& program, const QStringList& arguments, in
 
 // Both in kB.
 std::optional<Memory> MemoryOf(const QString& program, const QStringList& arguments) {
-    const QList<double> numbers = NumbersOf(program, arguments, 2);
+    const QList<double> numbers = NumbersOf(program, arguments, 3);
     if (numbers.isEmpty()) return {};
-    return Memory{numbers[0] / 1024, numbers[1] / 1024};
+    return Memory{numbers[0] / 1024, numbers[1] / 1024, numbers[2] / 1024};
 }
 
 }  // namespace

@@ -29,9 +29,9 @@ long ResidentMemory() {
     return MemoryNow().resident;
 }
 
-void PrintMemoryUse() {
+void PrintMemoryUse(long early) {
     const Memory memory = MemoryNow();
-    std::printf("%ld %ld\n", memory.resident, memory.proportional);
+    std::printf("%ld %ld %ld\n", memory.resident, memory.proportional, memory.resident - early);
     std::fflush(stdout);
 }
 

@@ -70,8 +70,10 @@ int Measure(const Job& job) {
         bench::PreviewFigure(busy),
         bench::RegisterListsFigure(busy),
         bench::ProductListFigure(busy),
-        bench::ProductSearchFigure(busy, false),
-        bench::ProductSearchFigure(busy, true),
+        bench::FirstFoundFigure(busy, false),
+        bench::FirstFoundFigure(busy, true),
+        bench::AllFoundFigure(busy, false),
+        bench::AllFoundFigure(busy, true),
         bench::PlacementFigure(office),
         bench::RecipeFigure(office),
     };
