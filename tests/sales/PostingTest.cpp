@@ -1,4 +1,5 @@
 #include <SQLiteCpp/SQLiteCpp.h>
+#include <malloc.h>
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -166,6 +167,20 @@ TEST_F(PostingTest, OtherCursorsSeeWhatThisOneWrote) {
     LogIn();
     Keys(u"100{Enter}{F5}");
     EXPECT_EQ(Rows(u"SELECT Max(Val([InvoiceID])) AS [current] FROM Invoices"_s), QStringList{u"1"_s});
+}
+
+// The store keeps the pages of new rows in memory up to its limit; nothing else may stay.
+TEST_F(PostingTest, ManyInvoicesLeaveHardlyAnythingInMemory) {
+    LogIn();
+    const auto sell = [](int invoices) {
+        for (int i = 0; i < invoices; ++i) {
+            Keys(u"100{Enter}{F5}");
+            drivers::Settle();
+        }
+        return mallinfo2().uordblks + mallinfo2().hblkhd;
+    };
+    const size_t early = sell(50);
+    EXPECT_LT(sell(400), early + 400 * 1500);
 }
 
 }  // namespace
