@@ -69,7 +69,10 @@ void SqliteEngine::EndRelaxed() {
     isRelaxed_ = false;
     if (code != SQLITE_OK)
         ThrowCode(code, QString::fromUtf8(sqlite3_errstr(code)), u"bringing a burst of changes to the disk"_s);
-    if (writes_ != writesWhenRelaxed_) RequireOwnFiles();
+    if (writes_ == writesWhenRelaxed_) return;
+    // A till posts all day: the pages of what it has written are not needed again, and would stay.
+    sqlite3_db_release_memory(Handle());
+    RequireOwnFiles();
 }
 
 Stamp SqliteEngine::Now() {
