@@ -22,6 +22,10 @@ QAbstractButton* ChosenIn(const QList<QAbstractButton*>& group) {
     return chosen == group.end() ? nullptr : *chosen;
 }
 
+bool IsByTheWay(Qt::FocusReason reason) {
+    return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ActiveWindowFocusReason;
+}
+
 class OptionFocus : public QObject {
 public:
     explicit OptionFocus(QRadioButton* option) : QObject(option), option_(*option) {
@@ -32,9 +36,8 @@ public:
     }
 
     bool eventFilter(QObject*, QEvent* event) override {
-        // A press of the mouse is about to choose this one.
-        if (event->type() == QEvent::FocusIn && static_cast<QFocusEvent*>(event)->reason() != Qt::MouseFocusReason)
-            LeadToChosen();
+        // A press of the mouse, or who goes to this one by its name, is about to choose it.
+        if (event->type() == QEvent::FocusIn && IsByTheWay(static_cast<QFocusEvent*>(event)->reason())) LeadToChosen();
         return false;
     }
 
