@@ -16,7 +16,9 @@ protected:
 
     // One invoice of two lines, as posting leaves it.
     void Post() const {
-        ASSERT_EQ(Load(u"Products"_s, "ProdCode\tQty\tUnit\tTaxID\nA\t1\tpcs\tP\nB\t2\tkg\tN\n"), Done());
+        ASSERT_EQ(Load(u"Products"_s,
+                       "ProdCode\tQty\tUnit\tTaxID\tTaxPercent\tUnitPrice\nA\t1\tpcs\tP\t17\t5\nB\t2\tkg\tN\t0\t1\n"),
+                  Done());
         ASSERT_EQ(Load(u"Sales"_s, "SalesID\tTotalSales\n1\t7.5\n"), Done());
         ASSERT_EQ(
             Load(u"Invoices"_s, "SalesID\tInvoiceID\tOrNo\tCashierID\tCashAmount\tTaxTotal\n1\t1\t1\t2\t7.5\t0.73\n"),
@@ -56,6 +58,17 @@ TEST_F(CheckTest, WhatACrashOrAScreenLeavesBehindIsANote) {
          "note: SalesDetails.TaxID that has no Tax.TaxID: N\nnote: Products.TaxID that has no Tax.TaxID: N\n"},
         {{u"DELETE * FROM Products WHERE ProdCode = 'A'"},
          "note: SalesDetails.ProdCode that has no Products.ProdCode: A\n"},
+        {{u"UPDATE Products SET TaxPercent = Null, UnitPrice = Null WHERE ProdCode = 'A'",
+          u"UPDATE Products SET TaxPercent = 10, ProdDescription = '12345678901234567890123456789012345678901'"
+          u" WHERE ProdCode = 'B'",
+          u"UPDATE SalesDetails SET ProdCode = ' 2345678901234''' WHERE ProdCode = 'B'",
+          u"UPDATE Products SET ProdCode = ' 2345678901234''' WHERE ProdCode = 'B'"},
+         "note: goods without a tax rate, which can't be sold: A\nnote: goods without a price, which can't be sold: A\n"
+         "note: goods with an apostrophe in the code, which can't be looked up:  2345678901234'\n"
+         "note: goods with blanks at an end of the code:  2345678901234'\n"
+         "note: goods with a code longer than its box:  2345678901234'\n"
+         "note: goods with a name longer than its box:  2345678901234'\n"
+         "note: goods with another rate than that of their tax:  2345678901234'\n"},
         {{u"UPDATE Products SET Unit = 'box'"}, "note: Products.Unit that has no Unit.Abr: box\n"},
         {{u"UPDATE Products SET Qty = -1 WHERE ProdCode = 'A'"}, "note: products with a stock below zero: A\n"},
         {{u"UPDATE Products SET Tab = 320 WHERE ProdCode = 'A'"}, "note: products on a button that is not there: A\n"},
@@ -89,7 +102,7 @@ TEST_F(CheckTest, TwoRegistersOnOneNumberAreANote) {
 TEST_F(CheckTest, ManyCasesOfOneKindAreToldInOneLine) {
     QByteArray lines = "SIF\tCONsif\tConSIFQty\n";
     for (int i = 10; i < 25; ++i) lines += "C" + QByteArray::number(i) + "\tA\t1\n";
-    ASSERT_EQ(Load(u"Products"_s, "ProdCode\tUnit\tTaxID\nA\tpcs\tP\n"), Done());
+    ASSERT_EQ(Load(u"Products"_s, "ProdCode\tUnit\tTaxID\tTaxPercent\tUnitPrice\nA\tpcs\tP\t17\t1\n"), Done());
     ASSERT_EQ(Load(u"ProductsCon"_s, lines), Done());
     EXPECT_EQ(Check(),
               Done("note: ProductsCon.SIF that has no Products.ProdCode: C10, C11, C12, C13, C14, C15, C16, C17, "

@@ -84,6 +84,26 @@ void CheckRepeats(store::Database& main, const TableField& key, Findings& findin
              u"%1 that stands more than once"_s.arg(key.Name()), findings);
 }
 
+// What a table from elsewhere brings in and no screen would: goods that the till refuses, cuts or taxes wrongly.
+void CheckGoods(store::Database& main, Findings& findings) {
+    constexpr auto longestCode = 13, longestName = 40;  // that of their boxes
+    const auto longer = [](int length) { return QString(length + 1, u'?'); };
+    const std::pair<QString, QString> faults[] = {
+        {u"TaxPercent IS NULL"_s, u"goods without a tax rate, which can't be sold"_s},
+        {u"UnitPrice IS NULL"_s, u"goods without a price, which can't be sold"_s},
+        {u"ProdCode LIKE '*''*'"_s, u"goods with an apostrophe in the code, which can't be looked up"_s},
+        {u"ProdCode LIKE ' *' OR ProdCode LIKE '* '"_s, u"goods with blanks at an end of the code"_s},
+        {u"ProdCode LIKE '%1*'"_s.arg(longer(longestCode)), u"goods with a code longer than its box"_s},
+        {u"ProdDescription LIKE '%1*'"_s.arg(longer(longestName)), u"goods with a name longer than its box"_s},
+    };
+    for (const auto& [condition, kind] : faults)
+        NoteRows(main, u"SELECT ProdCode FROM Products WHERE %1 GROUP BY ProdCode"_s.arg(condition), kind, findings);
+    NoteRows(main,
+             u"SELECT Products.ProdCode FROM Products INNER JOIN Tax ON Products.TaxID = Tax.TaxID"
+             u" WHERE Products.TaxPercent <> Tax.Percent"_s,
+             u"goods with another rate than that of their tax"_s, findings);
+}
+
 void CheckRowsOf(store::Database& main, const QString& table, int rowsExpected, Findings& findings) {
     auto rows = main.OpenRecordset(u"SELECT Count(*) AS N FROM [%1]"_s.arg(table));
     const qint64 found = rows[0].Whole();
@@ -104,6 +124,7 @@ void CheckReferences(store::Database& main, Findings& findings) {
              u"products on a button that is not there"_s, findings);
     NoteRows(main, u"SELECT Tab, Count(*) AS N FROM Products WHERE Tab > -1 GROUP BY Tab HAVING Count(*) > 1"_s,
              u"buttons of the click table with more than one product"_s, findings);
+    CheckGoods(main, findings);
     CheckRowsOf(main, u"TabControl"_s, 10, findings);
     CheckRowsOf(main, u"Company"_s, 1, findings);
 }
