@@ -70,9 +70,8 @@ QString ProperCase(const QString& text) {
 }
 
 void PrintToChannel(const QString& mode, const QString& line) {
-    const QChar output = mode.size() == 1 ? mode[0] : QChar();
-    if (output == u'1' || output == u'2') output::Channel1().WriteLine(line);
-    if (output == u'3') output::ThePagePrinter().PrintLine(line);
+    if (mode == u"1" || mode == u"2") output::Channel1().WriteLine(line);
+    if (mode == u"3") output::ThePagePrinter().PrintLine(line);
 }
 
 void FeedBlankLines(qint16 count) {

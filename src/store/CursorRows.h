@@ -17,8 +17,6 @@ public:
     virtual Place Last() = 0;
     virtual Place Next(Place place) = 0;
     virtual Place Previous(Place place) = 0;
-    // By its position in the cursor, from 0.
-    virtual Place At(qint64 position) = 0;
     virtual qint64 KnownCount() const = 0;
 
     // The identity of a row in this cursor, and the way back.
@@ -45,7 +43,6 @@ public:
     Place Last() override { return rows_.Rows() - 1; }
     Place Next(Place place) override { return place + 1 < rows_.Rows() ? place + 1 : Nowhere; }
     Place Previous(Place place) override { return place - 1; }
-    Place At(qint64 position) override { return position >= 0 && position < rows_.Rows() ? position : Nowhere; }
     qint64 KnownCount() const override { return rows_.Rows(); }
     qint64 RowAt(Place place) const override { return place + 1; }
     Place Find(qint64 row, Place) override { return row >= 1 && row <= rows_.Rows() ? row - 1 : Nowhere; }

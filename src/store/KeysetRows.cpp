@@ -68,14 +68,6 @@ CursorRows::Place KeysetRows::Previous(Place place) {
     return static_cast<Place>(base_.size()) - 1;
 }
 
-CursorRows::Place KeysetRows::At(qint64 position) {
-    if (position < 0) return Nowhere;
-    if (!Knows(position)) LearnUpTo(upTo_);
-    if (Knows(position)) return position;
-    const Place added = FirstAdded + position - static_cast<Place>(base_.size());
-    return Knows(added) ? added : Nowhere;
-}
-
 CursorRows::Place KeysetRows::Find(qint64 row, Place likely) {
     if (likely != Nowhere && Knows(likely) && RowAt(likely) == row) return likely;
     const auto added = std::find(added_.rbegin(), added_.rend(), row);

@@ -44,10 +44,6 @@ void Recordset::Move(int rows) {
     Open().Move(rows);
 }
 
-void Recordset::MoveTo(qint64 position) {
-    Open().MoveTo(Open().rows->At(position));
-}
-
 qint64 Recordset::RecordCount() const {
     return Open().rows->KnownCount();
 }

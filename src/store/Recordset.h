@@ -77,8 +77,6 @@ public:
     void MoveNext();
     void MovePrevious();
     void Move(int rows);  // Move(0) re-reads the current row
-    // The row at this position of the cursor, from 0.
-    void MoveTo(qint64 position);
     // Above 0 when there is a row; the full count after MoveLast.
     qint64 RecordCount() const;
 

@@ -209,27 +209,6 @@ TEST_F(MembershipTest, FindsTheFirstRowInItsOwnOrder) {
     EXPECT_EQ(ErrorOf([&] { products.FindFirst(u"Nothing = 'x'"_s); }), UnknownField);
 }
 
-TEST_F(MembershipTest, GoesToARowByItsPosition) {
-    AddProducts(1, 400);
-    for (const auto& query :
-         {u"SELECT * FROM Products"_s, u"SELECT * FROM Products WHERE Qty > 0"_s,
-          u"SELECT Max(Qty) AS Qty, ProdCode FROM Products GROUP BY ProdCode, Qty ORDER BY Qty"_s}) {
-        auto products = store->OpenRecordset(query);
-        for (const int position : {399, 0, 350, 17}) {
-            products.MoveTo(position);
-            EXPECT_EQ(products[u"Qty"].Whole(), position + 1) << query.toStdString();
-        }
-        EXPECT_EQ(ErrorOf([&] { products.MoveTo(400); }), NoCurrentRow);
-        EXPECT_EQ(ErrorOf([&] { products.MoveTo(-1); }), NoCurrentRow);
-    }
-    auto products = store->OpenRecordset(u"SELECT * FROM Products"_s);
-    products.AddNew();
-    products[u"ProdCode"] = u"own"_s;
-    products.Update();
-    products.MoveTo(400);
-    EXPECT_EQ(products[u"ProdCode"].Text(), u"own");
-}
-
 TEST_F(MembershipTest, KnowsEveryRowOfManyThousandsInOrder) {
     constexpr int count = 12'000;
     AddProducts(1, count);
