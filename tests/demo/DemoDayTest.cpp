@@ -27,16 +27,18 @@ TEST(DemoDay, LeavesTheReceiptsReportAndPicturesItAlwaysLeaves) {
     EXPECT_EQ(QDir(shop + u"/screens"_s).entryList({u"*.png"_s}).size(), 13);
 }
 
-TEST(DemoDay, LeavesAForeignFolderAlone) {
-    const QTemporaryDir folder;
-    QFile mine(folder.filePath(u"mine.txt"_s));
-    ASSERT_TRUE(mine.open(QIODevice::WriteOnly));
-    mine.close();
-    QProcess demo;
-    demo.start(QStringLiteral(PROGRAMS "/velton-demo"), {folder.path()});
-    ASSERT_TRUE(demo.waitForFinished(60000));
-    EXPECT_EQ(demo.exitCode(), 1);
-    EXPECT_TRUE(QFile::exists(mine.fileName()));
+TEST(DemoDay, LeavesForeignFoldersAndShopsAlone) {
+    for (const QString& name : {u"mine.txt"_s, u"ORVA.pos"_s}) {
+        const QTemporaryDir folder;
+        QFile mine(folder.filePath(name));
+        ASSERT_TRUE(mine.open(QIODevice::WriteOnly));
+        mine.close();
+        QProcess demo;
+        demo.start(QStringLiteral(PROGRAMS "/velton-demo"), {folder.path()});
+        ASSERT_TRUE(demo.waitForFinished(60000));
+        EXPECT_EQ(demo.exitCode(), 1);
+        EXPECT_TRUE(QFile::exists(mine.fileName()));
+    }
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 // velton-demo [FOLDER]: plays a working day of the demo shop through the real screens, off-screen, in FOLDER (by
 // default demo-day here, made anew), and prints the receipts and the day's figures that it leaves there.
 
+#include <CLI/CLI.hpp>
+
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -20,12 +22,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A folder that an earlier day left; anything else is not ours to delete.
+// A folder that an earlier day left, pictures and all; a shop that somebody works in has none and is not ours to
+// delete.
 void ClearFolder(const QString& path) {
     QDir folder(path);
     if (!folder.exists()) return;
-    if (!folder.isEmpty() && !folder.exists(u"ORVA.pos"_s))
-        throw std::runtime_error("The folder " + path.toStdString() + " holds something else than a shop.");
+    if (!folder.isEmpty() && !(folder.exists(u"ORVA.pos"_s) && folder.exists(u"screens"_s)))
+        throw std::runtime_error("The folder " + path.toStdString() + " holds something else than an earlier day.");
     if (!folder.removeRecursively())
         throw std::runtime_error("The folder " + path.toStdString() + " can't be cleared.");
 }
@@ -57,19 +60,30 @@ void Play(const QString& path) {
                 qPrintable(QDir(pictures).absolutePath()));
 }
 
-}  // namespace
+int Run(int argc, char* argv[]) {
+    std::string folder = "demo-day";
+    CLI::App app("Plays a working day of a demo shop, and prints the receipts and figures that it leaves",
+                 "velton-demo");
+    app.add_option("FOLDER", folder, "Takes the shop; one that an earlier day left is made anew")
+        ->capture_default_str();
+    CLI11_PARSE(app, argc, argv);
 
-int main(int argc, char* argv[]) {
     drivers::HushPlatform();
     const QTemporaryDir screen;
     drivers::UseTillScreen(screen.path());
     QApplication application(argc, argv);
     PrepareApplication(application);
+    Play(QString::fromLocal8Bit(folder));
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
     try {
-        Play(argc > 1 ? QString::fromLocal8Bit(argv[1]) : u"demo-day"_s);
+        return Run(argc, argv);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "velton-demo: %s\n", error.what());
         return 1;
     }
-    return 0;
 }
