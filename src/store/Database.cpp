@@ -88,6 +88,10 @@ QStringList Database::CheckIntegrity() {
     return engine_->CheckIntegrity();
 }
 
+QStringList Database::MissingIndexes() {
+    return engine_->MissingIndexes(internals_->schema);
+}
+
 void Database::BackupTo(const QString& path) {
     engine_->BackupTo(path);
 }

@@ -57,6 +57,8 @@ public:
 
     // The engine's own integrity check: empty when the file is sound, else one line a fault.
     QStringList CheckIntegrity();
+    // The indexes of the schema that the store lacks, as Table.Column+Column.
+    QStringList MissingIndexes();
     // A consistent copy while others write; the file must not exist. It is opened again and checked.
     void BackupTo(const QString& path);
     // How the engine would run a query text, one line a step; for tests.

@@ -82,6 +82,7 @@ public:
     virtual bool StillAt(const Stamp& stamp) = 0;
 
     virtual QStringList CheckIntegrity() = 0;
+    virtual QStringList MissingIndexes(const Schema& schema) = 0;
     virtual void BackupTo(const QString& path) = 0;
     virtual QString Explain(const dialect::Query& query) = 0;
 };

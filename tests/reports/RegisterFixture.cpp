@@ -6,7 +6,7 @@
 #include <QPushButton>
 
 #include "core/dbModule.h"
-#include "delivery/TableLoader.h"
+#include "upkeep/TableLoader.h"
 #include "forms/Controls.h"
 #include "player/Keys.h"
 #include "store/StorePath.h"
@@ -19,7 +19,7 @@ RegisterFixture::RegisterFixture() {
     for (const auto& table : {u"Sales"_s, u"Invoices"_s, u"SalesDetails"_s}) {
         QFile lines(QString::fromUtf8(TEST_DATA "/reports/shop/") + table + u".tsv"_s);
         EXPECT_TRUE(lines.open(QIODevice::ReadOnly)) << lines.fileName().toStdString();
-        delivery::LoadRows(*main, table, lines);
+        upkeep::LoadRows(*main, table, lines);
     }
     OpenMainStore();
 }

@@ -3,8 +3,8 @@
 #include <QFile>
 #include <QRegularExpression>
 
-#include "delivery/ValueText.h"
 #include "tools/StoreTool.h"
+#include "upkeep/ValueText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,7 +16,7 @@ QStringList Rows(store::Database& database, const QString& query) {
     auto rows = database.OpenRecordset(query);
     for (auto& row : rows) {
         QByteArrayList cells;
-        for (int i = 0; i < row.FieldCount(); ++i) cells.append(delivery::WriteValue(row[i].Get()));
+        for (int i = 0; i < row.FieldCount(); ++i) cells.append(upkeep::WriteValue(row[i].Get()));
         lines.append(QString::fromUtf8(cells.join('|')));
     }
     return lines;

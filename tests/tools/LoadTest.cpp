@@ -33,6 +33,20 @@ TEST_F(LoadTest, TakesTheLineEndsOfEverySystem) {
     EXPECT_EQ(Load(u"Unit"_s, "Abr\tUnitName\n"), Done());
 }
 
+TEST_F(LoadTest, NamesGoodsThatTheTillCouldNotSell) {
+    EXPECT_EQ(Load(u"products"_s,
+                   "ProdCode\tUnit\tUnitPrice\tTaxID\tTaxPercent\n1\tpcs\t5\tP\t17\n2\tpcs\t5\tP\t\n 3\tpcs\t5\tn\t17\n"
+                   "4\tbox\t5\tX\t17\n5\tpcs\t\tP\t\n"),
+              (Answer{0, "",
+                      "warning: goods without a tax rate, which can't be sold: line 3, line 6\n"
+                      "warning: goods with blanks at an end of the code: line 4\n"
+                      "warning: goods with another rate than that of their tax: line 4\n"
+                      "warning: goods with a unit that is not there: line 5\n"
+                      "warning: goods with a tax that is not there: line 5\n"
+                      "warning: goods without a price, which can't be sold: line 6\n"}));
+    EXPECT_EQ(Sql(u"SELECT Count(*) AS N FROM Products"_s), Done("N\n5\n"));
+}
+
 TEST_F(LoadTest, AddsAllRowsOrNone) {
     struct Case {
         QByteArray lines;

@@ -1,13 +1,13 @@
-#include "delivery/ValueText.h"
+#include "upkeep/ValueText.h"
 
 #include <gtest/gtest.h>
 
 #include "store/StoreError.h"
 
 using namespace Qt::StringLiterals;
-using delivery::ReadValue;
-using delivery::WriteValue;
 using store::Type;
+using upkeep::ReadValue;
+using upkeep::WriteValue;
 using values::Money;
 using values::Value;
 

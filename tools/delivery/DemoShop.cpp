@@ -2,7 +2,7 @@
 
 #include "delivery/Delivery.h"
 #include "delivery/FileError.h"
-#include "delivery/TableLoader.h"
+#include "upkeep/TableLoader.h"
 
 using namespace Qt::StringLiterals;
 
@@ -13,7 +13,7 @@ namespace {
 void LoadDemoTable(store::Database& main, const QString& table) {
     QFile lines(u":/delivery/demo/%1.tsv"_s.arg(table));
     if (!lines.open(QIODevice::ReadOnly)) throw FileError(lines, u"read the demo shop's %1"_s.arg(table));
-    LoadRows(main, table, lines);
+    upkeep::LoadRows(main, table, lines);
 }
 
 }  // namespace

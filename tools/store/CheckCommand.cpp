@@ -1,12 +1,13 @@
-#include <QFileInfo>
+#include <QFile>
 
 #include "Commands.h"
-#include "Findings.h"
 #include "Output.h"
-#include "delivery/TableLoader.h"
-#include "delivery/ValueText.h"
+#include "delivery/FileError.h"
+#include "upkeep/Check.h"
+#include "upkeep/ValueText.h"
 
 using namespace Qt::StringLiterals;
+using namespace upkeep;
 
 namespace tool {
 
@@ -30,34 +31,46 @@ StorePointer CheckFile(const QString& folder, Which which, Findings& findings) {
     }
 }
 
-void CheckOptions(store::Database& options, Findings& findings) {
-    const store::Table& table = delivery::FindTable(options, u"Options"_s);
-    auto rows = delivery::OpenTable(options, table);
-    int count = 0;
-    for (auto& row : rows) {
-        ++count;
-        for (const store::Column& column : table.columns)
-            if (row[column.name].IsNull())
-                findings.Note(u"settings without a value, which start-up stops at"_s, column.name);
-    }
-    if (count != 1)
-        findings.Damage(store::NotAStore, u"Options store: Options has %1 rows instead of one."_s.arg(count));
+std::vector<Receipt> RibbonOf(const QString& folder) {
+    QFile ribbon(folder + u"/invoices.txt"_s);
+    if (!ribbon.exists()) return {};
+    if (!ribbon.open(QIODevice::ReadOnly)) throw delivery::FileError(ribbon, u"read '%1'"_s.arg(ribbon.fileName()));
+    return ReadRibbon(ribbon);
+}
+
+bool WritesRibbon(store::Database* options) {
+    if (options == nullptr) return false;
+    auto row = options->OpenRecordset(u"SELECT TrakaRacunaFileDA FROM Options"_s);
+    return !row.AtEOF() && !row[0].IsNull() && row[0].YesNo();
+}
+
+void Print(const Findings& findings) {
+    Output output;
+    for (const QString& line : findings.NoteLines()) output.Write("note: " + WriteText(line) + '\n');
+    for (const QString& line : findings.FactLines()) output.Write(WriteText(line) + '\n');
+    if (findings.IsSound()) output.Write("Both stores are sound.\n"_ba);
+    output.Finish();
 }
 
 }  // namespace
 
 void Check(const QString& folder) {
     Findings findings;
-    if (const StorePointer main = CheckFile(folder, Which::Main, findings)) {
-        CheckReferences(*main, findings);
-        CheckTotals(*main, findings);
+    // Before the store, so that what is printed meanwhile is in the store already.
+    const std::vector<Receipt> ribbon = RibbonOf(folder);
+    const StorePointer main = CheckFile(folder, Which::Main, findings);
+    const StorePointer options = CheckFile(folder, Which::Options, findings);
+    if (main) {
+        const SalesBook book = ReadSalesBook(*main);
+        const DistinctKeys products = KeysOf(*main, {u"Products"_s, u"ProdCode"_s});
+        CheckIndexes(*main, findings);
+        CheckSales(*main, book, products, findings);
+        CheckGoods(*main, products, findings);
+        CheckRibbon(ribbon, WritesRibbon(options.get()), book, findings);
+        CheckPeriods(book, findings);
     }
-    if (const StorePointer options = CheckFile(folder, Which::Options, findings)) CheckOptions(*options, findings);
-
-    Output output;
-    for (const QString& line : findings.NoteLines()) output.Write(delivery::WriteText(line) + '\n');
-    if (findings.IsSound()) output.Write("Both stores are sound.\n"_ba);
-    output.Finish();
+    if (options) CheckSettings(*options, findings);
+    Print(findings);
     findings.ThrowDamage();
 }
 

@@ -2,7 +2,7 @@
 
 #include "Commands.h"
 #include "delivery/FileError.h"
-#include "delivery/TableLoader.h"
+#include "upkeep/TableLoader.h"
 
 using namespace Qt::StringLiterals;
 
@@ -10,20 +10,20 @@ namespace tool {
 
 void Insert(const QString& folder, const QString& tableName, const QStringList& fields, Which which) {
     const auto database = OpenStore(folder, which);
-    const store::Table& table = delivery::FindTable(*database, tableName);
-    auto rows = delivery::OpenTable(*database, table);
+    const store::Table& table = upkeep::FindTable(*database, tableName);
+    auto rows = upkeep::OpenTable(*database, table);
     QSet<int> named;
     rows.AddNew();
     for (const QString& field : fields) {
         const qsizetype equals = field.indexOf(u'=');
         if (equals < 1)
             throw delivery::FileError(delivery::InvalidCall, u"'%1' is not of the form FIELD=VALUE."_s.arg(field));
-        const int column = delivery::FindField(table, field.first(equals));
+        const int column = upkeep::FindField(table, field.first(equals));
         if (named.contains(column))
             throw store::StoreError(store::AmbiguousName,
                                     u"The field '%1' stands there twice."_s.arg(field.first(equals)));
         named.insert(column);
-        delivery::SetField(rows, table.columns[column], field.sliced(equals + 1).toUtf8());
+        upkeep::SetField(rows, table.columns[column], field.sliced(equals + 1).toUtf8());
     }
     rows.Update();
 }

@@ -1,6 +1,6 @@
 #include "Commands.h"
 #include "Output.h"
-#include "delivery/ValueText.h"
+#include "upkeep/ValueText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,7 +16,7 @@ QByteArray HeaderLine(const store::Recordset& rows) {
     QByteArray line;
     for (int i = 0; i < rows.FieldCount(); ++i) {
         if (i > 0) line += '\t';
-        line += delivery::WriteText(rows.FieldName(i));
+        line += upkeep::WriteText(rows.FieldName(i));
     }
     return line + '\n';
 }
@@ -25,7 +25,7 @@ QByteArray RowLine(store::Recordset& rows) {
     QByteArray line;
     for (int i = 0; i < rows.FieldCount(); ++i) {
         if (i > 0) line += '\t';
-        line += delivery::WriteValue(rows[i].Get());
+        line += upkeep::WriteValue(rows[i].Get());
     }
     return line + '\n';
 }

@@ -8,7 +8,7 @@
 #include "Commands.h"
 #include "Output.h"
 #include "delivery/FileError.h"
-#include "delivery/ValueText.h"
+#include "upkeep/ValueText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -41,7 +41,7 @@ struct Arguments {
 };
 
 QString Text(const std::string& bytes) {
-    return delivery::DecodeUtf8(QByteArray::fromStdString(bytes));
+    return upkeep::DecodeUtf8(QByteArray::fromStdString(bytes));
 }
 
 QStringList Texts(const std::vector<std::string>& list) {

@@ -49,6 +49,7 @@ public:
     bool StillAt(const Stamp& stamp) override;
 
     QStringList CheckIntegrity() override;
+    QStringList MissingIndexes(const Schema& schema) override;
     void BackupTo(const QString& path) override;
     QString Explain(const dialect::Query& query) override;
 

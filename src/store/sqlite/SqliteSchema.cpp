@@ -51,15 +51,19 @@ std::string TableSql(const Table& table) {
     return "CREATE TABLE " + Quoted(table.name) + " (" + columns + ") STRICT";
 }
 
-std::string IndexSql(const Table& table, const Index& index) {
+QString IndexName(const Table& table, const Index& index) {
     const QString kind = index.unique ? u"Key"_s : index.overVal ? u"Val"_s : u"By"_s;
+    return table.name + kind + index.columns.join(QString());
+}
+
+std::string IndexSql(const Table& table, const Index& index) {
     std::string terms;
     for (const QString& column : index.columns) {
         if (!terms.empty()) terms += ", ";
         terms += index.overVal ? "velton_val(" + Quoted(column) + ")" : Quoted(column);
     }
-    return std::string("CREATE ") + (index.unique ? "UNIQUE " : "") + "INDEX " +
-           Quoted(table.name + kind + index.columns.join(QString())) + " ON " + Quoted(table.name) + " (" + terms + ")";
+    return std::string("CREATE ") + (index.unique ? "UNIQUE " : "") + "INDEX " + Quoted(IndexName(table, index)) +
+           " ON " + Quoted(table.name) + " (" + terms + ")";
 }
 
 void BuildSchema(SQLite::Database& database, const Schema& schema) {
@@ -71,6 +75,16 @@ void BuildSchema(SQLite::Database& database, const Schema& schema) {
     database.exec("PRAGMA application_id = " + std::to_string(schema.applicationId));
     SetVersion(database, schema.version);
     transaction.commit();
+}
+
+QStringList MissingIndexes(SQLite::Database& database, const Schema& schema) {
+    QStringList present, missing;
+    SQLite::Statement names(database, "SELECT name FROM sqlite_schema WHERE type = 'index'");
+    while (names.executeStep()) present += QString::fromStdString(names.getColumn(0).getString());
+    for (const Table& table : schema.tables)
+        for (const Index& index : table.indexes)
+            if (!present.contains(IndexName(table, index))) missing += table.name + u'.' + index.columns.join(u'+');
+    return missing;
 }
 
 void MigrateSchema(SQLite::Database& database, const Schema& schema) {

@@ -17,6 +17,8 @@ std::string IndexSql(const Table& table, const Index& index);
 
 // Writes a whole schema into an empty file, as one commit.
 void BuildSchema(SQLite::Database& database, const Schema& schema);
+// The indexes of a schema that a file lacks, as Table.Column+Column.
+QStringList MissingIndexes(SQLite::Database& database, const Schema& schema);
 // Takes an older file to the schema's version, one commit a step; other processes may try the same at once.
 void MigrateSchema(SQLite::Database& database, const Schema& schema);
 

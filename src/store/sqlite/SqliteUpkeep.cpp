@@ -5,6 +5,7 @@
 #include "store/sqlite/QuerySql.h"
 #include "store/sqlite/SqliteEngine.h"
 #include "store/sqlite/SqliteError.h"
+#include "store/sqlite/SqliteSchema.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -75,6 +76,10 @@ std::unique_ptr<Engine> SqliteEngine::OpenBeside() {
 
 QStringList SqliteEngine::CheckIntegrity() {
     return FaultsOf(*connection_);
+}
+
+QStringList SqliteEngine::MissingIndexes(const Schema& schema) {
+    return sqlite::MissingIndexes(connection_->Database(), schema);
 }
 
 void SqliteEngine::BackupTo(const QString& path) {

@@ -2,10 +2,11 @@
 
 #include <QIODevice>
 #include <QString>
+#include <functional>
 
 #include "store/Database.h"
 
-namespace delivery {
+namespace upkeep {
 
 // The table of that name, case ignored; StoreError 3078 when the store has none.
 const store::Table& FindTable(const store::Database& database, const QString& name);
@@ -19,7 +20,8 @@ void SetField(store::Recordset& row, const store::Column& column, const QByteArr
 
 // Adds the rows of a tab-separated text (ValueText.h): a line of field names, then a line a row, in UTF-8, lines ended
 // by LF or CR LF. Fields that are not named take their defaults. The first bad row throws its error with the line's
-// number; the caller's Batch makes it all or none.
-void LoadRows(store::Database& database, const QString& tableName, QIODevice& lines);
+// number; the caller's Batch makes it all or none. `look` sees each row before it goes in, with its line's number.
+using RowLook = std::function<void(store::Recordset& row, qint64 line)>;
+void LoadRows(store::Database& database, const QString& tableName, QIODevice& lines, const RowLook& look = {});
 
-}  // namespace delivery
+}  // namespace upkeep

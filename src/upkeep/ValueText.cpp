@@ -1,4 +1,4 @@
-#include "delivery/ValueText.h"
+#include "upkeep/ValueText.h"
 
 #include <QRegularExpression>
 #include <QStringDecoder>
@@ -10,7 +10,7 @@ using store::Type;
 using values::Money;
 using values::Value;
 
-namespace delivery {
+namespace upkeep {
 
 namespace {
 
@@ -187,4 +187,4 @@ QString DecodeUtf8(const QByteArray& bytes) {
     return text;
 }
 
-}  // namespace delivery
+}  // namespace upkeep

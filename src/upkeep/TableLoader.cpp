@@ -1,19 +1,19 @@
-#include "delivery/TableLoader.h"
+#include "upkeep/TableLoader.h"
 
 #include <QSet>
 
-#include "delivery/ValueText.h"
+#include "upkeep/ValueText.h"
 
 using namespace Qt::StringLiterals;
 
-namespace delivery {
+namespace upkeep {
 
 namespace {
 
 class Loader {
 public:
-    Loader(store::Database& database, const QString& tableName, QIODevice& lines)
-        : table_(FindTable(database, tableName)), lines_(lines), rows_(OpenTable(database, table_)) {}
+    Loader(store::Database& database, const QString& tableName, QIODevice& lines, const RowLook& look)
+        : table_(FindTable(database, tableName)), lines_(lines), look_(look), rows_(OpenTable(database, table_)) {}
 
     void Run() {
         try {
@@ -59,11 +59,13 @@ private:
                                     u"%1 cells for %2 fields."_s.arg(cells_.size()).arg(columns_.size()));
         rows_.AddNew();
         for (qsizetype i = 0; i < cells_.size(); ++i) SetField(rows_, table_.columns[columns_[i]], cells_[i]);
+        if (look_) look_(rows_, line_);
         rows_.Update();
     }
 
     const store::Table& table_;
     QIODevice& lines_;
+    const RowLook& look_;
     store::Recordset rows_;
     QList<int> columns_;
     QList<QByteArray> cells_;
@@ -96,8 +98,8 @@ void SetField(store::Recordset& row, const store::Column& column, const QByteArr
     }
 }
 
-void LoadRows(store::Database& database, const QString& tableName, QIODevice& lines) {
-    Loader(database, tableName, lines).Run();
+void LoadRows(store::Database& database, const QString& tableName, QIODevice& lines, const RowLook& look) {
+    Loader(database, tableName, lines, look).Run();
 }
 
-}  // namespace delivery
+}  // namespace upkeep

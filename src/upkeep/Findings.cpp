@@ -1,14 +1,19 @@
-#include "Findings.h"
+#include "upkeep/Findings.h"
 
 using namespace Qt::StringLiterals;
 
-namespace tool {
+namespace upkeep {
 
 namespace {
 
 constexpr int NamedCases = 10;
 
 }  // namespace
+
+QString FirstFew(const QStringList& cases) {
+    const QString named = cases.first(std::min<qsizetype>(NamedCases, cases.size())).join(u", ");
+    return cases.size() <= NamedCases ? named : u"%1 and %2 more"_s.arg(named).arg(cases.size() - NamedCases);
+}
 
 void Findings::Damage(int number, const QString& what) {
     if (damage_.isEmpty()) firstNumber_ = number;
@@ -17,19 +22,12 @@ void Findings::Damage(int number, const QString& what) {
 
 void Findings::Note(const QString& kind, const QString& which) {
     if (!notes_.contains(kind)) kinds_.append(kind);
-    Cases& cases = notes_[kind];
-    if (++cases.count <= NamedCases) cases.named.append(which);
+    notes_[kind].append(which);
 }
 
 QStringList Findings::NoteLines() const {
     QStringList lines;
-    for (const QString& kind : kinds_) {
-        const Cases cases = notes_.value(kind);
-        const qint64 more = cases.count - cases.named.size();
-        QString line = u"note: %1: %2"_s.arg(kind, cases.named.join(u", "));
-        if (more > 0) line += u" and %1 more"_s.arg(more);
-        lines.append(line);
-    }
+    for (const QString& kind : kinds_) lines.append(u"%1: %2"_s.arg(kind, FirstFew(notes_.value(kind))));
     return lines;
 }
 
@@ -37,4 +35,4 @@ void Findings::ThrowDamage() const {
     if (!damage_.isEmpty()) throw store::StoreError(firstNumber_, damage_.join(u'\n'));
 }
 
-}  // namespace tool
+}  // namespace upkeep

@@ -10,7 +10,7 @@
 //   date yyyy-mm-dd, time hh:mm:ss, number with a point, no groups and no needless zeros, yes/no True and False;
 //   null is nothing, and so is the empty text when written; read back, nothing is a null.
 // Inside a text \t, \n, \r, \0 and \\ stand for tab, line feed, carriage return, the zero character and the backslash.
-namespace delivery {
+namespace upkeep {
 
 QByteArray WriteValue(const values::Value& value);
 QByteArray WriteText(const QString& text);
@@ -21,4 +21,4 @@ values::Value ReadValue(const QByteArray& cell, store::Type type);
 // Bytes that are no UTF-8 throw StoreError 3421.
 QString DecodeUtf8(const QByteArray& bytes);
 
-}  // namespace delivery
+}  // namespace upkeep
