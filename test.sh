@@ -3,5 +3,5 @@
 set -euo pipefail
 cd "$(dirname "$0")"
 . packaging/setup.sh
-build_program
+build_all
 ctest --test-dir build/release --output-on-failure "$@"

@@ -4,8 +4,8 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . packaging/setup.sh
-install_missing
-cmake --preset release -DVELTON_BENCH=ON >/dev/null
+install_missing $program_packages $test_packages
+cmake --preset release >/dev/null
 cmake --build --preset release --target velton-bench
 export LC_ALL=C.UTF-8 QT_QPA_PLATFORM=${QT_QPA_PLATFORM:-offscreen}
 exec build/release/bin/velton-bench build/bench-data "$@"

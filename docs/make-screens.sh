@@ -4,7 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . packaging/setup.sh
-build_program velton-screens
+build_programs velton-screens
 
 pictures=$(mktemp -d)
 trap 'rm -rf "$pictures"' EXIT

@@ -2,10 +2,11 @@
 
 #include <QApplication>
 #include <QHash>
-#include <QTest>
+#include <QKeyEvent>
 #include <QWindow>
 
 #include "forms/ListView.h"
+#include "player/Input.h"
 
 using namespace Qt::StringLiterals;
 
@@ -111,12 +112,11 @@ void Send(const Stroke& stroke) {
     if (!window) {
         return Complain(u"no window takes the key %1 (%2)"_s.arg(stroke.text).arg(stroke.key));
     }
-    QTest::sendKeyEvent(QTest::Press, window, stroke.key, stroke.text, stroke.modifiers);
+    SendKey(window, true, stroke.key, stroke.text, stroke.modifiers);
     // The press may have closed the window, or opened another one: that one gets the release.
-    if (QWindow* now = FocusWindow())
-        QTest::sendKeyEvent(QTest::Release, now, stroke.key, stroke.text, stroke.modifiers);
+    if (QWindow* now = FocusWindow()) SendKey(now, false, stroke.key, stroke.text, stroke.modifiers);
     // A button that is reached by its letter stays down for a moment before it clicks.
-    if (stroke.modifiers & Qt::AltModifier) QTest::qWait(150);
+    if (stroke.modifiers & Qt::AltModifier) Wait(150);
     Settle();
 }
 
@@ -153,7 +153,7 @@ void HoldKey(Qt::Key key, int repeats) {
 
 void Click(QWidget* control, Qt::MouseButton button) {
     Settle();
-    QTest::mouseClick(control, button);
+    ClickAt(control, control->rect().center(), button);
     Settle();
 }
 
@@ -173,13 +173,13 @@ QPoint PlaceOf(forms::ListView* list, int row) {
 
 void ClickRow(forms::ListView* list, int row, Qt::MouseButton button) {
     Settle();
-    QTest::mouseClick(list->viewport(), button, {}, PlaceOf(list, row));
+    ClickAt(list->viewport(), PlaceOf(list, row), button);
     Settle();
 }
 
 void DoubleClickRow(forms::ListView* list, int row) {
     ClickRow(list, row);
-    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, PlaceOf(list, row));
+    ClickAgainAt(list->viewport(), PlaceOf(list, row));
     Settle();
 }
 

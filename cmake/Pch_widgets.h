@@ -1,6 +1,6 @@
 #pragma once
 
-#include "PchCore.h"
+#include "Pch_core.h"
 
 #include <QAction>
 #include <QApplication>
