@@ -6,7 +6,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-enum LineColumn { Code, Description, UnitPrice, Quantity, Amount, TaxPercent, TaxAmount, Unit, TaxID, ProductID };
 enum TaxColumn { RecapTaxID, RecapNothing, RecapPercent, RecapAmount, RecapTax };
 
 }  // namespace
@@ -44,14 +43,22 @@ void RebuildTaxRecap(const forms::ListView& lines, forms::ListView& recap) {
     if (joined >= 0) recap.Select(joined);
 }
 
+InvoiceText::Item ItemOf(const forms::ListView& lines, int row) {
+    InvoiceText::Item item;
+    int column = 0;
+    for (const auto text : LineTexts) item.*text = lines.Text(row, column++);
+    return item;
+}
+
+QStringList CellsOf(const InvoiceText::Item& item) {
+    QStringList cells;
+    for (const auto text : LineTexts) cells << item.*text;
+    return cells;
+}
+
 QList<InvoiceText::Item> ItemsOf(const forms::ListView& lines) {
     QList<InvoiceText::Item> items;
-    for (int row = 0; row < lines.Count(); ++row) {
-        const auto text = [&](LineColumn column) { return lines.Text(row, column); };
-        items << InvoiceText::Item{text(Code),   text(Description), text(UnitPrice), text(Quantity),
-                                   text(Amount), text(TaxPercent),  text(TaxAmount), text(Unit),
-                                   text(TaxID),  text(ProductID)};
-    }
+    for (int row = 0; row < lines.Count(); ++row) items << ItemOf(lines, row);
     return items;
 }
 

@@ -4,7 +4,7 @@
 #include "receipts/InvoiceText.h"
 
 // The two lists that show an invoice on a screen, whose texts are the figures themselves:
-//   lines   code, description, unit price, quantity, amount, tax percent, tax amount, unit, TaxID, product ID
+//   lines   as InvoiceText::Item::Column tells
 //   recap   TaxID, nothing, percent, amount, tax amount
 
 // The columns as the cashier sees them. The sale carries the product's ID and hides what only the receipt needs; the
@@ -16,5 +16,7 @@ void SetRecapColumns(forms::ListView& recap);
 // The recapitulation of all lines anew; the row that a line joined last is selected.
 void RebuildTaxRecap(const forms::ListView& lines, forms::ListView& recap);
 
+InvoiceText::Item ItemOf(const forms::ListView& lines, int row);
+QStringList CellsOf(const InvoiceText::Item& item);
 QList<InvoiceText::Item> ItemsOf(const forms::ListView& lines);
 QList<InvoiceText::Tax> TaxesOf(const forms::ListView& recap);

@@ -2,10 +2,14 @@
 
 #include <QList>
 #include <QString>
+#include <array>
 
 // What a receipt shows of an invoice, as the texts that stand on the screen: whoever prints takes it from the controls.
 struct InvoiceText {
     struct Item {
+        // The columns of a line in the lists that show it and in the layouts that print it.
+        enum Column { Code, Description, UnitPrice, Quantity, Amount, TaxPercent, TaxAmount, Unit, TaxID, ProductID };
+
         QString code;
         QString description;
         QString unitPrice;
@@ -33,3 +37,10 @@ struct InvoiceText {
     QList<Item> items;
     QList<Tax> taxes;
 };
+
+// What stands in each column of a line.
+inline constexpr std::array LineTexts{&InvoiceText::Item::code,      &InvoiceText::Item::description,
+                                      &InvoiceText::Item::unitPrice, &InvoiceText::Item::quantity,
+                                      &InvoiceText::Item::amount,    &InvoiceText::Item::taxPercent,
+                                      &InvoiceText::Item::taxAmount, &InvoiceText::Item::unit,
+                                      &InvoiceText::Item::taxID,     &InvoiceText::Item::productID};

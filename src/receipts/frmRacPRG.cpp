@@ -87,9 +87,7 @@ void frmRacPRG::ShowInvoiceLines() {
     ui.lv1->BeginFill();
     const auto end = qScopeGuard([this] { ui.lv1->EndFill(); });
     ui.lv1->Clear();
-    for (const auto& line : ReadInvoiceLines(rsInvoices_))
-        ui.lv1->Add({line.code, line.description, line.unitPrice, line.quantity, line.amount, line.taxPercent,
-                     line.taxAmount, line.unit, line.taxID});
+    for (const auto& line : ReadInvoiceLines(rsInvoices_)) ui.lv1->Add(CellsOf(line));
     RebuildTaxRecap(*ui.lv1, *ui.lvPorez);
 }
 

@@ -15,11 +15,7 @@ using values::CMoney;
 using values::Format;
 using values::Money;
 
-namespace {
-
-enum LineColumn { Code, Description, UnitPrice, Quantity, Amount, TaxPercent, TaxAmount, Unit, TaxID, ProductID };
-
-}  // namespace
+using enum InvoiceText::Item::Column;
 
 void frmORVAtouch::cmdAddItem_Click() {
     const int row = FindLine();
@@ -41,10 +37,16 @@ void frmORVAtouch::AddLine() {
     // Read before the line stands, so that a product without figures leaves no line that nobody can post.
     const Money percent = CMoney(ui.txtTaxPercent->text());
     const Money tax = CMoney(ui.txtTaxAmount->text());
-    const int row =
-        ui.lv1->Add({ui.txtProdCode->text(), ui.txtDescription->text(), Format(ui.txtUnitPrice->text(), u"0.00"),
-                     ui.txtQuantity->text(), Format(LineAmount_, u"0.00"), Format(percent, u"0.00"),
-                     Format(tax, u"0.00"), ui.txtUnit->text(), ui.txtTaxID->text(), ui.txtID->text()});
+    const int row = ui.lv1->Add(CellsOf({.code = ui.txtProdCode->text(),
+                                         .description = ui.txtDescription->text(),
+                                         .unitPrice = Format(ui.txtUnitPrice->text(), u"0.00"),
+                                         .quantity = ui.txtQuantity->text(),
+                                         .amount = Format(LineAmount_, u"0.00"),
+                                         .taxPercent = Format(percent, u"0.00"),
+                                         .taxAmount = Format(tax, u"0.00"),
+                                         .unit = ui.txtUnit->text(),
+                                         .taxID = ui.txtTaxID->text(),
+                                         .productID = ui.txtID->text()}));
     ui.lv1->BringIntoView(row);
     ui.txtPosDisplay->setText(ui.lv1->Text(row, Quantity) + u" x "_s + ui.txtDescription->text() + u"   "_s +
                               ui.lv1->Text(row, UnitPrice) + u" = "_s + ui.lv1->Text(row, Amount));

@@ -5,6 +5,7 @@
 #include "core/Settings.h"
 #include "core/dbModule.h"
 #include "core/mdiORVA.h"
+#include "receipts/InvoiceLists.h"
 #include "receipts/PrintInvoice.h"
 #include "sales/Stock.h"
 #include "sales/frmMSGinvoice.h"
@@ -76,26 +77,26 @@ void frmORVAtouch::StoreInvoice() {
 }
 
 void frmORVAtouch::StoreLine(int row, forms::LongWork& wait) {
-    const auto text = [&](int column) { return ui.lv1->Text(row, column); };
+    const InvoiceText::Item line = ItemOf(*ui.lv1, row);
     rsSalesDetails_.AddNew();
     rsSalesDetails_[u"Kas"] = 0;
     rsSalesDetails_[u"InvoiceID"] = ui.txtInvoiceNumber->text();
-    rsSalesDetails_[u"ProdCode"] = text(0);
-    rsSalesDetails_[u"ProdDescription"] = text(1);
-    rsSalesDetails_[u"UnitPrice"] = CMoney(text(2));
-    rsSalesDetails_[u"QtySold"] = CMoney(text(3));
-    TakeOffStock(text(0), CMoney(text(3)), [&](const values::Error& why) { WaitForStock(row, wait, why); });
-    rsSalesDetails_[u"Amount"] = CMoney(text(4));
-    rsSalesDetails_[u"TaxPercent"] = CMoney(text(5));
-    rsSalesDetails_[u"TaxAmount"] = CMoney(text(6));
-    rsSalesDetails_[u"Unit"] = text(7);
-    rsSalesDetails_[u"TaxID"] = text(8);
+    rsSalesDetails_[u"ProdCode"] = line.code;
+    rsSalesDetails_[u"ProdDescription"] = line.description;
+    rsSalesDetails_[u"UnitPrice"] = CMoney(line.unitPrice);
+    rsSalesDetails_[u"QtySold"] = CMoney(line.quantity);
+    TakeOffStock(line.code, CMoney(line.quantity), [&](const values::Error& why) { WaitForStock(row, wait, why); });
+    rsSalesDetails_[u"Amount"] = CMoney(line.amount);
+    rsSalesDetails_[u"TaxPercent"] = CMoney(line.taxPercent);
+    rsSalesDetails_[u"TaxAmount"] = CMoney(line.taxAmount);
+    rsSalesDetails_[u"Unit"] = line.unit;
+    rsSalesDetails_[u"TaxID"] = line.taxID;
     rsSalesDetails_.Update();
 }
 
 // A sale must not lose its stock for a lock that goes away, nor hold the cashier for an error that stays.
 void frmORVAtouch::WaitForStock(int row, forms::LongWork& wait, const values::Error& why) const {
-    const QString goods = ui.lv1->Text(row, 1);
+    const QString goods = ui.lv1->Text(row, InvoiceText::Item::Description);
     if (wait.GoesOn(u"The stock of %1 can't be written yet. %2"_s.arg(goods, why.Description()))) return;
     const QString stays =
         u"Invoice %1 is stored with %2 of its %3 lines. These stay, and so does the stock taken off."_s;
