@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <vector>
 
+#include "core/PrintField.h"
+
 // What a report is, as a table of facts: what it asks the store, what its list shows, what is summed, how it is
 // printed. ListReport and PeriodReport do the rest.
 
@@ -27,29 +29,12 @@ struct ReportSum {
     int column = 0;
 };
 
-// A field of a printed line, from a column of the list.
-struct PrintField {
-    enum class Side { Left, Right };
-    Side side = Side::Left;  // Left: justified to the left and cut; Right: to the right, and whole when it is longer
-    int width = 0;
-    int column = 0;
-    QString date = {};    // a pattern for the column's date
-    QString before = {};  // stands in the field before the text
-};
-
-inline PrintField Left(int width, int column, const QString& date = {}, const QString& before = {}) {
-    return {PrintField::Side::Left, width, column, date, before};
-}
-inline PrintField Right(int width, int column, const QString& date = {}) {
-    return {PrintField::Side::Right, width, column, date, {}};
-}
-
 struct ReportLayout {
     QStringList title;
     bool tellsTime = false;  // when it was printed, instead of an empty line
     QStringList head;
-    std::vector<std::vector<PrintField>> item;  // its lines
-    QString total = {};                         // in front of the sums; without it there is no line of totals
+    std::vector<PrintFields> item;  // its lines, from the columns of the list
+    QString total = {};             // in front of the sums; without it there is no line of totals
     QStringList foot = {};
 };
 

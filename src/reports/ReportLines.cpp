@@ -3,7 +3,6 @@
 #include "core/dbModule.h"
 #include "values/Clock.h"
 #include "values/DateText.h"
-#include "values/Format.h"
 
 using namespace Qt::StringLiterals;
 
@@ -13,13 +12,6 @@ constexpr int LineWidth = 40;
 constexpr int SumWidth = 10;
 
 const QString Rule(LineWidth, u'-');
-
-QString FieldText(const PrintField& field, const forms::ListView& list, int row) {
-    QString text = list.Text(row, field.column);
-    if (!field.date.isEmpty()) text = values::Format(text, field.date);
-    text.prepend(field.before);
-    return field.side == PrintField::Side::Left ? PadRight(field.width, text) : PadLeft(field.width, text);
-}
 
 // One sum ends its line at the right edge, several stand in columns.
 QString TotalLine(const QString& caption, const QStringList& sums) {
@@ -36,10 +28,8 @@ QString PrintedLine() {
 
 }  // namespace
 
-QString ItemLine(const std::vector<PrintField>& fields, const forms::ListView& list, int row) {
-    QString line;
-    for (const PrintField& field : fields) line += FieldText(field, list, row);
-    return line;
+QString ItemLine(const PrintFields& fields, const forms::ListView& list, int row) {
+    return FilledLine(fields, [&list, row](int column) { return list.Text(row, column); });
 }
 
 QStringList ReportLines(const ReportLayout& layout, const QString& period, const forms::ListView& list,

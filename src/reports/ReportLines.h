@@ -9,4 +9,4 @@ QStringList ReportLines(const ReportLayout& layout, const QString& period, const
                         const QStringList& sums);
 
 // One line of an item, from a row of the list.
-QString ItemLine(const std::vector<PrintField>& fields, const forms::ListView& list, int row);
+QString ItemLine(const PrintFields& fields, const forms::ListView& list, int row);

@@ -26,7 +26,7 @@ constexpr int NumberWidth = 5;
 const auto Title = u"                         Product list - List of goods           date:"_s;
 const auto Head = u"No Product name                     ID-BarcodeUnit  PRICE  Quantity     Amount"_s;
 const QString Rule(LineWidth, u'-');
-const std::vector<PrintField> Item{Left(30, 1), Left(14, 0), Right(3, 2), Right(7, 4), Right(8, 3), Right(11, 5)};
+const PrintFields Item{Left(30, 1), Left(14, 0), Right(3, 2), Right(7, 4), Right(8, 3), Right(11, 5)};
 
 const ReportFacts Facts{
     .name = u"frmPopisRobe"_s,

@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "core/PrintField.h"
 #include "forms/Form.h"
 #include "store/Recordset.h"
 #include "ui_frmTrenutnoStanjeKasa.h"
@@ -47,7 +48,7 @@ private:
     void PrintRegisterList();
     void PrintCashierList();
     void PrintProductList();
-    void PrintList(const QString& columnHead, const std::function<QString(int row)>& line);
+    void PrintList(const QString& columnHead, const PrintFields& item);
 
     Ui::frmTrenutnoStanjeKasa ui;
     store::Recordset rsList_;

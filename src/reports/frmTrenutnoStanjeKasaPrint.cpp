@@ -2,7 +2,7 @@
 
 #include "core/dbModule.h"
 #include "reports/ReportFile.h"
-#include "values/Format.h"
+#include "reports/ReportLines.h"
 
 using namespace Qt::StringLiterals;
 
@@ -56,31 +56,25 @@ void frmTrenutnoStanjeKasa::PrintListOfTab(int tab) {
 }
 
 void frmTrenutnoStanjeKasa::PrintRegisterList() {
-    PrintList(u"CRNo   Date   TimeFrom            Amount"_s, [this](int row) {
-        return PadRight(6, ui.lv1->Text(row)) + PadRight(9, values::Format(ui.lv1->Text(row, 1), u"dd.mm.yy")) +
-               PadRight(9, ui.lv1->Text(row, 2)) + PadRight(8, ui.lv1->Text(row, 3)) + PadLeft(7, ui.lv1->Text(row, 4));
-    });
+    PrintList(u"CRNo   Date   TimeFrom            Amount"_s,
+              {Left(6, 0), Left(9, 1, u"dd.mm.yy"_s), Left(9, 2), Left(8, 3), Right(7, 4)});
 }
 
 void frmTrenutnoStanjeKasa::PrintCashierList() {
-    PrintList(u"CId Cashier                       Amount"_s, [this](int row) {
-        return PadRight(4, ui.lv1->Text(row)) + PadRight(16, ui.lv1->Text(row, 1)) + PadLeft(20, ui.lv1->Text(row, 4));
-    });
+    PrintList(u"CId Cashier                       Amount"_s, {Left(4, 0), Left(16, 1), Right(20, 4)});
 }
 
 void frmTrenutnoStanjeKasa::PrintProductList() {
-    PrintList(u"Id  ProductName          Unit Qua Amount"_s, [this](int row) {
-        return PadRight(4, ui.lv1->Text(row)) + PadRight(23, ui.lv1->Text(row, 1)) + PadLeft(3, ui.lv1->Text(row, 2)) +
-               PadLeft(3, ui.lv1->Text(row, 3)) + PadLeft(7, ui.lv1->Text(row, 4));
-    });
+    PrintList(u"Id  ProductName          Unit Qua Amount"_s,
+              {Left(4, 0), Left(23, 1), Right(3, 2), Right(3, 3), Right(7, 4)});
 }
 
-void frmTrenutnoStanjeKasa::PrintList(const QString& columnHead, const std::function<QString(int row)>& line) {
+void frmTrenutnoStanjeKasa::PrintList(const QString& columnHead, const PrintFields& item) {
     PrintLine(ui.lblTab->text());
     PrintLine(Rule);
     PrintLine(columnHead);
     PrintLine(Rule);
-    for (int row = 0; row < ui.lv1->Count(); ++row) PrintLine(line(row));
+    for (int row = 0; row < ui.lv1->Count(); ++row) PrintLine(ItemLine(item, *ui.lv1, row));
     PrintLine(Rule);
     PrintLine(PadLeft(LineWidth, u"TOTAL: "_s + ui.txtTotalAmount->text()));
 }
