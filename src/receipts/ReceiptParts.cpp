@@ -18,17 +18,43 @@ using values::Money;
 
 namespace {
 
-constexpr double ShopNameFontSize = 20;
+constexpr int DivisionByZero = 11;
+constexpr double NumberFontSize = 16;
 
 QString DateAndTime() {
     const QDateTime now = values::Now();
     return Format(now.date(), u"dd.mm.yyyy") % u"  "_s % Format(now.time(), u"hh:mm:ss");
 }
 
-QString TotalsRule() {
-    if (TheSettings.TipRacuna == u"7") return QString(32, u'-');
-    if (TheSettings.TipRacuna == u"5") return QString(80, u'_');
-    return QString(40, u'-');
+void PrintA4DateBlock(const QString& OutputMode, const QString& label, const QString& orNo) {
+    const QString date = Format(values::Today(), u"dd.mm.yyyy");
+    PrintToChannel(OutputMode, u"Date of issue:"_s + date);
+    PrintToChannel(OutputMode, u"Delivery date :"_s + date);
+    output::ThePagePrinter().SetFontSize(NumberFontSize);
+    PrintToChannel(OutputMode, u" "_s);
+    PrintToChannel(OutputMode, label + orNo);
+    output::ThePagePrinter().SetFontSize(PageFontSize());
+    PrintToChannel(OutputMode, u" "_s);
+}
+
+// Price / (1 + percent / 100): both sides are rounded to money, the quotient is a double.
+QString WithoutTax(const InvoiceText::Item& item) {
+    const Money divisor = Money::FromDouble(1 + values::CDouble(item.taxPercent) / 100);
+    if (divisor == Money()) throw values::Error(DivisionByZero, u"Division by zero."_s);
+    return Format(CMoney(item.unitPrice).ToDouble() / divisor.ToDouble(), u"0.00");
+}
+
+QString ItemText(const InvoiceText::Item& item, int row, int column) {
+    switch (column) {
+        case RowNumber:
+            return QString::number(row);
+        case PriceWithoutTax:
+            return WithoutTax(item);
+        case AmountWithoutTax:
+            return Format(CMoney(item.amount) - CMoney(item.taxAmount), u"0.00");
+        default:
+            return item.*LineTexts.at(static_cast<size_t>(column));
+    }
 }
 
 bool IsCashierPrinted() {
@@ -39,11 +65,10 @@ bool IsCashierPrinted() {
 
 }  // namespace
 
-void PrintInvoiceHeading(const QString& OutputMode, const InvoiceText& invoice) {
-    const bool isA4 = TheSettings.TipRacuna == u"5";
-    if (isA4) output::ThePagePrinter().SetFontSize(ShopNameFontSize);
+void PrintInvoiceHeading(const QString& OutputMode, const ReceiptLayout& layout, const InvoiceText& invoice) {
+    if (layout.nameSize > 0) output::ThePagePrinter().SetFontSize(layout.nameSize);
     PrintToChannel(OutputMode, TheSettings.NazivFirme);
-    if (isA4) output::ThePagePrinter().SetFontSize(PageFontSize());
+    if (layout.nameSize > 0) output::ThePagePrinter().SetFontSize(PageFontSize());
     PrintShopLines(OutputMode);
     if (invoice.customer.isEmpty()) return;
     PrintToChannel(OutputMode, u"Custumer:"_s + invoice.customer);
@@ -58,24 +83,33 @@ void PrintShopLines(const QString& OutputMode) {
     PrintToChannel(OutputMode, {});
 }
 
-void PrintNumberLine(const QString& OutputMode, const QString& label, const QString& orNo) {
-    PrintToChannel(OutputMode, label % orNo % u"    "_s % DateAndTime());
-}
-
-void PrintDateAndNumberLines(const QString& OutputMode, const QString& label, const QString& orNo) {
+void PrintDateBlock(const QString& OutputMode, DateBlock block, const QString& label, const QString& orNo) {
+    if (block == DateBlock::A4) return PrintA4DateBlock(OutputMode, label, orNo);
+    if (block == DateBlock::OneLine) return PrintToChannel(OutputMode, label % orNo % u"    "_s % DateAndTime());
     PrintToChannel(OutputMode, u"Date:"_s + DateAndTime());
     PrintToChannel(OutputMode, label + orNo);
 }
 
-void PrintInvoiceTotals(const QString& OutputMode, const InvoiceText& invoice) {
-    const QString rule = TotalsRule();
+void PrintItems(const QString& OutputMode, const ReceiptLayout& layout, const InvoiceText& invoice) {
+    if (layout.item.empty()) return;
+    const QString rule(layout.width, layout.rule);
+    for (const QString& line : QStringList{rule} + layout.head + QStringList{rule}) PrintToChannel(OutputMode, line);
+    int row = 0;
+    for (const auto& item : invoice.items) {
+        ++row;
+        const auto text = [&item, row](int column) { return ItemText(item, row, column); };
+        for (const PrintFields& fields : layout.item) PrintToChannel(OutputMode, FilledLine(fields, text));
+    }
+}
+
+void PrintInvoiceTotals(const QString& OutputMode, const ReceiptLayout& layout, const InvoiceText& invoice) {
     const qint32 figureWidth = output::Columns(invoice.total);
-    const qint32 labelWidth = output::Columns(rule) - figureWidth;
+    const qint32 labelWidth = layout.totalsWidth - figureWidth;
     const auto printTotal = [&](const QString& label, const QString& figure) {
         PrintToChannel(OutputMode,
                        PadLeft(labelWidth, label % TheSettings.Currency % u": "_s) % PadLeft(figureWidth, figure));
     };
-    PrintToChannel(OutputMode, rule);
+    PrintToChannel(OutputMode, QString(layout.totalsWidth, layout.rule));
     printTotal(u"Subtotal......"_s, Format(CMoney(invoice.total) - CMoney(invoice.taxTotal), u"0.00"));
     printTotal(u"Tax..........."_s, invoice.taxTotal);
     printTotal(u"TOTAL........."_s, invoice.total);
@@ -90,8 +124,8 @@ void PrintTaxRecapitulation(const QString& OutputMode, const InvoiceText& invoic
         PrintToChannel(OutputMode, PadLeft(5, tax.percent) % u"% "_s % PadLeft(8, tax.taxAmount));
         sum += CMoney(tax.taxAmount);
     }
-    PrintToChannel(OutputMode, QString(15, u'-'));
-    PrintToChannel(OutputMode, PadLeft(15, u" TOTAL:"_s + Format(sum, u"0.00")));
+    PrintToChannel(OutputMode, QString(RecapWidth, u'-'));
+    PrintToChannel(OutputMode, PadLeft(RecapWidth, u" TOTAL:"_s + Format(sum, u"0.00")));
 }
 
 void PrintTaxRecapitulationIfWanted(const QString& OutputMode, const InvoiceText& invoice) {

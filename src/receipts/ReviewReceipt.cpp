@@ -5,7 +5,6 @@
 #include "output/Channel.h"
 #include "output/Folder.h"
 #include "receipts/InvoiceOutput.h"
-#include "receipts/ItemLayouts.h"
 #include "receipts/ReceiptParts.h"
 
 using namespace Qt::StringLiterals;
@@ -25,17 +24,16 @@ void PrintReviewHeading(const QString& OutputMode) {
     PrintShopLines(OutputMode);
 }
 
-void PrintReviewDateBlock(const QString& OutputMode, const QString& label, const QString& orNo) {
-    const bool isNarrow = TheSettings.TipRacuna == u"6" || TheSettings.TipRacuna == u"7";
-    if (isNarrow) return PrintDateAndNumberLines(OutputMode, OwnLineLabel, orNo);
-    PrintNumberLine(OutputMode, label, orNo);
+void PrintReviewDateBlock(const QString& OutputMode, DateBlock block, const QString& label, const QString& orNo) {
+    PrintDateBlock(OutputMode, block, block == DateBlock::OneLine ? label : OwnLineLabel, orNo);
 }
 
 void PrintReviewText(const QString& OutputMode, const QString& label, const InvoiceText& invoice) {
+    const ReceiptLayout& layout = ChosenLayout();
     PrintReviewHeading(OutputMode);
-    PrintReviewDateBlock(OutputMode, label, invoice.orNo);
-    if (TheSettings.TipRacuna != u"5") PrintItems(OutputMode, invoice);
-    PrintInvoiceTotals(OutputMode, invoice);
+    PrintReviewDateBlock(OutputMode, layout.reviewDate, label, invoice.orNo);
+    if (layout.isReviewed) PrintItems(OutputMode, layout, invoice);
+    PrintInvoiceTotals(OutputMode, layout, invoice);
     PrintTaxRecapitulationIfWanted(OutputMode, invoice);
     PrintInvoiceFooter(OutputMode, invoice);
 }

@@ -3,7 +3,9 @@
 
 #include "ReceiptCase.h"
 #include "core/Settings.h"
+#include "output/CodePage.h"
 #include "receipts/PrintInvoice.h"
+#include "receipts/ReceiptLayout.h"
 
 using namespace Qt::StringLiterals;
 
@@ -36,6 +38,15 @@ std::vector<std::string> CaseNames() {
 INSTANTIATE_TEST_SUITE_P(Cases, ReceiptTest, testing::ValuesIn(CaseNames()), [](const auto& info) {
     return QString::fromStdString(info.param).replace(u'-', u'_').toStdString();
 });
+
+// Whatever stands in the table, or is put in its place in another language.
+TEST(ReceiptLayouts, FillTheWidthOfTheirPaper) {
+    for (const ReceiptLayout& layout : ReceiptLayouts()) {
+        SCOPED_TRACE(layout.tipRacuna.toStdString());
+        for (const QString& line : layout.head) EXPECT_EQ(output::Columns(line), layout.width);
+        for (const PrintFields& line : layout.item) EXPECT_EQ(WidthOf(line), layout.width);
+    }
+}
 
 class TwoReceipts : public ReceiptFixture {};
 
