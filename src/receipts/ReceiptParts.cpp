@@ -10,6 +10,7 @@
 #include "values/Clock.h"
 #include "values/Format.h"
 #include "values/Numbers.h"
+#include "values/Tax.h"
 
 using namespace Qt::StringLiterals;
 using values::CMoney;
@@ -18,7 +19,6 @@ using values::Money;
 
 namespace {
 
-constexpr int DivisionByZero = 11;
 constexpr double NumberFontSize = 16;
 
 QString DateAndTime() {
@@ -37,19 +37,12 @@ void PrintA4DateBlock(const QString& OutputMode, const QString& label, const QSt
     PrintToChannel(OutputMode, u" "_s);
 }
 
-// Price / (1 + percent / 100): both sides are rounded to money, the quotient is a double.
-QString WithoutTax(const InvoiceText::Item& item) {
-    const Money divisor = Money::FromDouble(1 + values::CDouble(item.taxPercent) / 100);
-    if (divisor == Money()) throw values::Error(DivisionByZero, u"Division by zero."_s);
-    return Format(CMoney(item.unitPrice).ToDouble() / divisor.ToDouble(), u"0.00");
-}
-
 QString ItemText(const InvoiceText::Item& item, int row, int column) {
     switch (column) {
         case RowNumber:
             return QString::number(row);
         case PriceWithoutTax:
-            return WithoutTax(item);
+            return Format(values::PriceWithoutTax(CMoney(item.unitPrice), values::CDouble(item.taxPercent)), u"0.00");
         case AmountWithoutTax:
             return Format(CMoney(item.amount) - CMoney(item.taxAmount), u"0.00");
         default:

@@ -9,6 +9,7 @@ namespace values {
 
 // Numbers of the errors that values themselves raise; those of the store stand in store/StoreError.h.
 constexpr int Overflow = 6;
+constexpr int DivisionByZero = 11;
 constexpr int TypeMismatch = 13;
 constexpr int InvalidUseOfNull = 94;
 

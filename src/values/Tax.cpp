@@ -1,9 +1,17 @@
 #include "values/Tax.h"
 
+#include "values/Error.h"
+
 namespace values {
 
 Money ContainedTax(Money price, double percent) {
     return price - Money::FromDouble(price.ToDouble() / (1 + percent / 100));
+}
+
+double PriceWithoutTax(Money price, double percent) {
+    const Money divisor = Money::FromDouble(1 + percent / 100);
+    if (divisor == Money()) throw Error(DivisionByZero, QStringLiteral("Division by zero."));
+    return price.ToDouble() / divisor.ToDouble();
 }
 
 }  // namespace values

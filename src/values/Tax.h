@@ -8,4 +8,7 @@ namespace values {
 // the subtraction.
 Money ContainedTax(Money price, double percent);
 
+// The price less its tax: the quotient of both as money, in double precision. Error 11 at minus 100 percent.
+double PriceWithoutTax(Money price, double percent);
+
 }  // namespace values

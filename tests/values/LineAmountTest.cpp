@@ -61,7 +61,9 @@ TEST(LineAmount, ContainsItsTax) {
         SCOPED_TRACE(std::string(amount) + " at " + percent);
         EXPECT_EQ(Utf8(Format(ContainedTax(M(amount), CDouble(Text(percent))), u"0.00")), tax);
         EXPECT_EQ(Utf8(Shown(MergeLines(M("1"), Money(), CDouble(Text(amount)), CDouble(Text(percent))).tax)), tax);
+        EXPECT_EQ(Shown(PriceWithoutTax(M(amount), CDouble(Text(percent)))), Format(M(amount) - M(tax), u"0.00"));
     }
+    EXPECT_EQ(Shown(PriceWithoutTax(M("1000"), 5.555)), u"947.33") << "and not .37: 1.05555 is money too, 1.0556";
 }
 
 TEST(LineAmount, QuantitiesAreCutToThreeDecimalsByFloor) {
