@@ -9,20 +9,15 @@
 #include "forms/Controls.h"
 #include "forms/MsgBox.h"
 #include "masterdata/frmViewer.h"
-#include "store/CaseFold.h"
 #include "values/Format.h"
 #include "values/Numbers.h"
-#include "values/Tax.h"
 
 using namespace Qt::StringLiterals;
-using values::CDouble;
 using values::CMoney;
 using values::Format;
-using values::Money;
 
 namespace {
 
-const auto ProductQuery = u"SELECT * FROM Products WHERE ProdCode = '%1'"_s;
 const auto CompositionQuery = u"SELECT * FROM ProductsCon WHERE SIF = '%1'"_s;
 
 const auto UnknownProduct = u"Product with this code-barcode does not exist."_s;
@@ -34,6 +29,7 @@ constexpr int NoObject = 91;
 
 frmSastav::frmSastav() {
     ui.setupUi(this);
+    boxes_ = LineBoxes(ui);
     ui.lv1->SetColumns({{u"ProductID"_s, Qt::AlignLeft, 150},
                         {u"ProductName"_s, Qt::AlignLeft, -1},
                         {u"Quantity"_s, Qt::AlignRight, 100},
@@ -65,7 +61,7 @@ void frmSastav::Form_Load() {
     forms::Form* editor = forms::FindForm(u"frmEditProduct");
     if (!editor) throw values::Error(NoObject, u"A composition is opened from the screen of its product."_s);
     code_ = forms::TextOf(forms::Control(editor, u"txtProdCode"));
-    auto product = MainStore().OpenRecordset(ProductQuery.arg(code_));
+    auto product = LineBoxes::Find(code_);
     rsComposition_ = MainStore().OpenRecordset(CompositionQuery.arg(code_));
     ui.lblSifra->setText(product[u"ProdCode"].TextOrEmpty());
     ui.lblDescription->setText(product[u"ProdDescription"].TextOrEmpty());
@@ -79,7 +75,7 @@ void frmSastav::Form_Load() {
 void frmSastav::LoadComposition() {
     ui.lv1->Clear();
     for (auto& part : rsComposition_) {
-        auto product = MainStore().OpenRecordset(ProductQuery.arg(part[u"CONsif"].TextOrEmpty()));
+        auto product = LineBoxes::Find(part[u"CONsif"].TextOrEmpty());
         ui.lv1->Add({product[u"ProdCode"].TextOrEmpty(), product[u"ProdDescription"].TextOrEmpty(),
                      Format(part[u"ConSIFQty"], u"0.000"), product[u"Unit"].TextOrEmpty(),
                      Format(product[u"UnitPrice"], u"0.00")});
@@ -92,42 +88,25 @@ void frmSastav::KeepARowSelected() {
 }
 
 void frmSastav::UpdateAddButton() {
-    ui.cmdAddItem->setEnabled(!ui.txtProdCode->text().isEmpty() && !ui.txtQuantity->text().isEmpty() &&
-                              !ui.txtDescription->text().isEmpty());
+    boxes_.ToggleAddButton();
 }
 
 // A query text that a typed character breaks is passed over: the boxes keep what they had.
 void frmSastav::txtProdCode_Change() {
     UpdateAddButton();
-    const QString code = ui.txtProdCode->text();
-    if (code.isEmpty()) return EmptyComponent();
     try {
-        LookUpComponent(code);
+        if (boxes_.LookUp()) SetOne();
     } catch (const values::Error&) {
     }
 }
 
-void frmSastav::LookUpComponent(const QString& code) {
-    auto product = MainStore().OpenRecordset(ProductQuery.arg(code));
-    if (product.AtEOF()) return EmptyComponent();
-    ui.txtSupply->setText(product[u"Qty"].TextOrEmpty());
-    ui.txtDescription->setText(product[u"ProdDescription"].TextOrEmpty());
-    ui.txtTaxPercent->setText(Format(product[u"TaxPercent"], u"0.00"));
-    ui.txtUnitPrice->setText(Format(product[u"UnitPrice"], u"0.00"));
-    ui.txtUnit->setText(product[u"Unit"].TextOrEmpty());
-    ui.txtTaxID->setText(product[u"TaxID"].TextOrEmpty());
+// Its errors belong to the lookup, and must not be reported.
+void frmSastav::SetOne() {
     {
-        // Its errors belong to the lookup, and must not be reported.
         const QSignalBlocker quiet(ui.txtQuantity);
         ui.txtQuantity->setText(u"1"_s);
     }
     txtQuantity_Change();
-}
-
-void frmSastav::EmptyComponent() {
-    for (QLineEdit* box : {ui.txtSupply, ui.txtDescription, ui.txtTaxPercent, ui.txtUnitPrice, ui.txtPrice,
-                           ui.txtTaxAmount, ui.txtTaxID, ui.txtUnit, ui.txtQuantity})
-        box->clear();
 }
 
 void frmSastav::CheckComponentCode() {
@@ -139,23 +118,9 @@ void frmSastav::CheckComponentCode() {
 
 void frmSastav::txtQuantity_Change() {
     UpdateAddButton();
-    if (ui.txtProdCode->text().isEmpty() || ui.txtQuantity->text().isEmpty() || ui.txtDescription->text().isEmpty()) {
-        ui.txtQuantity->clear();
-        ui.txtProdCode->setFocus();
-        return;
-    }
-    if (!values::IsNumeric(ui.txtQuantity->text())) {
-        ui.txtQuantity->clear();
-        ui.txtQuantity->setFocus();
-        return;
-    }
-    ShowAmountAndTax();
-}
-
-void frmSastav::ShowAmountAndTax() {
-    ui.txtPrice->setText(Format(CMoney(ui.txtQuantity->text()) * CMoney(ui.txtUnitPrice->text()), u"0.00"));
-    const Money tax = values::ContainedTax(CMoney(ui.txtPrice->text()), CDouble(ui.txtTaxPercent->text()));
-    ui.txtTaxAmount->setText(Format(tax, u"0.00"));
+    if (!boxes_.HasQuantity()) return;
+    boxes_.ShowAmount();
+    boxes_.ShowTax();
 }
 
 void frmSastav::txtQuantity_Enter() {
@@ -165,20 +130,13 @@ void frmSastav::txtQuantity_Enter() {
 }
 
 void frmSastav::cmdAddItem_Click() {
-    if (FindComponent(ui.txtProdCode->text()) >= 0) return;
+    if (boxes_.RowIn(*ui.lv1) >= 0) return;
     const int row =
         ui.lv1->Add({ui.txtProdCode->text(), ui.txtDescription->text(), Format(ui.txtQuantity->text(), u"0.000"),
                      ui.txtUnit->text(), Format(ui.txtPrice->text(), u"0.00")});
     ui.lv1->BringIntoView(row);
     KeepARowSelected();
-    for (QLineEdit* box : {ui.txtProdCode, ui.txtTaxPercent, ui.txtQuantity}) box->clear();
-    ui.txtProdCode->setFocus();
-}
-
-int frmSastav::FindComponent(const QString& code) const {
-    for (int row = 0; row < ui.lv1->Count(); ++row)
-        if (store::SameText(ui.lv1->Text(row), code)) return row;
-    return -1;
+    boxes_.StartAnew();
 }
 
 void frmSastav::cmdF2izaberi_Click() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "masterdata/LineBoxes.h"
 #include "store/Recordset.h"
 #include "support/OfficeForm.h"
 #include "ui_frmSastav.h"
@@ -30,16 +31,13 @@ private:
     void LoadComposition();
     void DeleteCompositionRows();
     void StoreComposition();
-    void LookUpComponent(const QString& code);
-    void EmptyComponent();
-    void ShowAmountAndTax();
+    void SetOne();
     void UpdateAddButton();
-    // The row of a component, however its code is written; -1 when it is not in the recipe.
-    int FindComponent(const QString& code) const;
     // A list with rows has one selected, so that its keys have something to act on.
     void KeepARowSelected();
 
     Ui::frmSastav ui;
+    LineBoxes boxes_;
     QString code_;  // of the composite
     store::Recordset rsComposition_;
 };

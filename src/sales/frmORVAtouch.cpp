@@ -38,6 +38,7 @@ const auto RunningTotalPattern = u"###,###,##0.00"_s;
 
 frmORVAtouch::frmORVAtouch() {
     ui.setupUi(this);
+    boxes_ = LineBoxes(ui);
     SetLineColumns(*ui.lv1, LinesOf::Sale);
     SetRecapColumns(*ui.lvPorez);
 

@@ -2,6 +2,7 @@
 
 #include "forms/Form.h"
 #include "forms/LongWork.h"
+#include "masterdata/LineBoxes.h"
 #include "receipts/InvoiceText.h"
 #include "store/Recordset.h"
 #include "ui_frmORVAtouch.h"
@@ -55,11 +56,8 @@ private:
     void txtQuantity_Enter();
     void txtDescription_Change();
     void cmdF2izaberi_Click();
-    bool FindProduct(const QString& code);
-    void ShowProduct();
     void SetQuantity(const QString& text);
     void ShowAnew(const QString& code);
-    void EmptyProduct();
     void ToggleAddButton();
     void CheckProductFound();
     void LimitQuantity();
@@ -68,10 +66,8 @@ private:
 
     // The lines of the invoice (frmORVAtouchLines.cpp).
     void cmdAddItem_Click();
-    int FindLine() const;
     void AddLine();
     void MergeInto(int row);
-    void NextEntry();
     void RecomputeInvoice();
     void DeleteLine();
     void ChangeLineQuantity();
@@ -85,6 +81,7 @@ private:
     InvoiceText TakeInvoiceText() const;
 
     Ui::frmORVAtouch ui;
+    LineBoxes boxes_;
 
     qint32 RacunBroj_ = 0;
     qint16 SalesPeriodID_ = 0;
@@ -95,7 +92,6 @@ private:
     store::Recordset rsSalesDetails_;
     store::Recordset rsInvoices_;
     store::Recordset rsSales_;
-    store::Recordset rsProduct_;
     double LineAmount_ = 0;
     double TotalAmountValue_ = 0;
     double TaxTotalValue_ = 0;

@@ -2,26 +2,19 @@
 
 #include "core/Session.h"
 #include "core/Settings.h"
-#include "core/dbModule.h"
 #include "core/mdiORVA.h"
 #include "forms/Controls.h"
 #include "forms/MsgBox.h"
 #include "masterdata/frmArtikli.h"
 #include "sales/frmORVAtouch.h"
-#include "values/Format.h"
 #include "values/LineAmount.h"
 #include "values/Numbers.h"
-#include "values/Tax.h"
 
 using namespace Qt::StringLiterals;
 using values::CDouble;
 using values::CMoney;
-using values::Format;
-using values::Money;
 
 namespace {
-
-const auto ProductQuery = u"SELECT * FROM Products WHERE ProdCode = '%1'"_s;
 
 const auto UnknownProduct = u"Product with this ID-barcode does not exist."_s;
 // Printed on a card at the till: posts the invoice without touching the keyboard.
@@ -29,22 +22,6 @@ const auto PostingBarcode = u"9999999999994"_s;
 const auto Pieces = u"pcs"_s;
 
 }  // namespace
-
-bool frmORVAtouch::FindProduct(const QString& code) {
-    rsProduct_ = MainStore().OpenRecordset(ProductQuery.arg(code));
-    return !rsProduct_.AtEOF();
-}
-
-void frmORVAtouch::ShowProduct() {
-    ui.txtID->setText(rsProduct_[u"ID"].TextOrEmpty());
-    ui.txtSupply->setText(rsProduct_[u"Qty"].TextOrEmpty());
-    ui.txtDescription->setText(rsProduct_[u"ProdDescription"].TextOrEmpty());
-    ui.txtTaxPercent->setText(Format(rsProduct_[u"TaxPercent"], u"0.00"));
-    ui.txtUnitPrice->setText(Format(rsProduct_[u"UnitPrice"], u"0.00"));
-    ui.txtUnit->setText(rsProduct_[u"Unit"].TextOrEmpty());
-    ui.txtTaxID->setText(rsProduct_[u"TaxID"].TextOrEmpty());
-    SetQuantity(u"1"_s);
-}
 
 // Amount and tax follow from the price and the rate that stand there now, also when the quantity stays what it was.
 void frmORVAtouch::SetQuantity(const QString& text) {
@@ -58,27 +35,15 @@ void frmORVAtouch::ShowAnew(const QString& code) {
     ui.txtProdCode->setText(code);
 }
 
-void frmORVAtouch::EmptyProduct() {
-    for (QLineEdit* box : {ui.txtID, ui.txtSupply, ui.txtDescription, ui.txtTaxPercent, ui.txtUnitPrice, ui.txtPrice,
-                           ui.txtTaxAmount, ui.txtTaxID, ui.txtUnit, ui.txtQuantity})
-        box->clear();
-}
-
 void frmORVAtouch::ToggleAddButton() {
-    ui.cmdAddItem->setEnabled(!ui.txtProdCode->text().isEmpty() && !ui.txtQuantity->text().isEmpty() &&
-                              !ui.txtDescription->text().isEmpty());
+    boxes_.ToggleAddButton();
 }
 
 // A query text that a typed character breaks is passed over: the fields keep what they had.
 void frmORVAtouch::txtProdCode_Change() {
     ToggleAddButton();
-    const QString code = ui.txtProdCode->text();
-    if (code.isEmpty()) return EmptyProduct();
     try {
-        if (FindProduct(code))
-            ShowProduct();
-        else
-            EmptyProduct();
+        if (boxes_.LookUp()) SetQuantity(u"1"_s);
     } catch (const values::Error&) {
     }
 }
@@ -101,13 +66,15 @@ void frmORVAtouch::txtProdCode_Enter() {
         return cmdNew_Click();
     }
     if (code.isEmpty()) return;
-    if (!FindProduct(code)) {
+    auto product = LineBoxes::Find(code);
+    if (product.AtEOF()) {
         forms::Inform(UnknownProduct, u"Product with this ID-barcode does not exist"_s);
         ui.txtProdCode->setFocus();
         forms::SelectAll(ui.txtProdCode);
         return;
     }
-    ShowProduct();
+    boxes_.Show(product);
+    SetQuantity(u"1"_s);
     if (ui.txtUnit->text() == Pieces) return cmdAddItem_Click();
     ui.txtQuantity->setCursorPosition(0);
     ui.txtQuantity->setFocus();
@@ -125,17 +92,8 @@ void frmORVAtouch::txtQuantity_Enter() {
 
 void frmORVAtouch::txtQuantity_Change() {
     ToggleAddButton();
-    if (ui.txtProdCode->text().isEmpty() || ui.txtQuantity->text().isEmpty() || ui.txtDescription->text().isEmpty()) {
-        ui.txtQuantity->clear();
-        ui.txtProdCode->setFocus();
-        return;
-    }
-    if (!values::IsNumeric(ui.txtQuantity->text())) {
-        if (ui.txtQuantity->text() == u"-") return;  // a negative number is being typed
-        ui.txtQuantity->clear();
-        ui.txtQuantity->setFocus();
-        return;
-    }
+    if (boxes_.IsComplete() && ui.txtQuantity->text() == u"-") return;  // a negative number is being typed
+    if (!boxes_.HasQuantity()) return;
     // An error in one of these steps does not keep the next from running.
     for (auto step : {&frmORVAtouch::LimitQuantity, &frmORVAtouch::ShowAmount, &frmORVAtouch::ShowTax}) {
         try {
@@ -160,12 +118,11 @@ void frmORVAtouch::LimitQuantity() {
 }
 
 void frmORVAtouch::ShowAmount() {
-    ui.txtPrice->setText(Format(CMoney(ui.txtQuantity->text()) * CMoney(ui.txtUnitPrice->text()), u"0.00"));
+    boxes_.ShowAmount();
 }
 
 void frmORVAtouch::ShowTax() {
-    const Money tax = values::ContainedTax(CMoney(ui.txtPrice->text()), CDouble(ui.txtTaxPercent->text()));
-    ui.txtTaxAmount->setText(Format(tax, u"0.00"));
+    boxes_.ShowTax();
 }
 
 void frmORVAtouch::cmdF2izaberi_Click() {

@@ -4,7 +4,6 @@
 #include "forms/Controls.h"
 #include "receipts/InvoiceLists.h"
 #include "sales/frmORVAtouch.h"
-#include "store/CaseFold.h"
 #include "values/Format.h"
 #include "values/LineAmount.h"
 #include "values/Numbers.h"
@@ -18,18 +17,11 @@ using values::Money;
 using enum InvoiceText::Item::Column;
 
 void frmORVAtouch::cmdAddItem_Click() {
-    const int row = FindLine();
+    const int row = boxes_.RowIn(*ui.lv1);
     if (row < 0)
         AddLine();
     else
         MergeInto(row);
-}
-
-// One product has one line, however its code was typed: the store does not tell cases apart either.
-int frmORVAtouch::FindLine() const {
-    for (int row = 0; row < ui.lv1->Count(); ++row)
-        if (store::SameText(ui.lv1->Text(row, Code), ui.txtProdCode->text())) return row;
-    return -1;
 }
 
 void frmORVAtouch::AddLine() {
@@ -50,7 +42,7 @@ void frmORVAtouch::AddLine() {
     ui.lv1->BringIntoView(row);
     ui.txtPosDisplay->setText(ui.lv1->Text(row, Quantity) + u" x "_s + ui.txtDescription->text() + u"   "_s +
                               ui.lv1->Text(row, UnitPrice) + u" = "_s + ui.lv1->Text(row, Amount));
-    NextEntry();
+    boxes_.StartAnew();
     RecomputeInvoice();
 }
 
@@ -67,15 +59,8 @@ void frmORVAtouch::MergeInto(int row) {
     ui.lv1->SetText(row, TaxAmount, Format(merged.tax, u"0.00"));
     ui.txtPosDisplay->setText(ui.lv1->Text(row, Quantity) + u" x "_s + ui.txtDescription->text() + u"   "_s +
                               ui.txtUnitPrice->text() + u" = "_s + ui.lv1->Text(row, Amount));
-    NextEntry();
+    boxes_.StartAnew();
     RecomputeInvoice();
-}
-
-void frmORVAtouch::NextEntry() {
-    ui.txtProdCode->clear();
-    ui.txtTaxPercent->clear();
-    ui.txtQuantity->clear();
-    ui.txtProdCode->setFocus();
 }
 
 // The totals are sums of the rounded texts of the lines; nothing is rounded on the invoice as a whole.
