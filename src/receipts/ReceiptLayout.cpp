@@ -16,56 +16,71 @@ const PrintFields WideFigures{Right(8, UnitPrice),  Blank,          Right(7, Qua
                               Right(5, TaxPercent), Words(u"% "_s), Right(7, TaxAmount), Blank,
                               Right(8, Amount)};
 
-const ReceiptLayout Layouts[]{
-    {.tipRacuna = u"1"_s,
-     .head = {u"ProductID  Product description          "_s, u"   Price Quantit TaxRat     TAX   Amount"_s},
-     .item = {{Whole(Code), Blank, FillTo(40, Description)}, WideFigures}},
-    {.tipRacuna = u"2"_s,
-     .head = {u"Product              Price Quant  Amount"_s},
-     .item = {{Left(18, Description), Right(8, UnitPrice), Right(6, Quantity), Right(8, Amount)}}},
-    {.tipRacuna = u"3"_s,
-     .head = {u"No Product description                  "_s, u"   Price Quantit TaxRat     TAX   Amount"_s},
-     .item = {{Whole(RowNumber), Blank, FillTo(40, Description)}, WideFigures}},
-    {.tipRacuna = u"4"_s,
-     .head = {u"No Product           Price Quant  Amount"_s},
-     .item = {{Left(3, RowNumber), Left(15, Description), Right(8, UnitPrice), Right(6, Quantity), Right(8, Amount)}}},
-    {.tipRacuna = u"5"_s,
-     .width = 80,
-     .rule = u'_',
-     .head = {u"No Product name                    Unit Quantit Price    Amount     Tax   Amount"_s,
-              u"                                                 outTax   outTax         withTax"_s},
-     .item = {{Whole(RowNumber), Blank, FillTo(35, Description), Blank, Right(3, Unit), Blank, Right(7, Quantity),
-               Right(8, PriceWithoutTax), Blank, Right(7, AmountWithoutTax), Blank, Right(7, TaxAmount), Blank,
-               Right(8, Amount)}},
-     .isReviewed = false,
-     .date = DateBlock::A4,
-     .totalsWidth = 80,
-     .nameSize = 20},
-    // Its paper has 32 columns, but a sale's date and all totals are those of 40.
-    {.tipRacuna = u"6"_s,
-     .width = 32,
-     .head = {u"No Product description          "_s, u"     Price  Quantity      Amount"_s},
-     .item = {{Whole(RowNumber), Blank, FillTo(32, Description)},
-              {Right(9, UnitPrice), Right(10, Quantity), Right(13, Amount)}},
-     .reviewDate = DateBlock::TwoLines},
-    {.tipRacuna = u"7"_s,
-     .width = 32,
-     .head = {u"Product      Price Quant  Amount"_s},
-     .item = {{Left(10, Description), Right(8, UnitPrice), Right(6, Quantity), Right(8, Amount)}},
-     .date = DateBlock::TwoLines,
-     .reviewDate = DateBlock::TwoLines,
-     .totalsWidth = 32},
-};
+const ReceiptLayout PrintItemsLayout1{
+    .tipRacuna = u"1"_s,
+    .head = {u"ProductID  Product description          "_s, u"   Price Quantit TaxRat     TAX   Amount"_s},
+    .item = {{Whole(Code), Blank, FillTo(40, Description)}, WideFigures}};
+
+const ReceiptLayout PrintItemsLayout2{
+    .tipRacuna = u"2"_s,
+    .head = {u"Product              Price Quant  Amount"_s},
+    .item = {{Left(18, Description), Right(8, UnitPrice), Right(6, Quantity), Right(8, Amount)}}};
+
+const ReceiptLayout PrintItemsLayout3{
+    .tipRacuna = u"3"_s,
+    .head = {u"No Product description                  "_s, u"   Price Quantit TaxRat     TAX   Amount"_s},
+    .item = {{Whole(RowNumber), Blank, FillTo(40, Description)}, WideFigures}};
+
+const ReceiptLayout PrintItemsLayout4{
+    .tipRacuna = u"4"_s,
+    .head = {u"No Product           Price Quant  Amount"_s},
+    .item = {{Left(3, RowNumber), Left(15, Description), Right(8, UnitPrice), Right(6, Quantity), Right(8, Amount)}}};
+
+const ReceiptLayout PrintItemsLayout5{
+    .tipRacuna = u"5"_s,
+    .width = 80,
+    .rule = u'_',
+    .head = {u"No Product name                    Unit Quantit Price    Amount     Tax   Amount"_s,
+             u"                                                 outTax   outTax         withTax"_s},
+    .item = {{Whole(RowNumber), Blank, FillTo(35, Description), Blank, Right(3, Unit), Blank, Right(7, Quantity),
+              Right(8, PriceWithoutTax), Blank, Right(7, AmountWithoutTax), Blank, Right(7, TaxAmount), Blank,
+              Right(8, Amount)}},
+    .isReviewed = false,
+    .date = DateBlock::A4,
+    .totalsWidth = 80,
+    .nameSize = 20};
+
+// Its paper has 32 columns, but a sale's date and all totals are those of 40.
+const ReceiptLayout PrintItemsLayout6{
+    .tipRacuna = u"6"_s,
+    .width = 32,
+    .head = {u"No Product description          "_s, u"     Price  Quantity      Amount"_s},
+    .item = {{Whole(RowNumber), Blank, FillTo(32, Description)},
+             {Right(9, UnitPrice), Right(10, Quantity), Right(13, Amount)}},
+    .reviewDate = DateBlock::TwoLines};
+
+const ReceiptLayout PrintItemsLayout7{
+    .tipRacuna = u"7"_s,
+    .width = 32,
+    .head = {u"Product      Price Quant  Amount"_s},
+    .item = {{Left(10, Description), Right(8, UnitPrice), Right(6, Quantity), Right(8, Amount)}},
+    .date = DateBlock::TwoLines,
+    .reviewDate = DateBlock::TwoLines,
+    .totalsWidth = 32};
+
+const ReceiptLayout* const Layouts[]{&PrintItemsLayout1, &PrintItemsLayout2, &PrintItemsLayout3, &PrintItemsLayout4,
+                                     &PrintItemsLayout5, &PrintItemsLayout6, &PrintItemsLayout7};
 
 const ReceiptLayout WithoutItems{};
 
 }  // namespace
 
-std::span<const ReceiptLayout> ReceiptLayouts() {
+std::span<const ReceiptLayout* const> ReceiptLayouts() {
     return Layouts;
 }
 
 const ReceiptLayout& ChosenLayout() {
-    const auto layout = std::ranges::find(Layouts, TheSettings.TipRacuna, &ReceiptLayout::tipRacuna);
-    return layout == std::end(Layouts) ? WithoutItems : *layout;
+    const auto tipRacuna = [](const ReceiptLayout* layout) { return layout->tipRacuna; };
+    const auto layout = std::ranges::find(Layouts, TheSettings.TipRacuna, tipRacuna);
+    return layout == std::end(Layouts) ? WithoutItems : **layout;
 }

@@ -35,6 +35,6 @@ struct ReceiptLayout {
 // The tax block's, in every layout.
 inline constexpr int RecapWidth = 15;
 
-std::span<const ReceiptLayout> ReceiptLayouts();
+std::span<const ReceiptLayout* const> ReceiptLayouts();
 // The layout that the settings choose; one without items when they name none.
 const ReceiptLayout& ChosenLayout();

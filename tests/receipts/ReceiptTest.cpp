@@ -41,7 +41,8 @@ INSTANTIATE_TEST_SUITE_P(Cases, ReceiptTest, testing::ValuesIn(CaseNames()), [](
 
 // Whatever stands in the table, or is put in its place in another language.
 TEST(ReceiptLayouts, FillTheWidthOfTheirPaper) {
-    for (const ReceiptLayout& layout : ReceiptLayouts()) {
+    for (const ReceiptLayout* each : ReceiptLayouts()) {
+        const ReceiptLayout& layout = *each;
         SCOPED_TRACE(layout.tipRacuna.toStdString());
         for (const QString& line : layout.head) EXPECT_EQ(output::Columns(line), layout.width);
         for (const PrintFields& line : layout.item) EXPECT_EQ(WidthOf(line), layout.width);
