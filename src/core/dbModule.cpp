@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "forms/Form.h"
+#include "forms/LongWork.h"
 #include "output/Channel.h"
 #include "output/CodePage.h"
 #include "output/Folder.h"
@@ -21,7 +22,13 @@ constexpr int InvalidCall = 5;
 constexpr int StoreNotOpen = 91;
 
 std::unique_ptr<store::Database> mainStore;
+std::unique_ptr<store::Patience> mainPatience;
 std::unique_ptr<store::Database> optionsStore;
+
+std::function<bool()> BeginWait() {
+    const auto notice = std::make_shared<forms::LongWork>(WaitsForOtherRegister);
+    return [notice] { return notice->GoesOn(); };
+}
 
 store::Database& Opened(const std::unique_ptr<store::Database>& database) {
     if (!database) throw store::StoreError(StoreNotOpen, u"The store is not open."_s);
@@ -35,7 +42,12 @@ void OpenOptionsStore() {
 }
 
 void OpenMainStore() {
+    mainPatience.reset();
     mainStore = store::Database::Open(store::MainStorePath(output::ProgramFolder()), store::MainSchema());
+}
+
+void ShowWaitsOfMainStore() {
+    mainPatience = std::make_unique<store::Patience>(MainStore(), BeginWait);
 }
 
 store::Database& OptionsStore() {
@@ -47,6 +59,7 @@ store::Database& MainStore() {
 }
 
 void CloseStores() {
+    mainPatience.reset();
     mainStore.reset();
     optionsStore.reset();
 }

@@ -12,6 +12,10 @@ class Form;
 
 void OpenOptionsStore();
 void OpenMainStore();
+// From now on a screen that writes says when it waits for another register, and the user can leave the wait (3218).
+void ShowWaitsOfMainStore();
+// What a screen says while another register holds the main store.
+const auto WaitsForOtherRegister = QStringLiteral("Waiting for another register, which is writing to the store.");
 // The open stores; before they are opened a store error.
 store::Database& OptionsStore();
 store::Database& MainStore();

@@ -74,6 +74,7 @@ void frmLogin::StartUp() {
     OpenOptionsStore();
     ReadSettings();
     OpenMainStore();
+    ShowWaitsOfMainStore();
     rsUsers_ = MainStore().OpenRecordset(UsersQuery);
     rsLogin_ = MainStore().OpenRecordset(LoginQuery);
     FillUserList();

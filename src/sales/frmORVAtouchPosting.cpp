@@ -22,8 +22,8 @@ void frmORVAtouch::PostInvoice() {
     RacunOrNo = Next(RacunOrNo);
     RaiseRunningTotal();
     {
-        forms::LongWork wait(u"Waiting for another register, which is writing to the store."_s, this);
-        const store::Patience patience(MainStore(), [&wait] { return wait.GoesOn(); });
+        forms::LongWork wait(WaitsForOtherRegister, this);
+        const store::Patience patience(MainStore(), [&wait] { return [&wait] { return wait.GoesOn(); }; });
         // All of it is on the disk before the paper moves.
         store::Burst burst(MainStore());
         StoreInvoice();

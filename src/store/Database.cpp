@@ -122,12 +122,11 @@ Watch::~Watch() {
     database_.GetEngine().AskWhileWorking({});
 }
 
-Patience::Patience(Database& database, std::function<bool()> goesOn) : database_(database) {
-    database_.GetEngine().AskWhileWaiting(std::move(goesOn));
-}
+Patience::Patience(Database& database, std::function<std::function<bool()>()> begin)
+    : database_(database), before_(database.GetEngine().AskWhileWaiting(std::move(begin))) {}
 
 Patience::~Patience() {
-    database_.GetEngine().AskWhileWaiting({});
+    database_.GetEngine().AskWhileWaiting(std::move(before_));
 }
 
 Burst::Burst(Database& database) : database_(database) {

@@ -89,17 +89,19 @@ private:
     Database& database_;
 };
 
-// While it lives, `goesOn` is asked every few milliseconds for which another writer of the store is waited for; false
-// gives up at once, with error 3218. The function leaves the store alone.
+// While it lives, `begin` is called when a write begins to wait for another writer of the store. What it gives is asked
+// every few milliseconds until that write is done; false gives up at once, with error 3218. Both leave the store alone.
+// The innermost one counts.
 class Patience {
 public:
-    Patience(Database& database, std::function<bool()> goesOn);
+    Patience(Database& database, std::function<std::function<bool()>()> begin);
     ~Patience();
     Patience(const Patience&) = delete;
     Patience& operator=(const Patience&) = delete;
 
 private:
     Database& database_;
+    std::function<std::function<bool()>()> before_;
 };
 
 // While it lives, commits are visible and kept in order at once, but reach the disk together: at the latest when End()

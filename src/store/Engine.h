@@ -25,6 +25,8 @@ struct FieldChange {
     dialect::BoundValue value;
 };
 
+using BeginWait = std::function<std::function<bool()>()>;
+
 // What a store asks of the engine beneath it. A row's identity is a number above 0 that is never used again.
 // Every call finishes what it starts: no read transaction outlives it. Failures are StoreErrors.
 class Engine {
@@ -72,8 +74,10 @@ public:
 
     // Asked every few milliseconds of a statement's work; false stops it with 3059. An empty function: nobody asks.
     virtual void AskWhileWorking(std::function<bool()> goesOn) = 0;
-    // Asked every few milliseconds while another writer is waited for; false gives up at once, with 3218.
-    virtual void AskWhileWaiting(std::function<bool()> goesOn) = 0;
+    // `begin` is called when a write begins to wait for another writer. What it gives is asked every few milliseconds
+    // until that write is done; false gives up at once, with 3218. An empty function: nobody asks. Gives back the one
+    // that stood before.
+    virtual BeginWait AskWhileWaiting(BeginWait begin) = 0;
 
     // Another connection to the same store, for another thread; null when there is none to be had.
     virtual std::unique_ptr<Engine> OpenBeside() = 0;

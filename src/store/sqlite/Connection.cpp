@@ -26,6 +26,7 @@ std::shared_ptr<Connection> Connection::OpenBeside() {
 }
 
 void Connection::Run(const char* sql) {
+    const Waits waits(*this);
     if (sqlite3_exec(Handle(), sql, nullptr, nullptr, nullptr) != SQLITE_OK)
         ThrowLast(Handle(), QString::fromUtf8(sql));
 }
@@ -33,6 +34,11 @@ void Connection::Run(const char* sql) {
 void Connection::UseMemory(int kilobytes) noexcept {
     const std::string sql = "PRAGMA cache_size = -" + std::to_string(kilobytes);
     sqlite3_exec(Handle(), sql.c_str(), nullptr, nullptr, nullptr);
+}
+
+bool Connection::IsLeft() {
+    if (waits_ > 0 && beginWait_ && !goesOn_) goesOn_ = beginWait_();
+    return goesOn_ && !goesOn_();
 }
 
 // Commits of others are short, so asking again soon and at uneven times serves everybody; the engine's own handler
@@ -43,7 +49,7 @@ int Connection::WaitForOthers(void* self, int tries) {
     const auto now = std::chrono::steady_clock::now();
     if (tries == 0) connection.waitingSince_ = now;
     if (now - connection.waitingSince_ >= connection.patience_) return 0;
-    if (connection.goesOn_ && !connection.goesOn_()) return 0;
+    if (connection.IsLeft()) return 0;
     const auto unevenness = std::chrono::microseconds(now.time_since_epoch().count() / 1000 % 1000);
     std::this_thread::sleep_for(std::chrono::milliseconds(std::min(tries, longestNap)) + unevenness);
     return 1;

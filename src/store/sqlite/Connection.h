@@ -6,6 +6,9 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <utility>
+
+#include "store/Engine.h"
 
 namespace store::sqlite {
 
@@ -28,20 +31,38 @@ public:
     SQLite::Database& Database() { return database_; }
     sqlite3* Handle() { return database_.getHandle(); }
     void SetPatience(Patience patience) { patience_ = patience; }
-    // Asked while others are waited for; false ends the patience. An empty function: nobody asks.
-    void AskWhileWaiting(std::function<bool()> goesOn) { goesOn_ = std::move(goesOn); }
+    // `begin` is called when others begin to be waited for within Waits; what it gives is asked until those end, false
+    // ends the patience. Gives back the one that stood before.
+    BeginWait AskWhileWaiting(BeginWait begin) { return std::exchange(beginWait_, std::move(begin)); }
     // Runs a statement without rows; a StoreError when it fails.
     void Run(const char* sql);
     // How much of the file is kept in memory, and how much is sorted at once; as it was when that is refused.
     void UseMemory(int kilobytes) noexcept;
 
+    // Around a statement that may have to wait for others.
+    class Waits {
+    public:
+        explicit Waits(Connection& connection) : connection_(connection) { ++connection_.waits_; }
+        ~Waits() {
+            if (--connection_.waits_ == 0) connection_.goesOn_ = {};
+        }
+        Waits(const Waits&) = delete;
+        Waits& operator=(const Waits&) = delete;
+
+    private:
+        Connection& connection_;
+    };
+
 private:
+    bool IsLeft();
     static int WaitForOthers(void* self, int tries);
 
     SQLite::Database database_;
     Patience patience_;
     std::chrono::steady_clock::time_point waitingSince_;
-    std::function<bool()> goesOn_;
+    int waits_ = 0;
+    BeginWait beginWait_;
+    std::function<bool()> goesOn_;  // of the wait that is on
 };
 
 }  // namespace store::sqlite

@@ -41,7 +41,7 @@ public:
     void EndBurst() override;
 
     void AskWhileWorking(std::function<bool()> goesOn) override;
-    void AskWhileWaiting(std::function<bool()> goesOn) override;
+    BeginWait AskWhileWaiting(BeginWait begin) override;
 
     std::unique_ptr<Engine> OpenBeside() override;
 

@@ -58,8 +58,8 @@ void SqliteEngine::AskWhileWorking(std::function<bool()> goesOn) {
     connection_->UseMemory(goesOn_ ? MemoryWhileAsked : UsualMemory);
 }
 
-void SqliteEngine::AskWhileWaiting(std::function<bool()> goesOn) {
-    connection_->AskWhileWaiting(std::move(goesOn));
+BeginWait SqliteEngine::AskWhileWaiting(BeginWait begin) {
+    return connection_->AskWhileWaiting(std::move(begin));
 }
 
 // What was put in the place of these files is another store.

@@ -62,6 +62,7 @@ void SqliteEngine::Write(Statement& statement) {
     if (commits && (isLost_ || !isInsideBurst)) RequireOwnFiles();
     ++writes_;
     try {
+        const Connection::Waits waits(*connection_);
         statement.Step();
     } catch (const StoreError&) {
         if (commits) RequireOwnFiles();
