@@ -8,6 +8,10 @@
 #include "ui_frmORVAtouch.h"
 #include "values/Money.h"
 
+namespace store {
+class Burst;
+}
+
 // The sales screen: the invoice from opening to posting. The invoice in progress lives in these controls alone; the
 // state of the screen is the caption of cmdNew.
 class frmORVAtouch : public forms::Form {
@@ -77,6 +81,7 @@ private:
     void RaiseRunningTotal();
     void StoreInvoice();
     void StoreLine(int row, forms::LongWork& wait);
+    void StoreLinesAndPeriod(store::Burst& burst, forms::LongWork& wait);
     void WaitForStock(int row, forms::LongWork& wait, const values::Error& why) const;
     InvoiceText TakeInvoiceText() const;
 

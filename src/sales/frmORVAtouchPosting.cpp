@@ -27,11 +27,7 @@ void frmORVAtouch::PostInvoice() {
         // All of it is on the disk before the paper moves.
         store::Burst burst(MainStore());
         StoreInvoice();
-        for (int row = 0; row < ui.lv1->Count(); ++row) StoreLine(row, wait);
-        rsSales_.Edit();
-        UpdateSalesPeriod();
-        rsSales_.Update();
-        burst.End();
+        StoreLinesAndPeriod(burst, wait);
     }
     PrintInvoice(TakeInvoiceText());
     ui.txtPosDisplay->clear();
@@ -76,6 +72,26 @@ void frmORVAtouch::StoreInvoice() {
     rsInvoices_.Update();
 }
 
+// From here on a failure leaves something behind, which the cashier must know before pressing F5 again.
+void frmORVAtouch::StoreLinesAndPeriod(store::Burst& burst, forms::LongWork& wait) {
+    const int lines = ui.lv1->Count();
+    int stored = 0;
+    try {
+        for (; stored < lines; ++stored) StoreLine(stored, wait);
+        rsSales_.Edit();
+        UpdateSalesPeriod();
+        rsSales_.Update();
+        burst.End();
+    } catch (const store::FilesLost&) {
+        throw;
+    } catch (const values::Error& error) {
+        const QString stays =
+            u"Invoice %1 is stored with %2 of its %3 lines. These stay, and so does the stock taken off."_s;
+        throw values::Error(error.Number(), error.Description() + u'\n' +
+                                                stays.arg(ui.txtInvoiceNumber->text()).arg(stored).arg(lines));
+    }
+}
+
 void frmORVAtouch::StoreLine(int row, forms::LongWork& wait) {
     const InvoiceText::Item line = ItemOf(*ui.lv1, row);
     rsSalesDetails_.AddNew();
@@ -97,9 +113,5 @@ void frmORVAtouch::StoreLine(int row, forms::LongWork& wait) {
 // A sale must not lose its stock for a lock that goes away, nor hold the cashier for an error that stays.
 void frmORVAtouch::WaitForStock(int row, forms::LongWork& wait, const values::Error& why) const {
     const QString goods = ui.lv1->Text(row, InvoiceText::Item::Description);
-    if (wait.GoesOn(u"The stock of %1 can't be written yet. %2"_s.arg(goods, why.Description()))) return;
-    const QString stays =
-        u"Invoice %1 is stored with %2 of its %3 lines. These stay, and so does the stock taken off."_s;
-    throw store::StoreError(
-        why.Number(), why.Description() + u'\n' + stays.arg(ui.txtInvoiceNumber->text()).arg(row).arg(ui.lv1->Count()));
+    if (!wait.GoesOn(u"The stock of %1 can't be written yet. %2"_s.arg(goods, why.Description()))) throw why;
 }
