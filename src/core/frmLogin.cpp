@@ -29,6 +29,16 @@ const auto Refused = u"Wrong password.Login not allowed."_s;
 
 constexpr int Countdown = 59;
 
+// Which setting is wrong, the error of its value does not tell.
+template <typename Read>
+auto OfSetting(QStringView name, Read read) {
+    try {
+        return read();
+    } catch (const values::Error& error) {
+        throw values::Error(error.Number(), u"The setting %1 can't be used. %2"_s.arg(name, error.Description()));
+    }
+}
+
 }  // namespace
 
 frmLogin::frmLogin(std::function<void()> loggedIn)
@@ -88,8 +98,11 @@ void frmLogin::StartUp() {
 void frmLogin::ReadSettings() {
     rsOptions_ = OptionsStore().OpenRecordset(OptionsQuery);
     rsOptions_.MoveFirst();
-    const auto text = [&](QStringView name) { return rsOptions_[name].Text(); };
-    const auto yes = [&](QStringView name) { return rsOptions_[name].YesNo(); };
+    const auto text = [&](QStringView name) { return OfSetting(name, [&] { return rsOptions_[name].Text(); }); };
+    const auto yes = [&](QStringView name) { return OfSetting(name, [&] { return rsOptions_[name].YesNo(); }); };
+    const auto number = [&](QStringView name) {
+        return OfSetting(name, [&] { return values::CInt16(rsOptions_[name].Double()); });
+    };
 
     const qint16 separator = TheSettings.DecimalSeparator;
     TheSettings = {};
@@ -99,11 +112,11 @@ void frmLogin::ReadSettings() {
     TheSettings.VelFont = text(u"VelFont");
     TheSettings.Font = text(u"Font");
     TheSettings.Currency = text(u"Currency");
-    TheSettings.PraznihLinijaPoslijeRacuna = values::CInt16(rsOptions_[u"PraznihLinijaPoslijeRacuna"].Double());
+    TheSettings.PraznihLinijaPoslijeRacuna = number(u"PraznihLinijaPoslijeRacuna");
     TheSettings.StanjeKaseVidljivo = text(u"StanjeKaseVidljivo");
     TheSettings.PrintKasir = text(u"PrintKasir");
     TheSettings.TipRacuna = text(u"TipRacuna");
-    if (!rsOptions_[u"Kasa"].IsNull()) TheSettings.Kasa = values::CInt16(rsOptions_[u"Kasa"].Double());
+    if (!rsOptions_[u"Kasa"].IsNull()) TheSettings.Kasa = number(u"Kasa");
     TheSettings.ServerName = rsOptions_[u"ServerName"].TextOrEmpty();
     TheSettings.RekapPoreza = text(u"RekapPoreza");
     TheSettings.PrinterZaRacun = text(u"PrinterZaRacun");
@@ -165,7 +178,8 @@ void frmLogin::cmdOK_Click() {
     StartSession(rsUsers_);
 
     mdiORVA& main = mdiORVA::Window();
-    main.ShowRunningTotal(values::CBool(TheSettings.StanjeKaseVidljivo));
+    main.ShowRunningTotal(
+        OfSetting(u"StanjeKaseVidljivo", [] { return values::CBool(TheSettings.StanjeKaseVidljivo); }));
     loggedIn_();
     main.ApplyAccessLevel(rsUsers_[u"AccLevel"].TextOrEmpty());
     done_ = true;

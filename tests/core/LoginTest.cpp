@@ -142,7 +142,7 @@ TEST_F(LoginTest, StopsReadingAtANullThatIsNotAllowedFor) {
     Setting(u"TipRacuna"_s, Value());
     {
         Boxes boxes;
-        boxes.ExpectBeginning(u"94"_s);
+        boxes.ExpectBeginning(u"94The setting TipRacuna can't be used."_s);
         ShowLogin();
     }
     EXPECT_EQ(TheSettings.Currency, u"KM") << "fields before it are read";
