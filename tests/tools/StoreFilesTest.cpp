@@ -21,6 +21,12 @@ protected:
     }
     void WriteIni(const QByteArray& text) const { WriteFile(folder_ + u"/store.ini"_s, text); }
 
+    static QByteArray InTwoBytes(const QByteArray& text) {
+        QByteArray wide;
+        for (const char c : text) wide += QByteArray(1, c) + '\0';
+        return wide;
+    }
+
     const Answer near_ = Done("Abr\npcs\nkg\nl\nm\n");
     const Answer far_ = Done("Abr\npcs\nkg\nl\nm\nfar\n");
 };
@@ -31,13 +37,13 @@ TEST_F(StoreFilesTest, StoreIniNamesTheMainStoreOnly) {
     const QByteArray server = Path(u"server, main"_s).toUtf8();
     const QList<std::pair<QByteArray, Answer>> inis{
         {"", near_},
-        {"[other]\npath=" + server + "\n", near_},
         {"[main]\n;path=" + server + "\n", near_},
         {"[main]\npath=\n", near_},
         {"[main]\npath=" + server + "\n", far_},
         {"[Main]\r\n Path = \"" + server + "/ORVA.pos\" \r\n", far_},
         {"[main]\npath=../server, main\n", far_},
         {"[main]\npath=..\\server, main\\ORVA.pos\n", far_},
+        {"\xFF\xFE" + InTwoBytes("[main]\rpath=../server, main\r"), far_},
     };
     for (const auto& [ini, expected] : inis) {
         WriteIni(ini);
@@ -53,6 +59,13 @@ TEST_F(StoreFilesTest, AStoreIniThatPointsNowhereIsAnErrorAndNotTheStoreBeside) 
     WriteIni("[main]\npath=../gone\n");
     EXPECT_THAT(Sql(u"SELECT Abr FROM Unit"_s).err.toStdString(), StartsWith("3024: "));
     EXPECT_FALSE(QFile::exists(Path(u"gone"_s)));
+    const QByteArray path = "path=../server, main\n";
+    for (const QByteArray& slip : {path, "[other]\n" + path, "[main]\nurl=x\n"_ba, "\x01\x02junk"_ba,
+                                   QByteArray(100'000, '\n') + "[main]\n" + path}) {
+        WriteIni(slip);
+        EXPECT_THAT(Sql(u"SELECT Abr FROM Unit"_s).err.toStdString(), StartsWith("3051: "))
+            << slip.left(40).constData();
+    }
     QFile::remove(folder_ + u"/store.ini"_s);
     QDir(folder_).mkdir(u"store.ini"_s);
     EXPECT_THAT(Sql(u"SELECT Abr FROM Unit"_s).err.toStdString(), StartsWith("3051: "));
