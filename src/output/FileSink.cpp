@@ -29,7 +29,10 @@ private:
     QString name_;
 };
 
+// A piece goes in whole or not at all: half a fiscal sale at the end of the file would run into the next one.
 void FileSink::Write(const QByteArray& bytes) {
+    struct stat before {};
+    ::fstat(file_.Number(), &before);
     const char* from = bytes.constData();
     const char* const end = from + bytes.size();
     while (from < end) {
@@ -37,7 +40,10 @@ void FileSink::Write(const QByteArray& bytes) {
         if (written > 0) {
             from += written;
         } else if (written == 0 || errno != EINTR) {
-            ThrowOsError(u"Cannot write to "_s + name_, written == 0 ? EIO : errno);
+            const int why = written == 0 ? EIO : errno;
+            if (from != bytes.constData() && ::ftruncate(file_.Number(), before.st_size) != 0)
+                ThrowOsError(u"Cannot take back half of what was written to "_s + name_, errno);
+            ThrowOsError(u"Cannot write to "_s + name_, why);
         }
     }
 }

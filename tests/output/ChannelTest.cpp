@@ -2,6 +2,7 @@
 #include <thread>
 
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -105,6 +106,18 @@ TEST_F(ChannelTest, AFullDeviceIsReportedByWhoeverFindsIt) {
     channel.WriteLine(u"a line"_s);
     EXPECT_EQ(ErrorOf([&] { channel.Close(); }), DiskFull);
     EXPECT_FALSE(channel.IsOpen()) << "a failed close must not block the next output";
+
+    // A file that may grow a little further takes no half of a piece.
+    Write(u"file"_s, "before\r\n");
+    rlimit room{};
+    getrlimit(RLIMIT_FSIZE, &room);
+    const rlimit little{20, room.rlim_max};
+    channel.OpenForAppend(Path(u"file"_s));
+    channel.WriteLine(u"longer than what is left"_s);
+    setrlimit(RLIMIT_FSIZE, &little);
+    EXPECT_EQ(ErrorOf([&] { channel.Close(); }), DiskFull);
+    setrlimit(RLIMIT_FSIZE, &room);
+    EXPECT_EQ(Read(u"file"_s), "before\r\n");
 }
 
 TEST_F(ChannelTest, PortsFollowTheirEntries) {
