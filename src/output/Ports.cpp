@@ -66,6 +66,16 @@ std::unique_ptr<Sink> OpenNetworkPrinter(const QString& entry, const Port& port)
     return ConnectTo(host, number, port);
 }
 
+// A slip in ports.ini looks as if there were no entry at all.
+std::unique_ptr<Sink> OpenUsualDevice(const QString& key, const Port& port) {
+    try {
+        return OpenDevice(key == u"lpt1" ? u"/dev/lp0"_s : u"/dev/lp1"_s, port);
+    } catch (const OutputError& error) {
+        throw OutputError(error.Number(),
+                          error.Description() + u"\nports.ini has no other printer for "_s + key + u'.');
+    }
+}
+
 QString BelowFolderUnlessAbsolute(const QString& path) {
     return path.startsWith(u'/') ? path : InProgramFolder(path);
 }
@@ -83,7 +93,7 @@ std::unique_ptr<Sink> OpenPortSink(const QString& port) {
     const QString statusKey = key + u".status"_s;
     const QString status = entries.value(statusKey, entries.value(u"status"_s));
     const Port known{.name = key.toUpper(), .isAsked = IsYes(statusKey, status)};
-    if (entry.isEmpty()) return OpenDevice(key == u"lpt1" ? u"/dev/lp0"_s : u"/dev/lp1"_s, known);
+    if (entry.isEmpty()) return OpenUsualDevice(key, known);
     if (entry.startsWith(u"tcp:", Qt::CaseInsensitive)) return OpenNetworkPrinter(entry, known);
     if (!entry.startsWith(u"file:", Qt::CaseInsensitive)) return OpenDevice(BelowFolderUnlessAbsolute(entry), known);
     const QString path = entry.mid(5).trimmed();
