@@ -97,8 +97,9 @@ void CheckThatFree(Connection& connection) {
 
 std::unique_ptr<Engine> OpenFile(const QString& path, const Schema& schema) {
     CheckFile(path);
+    std::shared_ptr<Connection> connection;
     try {
-        auto connection = std::make_shared<Connection>(path, false, OpeningPatience);
+        connection = std::make_shared<Connection>(path, false, OpeningPatience);
         CheckKind(connection->Database(), schema, path);
         SetUp(*connection, path);
         CheckThatFree(*connection);
@@ -107,7 +108,8 @@ std::unique_ptr<Engine> OpenFile(const QString& path, const Schema& schema) {
         connection->SetPatience(WorkingPatience);
         return std::make_unique<SqliteEngine>(std::move(connection), path);
     } catch (const SQLite::Exception& error) {
-        ThrowOpeningError(CodeOf(error), QString::fromUtf8(error.what()), path);
+        const int code = connection ? CodeWithoutRoom(connection->Handle(), CodeOf(error)) : CodeOf(error);
+        ThrowOpeningError(code, QString::fromUtf8(error.what()), path);
     } catch (const StoreError& error) {
         if (error.Number() != StoreLocked) throw;
         ThrowOpeningError(SQLITE_BUSY, error.Description(), path);

@@ -3,6 +3,8 @@
 #include <SQLiteCpp/Exception.h>
 #include <sqlite3.h>
 
+#include <cerrno>
+
 #include "store/StoreError.h"
 
 using namespace Qt::StringLiterals;
@@ -92,8 +94,15 @@ void ThrowCode(int extendedCode, const QString& message, const QString& doing) {
     throw StoreError(number, u"%1, %2 (%3)."_s.arg(Words(number), doing, message));
 }
 
+int CodeWithoutRoom(sqlite3* connection, int extendedCode) {
+    const int system = sqlite3_system_errno(connection);
+    const bool isFull = system == ENOSPC || system == EDQUOT;
+    return isFull && (extendedCode & 0xFF) == SQLITE_IOERR ? SQLITE_FULL : extendedCode;
+}
+
 void ThrowLast(sqlite3* connection, const QString& doing) {
-    ThrowCode(sqlite3_extended_errcode(connection), QString::fromUtf8(sqlite3_errmsg(connection)), doing);
+    ThrowCode(CodeWithoutRoom(connection, sqlite3_extended_errcode(connection)),
+              QString::fromUtf8(sqlite3_errmsg(connection)), doing);
 }
 
 int CodeOf(const SQLite::Exception& error) {
