@@ -9,8 +9,10 @@ using namespace Qt::StringLiterals;
 namespace store {
 
 struct Database::Internals {
-    Internals(const Schema& itsSchema, QString itsPath)
-        : schema(itsSchema), path(std::move(itsPath)), compiler(schema) {}
+    Internals(Engine& engine, const Schema& itsSchema, QString itsPath)
+        : schema(itsSchema),
+          path(std::move(itsPath)),
+          compiler(schema, [&engine](const auto& plan, const auto& text) { engine.Prepare(plan, text); }) {}
 
     dialect::Query CompileSelect(const QString& query);
 
@@ -21,7 +23,7 @@ struct Database::Internals {
 };
 
 Database::Database(std::unique_ptr<Engine> engine, const Schema& schema, QString path)
-    : engine_(std::move(engine)), internals_(std::make_unique<Internals>(schema, std::move(path))) {}
+    : engine_(std::move(engine)), internals_(std::make_unique<Internals>(*engine_, schema, std::move(path))) {}
 
 Database::~Database() = default;
 

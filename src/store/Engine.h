@@ -33,6 +33,10 @@ class Engine {
 public:
     virtual ~Engine() = default;
 
+    // Makes a plan ready, before anything is asked with it. QueryError 3075 when the engine's own parser could not take
+    // it; `text` is what the plan came from.
+    virtual void Prepare(const dialect::Plan& plan, const QString& text) = 0;
+
     // All rows of a query.
     virtual void ReadAll(const dialect::Query& query, RowBlock& rows) = 0;
     // The same in blocks of so many rows, the last of what is left. The first call, without rows, tells that the moment
@@ -49,8 +53,8 @@ public:
     virtual void ReadRows(const dialect::Query& query, std::span<const qint64> keys, RowBlock& rows) = 0;
     // The identities of a table with after < identity <= upTo are added to `keys`.
     virtual void ReadKeys(const Table& table, qint64 after, qint64 upTo, std::vector<qint64>& keys) = 0;
-    // The identities of the rows that meet a criteria, rising.
-    virtual std::vector<qint64> FindRows(const Table& table, const dialect::Query& criteria) = 0;
+    // The identities of the rows of its table that meet a criteria, rising.
+    virtual std::vector<qint64> FindRows(const dialect::Query& criteria) = 0;
     // The highest identity of a table, 0 when it is empty.
     virtual qint64 LastRow(const Table& table) = 0;
 

@@ -16,7 +16,7 @@ constexpr int OpeningRows = 1024;
 KeysetRows::KeysetRows(Engine& engine, const dialect::Query& query)
     : engine_(engine),
       query_(query),
-      isInRowOrder_(query.plan->where.empty() && query.plan->order.empty()),
+      isInRowOrder_(!query.plan->where && query.plan->order.empty()),
       readAhead_(FirstReadAhead) {
     if (!isInRowOrder_) {
         stamp_ = engine_.Now();

@@ -92,8 +92,7 @@ void Recordset::Impl::SetBookmark(qint64 row) {
 
 void Recordset::Impl::FindFirst(const QString& criteria) {
     if (keyset == nullptr) throw StoreError(NotSupported, u"This cursor cannot be searched."_s);
-    const Table& table = *query.plan->table;
-    const std::vector<qint64> found = engine.FindRows(table, compiler.CompileCriteria(criteria, table));
+    const std::vector<qint64> found = engine.FindRows(compiler.CompileCriteria(criteria, *query.plan->table));
     const CursorRows::Place target = keyset->FirstOf(found);
     noMatch = target == CursorRows::Nowhere;
     if (noMatch)

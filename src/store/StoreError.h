@@ -56,7 +56,7 @@ struct Span {
 };
 
 // Where on its road a query text failed.
-enum class Stage { Lexer, Parser, Binder, Literal };
+enum class Stage { Lexer, Parser, Binder, Literal, Engine };
 
 // An error in a query text. Description() is one line; Rendered() adds the line of the query and a caret under the
 // span.

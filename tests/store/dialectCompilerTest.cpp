@@ -7,6 +7,7 @@
 #include "store/dialect/Plan.h"
 #include "store/dialectFuzz.h"
 #include "store/dialectStore.h"
+#include "store/sqlite/Emitter.h"
 #include "values/Error.h"
 #include "values/Locale.h"
 
@@ -38,7 +39,7 @@ protected:
         return first.plan == compiler_.Compile(b).plan;
     }
 
-    Compiler compiler_{MainSchema()};
+    Compiler compiler_{MainSchema(), store::sqlite::Emit};
 };
 
 QString Nested(const QString& before, const QString& open, const QString& middle, const QString& close, int times) {
@@ -104,7 +105,7 @@ TEST_F(DialectCompiler, a_plan_survives_more_shapes_than_are_kept) {
     const Query first = compiler_.Compile(u"SELECT Qty FROM Products"_s);
     for (int i = 0; i < 2000; ++i) compiler_.Compile(u"SELECT Qty AS a%1 FROM Products"_s.arg(i));
     EXPECT_EQ(first.plan->output.front().name, u"Qty");
-    EXPECT_EQ(compiler_.Compile(u"SELECT Qty FROM Products"_s).plan->columns, first.plan->columns);
+    EXPECT_EQ(SqlOf(*compiler_.Compile(u"SELECT Qty FROM Products"_s).plan), SqlOf(*first.plan));
 }
 
 TEST_F(DialectCompiler, an_error_on_a_known_shape_points_into_its_own_text) {

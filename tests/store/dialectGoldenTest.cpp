@@ -61,7 +61,7 @@ QString Word(Target target) {
 }
 
 QString Word(Stage stage) {
-    static const QStringList words = {u"lexer"_s, u"parser"_s, u"binder"_s, u"literal"_s};
+    static const QStringList words = {u"lexer"_s, u"parser"_s, u"binder"_s, u"literal"_s, u"engine"_s};
     return words[static_cast<int>(stage)];
 }
 

@@ -1,5 +1,6 @@
 #include "store/dialectStore.h"
 
+#include "store/sqlite/QuerySql.h"
 #include "values/Numbers.h"
 
 using store::dialect::BoundValue;
@@ -74,20 +75,10 @@ DialectStore::DialectStore(const store::Schema& schema) : database_(OpenInMemory
 }
 
 QByteArray SqlOf(const Plan& plan) {
-    const auto piece = [](const char* word, const std::string& text) {
-        return text.empty() ? QByteArray() : word + QByteArray::fromStdString(text);
-    };
-    const QByteArray where = piece(" WHERE ", plan.where);
-    switch (plan.kind) {
-        case Plan::Kind::Update:
-            return "UPDATE " + QByteArray::fromStdString(plan.from) + piece(" SET ", plan.set) + where;
-        case Plan::Kind::Delete:
-            return "DELETE FROM " + QByteArray::fromStdString(plan.from) + where;
-        default:
-            return "SELECT " + QByteArray::fromStdString(plan.columns.empty() ? "rowid" : plan.columns) +
-                   piece(" FROM ", plan.from) + where + piece(" GROUP BY ", plan.group) +
-                   piece(" HAVING ", plan.having) + piece(" ORDER BY ", plan.order);
-    }
+    store::sqlite::Pieces pieces = store::sqlite::Emit(plan, {});
+    if (pieces.columns.empty()) pieces.columns = "rowid";
+    const bool isSelect = plan.kind == Plan::Kind::Select;
+    return QByteArray::fromStdString(isSelect ? SelectSql(pieces, false) : ActionSql(plan.kind, pieces));
 }
 
 QString DialectStore::Refusal(const Plan& plan) {

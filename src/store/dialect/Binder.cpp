@@ -49,14 +49,14 @@ public:
     }
 
     BoundStatement Whole(const Update& update) {
-        bound_.kind = Plan::Kind::Update;
+        bound_.kind = BoundStatement::Kind::Update;
         scope_.Add(update.table);
         for (const Assignment& assignment : update.set) Assign(assignment);
         return Action(update.where);
     }
 
     BoundStatement Whole(const Delete& statement) {
-        bound_.kind = Plan::Kind::Delete;
+        bound_.kind = BoundStatement::Kind::Delete;
         scope_.Add(statement.table);
         return Action(statement.where);
     }
@@ -104,7 +104,8 @@ private:
 
     void AddColumn(const BoundPtr& expr, const QString& name, const SelectItem& item) {
         if (bound_.columns.size() >= MaxColumns) fail_(SyntaxError, item.span, u"The query has too many columns."_s);
-        bound_.columns.push_back({expr, {name, expr->type, expr->scale, -1}});
+        bound_.columns.push_back(expr);
+        bound_.output.push_back({name, expr->type, expr->scale, -1});
         plain_.push_back(item.alias.isEmpty() && expr->form == Form::Column);
     }
 
@@ -124,30 +125,31 @@ private:
         if (bound_.tables.size() < 2) return;
         QHash<QString, int> uses;
         for (size_t i = 0; i < plain_.size(); ++i) {
-            if (plain_[i]) ++uses[bound_.columns[i].output.name.toCaseFolded()];
+            if (plain_[i]) ++uses[NameOf(i).toCaseFolded()];
         }
         for (size_t i = 0; i < plain_.size(); ++i) {
-            BoundColumn& column = bound_.columns[i];
-            if (!plain_[i] || uses.value(column.output.name.toCaseFolded()) < 2) continue;
-            column.output.name =
-                bound_.tables[static_cast<size_t>(column.expr->table)].name + u'.' + column.output.name;
+            if (!plain_[i] || uses.value(NameOf(i).toCaseFolded()) < 2) continue;
+            NameOf(i).prepend(bound_.tables[static_cast<size_t>(bound_.columns[i]->table)].name + u'.');
         }
     }
 
+    QString& NameOf(size_t column) { return bound_.output[static_cast<qsizetype>(column)].name; }
+
     void NumberFields() {
-        for (BoundColumn& column : bound_.columns) {
-            if (column.expr->form == Form::Column) column.output.field = column.expr->column;
+        for (int i = 0; const BoundPtr& column : bound_.columns) {
+            OutputColumn& output = bound_.output[i++];
+            if (column->form == Form::Column) output.field = column->column;
         }
     }
 
     // Aliases are written out in full, so a short text can stand for a long one.
     void RequireSize() const {
         qsizetype nodes = bound_.having ? bound_.having->nodes : 0;
-        for (const BoundColumn& column : bound_.columns) nodes += column.expr->nodes;
+        for (const BoundPtr& column : bound_.columns) nodes += column->nodes;
         for (const BoundPtr& expr : bound_.group) nodes += expr->nodes;
         for (const BoundSorting& sorting : bound_.order) nodes += sorting.expr->nodes;
         const bool tooMany = bound_.group.size() > MaxColumns || bound_.order.size() > MaxColumns || nodes > MaxNodes;
-        if (tooMany) fail_(SyntaxError, bound_.columns.back().expr->span, u"The query is too complex."_s);
+        if (tooMany) fail_(SyntaxError, bound_.columns.back()->span, u"The query is too complex."_s);
     }
 
     // A literal cannot tell groups or rows apart; whoever writes one there means something else.
@@ -162,7 +164,7 @@ private:
     }
 
     void RequireGrouped() const {
-        for (const BoundColumn& column : bound_.columns) RequireGrouped(*column.expr);
+        for (const BoundPtr& column : bound_.columns) RequireGrouped(*column);
         if (bound_.having) RequireGrouped(*bound_.having);
         for (const BoundSorting& sorting : bound_.order) RequireGrouped(*sorting.expr);
     }

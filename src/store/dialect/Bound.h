@@ -5,12 +5,14 @@
 
 #include "store/Schema.h"
 #include "store/StoreError.h"
-#include "store/dialect/Plan.h"
 #include "store/dialect/Tree.h"
 
 // A query text after its names are looked up: every expression has a type and a scale, and every conversion stands in
 // the tree as a node of its own.
 namespace store::dialect {
+
+// What a literal is to be bound as.
+enum class Target { Text, Pattern, Whole, Scaled, Double, Date, Time, YesNo };
 
 struct BoundExpr;
 using BoundPtr = std::shared_ptr<const BoundExpr>;
@@ -81,9 +83,12 @@ struct BoundSource {
     BoundPtr on;
 };
 
-struct BoundColumn {
-    BoundPtr expr;
-    OutputColumn output;
+// One output column of a SELECT.
+struct OutputColumn {
+    QString name;  // alias, else the field's name as the schema writes it, else Expr1000, Expr1001...
+    Type type = Type::Text;
+    int scale = 0;   // decimals of an exact number: 4 for money and its like, 8 for a product of two of them
+    int field = -1;  // position of the field in the table of an updatable cursor, else -1
 };
 struct BoundSorting {
     BoundPtr expr;
@@ -95,11 +100,13 @@ struct BoundAssignment {
 };
 
 struct BoundStatement {
-    Plan::Kind kind = Plan::Kind::Select;
+    enum class Kind { Select, Update, Delete };
+    Kind kind = Kind::Select;
     std::vector<BoundTable> tables;  // those of an action are one
     std::shared_ptr<const BoundSource> from;
     bool aggregate = false;
-    std::vector<BoundColumn> columns;
+    std::vector<BoundPtr> columns;
+    QList<OutputColumn> output;  // one a column
     std::vector<BoundAssignment> set;
     BoundPtr where;
     std::vector<BoundPtr> group;

@@ -3,7 +3,6 @@
 #include <unordered_map>
 
 #include "store/dialect/Binder.h"
-#include "store/dialect/Emitter.h"
 #include "store/dialect/Lexer.h"
 #include "store/dialect/Literals.h"
 #include "store/dialect/Parser.h"
@@ -24,6 +23,35 @@ int CountLiterals(const std::vector<Token>& tokens) {
         std::count_if(tokens.begin(), tokens.end(), [](const Token& token) { return IsLiteral(token.lexeme); }));
 }
 
+void NoteTargets(const BoundPtr& expr, QList<Target>& targets) {
+    if (!expr) return;
+    if (expr->form == BoundExpr::Form::Literal) targets[expr->literal] = expr->target;
+    for (const BoundPtr& arg : expr->args) NoteTargets(arg, targets);
+}
+
+void NoteTargets(const std::shared_ptr<const BoundSource>& source, QList<Target>& targets) {
+    if (!source) return;
+    NoteTargets(source->on, targets);
+    NoteTargets(source->first, targets);
+    NoteTargets(source->second, targets);
+}
+
+Plan PlanOf(BoundStatement statement, int literals) {
+    Plan plan;
+    static_cast<BoundStatement&>(plan) = std::move(statement);
+    const bool isOneTable = plan.tables.size() == 1 && !plan.aggregate;
+    if (isOneTable) plan.table = plan.tables.front().table;
+    plan.targets.resize(literals, Target::Text);
+    NoteTargets(plan.from, plan.targets);
+    for (const BoundPtr& expr : plan.columns) NoteTargets(expr, plan.targets);
+    for (const BoundAssignment& assignment : plan.set) NoteTargets(assignment.value, plan.targets);
+    NoteTargets(plan.where, plan.targets);
+    for (const BoundPtr& expr : plan.group) NoteTargets(expr, plan.targets);
+    NoteTargets(plan.having, plan.targets);
+    for (const BoundSorting& sorting : plan.order) NoteTargets(sorting.expr, plan.targets);
+    return plan;
+}
+
 QList<BoundValue> ValuesOf(const QString& text, const std::vector<Token>& tokens, const Plan& plan) {
     QList<BoundValue> values;
     values.reserve(plan.targets.size());
@@ -39,6 +67,7 @@ QList<BoundValue> ValuesOf(const QString& text, const std::vector<Token>& tokens
 struct Compiler::Cache {
     static constexpr size_t Most = 512;
 
+    const Prepare prepare;
     std::vector<Token> tokens;
     std::u16string key;
     std::unordered_map<std::u16string, std::shared_ptr<const Plan>, ShapeHash, std::equal_to<>> plans;
@@ -49,6 +78,7 @@ struct Compiler::Cache {
         auto found = plans.find(std::u16string_view(key));
         if (found == plans.end()) {
             auto plan = std::make_shared<const Plan>(makePlan());
+            if (prepare) prepare(*plan, text);
             if (plans.size() >= Most) plans.clear();
             found = plans.emplace(key, std::move(plan)).first;
         }
@@ -56,7 +86,8 @@ struct Compiler::Cache {
     }
 };
 
-Compiler::Compiler(const Schema& schema) : schema_(&schema), cache_(std::make_unique<Cache>()) {}
+Compiler::Compiler(const Schema& schema, Prepare prepare)
+    : schema_(&schema), cache_(std::make_unique<Cache>(std::move(prepare))) {}
 Compiler::~Compiler() = default;
 Compiler::Compiler(Compiler&&) noexcept = default;
 
@@ -65,7 +96,7 @@ Query Compiler::Compile(const QString& text) {
     cache_->key.clear();
     return cache_->QueryOf(text, [&] {
         const Statement statement = Parse(text, cache_->tokens);
-        return Emit(Bind(statement, *schema_, text), CountLiterals(cache_->tokens), text);
+        return PlanOf(Bind(statement, *schema_, text), CountLiterals(cache_->tokens));
     });
 }
 
@@ -76,7 +107,7 @@ Query Compiler::CompileCriteria(const QString& text, const Table& table) {
     cache_->key += table.name.toStdU16String();
     return cache_->QueryOf(text, [&] {
         const ExprPtr condition = ParseCriteria(text, cache_->tokens);
-        return Emit(BindCriteria(condition, table, text), CountLiterals(cache_->tokens), text);
+        return PlanOf(BindCriteria(condition, table, text), CountLiterals(cache_->tokens));
     });
 }
 

@@ -7,13 +7,20 @@
 
 #include "store/Schema.h"
 #include "store/StoreError.h"
-#include "store/dialect/Plan.h"
 
 // A query text as it was written: names not yet looked up, nothing typed but the literals.
 namespace store::dialect {
 
 struct Expr;
 using ExprPtr = std::unique_ptr<Expr>;
+
+// A literal of one query text.
+struct Literal {
+    enum class Kind { Text, Whole, Decimal, Date };
+    Kind kind;
+    QString text;  // a text without its quotes and with '' undoubled; a number as written; a date as mm-dd-yyyy
+    Span span;
+};
 
 // Binding from loose to tight: OR, AND, NOT, comparisons, &, + -, * /, the unary minus.
 enum class Op {

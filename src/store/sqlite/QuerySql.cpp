@@ -1,6 +1,6 @@
 #include "store/sqlite/QuerySql.h"
 
-#include "store/sqlite/SqliteSchema.h"
+#include "store/sqlite/SqlText.h"
 
 namespace store::sqlite {
 
@@ -19,29 +19,28 @@ QStringList NamesOf(const Table& table, quint64 columns) {
 
 }  // namespace
 
-std::string SelectSql(const dialect::Plan& plan, bool withRow) {
-    return "SELECT " + std::string(withRow ? "rowid, " : "") + plan.columns + " FROM " + plan.from +
-           Clause(" WHERE ", plan.where) + Clause(" GROUP BY ", plan.group) + Clause(" HAVING ", plan.having) +
-           Clause(" ORDER BY ", plan.order);
+std::string SelectSql(const Pieces& query, bool withRow) {
+    return "SELECT " + std::string(withRow ? "rowid, " : "") + query.columns + " FROM " + query.from +
+           Clause(" WHERE ", query.where) + Clause(" GROUP BY ", query.group) + Clause(" HAVING ", query.having) +
+           Clause(" ORDER BY ", query.order);
 }
 
-std::string RowsSql(const dialect::Plan& plan, const std::string& condition) {
-    return "SELECT rowid, " + plan.columns + " FROM " + plan.from + " WHERE " + condition;
+std::string RowsSql(const Pieces& query, const std::string& condition) {
+    return "SELECT rowid, " + query.columns + " FROM " + query.from + " WHERE " + condition;
 }
 
-std::string KeysSql(const dialect::Plan& plan, const std::string& condition) {
-    return "SELECT rowid FROM " + plan.from + " WHERE (" + plan.where + ") AND " + condition + " ORDER BY rowid";
+std::string KeysSql(const Pieces& query, const std::string& condition) {
+    return "SELECT rowid FROM " + query.from + " WHERE (" + query.where + ") AND " + condition + " ORDER BY rowid";
 }
 
-std::string ActionSql(const dialect::Plan& plan) {
-    const std::string table = Quoted(plan.table->name);
-    if (plan.kind == dialect::Plan::Kind::Update)
-        return "UPDATE " + table + " SET " + plan.set + Clause(" WHERE ", plan.where);
-    return "DELETE FROM " + table + Clause(" WHERE ", plan.where);
+std::string ActionSql(dialect::Plan::Kind kind, const Pieces& action) {
+    if (kind == dialect::Plan::Kind::Update)
+        return "UPDATE " + action.from + " SET " + action.set + Clause(" WHERE ", action.where);
+    return "DELETE FROM " + action.from + Clause(" WHERE ", action.where);
 }
 
-std::string FindSql(const Table& table, const dialect::Plan& criteria) {
-    return "SELECT rowid FROM " + Quoted(table.name) + Clause(" WHERE ", criteria.where) + " ORDER BY rowid";
+std::string FindSql(const Pieces& criteria) {
+    return "SELECT rowid FROM " + criteria.from + Clause(" WHERE ", criteria.where) + " ORDER BY rowid";
 }
 
 std::string InsertSql(const Table& table, quint64 columns) {
@@ -66,10 +65,6 @@ std::string ChangeSql(const Table& table, quint64 columns, quint64 expected) {
     for (const QString& name : NamesOf(table, expected))
         sql += " AND " + Quoted(name) + " COLLATE BINARY IS " + Parameter(++parameter);
     return sql;
-}
-
-std::string Parameter(int number) {
-    return std::string("?").append(std::to_string(number));
 }
 
 }  // namespace store::sqlite

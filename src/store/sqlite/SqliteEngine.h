@@ -16,6 +16,8 @@ public:
     SqliteEngine(std::shared_ptr<Connection> connection, const QString& path);
     ~SqliteEngine() override;
 
+    void Prepare(const dialect::Plan& plan, const QString& text) override;
+
     void ReadAll(const dialect::Query& query, RowBlock& rows) override;
     void ReadInBlocks(const dialect::Query& query, int rowsEach, const std::function<void(RowBlock&&)>& take) override;
     void ReadKeyset(const dialect::Query& query, int withData, std::vector<qint64>& keys, RowBlock& rows) override;
@@ -23,7 +25,7 @@ public:
                    RowBlock& rows) override;
     void ReadRows(const dialect::Query& query, std::span<const qint64> keys, RowBlock& rows) override;
     void ReadKeys(const Table& table, qint64 after, qint64 upTo, std::vector<qint64>& keys) override;
-    std::vector<qint64> FindRows(const Table& table, const dialect::Query& criteria) override;
+    std::vector<qint64> FindRows(const dialect::Query& criteria) override;
     qint64 LastRow(const Table& table) override;
 
     qint64 Insert(const Table& table, std::span<const FieldChange> fields) override;
@@ -66,7 +68,7 @@ private:
     };
 
     static std::string SqlOf(const ShapeKey& key);
-    static Prepared& PreparedFor(const dialect::Plan& plan, const std::shared_ptr<Connection>& connection);
+    static Prepared& PreparedOf(const dialect::Query& query);
     Statement& StatementFor(const ShapeKey& key);
     bool ScansWholeTable(const dialect::Query& query);
     void ReadKeysAfter(const dialect::Query& query, qint64 after, std::vector<qint64>& keys);

@@ -2,6 +2,7 @@
 
 #include "store/sqlite/PreparedPlan.h"
 #include "store/sqlite/QuerySql.h"
+#include "store/sqlite/SqlText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -39,24 +40,32 @@ bool LieCloseTogether(std::span<const qint64> keys) {
 
 }  // namespace
 
+void SqliteEngine::Prepare(const dialect::Plan& plan, const QString& text) {
+    plan.prepared = std::make_shared<Prepared>(connection_, Emit(plan, text));
+}
+
+SqliteEngine::Prepared& SqliteEngine::PreparedOf(const dialect::Query& query) {
+    return *static_cast<Prepared*>(query.plan->prepared.get());
+}
+
 void SqliteEngine::ReadAll(const dialect::Query& query, RowBlock& rows) {
     // The rows of one table come with their identities, as a keyset would ask for them by the same statement.
     const bool withRow = query.plan->table != nullptr;
-    Prepared& prepared = PreparedFor(*query.plan, connection_);
-    Statement& statement = prepared.Get(prepared.whole, [&] { return SelectSql(*query.plan, withRow); });
+    Prepared& prepared = PreparedOf(query);
+    Statement& statement = prepared.Get(prepared.whole, [&] { return SelectSql(prepared.sql, withRow); });
     const StatementUse use(statement);
     statement.BindAll(query.values);
     rows.Clear(OutputColumns(query));
     while (statement.Step()) statement.AppendRow(rows, withRow ? 1 : 0);
 }
 
-// The statement is not the plan's own, which belongs to another connection when a thread reads.
+// Of what is kept with the plan only the SQL, since its statements belong to another connection when a thread reads.
 void SqliteEngine::ReadInBlocks(const dialect::Query& query, int rowsEach,
                                 const std::function<void(RowBlock&&)>& take) {
     const ReadTransaction moment(*connection_, true);
     connection_->Run("SELECT 1 FROM sqlite_schema LIMIT 1");
     take({});
-    Statement statement(Handle(), SelectSql(*query.plan, false));
+    Statement statement(Handle(), SelectSql(PreparedOf(query).sql, false));
     statement.BindAll(query.values);
     bool isLast = false;
     while (!isLast) {
@@ -72,8 +81,8 @@ void SqliteEngine::ReadInBlocks(const dialect::Query& query, int rowsEach,
 }
 
 void SqliteEngine::ReadKeyset(const dialect::Query& query, int withData, std::vector<qint64>& keys, RowBlock& rows) {
-    Prepared& prepared = PreparedFor(*query.plan, connection_);
-    Statement& statement = prepared.Get(prepared.whole, [&] { return SelectSql(*query.plan, true); });
+    Prepared& prepared = PreparedOf(query);
+    Statement& statement = prepared.Get(prepared.whole, [&] { return SelectSql(prepared.sql, true); });
     const StatementUse use(statement);
     statement.BindAll(query.values);
     rows.Clear(OutputColumns(query));
@@ -94,9 +103,9 @@ bool SqliteEngine::ScansWholeTable(const dialect::Query& query) {
 // statement, so that both see the store at one moment.
 void SqliteEngine::ReadKeysAfter(const dialect::Query& query, qint64 after, std::vector<qint64>& keys) {
     const int literals = static_cast<int>(query.values.size());
-    Prepared& prepared = PreparedFor(*query.plan, connection_);
+    Prepared& prepared = PreparedOf(query);
     Statement& statement =
-        prepared.Get(prepared.keysAfter, [&] { return KeysSql(*query.plan, "rowid > " + Parameter(literals + 1)); });
+        prepared.Get(prepared.keysAfter, [&] { return KeysSql(prepared.sql, "rowid > " + Parameter(literals + 1)); });
     const StatementUse use(statement);
     statement.BindAll(query.values);
     statement.Bind(literals + 1, after);
@@ -106,9 +115,10 @@ void SqliteEngine::ReadKeysAfter(const dialect::Query& query, qint64 after, std:
 // The rows behind one, by identity; whoever reads them stops where he wants.
 Statement& SqliteEngine::RowsAfter(const dialect::Query& query, qint64 after) {
     const int literals = static_cast<int>(query.values.size());
-    Prepared& prepared = PreparedFor(*query.plan, connection_);
-    Statement& statement = prepared.Get(
-        prepared.after, [&] { return RowsSql(*query.plan, "rowid > " + Parameter(literals + 1) + " ORDER BY rowid"); });
+    Prepared& prepared = PreparedOf(query);
+    Statement& statement = prepared.Get(prepared.after, [&] {
+        return RowsSql(prepared.sql, "rowid > " + Parameter(literals + 1) + " ORDER BY rowid");
+    });
     statement.BindAll(query.values);
     statement.Bind(literals + 1, after);
     return statement;
@@ -152,9 +162,9 @@ void SqliteEngine::ReadRange(const dialect::Query& query, std::span<const qint64
 
 void SqliteEngine::ReadEach(const dialect::Query& query, std::span<const qint64> keys, RowBlock& rows) {
     const int literals = static_cast<int>(query.values.size());
-    Prepared& prepared = PreparedFor(*query.plan, connection_);
+    Prepared& prepared = PreparedOf(query);
     Statement& statement =
-        prepared.Get(prepared.oneRow, [&] { return RowsSql(*query.plan, "rowid = " + Parameter(literals + 1)); });
+        prepared.Get(prepared.oneRow, [&] { return RowsSql(prepared.sql, "rowid = " + Parameter(literals + 1)); });
     const ReadTransaction transaction(*connection_, keys.size() > 1);
     statement.BindAll(query.values);
     for (const qint64 key : keys) {
@@ -188,9 +198,9 @@ bool SqliteEngine::AppendIfWithoutGap(const Table& table, qint64 after, qint64 u
     return true;
 }
 
-std::vector<qint64> SqliteEngine::FindRows(const Table& table, const dialect::Query& criteria) {
-    Prepared& prepared = PreparedFor(*criteria.plan, connection_);
-    Statement& statement = prepared.Get(prepared.whole, [&] { return FindSql(table, *criteria.plan); });
+std::vector<qint64> SqliteEngine::FindRows(const dialect::Query& criteria) {
+    Prepared& prepared = PreparedOf(criteria);
+    Statement& statement = prepared.Get(prepared.whole, [&] { return FindSql(prepared.sql); });
     const StatementUse use(statement);
     statement.BindAll(criteria.values);
     std::vector<qint64> rows;

@@ -4,6 +4,7 @@
 
 #include "store/Conversion.h"
 #include "store/sqlite/Migrations.h"
+#include "store/sqlite/SqlText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -33,10 +34,6 @@ int VersionOf(SQLite::Database& database) {
 }
 
 }  // namespace
-
-std::string Quoted(const QString& name) {
-    return u"\"%1\""_s.arg(name).toStdString();
-}
 
 // Row identities must never come back, since cursors remember them; hence AUTOINCREMENT.
 std::string TableSql(const Table& table) {

@@ -11,7 +11,6 @@ class Database;
 namespace store::sqlite {
 
 // A schema in the engine's own words.
-std::string Quoted(const QString& name);
 std::string TableSql(const Table& table);
 std::string IndexSql(const Table& table, const Index& index);
 

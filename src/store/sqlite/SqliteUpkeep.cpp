@@ -2,8 +2,8 @@
 #include <sqlite3.h>
 
 #include "store/sqlite/Disk.h"
+#include "store/sqlite/PreparedPlan.h"
 #include "store/sqlite/QuerySql.h"
-#include "store/sqlite/SqliteEngine.h"
 #include "store/sqlite/SqliteError.h"
 #include "store/sqlite/SqliteSchema.h"
 
@@ -96,8 +96,9 @@ void SqliteEngine::BackupTo(const QString& path) {
 
 QString SqliteEngine::Explain(const dialect::Query& query) {
     const dialect::Plan& plan = *query.plan;
+    const Pieces& pieces = PreparedOf(query).sql;
     const bool isSelect = plan.kind == dialect::Plan::Kind::Select;
-    const std::string sql = isSelect ? SelectSql(plan, plan.table != nullptr) : ActionSql(plan);
+    const std::string sql = isSelect ? SelectSql(pieces, plan.table != nullptr) : ActionSql(plan.kind, pieces);
     Statement statement(Handle(), "EXPLAIN QUERY PLAN " + sql);
     constexpr int detail = 3;
     QStringList steps;

@@ -2,7 +2,7 @@
 
 #include "store/sqlite/PreparedPlan.h"
 #include "store/sqlite/QuerySql.h"
-#include "store/sqlite/SqliteSchema.h"
+#include "store/sqlite/SqlText.h"
 
 namespace store::sqlite {
 
@@ -45,8 +45,8 @@ bool SqliteEngine::Remove(const Table& table, qint64 row) {
 }
 
 qint64 SqliteEngine::Execute(const dialect::Query& action) {
-    Prepared& prepared = PreparedFor(*action.plan, connection_);
-    Statement& statement = prepared.Get(prepared.whole, [&] { return ActionSql(*action.plan); });
+    Prepared& prepared = PreparedOf(action);
+    Statement& statement = prepared.Get(prepared.whole, [&] { return ActionSql(action.plan->kind, prepared.sql); });
     const StatementUse use(statement);
     statement.BindAll(action.values);
     Write(statement);
@@ -95,12 +95,6 @@ std::string SqliteEngine::SqlOf(const ShapeKey& key) {
             return "DELETE FROM " + table + " WHERE rowid = ?1";
     }
     return {};
-}
-
-SqliteEngine::Prepared& SqliteEngine::PreparedFor(const dialect::Plan& plan,
-                                                  const std::shared_ptr<Connection>& connection) {
-    if (!plan.prepared) plan.prepared = std::make_shared<Prepared>(connection);
-    return *static_cast<Prepared*>(plan.prepared.get());
 }
 
 }  // namespace store::sqlite

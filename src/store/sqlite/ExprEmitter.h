@@ -4,15 +4,15 @@
 
 #include "store/dialect/Bound.h"
 
-namespace store::dialect {
+namespace store::sqlite {
 
-// A name as the engine takes it, whatever it holds.
-std::string QuotedName(const QString& name);
+using dialect::BoundExpr;
+using dialect::BoundTable;
 
-// Writes expressions as SQL and notes what each literal is to be bound as.
+// Writes expressions as SQL; literal i is parameter i + 1.
 class ExprEmitter {
 public:
-    ExprEmitter(const std::vector<BoundTable>& tables, QList<Target>& targets) : tables_(tables), targets_(targets) {}
+    explicit ExprEmitter(const std::vector<BoundTable>& tables) : tables_(tables) {}
 
     // As a value: a condition gives -1 and 0.
     std::string Value(const BoundExpr& expr) { return ValueAt(expr, Level::Or); }
@@ -44,12 +44,10 @@ private:
     std::string StoredExact(const BoundExpr& expr);
     std::string StoredDouble(const BoundExpr& expr);
     std::string ColumnName(const BoundExpr& column) const;
-    std::string Parameter(const BoundExpr& literal);
     std::string JoinedText(const BoundExpr& expr);
     std::string Compared(const BoundExpr& expr, const BoundExpr* other);
 
     const std::vector<BoundTable>& tables_;
-    QList<Target>& targets_;
 };
 
-}  // namespace store::dialect
+}  // namespace store::sqlite

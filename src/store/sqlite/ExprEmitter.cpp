@@ -1,7 +1,11 @@
-#include "store/dialect/ExprEmitter.h"
+#include "store/sqlite/ExprEmitter.h"
 
-namespace store::dialect {
+#include "store/sqlite/SqlText.h"
 
+namespace store::sqlite {
+
+using dialect::ConstantExpr;
+using dialect::Op;
 using Form = BoundExpr::Form;
 
 namespace {
@@ -23,12 +27,6 @@ bool LacksCollation(const BoundExpr& expr) {
 
 }  // namespace
 
-std::string QuotedName(const QString& name) {
-    QString doubled = name;
-    doubled.replace(u'"', QStringLiteral("\"\""));
-    return '"' + doubled.toStdString() + '"';
-}
-
 std::string ExprEmitter::Bracketed(const Piece& piece, Level least) {
     return piece.level < least ? '(' + piece.sql + ')' : piece.sql;
 }
@@ -45,7 +43,7 @@ ExprEmitter::Piece ExprEmitter::ValuePiece(const BoundExpr& expr) {
         case Form::Column:
             return {Level::Primary, ColumnName(expr)};
         case Form::Literal:
-            return {Level::Primary, Parameter(expr)};
+            return {Level::Primary, Parameter(expr.literal + 1)};
         case Form::Constant:
             if (expr.constant == ConstantExpr::Null) return {Level::Primary, "NULL"};
             return expr.constant == ConstantExpr::True ? Piece{Level::Unary, "-1"} : Piece{Level::Primary, "0"};
@@ -201,13 +199,8 @@ std::string ExprEmitter::StoredExact(const BoundExpr& expr) {
 
 std::string ExprEmitter::ColumnName(const BoundExpr& column) const {
     const BoundTable& table = tables_[static_cast<size_t>(column.table)];
-    const std::string name = QuotedName(table.table->columns[column.column].name);
-    return tables_.size() == 1 ? name : QuotedName(table.name) + '.' + name;
+    const std::string name = Quoted(table.table->columns[column.column].name);
+    return tables_.size() == 1 ? name : Quoted(table.name) + '.' + name;
 }
 
-std::string ExprEmitter::Parameter(const BoundExpr& literal) {
-    targets_[literal.literal] = literal.target;
-    return '?' + std::to_string(literal.literal + 1);
-}
-
-}  // namespace store::dialect
+}  // namespace store::sqlite

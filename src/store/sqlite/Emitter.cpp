@@ -1,46 +1,44 @@
-#include "store/dialect/Emitter.h"
+#include "store/sqlite/Emitter.h"
 
 #include <algorithm>
 
 #include "store/dialect/Complaint.h"
-#include "store/dialect/ExprEmitter.h"
-#include "store/dialect/Limits.h"
+#include "store/sqlite/ExprEmitter.h"
+#include "store/sqlite/SqlText.h"
 
 using namespace Qt::StringLiterals;
 
-namespace store::dialect {
+namespace store::sqlite {
+
+using dialect::BoundAssignment;
+using dialect::BoundPtr;
+using dialect::BoundSorting;
+using dialect::BoundSource;
 
 namespace {
 
+// The parser has a fixed stack; so many brackets may stand one within the other.
+constexpr int MostBrackets = 12;
+
 class Emitter {
 public:
-    Emitter(const BoundStatement& statement, int literals) : statement_(statement) {
-        plan_.targets.resize(literals, Target::Text);
-    }
+    explicit Emitter(const dialect::Plan& plan) : statement_(plan) {}
 
-    Plan Whole() {
-        plan_.kind = statement_.kind;
-        if (statement_.tables.size() == 1 && !statement_.aggregate) plan_.table = statement_.tables.front().table;
-        if (plan_.table)
-            plan_.from = QuotedName(plan_.table->name);
-        else
-            plan_.from = From(*statement_.from);
-
-        for (const BoundColumn& column : statement_.columns) {
-            Add(plan_.columns, exprs_.Value(*column.expr));
-            plan_.output += column.output;
-        }
+    Pieces Whole() {
+        const Table* table = statement_.table;
+        pieces_.from = table ? Quoted(table->name) : From(*statement_.from);
+        for (const BoundPtr& column : statement_.columns) Add(pieces_.columns, exprs_.Value(*column));
         for (const BoundAssignment& assignment : statement_.set) {
-            const Column& column = plan_.table->columns[assignment.column];
-            Add(plan_.set, QuotedName(column.name) + " = " + exprs_.Value(*assignment.value));
+            const QString& column = table->columns[assignment.column].name;
+            Add(pieces_.set, Quoted(column) + " = " + exprs_.Value(*assignment.value));
         }
-        if (statement_.where) plan_.where = exprs_.Condition(*statement_.where);
-        for (const BoundPtr& expr : statement_.group) Add(plan_.group, exprs_.Key(*expr));
-        if (statement_.having) plan_.having = exprs_.Condition(*statement_.having);
+        if (statement_.where) pieces_.where = exprs_.Condition(*statement_.where);
+        for (const BoundPtr& expr : statement_.group) Add(pieces_.group, exprs_.Key(*expr));
+        if (statement_.having) pieces_.having = exprs_.Condition(*statement_.having);
         for (const BoundSorting& sorting : statement_.order) {
-            Add(plan_.order, exprs_.Key(*sorting.expr) + (sorting.descending ? " DESC" : ""));
+            Add(pieces_.order, exprs_.Key(*sorting.expr) + (sorting.descending ? " DESC" : ""));
         }
-        return std::move(plan_);
+        return std::move(pieces_);
     }
 
 private:
@@ -57,8 +55,8 @@ private:
     std::string From(const BoundSource& source) {
         if (IsTable(source)) {
             const BoundTable& table = statement_.tables[static_cast<size_t>(source.table)];
-            const std::string name = QuotedName(table.table->name);
-            const std::string called = QuotedName(table.name);
+            const std::string name = Quoted(table.table->name);
+            const std::string called = Quoted(table.name);
             return statement_.tables.size() == 1 || name == called ? name : name + " AS " + called;
         }
         if (!source.left && IsInner(source)) return InnerTables(source) + " ON " + InnerConditions(source);
@@ -82,9 +80,9 @@ private:
         return conditions + '(' + exprs_.Condition(*source.on) + ')';
     }
 
-    const BoundStatement& statement_;
-    Plan plan_;
-    ExprEmitter exprs_{statement_.tables, plan_.targets};
+    const dialect::Plan& statement_;
+    Pieces pieces_;
+    ExprEmitter exprs_{statement_.tables};
 };
 
 int DeepestBrackets(const std::string& sql) {
@@ -101,15 +99,15 @@ int DeepestBrackets(const std::string& sql) {
 
 }  // namespace
 
-Plan Emit(const BoundStatement& statement, int literals, const QString& text) {
-    Plan plan = Emitter(statement, literals).Whole();
+Pieces Emit(const dialect::Plan& plan, const QString& text) {
+    Pieces pieces = Emitter(plan).Whole();
     for (const std::string* piece :
-         {&plan.columns, &plan.from, &plan.where, &plan.group, &plan.having, &plan.order, &plan.set}) {
-        if (DeepestBrackets(*piece) <= MaxEmittedBrackets) continue;
-        Complaint(Stage::Binder, text)(SyntaxError, {0, static_cast<int>(text.size())},
-                                       u"The query text is nested too deeply."_s);
+         {&pieces.columns, &pieces.from, &pieces.where, &pieces.group, &pieces.having, &pieces.order, &pieces.set}) {
+        if (DeepestBrackets(*piece) <= MostBrackets) continue;
+        dialect::Complaint(Stage::Engine, text)(SyntaxError, {0, static_cast<int>(text.size())},
+                                                u"The query text is nested too deeply."_s);
     }
-    return plan;
+    return pieces;
 }
 
-}  // namespace store::dialect
+}  // namespace store::sqlite
