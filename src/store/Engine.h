@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QStringList>
-#include <array>
 #include <functional>
 #include <memory>
 #include <span>
@@ -12,12 +11,8 @@
 
 namespace store {
 
-// A moment in a store's history. Rows read at a moment are current for as long as the engine still stands there.
-struct Stamp {
-    std::array<quint64, 6> commits = {};  // the engine's own mark of the last commit by anybody
-    quint64 writes = 0;                   // what this connection wrote, committed or not
-    bool known = false;
-};
+// A moment in a store's history, as the engine that gave it numbers it; the number tells nobody else anything.
+enum class Stamp : quint64 { Unknown };
 
 // One field of a row to be written: a position in the table's columns, and its value as the engine stores it.
 struct FieldChange {
@@ -87,7 +82,7 @@ public:
     virtual std::unique_ptr<Engine> OpenBeside() = 0;
 
     virtual Stamp Now() = 0;
-    virtual bool StillAt(const Stamp& stamp) = 0;
+    virtual bool StillAt(Stamp stamp) = 0;
 
     virtual QStringList CheckIntegrity() = 0;
     virtual QStringList MissingIndexes(const Schema& schema) = 0;

@@ -97,7 +97,7 @@ CursorRows::Place KeysetRows::FirstOf(const std::vector<qint64>& rows) {
 void KeysetRows::Remove(Place place) {
     auto& rows = place >= FirstAdded ? added_ : base_;
     rows.erase(rows.begin() + static_cast<std::ptrdiff_t>(Index(place)));
-    stamp_ = {};
+    stamp_ = Stamp::Unknown;
 }
 
 CursorRows::Data KeysetRows::Confirm(Place place) {
@@ -143,7 +143,7 @@ bool KeysetRows::InWindow(Place place) const {
 
 CursorRows::Data KeysetRows::Load(Place place) {
     const bool isCurrent = engine_.StillAt(stamp_);
-    confirmed_ = {};
+    confirmed_ = Stamp::Unknown;
     if (!isCurrent || !InWindow(place)) {
         // While others commit between the moves, rows read ahead would be read in vain.
         readAhead_ = isCurrent ? std::min(readAhead_ * 2, LongestReadAhead) : 1;

@@ -57,8 +57,8 @@ private:
 
     RowBlock window_;
     Place windowStart_ = 0;
-    Stamp stamp_;      // when the window was read
-    Stamp confirmed_;  // when the last loaded row was found to be there still
+    Stamp stamp_ = Stamp::Unknown;      // when the window was read
+    Stamp confirmed_ = Stamp::Unknown;  // when the last loaded row was found to be there still
     int readAhead_;
 };
 

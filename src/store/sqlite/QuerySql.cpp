@@ -10,13 +10,6 @@ std::string Clause(const char* keyword, const std::string& text) {
     return text.empty() ? text : keyword + text;
 }
 
-QStringList NamesOf(const Table& table, quint64 columns) {
-    QStringList names;
-    for (int i = 0; i < table.columns.size(); ++i)
-        if ((columns >> i & 1) != 0) names += table.columns[i].name;
-    return names;
-}
-
 }  // namespace
 
 std::string SelectSql(const Pieces& query, bool withRow) {
@@ -43,27 +36,27 @@ std::string FindSql(const Pieces& criteria) {
     return "SELECT rowid FROM " + criteria.from + Clause(" WHERE ", criteria.where) + " ORDER BY rowid";
 }
 
-std::string InsertSql(const Table& table, quint64 columns) {
-    if (columns == 0) return "INSERT INTO " + Quoted(table.name) + " DEFAULT VALUES";
+std::string InsertSql(const Table& table, const ColumnSet& columns) {
+    if (columns.empty()) return "INSERT INTO " + Quoted(table.name) + " DEFAULT VALUES";
     std::string names, values;
-    for (int parameter = 0; const QString& name : NamesOf(table, columns)) {
+    for (int parameter = 0; const int column : columns) {
         const std::string separator = parameter == 0 ? "" : ", ";
-        names += separator + Quoted(name);
+        names += separator + Quoted(table.columns[column].name);
         values += separator + Parameter(++parameter);
     }
     return "INSERT INTO " + Quoted(table.name) + " (" + names + ") VALUES (" + values + ")";
 }
 
-std::string ChangeSql(const Table& table, quint64 columns, quint64 expected) {
+std::string ChangeSql(const Table& table, const ColumnSet& columns, const ColumnSet& expected) {
     int parameter = 0;
     std::string sql = "UPDATE " + Quoted(table.name) + " SET ";
-    for (const QString& name : NamesOf(table, columns)) {
+    for (const int column : columns) {
         if (parameter > 0) sql += ", ";
-        sql += Quoted(name) + " = " + Parameter(++parameter);
+        sql += Quoted(table.columns[column].name) + " = " + Parameter(++parameter);
     }
     sql += " WHERE rowid = " + Parameter(++parameter);
-    for (const QString& name : NamesOf(table, expected))
-        sql += " AND " + Quoted(name) + " COLLATE BINARY IS " + Parameter(++parameter);
+    for (const int column : expected)
+        sql += " AND " + Quoted(table.columns[column].name) + " COLLATE BINARY IS " + Parameter(++parameter);
     return sql;
 }
 

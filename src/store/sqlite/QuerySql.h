@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "store/sqlite/Emitter.h"
 
@@ -15,9 +16,12 @@ std::string KeysSql(const Pieces& query, const std::string& condition);
 std::string ActionSql(dialect::Plan::Kind kind, const Pieces& action);
 std::string FindSql(const Pieces& criteria);
 
-// Writes to sets of columns, given as bits; the parameters come in the table's order: the columns written, the row's
-// identity, the columns expected to be as they were.
-std::string InsertSql(const Table& table, quint64 columns);
-std::string ChangeSql(const Table& table, quint64 columns, quint64 expected);
+// Positions in a table's columns, rising.
+using ColumnSet = std::vector<int>;
+
+// Writes to sets of columns; the parameters are the columns written, the row's identity, the columns expected to be as
+// they were.
+std::string InsertSql(const Table& table, const ColumnSet& columns);
+std::string ChangeSql(const Table& table, const ColumnSet& columns, const ColumnSet& expected);
 
 }  // namespace store::sqlite

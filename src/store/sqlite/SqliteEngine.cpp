@@ -76,14 +76,19 @@ void SqliteEngine::EndRelaxed() {
 }
 
 Stamp SqliteEngine::Now() {
-    Stamp stamp;
-    stamp.writes = writes_;
-    stamp.known = log_.Read(stamp.commits);
-    return stamp;
+    WalWatch::Head head;
+    if (!log_.Read(head)) return Stamp::Unknown;
+    if (moment_ == 0 || head != headThen_ || writes_ != writesThen_) {
+        ++moment_;
+        headThen_ = head;
+        writesThen_ = writes_;
+    }
+    return Stamp{moment_};
 }
 
-bool SqliteEngine::StillAt(const Stamp& stamp) {
-    return stamp.known && stamp.writes == writes_ && log_.IsAt(stamp.commits);
+// Of earlier moments none comes back.
+bool SqliteEngine::StillAt(Stamp stamp) {
+    return stamp != Stamp::Unknown && stamp == Stamp{moment_} && writesThen_ == writes_ && log_.IsAt(headThen_);
 }
 
 }  // namespace store::sqlite

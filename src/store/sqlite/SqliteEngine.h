@@ -4,6 +4,7 @@
 
 #include "store/Engine.h"
 #include "store/sqlite/Connection.h"
+#include "store/sqlite/QuerySql.h"
 #include "store/sqlite/Statement.h"
 #include "store/sqlite/StoreFiles.h"
 #include "store/sqlite/WalWatch.h"
@@ -48,7 +49,7 @@ public:
     std::unique_ptr<Engine> OpenBeside() override;
 
     Stamp Now() override;
-    bool StillAt(const Stamp& stamp) override;
+    bool StillAt(Stamp stamp) override;
 
     QStringList CheckIntegrity() override;
     QStringList MissingIndexes(const Schema& schema) override;
@@ -62,8 +63,8 @@ private:
     struct ShapeKey {
         Shape shape;
         const Table* table;
-        quint64 columns = 0;
-        quint64 expected = 0;
+        ColumnSet columns = {};
+        ColumnSet expected = {};
         auto operator<=>(const ShapeKey&) const = default;
     };
 
@@ -94,6 +95,10 @@ private:
     QString whyNotSaved_;
     std::map<ShapeKey, Statement> statements_;
     quint64 writes_ = 0;
+    // The last moment that was asked for: what had been committed by anybody, and written by this connection.
+    quint64 moment_ = 0;
+    WalWatch::Head headThen_ = {};
+    quint64 writesThen_ = 0;
     int bursts_ = 0;
     bool isRelaxed_ = false;  // commits reach the disk later
     quint64 writesWhenRelaxed_ = 0;

@@ -1,7 +1,6 @@
 #include <sqlite3.h>
 
 #include "store/sqlite/PreparedPlan.h"
-#include "store/sqlite/QuerySql.h"
 #include "store/sqlite/SqlText.h"
 
 using namespace Qt::StringLiterals;

@@ -3,7 +3,6 @@
 
 #include "store/sqlite/Disk.h"
 #include "store/sqlite/PreparedPlan.h"
-#include "store/sqlite/QuerySql.h"
 #include "store/sqlite/SqliteError.h"
 #include "store/sqlite/SqliteSchema.h"
 

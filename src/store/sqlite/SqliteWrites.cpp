@@ -1,23 +1,22 @@
 #include <sqlite3.h>
 
 #include "store/sqlite/PreparedPlan.h"
-#include "store/sqlite/QuerySql.h"
 #include "store/sqlite/SqlText.h"
 
 namespace store::sqlite {
 
 namespace {
 
-quint64 ColumnSet(std::span<const FieldChange> fields) {
-    quint64 set = 0;
-    for (const FieldChange& field : fields) set |= quint64{1} << field.column;
-    return set;
+ColumnSet ColumnsOf(std::span<const FieldChange> fields) {
+    ColumnSet columns(fields.size());
+    std::ranges::transform(fields, columns.begin(), &FieldChange::column);
+    return columns;
 }
 
 }  // namespace
 
 qint64 SqliteEngine::Insert(const Table& table, std::span<const FieldChange> fields) {
-    Statement& statement = StatementFor({Shape::Insert, &table, ColumnSet(fields)});
+    Statement& statement = StatementFor({Shape::Insert, &table, ColumnsOf(fields)});
     const StatementUse use(statement);
     for (int i = 0; const FieldChange& field : fields) statement.Bind(++i, field.value);
     Write(statement);
@@ -26,7 +25,7 @@ qint64 SqliteEngine::Insert(const Table& table, std::span<const FieldChange> fie
 
 bool SqliteEngine::Change(const Table& table, qint64 row, std::span<const FieldChange> fields,
                           std::span<const FieldChange> expected) {
-    Statement& statement = StatementFor({Shape::Change, &table, ColumnSet(fields), ColumnSet(expected)});
+    Statement& statement = StatementFor({Shape::Change, &table, ColumnsOf(fields), ColumnsOf(expected)});
     const StatementUse use(statement);
     int parameter = 0;
     for (const FieldChange& field : fields) statement.Bind(++parameter, field.value);

@@ -9,7 +9,6 @@ namespace store::sqlite {
 
 namespace {
 
-constexpr int HeaderWords = 6;
 constexpr int IndexBytes = 32768;
 
 }  // namespace
@@ -29,13 +28,13 @@ bool WalWatch::Attach() {
     return index_ != nullptr;
 }
 
-bool WalWatch::Read(std::array<quint64, 6>& header) {
+bool WalWatch::Read(Head& header) {
     if (!Attach()) return false;
     // Writers fill the second copy before the first.
-    for (size_t i = 0; i < HeaderWords; ++i) header[i] = index_[i];
+    for (size_t i = 0; i < header.size(); ++i) header[i] = index_[i];
     std::atomic_thread_fence(std::memory_order_acquire);
-    for (size_t i = 0; i < HeaderWords; ++i)
-        if (header[i] != index_[i + HeaderWords]) return false;
+    for (size_t i = 0; i < header.size(); ++i)
+        if (header[i] != index_[i + header.size()]) return false;
 
     constexpr size_t isInitialisedAt = 12;
     return reinterpret_cast<const unsigned char*>(header.data())[isInitialisedAt] != 0;

@@ -12,12 +12,14 @@ namespace store::sqlite {
 // headers mean that nothing was committed between.
 class WalWatch {
 public:
+    using Head = std::array<quint64, 6>;
+
     explicit WalWatch(sqlite3* connection) : connection_(connection) {}
 
     // The header; false while it cannot be had or is just being written.
-    bool Read(std::array<quint64, 6>& header);
+    bool Read(Head& header);
     // Whether the header is this one, which Read gave. The copy that is written last decides.
-    bool IsAt(const std::array<quint64, 6>& header) const {
+    bool IsAt(const Head& header) const {
         for (size_t i = 0; i < header.size(); ++i)
             if (index_[i] != header[i]) return false;
         return true;
