@@ -185,7 +185,6 @@ const Schema& MainSchema() {
         .version = 2,
         .tables = {Sales(), Invoices(), SalesDetails(), Products(), ProductsCon(), Tax(), Unit(), Users(), Login(),
                    Custumer(), Company(), TabControl()},
-        .applicationId = 0x5645'4C01,
     };
     return schema;
 }
@@ -195,7 +194,6 @@ const Schema& OptionsSchema() {
         .name = u"opt"_s,
         .version = 2,
         .tables = {Options()},
-        .applicationId = 0x5645'4C02,
     };
     return schema;
 }

@@ -18,8 +18,6 @@ constexpr bool IsNumber(Type type) {
     return IsScaled(type) || type == Type::Whole || type == Type::Double || type == Type::YesNo;
 }
 
-// In the embedded engine a text is TEXT under the store's own collation, a whole number INTEGER, a scaled one INTEGER
-// in ten-thousandths, a date INTEGER as Julian day number, a time INTEGER in seconds since midnight, yes/no -1 or 0.
 struct Column {
     QString name;
     Type type = Type::Text;
@@ -48,8 +46,6 @@ struct Schema {
     QString name;
     int version = 1;
     QList<Table> tables;
-    // Written into the file's head, so that one kind of store is not taken for another.
-    qint32 applicationId = 0x5645'4C00;
 
     const Table* Find(QStringView table) const;
 };

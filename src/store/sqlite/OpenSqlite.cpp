@@ -31,7 +31,7 @@ void CheckFile(const QString& path) {
 }
 
 void CheckKind(SQLite::Database& database, const Schema& schema, const QString& path) {
-    if (database.execAndGet("PRAGMA application_id").getInt() != schema.applicationId)
+    if (database.execAndGet("PRAGMA application_id").getInt() != ApplicationId(schema))
         throw StoreError(NotAStore, u"%1 is no store of this kind (%2)."_s.arg(path, schema.name));
     const int version = database.execAndGet("PRAGMA user_version").getInt();
     if (version > schema.version)

@@ -3,7 +3,7 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 #include "store/Conversion.h"
-#include "store/sqlite/Migrations.h"
+#include "store/Migrations.h"
 #include "store/sqlite/SqlText.h"
 
 using namespace Qt::StringLiterals;
@@ -25,6 +25,19 @@ std::string DefaultSql(const Column& column) {
     return number == nullptr ? std::string() : " DEFAULT " + std::to_string(*number);
 }
 
+std::string ColumnSql(const Column& column) {
+    return Quoted(column.name) + " " +
+           (column.selfNumbering ? "INTEGER PRIMARY KEY AUTOINCREMENT" : TypeSql(column.type) + DefaultSql(column));
+}
+
+std::string Sql(const AddedColumn& added) {
+    return "ALTER TABLE " + Quoted(added.table) + " ADD COLUMN " + ColumnSql(added.column);
+}
+
+std::string Sql(const AddedIndex& added) {
+    return IndexSql(added.table, added.index);
+}
+
 void SetVersion(SQLite::Database& database, int version) {
     database.exec("PRAGMA user_version = " + std::to_string(version));
 }
@@ -41,35 +54,40 @@ std::string TableSql(const Table& table) {
     std::string columns = numbersItself ? "" : "\"RowKey\" INTEGER PRIMARY KEY AUTOINCREMENT";
     for (const Column& column : table.columns) {
         if (!columns.empty()) columns += ", ";
-        columns += Quoted(column.name) + " ";
-        columns +=
-            column.selfNumbering ? "INTEGER PRIMARY KEY AUTOINCREMENT" : TypeSql(column.type) + DefaultSql(column);
+        columns += ColumnSql(column);
     }
     return "CREATE TABLE " + Quoted(table.name) + " (" + columns + ") STRICT";
 }
 
-QString IndexName(const Table& table, const Index& index) {
+QString IndexName(const QString& table, const Index& index) {
     const QString kind = index.unique ? u"Key"_s : index.overVal ? u"Val"_s : u"By"_s;
-    return table.name + kind + index.columns.join(QString());
+    return table + kind + index.columns.join(QString());
 }
 
-std::string IndexSql(const Table& table, const Index& index) {
+std::string IndexSql(const QString& table, const Index& index) {
     std::string terms;
     for (const QString& column : index.columns) {
         if (!terms.empty()) terms += ", ";
         terms += index.overVal ? "velton_val(" + Quoted(column) + ")" : Quoted(column);
     }
     return std::string("CREATE ") + (index.unique ? "UNIQUE " : "") + "INDEX " + Quoted(IndexName(table, index)) +
-           " ON " + Quoted(table.name) + " (" + terms + ")";
+           " ON " + Quoted(table) + " (" + terms + ")";
+}
+
+// "VEL", and the kind.
+qint32 ApplicationId(const Schema& schema) {
+    constexpr qint32 ofAnyKind = 0x5645'4C00;
+    if (schema.name == MainSchema().name) return ofAnyKind + 1;
+    return schema.name == OptionsSchema().name ? ofAnyKind + 2 : ofAnyKind;
 }
 
 void BuildSchema(SQLite::Database& database, const Schema& schema) {
     SQLite::Transaction transaction(database);
     for (const Table& table : schema.tables) {
         database.exec(TableSql(table));
-        for (const Index& index : table.indexes) database.exec(IndexSql(table, index));
+        for (const Index& index : table.indexes) database.exec(IndexSql(table.name, index));
     }
-    database.exec("PRAGMA application_id = " + std::to_string(schema.applicationId));
+    database.exec("PRAGMA application_id = " + std::to_string(ApplicationId(schema)));
     SetVersion(database, schema.version);
     transaction.commit();
 }
@@ -80,7 +98,7 @@ QStringList MissingIndexes(SQLite::Database& database, const Schema& schema) {
     while (names.executeStep()) present += QString::fromStdString(names.getColumn(0).getString());
     for (const Table& table : schema.tables)
         for (const Index& index : table.indexes)
-            if (!present.contains(IndexName(table, index))) missing += table.name + u'.' + index.columns.join(u'+');
+            if (!present.contains(IndexName(table.name, index))) missing += table.name + u'.' + index.columns.join(u'+');
     return missing;
 }
 
@@ -89,7 +107,8 @@ void MigrateSchema(SQLite::Database& database, const Schema& schema) {
         SQLite::Transaction transaction(database, SQLite::TransactionBehavior::IMMEDIATE);
         const int version = VersionOf(database);
         if (version < schema.version) {
-            MigrationFrom(schema, version)(database);
+            for (const auto& change : MigrationFrom(schema, version))
+                database.exec(std::visit([](const auto& one) { return Sql(one); }, change));
             SetVersion(database, version + 1);
         }
         transaction.commit();

@@ -10,9 +10,12 @@ class Database;
 
 namespace store::sqlite {
 
-// A schema in the engine's own words.
+// A schema in the engine's own words: a text is TEXT under the store's own collation, a double REAL, all else INTEGER,
+// in the units of Conversion.h.
 std::string TableSql(const Table& table);
-std::string IndexSql(const Table& table, const Index& index);
+std::string IndexSql(const QString& table, const Index& index);
+// Stands in the file's head, so that one kind of store is not taken for another.
+qint32 ApplicationId(const Schema& schema);
 
 // Writes a whole schema into an empty file, as one commit.
 void BuildSchema(SQLite::Database& database, const Schema& schema);
