@@ -29,7 +29,7 @@ BusyTill::BusyTill(const Shop& shop, const QString& folder) : folder_(folder) {
 }
 
 QString BusyTill::StorePath() const {
-    return store::MainStorePath(folder_);
+    return store::MainPlace(folder_).Path();
 }
 
 QString BusyTill::PicturePath(const QString& picture) const {

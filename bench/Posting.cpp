@@ -193,7 +193,7 @@ private:
 };
 
 Work ByHand(const Shop& shop, const QString& till) {
-    const auto store = std::make_shared<HandStore>(store::MainStorePath(till));
+    const auto store = std::make_shared<HandStore>(store::MainPlace(till).Path());
     return [store, invoice = Invoices(shop)]() mutable {
         const qint64 before = store->ChangedRows();
         invoice.Next();

@@ -187,15 +187,15 @@ Shop::Shop(const QString& dataFolder, ShopSize size)
 
 void Shop::Make(const QString& folder) const {
     delivery::MakeProgramFolder(folder, false);
-    const auto options = store::Database::Open(store::OptionsStorePath(folder), store::OptionsSchema());
+    const auto options = store::Database::Open(store::OptionsPlace(folder), store::OptionsSchema());
     options->Execute(u"UPDATE Options SET Kusur = False"_s);  // no dialog waits for an answer
-    const auto main = store::Database::Open(store::MainStorePath(folder), store::MainSchema());
+    const auto main = store::Database::Open(store::MainPlace(folder), store::MainSchema());
     AddProducts(*main, products_);
     Business(*main, products_).Sell(size_.lines, size_.days);
 }
 
 QString Shop::StorePath() const {
-    return store::MainStorePath(folder_);
+    return store::MainPlace(folder_).Path();
 }
 
 std::vector<QString> Shop::RandomCodes(int count) const {

@@ -38,12 +38,12 @@ store::Database& Opened(const std::unique_ptr<store::Database>& database) {
 }  // namespace
 
 void OpenOptionsStore() {
-    optionsStore = store::Database::Open(store::OptionsStorePath(output::ProgramFolder()), store::OptionsSchema());
+    optionsStore = store::Database::Open(store::OptionsPlace(output::ProgramFolder()), store::OptionsSchema());
 }
 
 void OpenMainStore() {
     mainPatience.reset();
-    mainStore = store::Database::Open(store::MainStorePath(output::ProgramFolder()), store::MainSchema());
+    mainStore = store::Database::Open(store::MainPlace(output::ProgramFolder()), store::MainSchema());
 }
 
 void ShowWaitsOfMainStore() {

@@ -9,30 +9,28 @@ using namespace Qt::StringLiterals;
 namespace store {
 
 struct Database::Internals {
-    Internals(Engine& engine, const Schema& itsSchema, QString itsPath)
+    Internals(Engine& engine, const Schema& itsSchema)
         : schema(itsSchema),
-          path(std::move(itsPath)),
           compiler(schema, [&engine](const auto& plan, const auto& text) { engine.Prepare(plan, text); }) {}
 
     dialect::Query CompileSelect(const QString& query);
 
     Schema schema;
-    QString path;
     dialect::Compiler compiler;
     std::shared_ptr<SideEngine> side;  // once a listing was opened
 };
 
-Database::Database(std::unique_ptr<Engine> engine, const Schema& schema, QString path)
-    : engine_(std::move(engine)), internals_(std::make_unique<Internals>(*engine_, schema, std::move(path))) {}
+Database::Database(std::unique_ptr<Engine> engine, const Schema& schema)
+    : engine_(std::move(engine)), internals_(std::make_unique<Internals>(*engine_, schema)) {}
 
 Database::~Database() = default;
 
-std::unique_ptr<Database> Database::Open(const QString& path, const Schema& schema) {
-    return std::unique_ptr<Database>(new Database(sqlite::OpenFile(path, schema), schema, path));
+std::unique_ptr<Database> Database::Open(const Place& place, const Schema& schema) {
+    return std::unique_ptr<Database>(new Database(sqlite::OpenFile(place.Path(), schema), schema));
 }
 
-std::unique_ptr<Database> Database::Create(const QString& path, const Schema& schema) {
-    return std::unique_ptr<Database>(new Database(sqlite::CreateFile(path, schema), schema, path));
+std::unique_ptr<Database> Database::Create(const Place& place, const Schema& schema) {
+    return std::unique_ptr<Database>(new Database(sqlite::CreateFile(place.Path(), schema), schema));
 }
 
 dialect::Query Database::Internals::CompileSelect(const QString& query) {
@@ -82,10 +80,6 @@ const Schema& Database::GetSchema() const {
     return internals_->schema;
 }
 
-const QString& Database::Path() const {
-    return internals_->path;
-}
-
 QStringList Database::CheckIntegrity() {
     return engine_->CheckIntegrity();
 }
@@ -117,18 +111,18 @@ void Database::Batch::Commit() {
 }
 
 Watch::Watch(Database& database, std::function<bool()> goesOn) : database_(database) {
-    database_.GetEngine().AskWhileWorking(std::move(goesOn));
+    database_.engine_->AskWhileWorking(std::move(goesOn));
 }
 
 Watch::~Watch() {
-    database_.GetEngine().AskWhileWorking({});
+    database_.engine_->AskWhileWorking({});
 }
 
 Patience::Patience(Database& database, std::function<std::function<bool()>()> begin)
-    : database_(database), before_(database.GetEngine().AskWhileWaiting(std::move(begin))) {}
+    : database_(database), before_(database.engine_->AskWhileWaiting(std::move(begin))) {}
 
 Patience::~Patience() {
-    database_.GetEngine().AskWhileWaiting(std::move(before_));
+    database_.engine_->AskWhileWaiting(std::move(before_));
 }
 
 Burst::Burst(Database& database) : database_(database) {

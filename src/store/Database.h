@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "store/Listing.h"
+#include "store/Place.h"
 #include "store/Recordset.h"
 #include "store/Schema.h"
 
@@ -22,9 +23,9 @@ class Database {
 public:
     // Opens an existing store for shared reading and writing, carrying an older one forward to the schema's version.
     // 3024 missing, 3343 foreign, damaged, empty or newer, 3356 held exclusively, 3027 not writable.
-    static std::unique_ptr<Database> Open(const QString& path, const Schema& schema);
-    // Makes a new, empty store; an existing file of that name is refused (3204).
-    static std::unique_ptr<Database> Create(const QString& path, const Schema& schema);
+    static std::unique_ptr<Database> Open(const Place& place, const Schema& schema);
+    // Makes a new, empty store; where one lies already that is refused (3204).
+    static std::unique_ptr<Database> Create(const Place& place, const Schema& schema);
     ~Database();
 
     Recordset OpenRecordset(const QString& query);
@@ -37,7 +38,6 @@ public:
     qint64 Execute(const QString& query);
 
     const Schema& GetSchema() const;
-    const QString& Path() const;
 
     // Many rows, all or none: between Begin and Commit the Updates of all cursors are one commit. For what changes
     // many rows as one thing; a sale never uses it. Cursors that added rows in a batch that was rolled back are to be
@@ -64,13 +64,13 @@ public:
     // How the engine would run a query text, one line a step; for tests.
     QString ExplainPlan(const QString& query);
 
-    Engine& GetEngine() { return *engine_; }
-
 private:
     Recordset SnapshotOf(dialect::Query query);
-    Database(std::unique_ptr<Engine> engine, const Schema& schema, QString path);
+    Database(std::unique_ptr<Engine> engine, const Schema& schema);
     friend class Recordset;
     friend class Burst;
+    friend class Watch;
+    friend class Patience;
     struct Internals;
     std::unique_ptr<Engine> engine_;
     std::unique_ptr<Internals> internals_;

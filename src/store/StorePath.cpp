@@ -58,16 +58,16 @@ QString PathInIni(const QString& iniFile) {
 
 }  // namespace
 
-QString MainStorePath(const QString& programFolder) {
+Place MainPlace(const QString& programFolder) {
     const QDir folder(programFolder);
     const QString path = PathInIni(folder.filePath(u"store.ini"_s));
-    if (path.isEmpty()) return folder.filePath(u"ORVA.pos"_s);
+    if (path.isEmpty()) return folder.filePath(MainFile);
     const QString target = folder.filePath(path);
-    return QFileInfo(target).isDir() ? QDir(target).filePath(u"ORVA.pos"_s) : target;
+    return QFileInfo(target).isDir() ? QDir(target).filePath(MainFile) : target;
 }
 
-QString OptionsStorePath(const QString& programFolder) {
-    return QDir(programFolder).filePath(u"opt.pos"_s);
+Place OptionsPlace(const QString& programFolder) {
+    return QDir(programFolder).filePath(OptionsFile);
 }
 
 }  // namespace store

@@ -1,14 +1,18 @@
 #pragma once
 
-#include <QString>
+#include "store/Place.h"
 
 namespace store {
+
+// What the stores are called in a program's folder.
+inline constexpr QLatin1StringView MainFile("ORVA.pos");
+inline constexpr QLatin1StringView OptionsFile("opt.pos");
 
 // Where the stores of a program's folder lie: both in it, but for a main store that store.ini points to by the key
 // `path` of its section [main]: a folder with an ORVA.pos or a file, relative to the program's folder or absolute,
 // taken as it stands but for blanks and quotes around it and backslashes, which separate folders. A store.ini that
 // cannot be read throws 3051, so that a register never falls back to a store of its own.
-QString MainStorePath(const QString& programFolder);
-QString OptionsStorePath(const QString& programFolder);
+Place MainPlace(const QString& programFolder);
+Place OptionsPlace(const QString& programFolder);
 
 }  // namespace store

@@ -45,7 +45,7 @@ protected:
     }
     // Products with the codes 1001, 1002, ... behind the shop's five.
     void AddProducts(int count) const {
-        const auto main = store::Database::Open(store::MainStorePath(folder.path()), store::MainSchema());
+        const auto main = store::Database::Open(store::MainPlace(folder.path()), store::MainSchema());
         store::Database::Batch batch(*main);
         auto rs = main->OpenRecordset(u"SELECT * FROM Products"_s);
         for (int code = 1001; code <= 1000 + count; ++code) {

@@ -15,7 +15,7 @@
 using namespace Qt::StringLiterals;
 
 RegisterFixture::RegisterFixture() {
-    const auto main = store::Database::Open(store::MainStorePath(folder.path()), store::MainSchema());
+    const auto main = store::Database::Open(store::MainPlace(folder.path()), store::MainSchema());
     for (const auto& table : {u"Sales"_s, u"Invoices"_s, u"SalesDetails"_s}) {
         QFile lines(QString::fromUtf8(TEST_DATA "/reports/shop/") + table + u".tsv"_s);
         EXPECT_TRUE(lines.open(QIODevice::ReadOnly)) << lines.fileName().toStdString();

@@ -45,7 +45,7 @@ void AddPart(store::Recordset& recipe, const QString& product, const QString& pa
 }
 
 std::unique_ptr<store::Database> OpenMain(const QTemporaryDir& folder) {
-    return store::Database::Open(store::MainStorePath(folder.path()), store::MainSchema());
+    return store::Database::Open(store::MainPlace(folder.path()), store::MainSchema());
 }
 
 }  // namespace
@@ -83,7 +83,7 @@ void TillTest::AddGoods() {
 }
 
 void TillTest::Setting(const QString& field, const Value& value) {
-    const auto options = store::Database::Open(store::OptionsStorePath(folder.path()), store::OptionsSchema());
+    const auto options = store::Database::Open(store::OptionsPlace(folder.path()), store::OptionsSchema());
     auto row = options->OpenRecordset(u"SELECT * FROM Options"_s);
     row.Edit();
     row[field] = value;

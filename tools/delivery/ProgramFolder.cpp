@@ -9,6 +9,7 @@
 
 #include "delivery/Delivery.h"
 #include "delivery/FileError.h"
+#include "store/StorePath.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,8 +17,6 @@ namespace delivery {
 
 namespace {
 
-const auto MainStore = u"ORVA.pos"_s;
-const auto OptionsStore = u"opt.pos"_s;
 const auto Program = u"velton"_s;
 constexpr auto OwnerAlone = QFile::ReadOwner | QFile::WriteOwner;
 const auto PortsIni = "[ports]\nlpt1=file:lpt1.prn\nlpt2=file:lpt2.prn\n"_ba;
@@ -119,15 +118,15 @@ private:
 
 // The log of a store that was lost would be taken for that of the new one.
 void RefuseStores(const QString& folder) {
-    for (const QString& store : {MainStore, OptionsStore})
+    for (const QString& store : {QString(store::MainFile), QString(store::OptionsFile)})
         for (const QString& rest : {u""_s, u"-wal"_s, u"-shm"_s, u"-journal"_s})
             if (QFileInfo::exists(folder + u'/' + store + rest))
                 throw FileError(StoreExists, u"The folder '%1' holds a store already: %2"_s.arg(folder, store + rest));
 }
 
 void MakeStores(const QString& folder, bool withDemo) {
-    const auto main = store::Database::Create(folder + u'/' + MainStore, store::MainSchema());
-    const auto options = store::Database::Create(folder + u'/' + OptionsStore, store::OptionsSchema());
+    const auto main = store::Database::Create(store::MainPlace(folder), store::MainSchema());
+    const auto options = store::Database::Create(store::OptionsPlace(folder), store::OptionsSchema());
     FillDelivered(*main, *options);
     if (withDemo) FillDemo(*main, *options);
 }
@@ -184,8 +183,8 @@ void MakeProgramFolder(const QString& folder, bool withDemo, const QString& prog
     for (const QString& name : supplies)
         if (!placing.Has(name)) placing.Move(workshop.FilePath(name), name);
     if (withProgram) placing.Replace(workshop.FilePath(Program), Program);
-    placing.Move(workshop.FilePath(OptionsStore), OptionsStore);
-    placing.Move(workshop.FilePath(MainStore), MainStore);
+    placing.Move(workshop.FilePath(store::OptionsFile), store::OptionsFile);
+    placing.Move(workshop.FilePath(store::MainFile), store::MainFile);
     placing.Keep();
 }
 

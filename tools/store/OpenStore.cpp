@@ -4,8 +4,8 @@
 namespace tool {
 
 std::unique_ptr<store::Database> OpenStore(const QString& folder, Which which) {
-    if (which == Which::Options) return store::Database::Open(store::OptionsStorePath(folder), store::OptionsSchema());
-    return store::Database::Open(store::MainStorePath(folder), store::MainSchema());
+    if (which == Which::Options) return store::Database::Open(store::OptionsPlace(folder), store::OptionsSchema());
+    return store::Database::Open(store::MainPlace(folder), store::MainSchema());
 }
 
 }  // namespace tool
