@@ -11,10 +11,11 @@
 
 namespace store {
 
-// A moment in a store's history, as the engine that gave it numbers it; the number tells nobody else anything.
+// A moment in a store's history, as the engine that gave it numbers it; the number tells nobody else anything, and two
+// moments are one when it is the same.
 enum class Stamp : quint64 { Unknown };
 
-// One field of a row to be written: a position in the table's columns, and its value as the engine stores it.
+// One field of a row to be written: a position in the table's columns, and its value in the units of Conversion.h.
 struct FieldChange {
     int column = 0;
     dialect::BoundValue value;
@@ -22,8 +23,31 @@ struct FieldChange {
 
 using BeginWait = std::function<std::function<bool()>()>;
 
-// What a store asks of the engine beneath it. A row's identity is a number above 0 that is never used again.
-// Every call finishes what it starts: no read transaction outlives it. Failures are StoreErrors.
+// What a store asks of the engine beneath it, and what holds for every engine.
+//
+// Identity. A row has a number above 0 that is never used again and rises from row to row as they are added; a column
+// that numbers itself is that number.
+//
+// Commits. A write outside of a batch is one commit, a batch is one. When a call returns, its commit is seen by every
+// call that begins later, on any connection, and is on the disk; within a burst it is on the disk when the burst ends
+// at the latest. The commits of a connection keep their order: nobody sees one without those before it, and neither
+// does whoever reads the disk after a power cut. Every read is of one moment, of which it sees all commits; it sees
+// what its own connection wrote in an open batch too. No read transaction outlives its call.
+//
+// Errors. Failures are StoreErrors, and a write that fails has written nothing. In a batch it alone is undone: what the
+// batch wrote before stays, and it goes on. But a refusal of the disk (3026, 3043), a write that the user left (3059)
+// and lost files undo the whole batch: InTransaction() is false then, and Commit throws.
+//
+// Rows that are current. What was read after Now() was asked for is what a read would give still, for as long as
+// StillAt() says yes to its stamp: nobody has committed and this connection has written nothing since. No commit that
+// was acknowledged before the question is missed, whoever made it; the answer may be no without a cause, which costs a
+// reading. Cursors ask it before every field, so it must cost next to nothing.
+//
+// Order. Nulls come before all values, after them when descending. Texts are ordered and are equal by CaseFold.h, in
+// indexes and groups too. Rows of one table without ORDER BY come by identity, as they were added: reports and receipts
+// rest on it. Only where a condition lets an engine find them by an index in pieces (a range of days, a list of values)
+// may they come by that column first. An ORDER BY keeps this order among rows that it finds equal, unless it descends.
+// Groups without ORDER BY come in the order of what they are grouped by.
 class Engine {
 public:
     virtual ~Engine() = default;

@@ -8,7 +8,14 @@
 #include "store/dialect/Tree.h"
 
 // A query text after its names are looked up: every expression has a type and a scale, and every conversion stands in
-// the tree as a node of its own.
+// the tree as a node of its own. What engines are asked for with it:
+//
+// - Values are those of Conversion.h; exact numbers are calculated with as whole ones of their scale and go on as
+//   doubles beyond 64 bits, where a Sum or an assigned number is error 6. Quotients are doubles; one by zero is null.
+// - True is -1 as the value of a field or an operand, false 0; as a condition whatever is not 0 holds. Null spreads
+//   through operators and comparisons, but is an empty text to &, and no row meets it as a condition.
+// - Texts are equal, and come before one another, by CaseFold.h; LIKE is LikePattern.h, Val is values::Val, a number of
+//   its own. Aggregates pass over nulls; of nothing but nulls Sum, Max and Min are null.
 namespace store::dialect {
 
 // What a literal is to be bound as.
