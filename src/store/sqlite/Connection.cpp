@@ -1,21 +1,42 @@
 #include "store/sqlite/Connection.h"
 
+#include <SQLiteCpp/Backup.h>
 #include <sqlite3.h>
 
 #include <QFile>
 #include <thread>
 
 #include "store/sqlite/SqliteError.h"
+#include "store/sqlite/Statement.h"
 #include "store/sqlite/TextRules.h"
 
 using namespace Qt::StringLiterals;
 
 namespace store::sqlite {
 
+namespace {
+
+// The one place where the library's own exceptions are met.
+template <typename Work>
+auto Translated(const QString& doing, const Work& work) {
+    try {
+        return work();
+    } catch (const SQLite::Exception& error) {
+        const int extended = error.getExtendedErrorCode();
+        ThrowCode(extended > 0 ? extended : error.getErrorCode(), QString::fromUtf8(error.what()), doing);
+    }
+}
+
+SQLite::Database Opened(const QString& path, bool create) {
+    const int flags = SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX | (create ? SQLite::OPEN_CREATE : 0);
+    return Translated(u"opening %1"_s.arg(path),
+                      [&] { return SQLite::Database(QFile::encodeName(path).toStdString(), flags); });
+}
+
+}  // namespace
+
 Connection::Connection(const QString& path, bool create, Patience patience)
-    : database_(QFile::encodeName(path).toStdString(),
-                SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX | (create ? SQLite::OPEN_CREATE : 0)),
-      patience_(patience) {
+    : database_(Opened(path, create)), patience_(patience) {
     sqlite3_extended_result_codes(Handle(), 1);
     sqlite3_busy_handler(Handle(), &Connection::WaitForOthers, this);
     RegisterTextRules(Handle());
@@ -29,6 +50,33 @@ void Connection::Run(const char* sql) {
     const Waits waits(*this);
     if (sqlite3_exec(Handle(), sql, nullptr, nullptr, nullptr) != SQLITE_OK)
         ThrowLast(Handle(), QString::fromUtf8(sql));
+}
+
+qint64 Connection::Integer(const char* sql) {
+    Statement statement(Handle(), sql);
+    return statement.Step() ? statement.Integer(0) : 0;
+}
+
+QString Connection::Text(const char* sql) {
+    Statement statement(Handle(), sql);
+    return statement.Step() ? statement.Text(0) : QString();
+}
+
+void Connection::CopyFrom(Connection& source) {
+    const bool isWhole = Translated(u"copying a store"_s, [&] {
+        SQLite::Backup backup(database_, source.database_);
+        return backup.executeStep(-1) == SQLITE_DONE;
+    });
+    if (!isWhole) throw StoreError(StoreLocked, u"The store is locked by another user and could not be copied."_s);
+}
+
+Connection::Transaction::~Transaction() {
+    if (open_) sqlite3_exec(connection_.Handle(), "ROLLBACK", nullptr, nullptr, nullptr);
+}
+
+void Connection::Transaction::Commit() {
+    connection_.Run("COMMIT");
+    open_ = false;
 }
 
 void Connection::UseMemory(int kilobytes) noexcept {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <SQLiteCpp/SQLiteCpp.h>
+#include <SQLiteCpp/Database.h>
 
 #include <QString>
 #include <chrono>
@@ -20,7 +20,7 @@ class Connection {
 public:
     using Patience = std::chrono::milliseconds;
 
-    // An existing file is opened for reading and writing; `create` makes one. SQLite::Exception when that fails.
+    // An existing file is opened for reading and writing; `create` makes one. A SqliteError when that fails.
     Connection(const QString& path, bool create, Patience patience);
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
@@ -28,14 +28,18 @@ public:
     // Another one to the same file, which waits for others as long as this one.
     std::shared_ptr<Connection> OpenBeside();
 
-    SQLite::Database& Database() { return database_; }
     sqlite3* Handle() { return database_.getHandle(); }
     void SetPatience(Patience patience) { patience_ = patience; }
     // `begin` is called when others begin to be waited for within Waits; what it gives is asked until those end, false
     // ends the patience. Gives back the one that stood before.
     BeginWait AskWhileWaiting(BeginWait begin) { return std::exchange(beginWait_, std::move(begin)); }
-    // Runs a statement without rows; a StoreError when it fails.
+    // Runs a statement without rows; a SqliteError when it fails.
     void Run(const char* sql);
+    // The first column of a statement's first row.
+    qint64 Integer(const char* sql);
+    QString Text(const char* sql);
+    // Becomes a copy of another, page by page in one read of it, so that it is of one moment.
+    void CopyFrom(Connection& source);
     // How much of the file is kept in memory, and how much is sorted at once; as it was when that is refused.
     void UseMemory(int kilobytes) noexcept;
 
@@ -51,6 +55,20 @@ public:
 
     private:
         Connection& connection_;
+    };
+
+    // Several writes as one, undone when they do not come to Commit.
+    class Transaction {
+    public:
+        explicit Transaction(Connection& connection) : connection_(connection) { connection_.Run("BEGIN IMMEDIATE"); }
+        ~Transaction();
+        Transaction(const Transaction&) = delete;
+        Transaction& operator=(const Transaction&) = delete;
+        void Commit();
+
+    private:
+        Connection& connection_;
+        bool open_ = true;
     };
 
 private:

@@ -30,10 +30,10 @@ void CheckFile(const QString& path) {
         throw StoreError(ReadOnly, u"The store %1 cannot be written to."_s.arg(path));
 }
 
-void CheckKind(SQLite::Database& database, const Schema& schema, const QString& path) {
-    if (database.execAndGet("PRAGMA application_id").getInt() != ApplicationId(schema))
+void CheckKind(Connection& connection, const Schema& schema, const QString& path) {
+    if (connection.Integer("PRAGMA application_id") != ApplicationId(schema))
         throw StoreError(NotAStore, u"%1 is no store of this kind (%2)."_s.arg(path, schema.name));
-    const int version = database.execAndGet("PRAGMA user_version").getInt();
+    const qint64 version = connection.Integer("PRAGMA user_version");
     if (version > schema.version)
         throw StoreError(
             NotAStore,
@@ -41,13 +41,14 @@ void CheckKind(SQLite::Database& database, const Schema& schema, const QString& 
                 schema.version));
 }
 
-void CheckTables(SQLite::Database& database, const Schema& schema, const QString& path) {
-    SQLite::Statement names(database, "SELECT name FROM pragma_table_info(?)");
+void CheckTables(Connection& connection, const Schema& schema, const QString& path) {
+    Statement names(connection.Handle(), "SELECT name FROM pragma_table_info(?)");
     for (const Table& table : schema.tables) {
+        const StatementUse use(names);
+        const dialect::BoundValue name = table.name.toUtf8();
         QStringList present;
-        names.bind(1, table.name.toStdString());
-        while (names.executeStep()) present += QString::fromStdString(names.getColumn(0).getString());
-        names.reset();
+        names.Bind(1, name);
+        while (names.Step()) present += names.Text(0);
         for (const Column& column : table.columns)
             if (!present.contains(column.name))
                 throw StoreError(NotAStore, u"The store %1 is damaged: it lacks the column %2 of %3."_s.arg(
@@ -55,16 +56,12 @@ void CheckTables(SQLite::Database& database, const Schema& schema, const QString
     }
 }
 
-std::string JournalMode(Connection& connection, const char* sql) {
-    return connection.Database().execAndGet(sql).getString();
-}
-
 void SetUp(Connection& connection, const QString& path) {
     if (sqlite3_db_readonly(connection.Handle(), "main") == 1)
         throw StoreError(ReadOnly, u"The store %1 cannot be written to."_s.arg(path));
     // Asking costs nothing; setting it would need the file for itself.
-    if (JournalMode(connection, "PRAGMA journal_mode") != "wal") {
-        if (JournalMode(connection, "PRAGMA journal_mode = WAL") != "wal")
+    if (connection.Text("PRAGMA journal_mode") != u"wal") {
+        if (connection.Text("PRAGMA journal_mode = WAL") != u"wal")
             throw StoreError(DiskError, u"No write-ahead log can be kept beside %1."_s.arg(path));
     }
     connection.Run("PRAGMA synchronous = FULL");
@@ -77,19 +74,19 @@ void CheckThatFree(Connection& connection) {
     connection.Run("ROLLBACK");
 }
 
-[[noreturn]] void ThrowOpeningError(int code, const QString& message, const QString& path) {
-    switch (code & 0xFF) {
+[[noreturn]] void ThrowOpeningError(const SqliteError& error, const QString& path) {
+    switch (error.Code() & 0xFF) {
         case SQLITE_BUSY:
         case SQLITE_LOCKED:
             throw StoreError(HeldExclusively, u"The store %1 is held exclusively by another user."_s.arg(path));
         case SQLITE_NOTADB:
         case SQLITE_CORRUPT:
-            throw StoreError(NotAStore, u"%1 is damaged or no store (%2)."_s.arg(path, message));
+            throw StoreError(NotAStore, u"%1 is damaged or no store (%2)."_s.arg(path, error.Message()));
         case SQLITE_CANTOPEN:
         case SQLITE_READONLY:
-            throw StoreError(ReadOnly, u"The store %1 cannot be opened for writing (%2)."_s.arg(path, message));
+            throw StoreError(ReadOnly, u"The store %1 cannot be opened for writing (%2)."_s.arg(path, error.Message()));
         default:
-            ThrowCode(code, message, u"opening %1"_s.arg(path));
+            ThrowCode(error.Code(), error.Message(), u"opening %1"_s.arg(path));
     }
 }
 
@@ -97,22 +94,17 @@ void CheckThatFree(Connection& connection) {
 
 std::unique_ptr<Engine> OpenFile(const QString& path, const Schema& schema) {
     CheckFile(path);
-    std::shared_ptr<Connection> connection;
     try {
-        connection = std::make_shared<Connection>(path, false, OpeningPatience);
-        CheckKind(connection->Database(), schema, path);
+        auto connection = std::make_shared<Connection>(path, false, OpeningPatience);
+        CheckKind(*connection, schema, path);
         SetUp(*connection, path);
         CheckThatFree(*connection);
-        MigrateSchema(connection->Database(), schema);
-        CheckTables(connection->Database(), schema, path);
+        MigrateSchema(*connection, schema);
+        CheckTables(*connection, schema, path);
         connection->SetPatience(WorkingPatience);
         return std::make_unique<SqliteEngine>(std::move(connection), path);
-    } catch (const SQLite::Exception& error) {
-        const int code = connection ? CodeWithoutRoom(connection->Handle(), CodeOf(error)) : CodeOf(error);
-        ThrowOpeningError(code, QString::fromUtf8(error.what()), path);
-    } catch (const StoreError& error) {
-        if (error.Number() != StoreLocked) throw;
-        ThrowOpeningError(SQLITE_BUSY, error.Description(), path);
+    } catch (const SqliteError& error) {
+        ThrowOpeningError(error, path);
     }
 }
 
@@ -121,9 +113,9 @@ std::unique_ptr<Engine> CreateFile(const QString& path, const Schema& schema) {
     try {
         Connection connection(file.Path(), true, OpeningPatience);
         SetUp(connection, path);
-        BuildSchema(connection.Database(), schema);
-    } catch (const SQLite::Exception& error) {
-        ThrowCode(CodeOf(error), QString::fromUtf8(error.what()), u"making %1"_s.arg(path));
+        BuildSchema(connection, schema);
+    } catch (const SqliteError& error) {
+        ThrowCode(error.Code(), error.Message(), u"making %1"_s.arg(path));
     }
     file.Finish();
     return OpenFile(path, schema);

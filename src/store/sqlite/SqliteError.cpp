@@ -1,11 +1,8 @@
 #include "store/sqlite/SqliteError.h"
 
-#include <SQLiteCpp/Exception.h>
 #include <sqlite3.h>
 
 #include <cerrno>
-
-#include "store/StoreError.h"
 
 using namespace Qt::StringLiterals;
 
@@ -87,26 +84,23 @@ QString Words(int number) {
     }
 }
 
-}  // namespace
-
-void ThrowCode(int extendedCode, const QString& message, const QString& doing) {
-    const int number = NumberOf(extendedCode, message);
-    throw StoreError(number, u"%1, %2 (%3)."_s.arg(Words(number), doing, message));
-}
-
+// A full disk, where the engine only speaks of a refused access, as it does of the files that it makes for itself.
 int CodeWithoutRoom(sqlite3* connection, int extendedCode) {
     const int system = sqlite3_system_errno(connection);
     const bool isFull = system == ENOSPC || system == EDQUOT;
     return isFull && (extendedCode & 0xFF) == SQLITE_IOERR ? SQLITE_FULL : extendedCode;
 }
 
+}  // namespace
+
+void ThrowCode(int extendedCode, const QString& message, const QString& doing) {
+    const int number = NumberOf(extendedCode, message);
+    throw SqliteError(number, u"%1, %2 (%3)."_s.arg(Words(number), doing, message), extendedCode, message);
+}
+
 void ThrowLast(sqlite3* connection, const QString& doing) {
     ThrowCode(CodeWithoutRoom(connection, sqlite3_extended_errcode(connection)),
               QString::fromUtf8(sqlite3_errmsg(connection)), doing);
-}
-
-int CodeOf(const SQLite::Exception& error) {
-    return error.getExtendedErrorCode() > 0 ? error.getExtendedErrorCode() : error.getErrorCode();
 }
 
 }  // namespace store::sqlite

@@ -1,10 +1,10 @@
 #include "store/sqlite/SqliteSchema.h"
 
-#include <SQLiteCpp/SQLiteCpp.h>
-
 #include "store/Conversion.h"
 #include "store/Migrations.h"
+#include "store/sqlite/Connection.h"
 #include "store/sqlite/SqlText.h"
+#include "store/sqlite/Statement.h"
 
 using namespace Qt::StringLiterals;
 
@@ -38,12 +38,16 @@ std::string Sql(const AddedIndex& added) {
     return IndexSql(added.table, added.index);
 }
 
-void SetVersion(SQLite::Database& database, int version) {
-    database.exec("PRAGMA user_version = " + std::to_string(version));
+void Run(Connection& connection, const std::string& sql) {
+    connection.Run(sql.c_str());
 }
 
-int VersionOf(SQLite::Database& database) {
-    return database.execAndGet("PRAGMA user_version").getInt();
+void SetVersion(Connection& connection, qint64 version) {
+    Run(connection, "PRAGMA user_version = " + std::to_string(version));
+}
+
+qint64 VersionOf(Connection& connection) {
+    return connection.Integer("PRAGMA user_version");
 }
 
 }  // namespace
@@ -81,37 +85,38 @@ qint32 ApplicationId(const Schema& schema) {
     return schema.name == OptionsSchema().name ? ofAnyKind + 2 : ofAnyKind;
 }
 
-void BuildSchema(SQLite::Database& database, const Schema& schema) {
-    SQLite::Transaction transaction(database);
+void BuildSchema(Connection& connection, const Schema& schema) {
+    Connection::Transaction transaction(connection);
     for (const Table& table : schema.tables) {
-        database.exec(TableSql(table));
-        for (const Index& index : table.indexes) database.exec(IndexSql(table.name, index));
+        Run(connection, TableSql(table));
+        for (const Index& index : table.indexes) Run(connection, IndexSql(table.name, index));
     }
-    database.exec("PRAGMA application_id = " + std::to_string(ApplicationId(schema)));
-    SetVersion(database, schema.version);
-    transaction.commit();
+    Run(connection, "PRAGMA application_id = " + std::to_string(ApplicationId(schema)));
+    SetVersion(connection, schema.version);
+    transaction.Commit();
 }
 
-QStringList MissingIndexes(SQLite::Database& database, const Schema& schema) {
+QStringList MissingIndexes(Connection& connection, const Schema& schema) {
     QStringList present, missing;
-    SQLite::Statement names(database, "SELECT name FROM sqlite_schema WHERE type = 'index'");
-    while (names.executeStep()) present += QString::fromStdString(names.getColumn(0).getString());
+    Statement names(connection.Handle(), "SELECT name FROM sqlite_schema WHERE type = 'index'");
+    while (names.Step()) present += names.Text(0);
     for (const Table& table : schema.tables)
         for (const Index& index : table.indexes)
-            if (!present.contains(IndexName(table.name, index))) missing += table.name + u'.' + index.columns.join(u'+');
+            if (!present.contains(IndexName(table.name, index)))
+                missing += table.name + u'.' + index.columns.join(u'+');
     return missing;
 }
 
-void MigrateSchema(SQLite::Database& database, const Schema& schema) {
-    while (VersionOf(database) < schema.version) {
-        SQLite::Transaction transaction(database, SQLite::TransactionBehavior::IMMEDIATE);
-        const int version = VersionOf(database);
+void MigrateSchema(Connection& connection, const Schema& schema) {
+    while (VersionOf(connection) < schema.version) {
+        Connection::Transaction transaction(connection);
+        const qint64 version = VersionOf(connection);
         if (version < schema.version) {
-            for (const auto& change : MigrationFrom(schema, version))
-                database.exec(std::visit([](const auto& one) { return Sql(one); }, change));
-            SetVersion(database, version + 1);
+            for (const auto& change : MigrationFrom(schema, static_cast<int>(version)))
+                Run(connection, std::visit([](const auto& one) { return Sql(one); }, change));
+            SetVersion(connection, version + 1);
         }
-        transaction.commit();
+        transaction.Commit();
     }
 }
 

@@ -4,11 +4,9 @@
 
 #include "store/Schema.h"
 
-namespace SQLite {
-class Database;
-}
-
 namespace store::sqlite {
+
+class Connection;
 
 // A schema in the engine's own words: a text is TEXT under the store's own collation, a double REAL, all else INTEGER,
 // in the units of Conversion.h.
@@ -18,10 +16,10 @@ std::string IndexSql(const QString& table, const Index& index);
 qint32 ApplicationId(const Schema& schema);
 
 // Writes a whole schema into an empty file, as one commit.
-void BuildSchema(SQLite::Database& database, const Schema& schema);
+void BuildSchema(Connection& connection, const Schema& schema);
 // The indexes of a schema that a file lacks, as Table.Column+Column.
-QStringList MissingIndexes(SQLite::Database& database, const Schema& schema);
+QStringList MissingIndexes(Connection& connection, const Schema& schema);
 // Takes an older file to the schema's version, one commit a step; other processes may try the same at once.
-void MigrateSchema(SQLite::Database& database, const Schema& schema);
+void MigrateSchema(Connection& connection, const Schema& schema);
 
 }  // namespace store::sqlite

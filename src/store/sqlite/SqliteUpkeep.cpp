@@ -1,4 +1,3 @@
-#include <SQLiteCpp/Backup.h>
 #include <sqlite3.h>
 
 #include "store/sqlite/Disk.h"
@@ -30,15 +29,11 @@ QStringList FaultsOf(Connection& connection) {
     return faults;
 }
 
-// Page by page in one read of the source, so that it is of one moment; then made to stand without a log beside it.
-void CopyInto(const QString& path, SQLite::Database& source) {
+// The copy is made to stand without a log beside it.
+void CopyInto(const QString& path, Connection& source) {
     Connection copy(path, true, 0ms);
     copy.Run("PRAGMA synchronous = OFF");  // it is brought to the disk as a whole
-    {
-        SQLite::Backup backup(copy.Database(), source);
-        if (backup.executeStep(-1) != SQLITE_DONE)
-            throw StoreError(StoreLocked, u"The store is locked by another user and could not be copied."_s);
-    }
+    copy.CopyFrom(source);
     copy.Run("PRAGMA journal_mode = DELETE");
 }
 
@@ -66,8 +61,6 @@ std::unique_ptr<Engine> SqliteEngine::OpenBeside() {
     if (isLost_ || !files_.AreInPlace()) return nullptr;
     try {
         return std::make_unique<SqliteEngine>(connection_->OpenBeside(), files_.StorePath());
-    } catch (const SQLite::Exception&) {
-        return nullptr;
     } catch (const StoreError&) {
         return nullptr;
     }
@@ -78,17 +71,17 @@ QStringList SqliteEngine::CheckIntegrity() {
 }
 
 QStringList SqliteEngine::MissingIndexes(const Schema& schema) {
-    return sqlite::MissingIndexes(connection_->Database(), schema);
+    return sqlite::MissingIndexes(*connection_, schema);
 }
 
 void SqliteEngine::BackupTo(const QString& path) {
     if (InTransaction()) throw StoreError(NotSupported, u"No copy can be made while a batch is open."_s);
     NewFile file(path);
     try {
-        CopyInto(file.Path(), connection_->Database());
+        CopyInto(file.Path(), *connection_);
         CheckCopy(file.Path());
-    } catch (const SQLite::Exception& error) {
-        ThrowCode(CodeOf(error), QString::fromUtf8(error.what()), u"copying to %1"_s.arg(path));
+    } catch (const SqliteError& error) {
+        ThrowCode(error.Code(), error.Message(), u"copying to %1"_s.arg(path));
     }
     file.Finish();
 }

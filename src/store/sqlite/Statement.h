@@ -10,7 +10,8 @@
 
 namespace store::sqlite {
 
-// One prepared statement on the road of every lookup, where a wrapper's exceptions and checks would be felt.
+// One prepared statement. The library's own hands every cell out as an object that shares the statement, which makes a
+// walk over a table half as slow again, and binds no text with a zero in it without a copy; so the rows are read here.
 class Statement {
 public:
     Statement() = default;
