@@ -3,7 +3,7 @@
 #include <QRadioButton>
 #include <vector>
 
-#include "store/Recordset.h"
+#include "config/OptionsRecord.h"
 
 // An option button and the text that it stands for.
 struct OptionButton {
@@ -17,14 +17,13 @@ struct OptionButton {
 class OptionButtons {
 public:
     OptionButtons() = default;
-    OptionButtons(QString& setting, QString field, std::vector<OptionButton> buttons);
+    OptionButtons(QString store::OptionsRow::*setting, std::vector<OptionButton> buttons);
 
     // A text that no button stands for selects none.
-    void Load(store::Recordset& options);
-    void Save(store::Recordset& options) const;
+    void Load(OptionsRecord& options);
+    void Save(OptionsRecord& options) const;
 
 private:
-    QString* setting_ = nullptr;
-    QString field_;
+    QString store::OptionsRow::*setting_ = nullptr;
     std::vector<OptionButton> buttons_;
 };

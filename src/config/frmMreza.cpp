@@ -1,16 +1,9 @@
 #include "config/frmMreza.h"
 
 #include "config/RegisterNumber.h"
-#include "core/dbModule.h"
 #include "forms/Controls.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-const auto OptionsQuery = u"SELECT * FROM Options"_s;
-
-}  // namespace
 
 frmMreza::frmMreza() {
     ui.setupUi(this);
@@ -25,17 +18,17 @@ frmMreza::frmMreza() {
 }
 
 void frmMreza::Form_Load() {
-    rsOptions_ = OptionsStore().OpenRecordset(OptionsQuery);
-    ui.txtServerName->setText(rsOptions_[u"ServerName"].TextOrEmpty());
-    ui.txtKasa->setText(rsOptions_[u"Kasa"].TextOrEmpty());
+    rsOptions_ = OptionsRecord::OfThisRegister();
+    ui.txtServerName->setText(rsOptions_[&Settings::ServerName].TextOrEmpty());
+    ui.txtKasa->setText(rsOptions_[&Settings::Kasa].TextOrEmpty());
 }
 
 void frmMreza::cmdOK_Click() {
     const auto kasa = RegisterNumber(ui.txtKasa->text(), Caption());
     if (!kasa) return forms::GoTo(ui.txtKasa);
     rsOptions_.Edit();
-    rsOptions_[u"ServerName"] = ui.txtServerName->text();
-    rsOptions_[u"Kasa"] = *kasa;
+    rsOptions_[&Settings::ServerName] = ui.txtServerName->text();
+    rsOptions_[&Settings::Kasa] = *kasa;
     rsOptions_.Update();
     Unload();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/Recordset.h"
+#include "config/OptionsRecord.h"
 #include "support/OfficeForm.h"
 #include "ui_frmMreza.h"
 
@@ -19,5 +19,5 @@ private:
     void cmdOK_Click();
 
     Ui::frmMreza ui;
-    store::Recordset rsOptions_;
+    OptionsRecord rsOptions_;
 };

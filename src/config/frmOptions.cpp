@@ -2,8 +2,6 @@
 
 #include "config/CheckValue.h"
 #include "config/frmWinPrinter.h"
-#include "core/Settings.h"
-#include "core/dbModule.h"
 #include "core/mdiORVA.h"
 #include "forms/MsgBox.h"
 #include "values/Error.h"
@@ -12,8 +10,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const auto OptionsQuery = u"SELECT * FROM Options"_s;
 
 constexpr int NotSupported = 438;
 
@@ -32,21 +28,17 @@ frmOptions::frmOptions(int tab) {
     NumericKeys({ui.txtRacun});
 
     printerZaRacun_ = {
-        TheSettings.PrinterZaRacun,
-        u"PrinterZaRacun"_s,
+        &Settings::PrinterZaRacun,
         {{ui.optPrinterZaRacun1, u"1"_s}, {ui.optPrinterZaRacun2, u"2"_s}, {ui.optPrinterZaRacun3, u"3"_s}}};
-    emulacija_ = {TheSettings.Emulacija, u"Emulacija"_s, {{ui.optEpson, u"1"_s}, {ui.optStar, u"2"_s}}};
-    printerZaIzvjestaj_ = {TheSettings.PrinterZaIzvjestaj,
-                           u"PrinterZaIzvjestaj"_s,
+    emulacija_ = {&Settings::Emulacija, {{ui.optEpson, u"1"_s}, {ui.optStar, u"2"_s}}};
+    printerZaIzvjestaj_ = {&Settings::PrinterZaIzvjestaj,
                            {{ui.optPrinterZaIzvjestaj1, u"1"_s},
                             {ui.optPrinterZaIzvjestaj2, u"2"_s},
                             {ui.optPrinterZaIzvjestaj3, u"3"_s}}};
     // The first does nothing: what the second has set stays until the row is changed by other means.
-    posMonitor_ = {TheSettings.POSMonitor,
-                   u"POSMonitor"_s,
+    posMonitor_ = {&Settings::POSMonitor,
                    {{.button = ui.optPOSMonitor1, .text = u"1"_s, .sets = false}, {ui.optPOSMonitor2, u"2"_s}}};
-    tipRacuna_ = {TheSettings.TipRacuna,
-                  u"TipRacuna"_s,
+    tipRacuna_ = {&Settings::TipRacuna,
                   {{ui.optTipRacuna1, u"1"_s},
                    {ui.optTipRacuna2, u"2"_s},
                    {ui.optTipRacuna3, u"3"_s},
@@ -54,8 +46,7 @@ frmOptions::frmOptions(int tab) {
                    {ui.optTipRacuna5, u"5"_s},
                    {ui.optTipRacuna6, u"6"_s},
                    {ui.optTipRacuna7, u"7"_s}}};
-    rekapPoreza_ = {
-        TheSettings.RekapPoreza, u"RekapPoreza"_s, {{ui.optRekapPoreza1, u"1"_s}, {ui.optRekapPoreza2, u"2"_s}}};
+    rekapPoreza_ = {&Settings::RekapPoreza, {{ui.optRekapPoreza1, u"1"_s}, {ui.optRekapPoreza2, u"2"_s}}};
 
     On(ui.cmdPodesiWinPrinter, &frmOptions::cmdPodesiWinPrinter_Click);
     On(ui.chkShowAmount, &frmOptions::chkShowAmount_Click);
@@ -70,7 +61,7 @@ frmOptions::frmOptions(int tab) {
 }
 
 void frmOptions::Form_Load() {
-    rsOptions_ = OptionsStore().OpenRecordset(OptionsQuery);
+    rsOptions_ = OptionsRecord::OfThisRegister();
     ShowProgram();
     ShowInvoice();
     ShowDetails();
@@ -84,24 +75,23 @@ bool frmOptions::Form_KeyDown(QKeyEvent& key) {
 }
 
 void frmOptions::ShowProgram() {
-    const auto yes = [this](QStringView field) { return !rsOptions_[field].IsNull() && rsOptions_[field].YesNo(); };
     printerZaRacun_.Load(rsOptions_);
     emulacija_.Load(rsOptions_);
-    ui.chkRezacPapira->setChecked(rsOptions_[u"RezacPapira"].TextOrEmpty() == u"1");
+    ui.chkRezacPapira->setChecked(rsOptions_[&Settings::RezacPapira].TextOrEmpty() == u"1");
     printerZaIzvjestaj_.Load(rsOptions_);
     posMonitor_.Load(rsOptions_);
-    ui.txtCurrency->setText(rsOptions_[u"Currency"].TextOrEmpty());
+    ui.txtCurrency->setText(rsOptions_[&Settings::Currency].TextOrEmpty());
     ui.chkShowAmount->setChecked(ReadsAsTrue(TheSettings.StanjeKaseVidljivo));
-    TheSettings.ChangeUser = rsOptions_[u"ChangeUser"].TextOrEmpty();
+    TheSettings.ChangeUser = rsOptions_[&Settings::ChangeUser].TextOrEmpty();
     ui.chkAskPassword->setChecked(TheSettings.ChangeUser == u"2");
-    ui.chkKusur->setChecked(yes(u"Kusur"));
-    ui.chkPrikaziOdmah->setChecked(yes(u"PrikaziOdmah"));
-    ui.chkTrakaRacunaFileDA->setChecked(yes(u"TrakaRacunaFileDA"));
-    ui.txtTrakaRacunaFile->setText(rsOptions_[u"TrakaRacunaFile"].TextOrEmpty());
-    ShowFiscalMode(rsOptions_[u"FiskalniRacunDA"].TextOrEmpty());
-    ui.txtFiskalniFile->setText(rsOptions_[u"FiskalniFile"].TextOrEmpty());
-    ui.chkNoviRacunAutomatski->setChecked(yes(u"NoviRacunAutomatski"));
-    ui.chkDisplejKupca->setChecked(yes(u"DisplejKupca"));
+    ui.chkKusur->setChecked(rsOptions_.IsYes(&Settings::Kusur));
+    ui.chkPrikaziOdmah->setChecked(rsOptions_.IsYes(u"PrikaziOdmah"));
+    ui.chkTrakaRacunaFileDA->setChecked(rsOptions_.IsYes(&Settings::TrakaRacunaFileDA));
+    ui.txtTrakaRacunaFile->setText(rsOptions_[&Settings::TrakaRacunaFile].TextOrEmpty());
+    ShowFiscalMode(rsOptions_[&Settings::FiskalniRacunDA].TextOrEmpty());
+    ui.txtFiskalniFile->setText(rsOptions_[&Settings::FiskalniFile].TextOrEmpty());
+    ui.chkNoviRacunAutomatski->setChecked(rsOptions_.IsYes(&Settings::NoviRacunAutomatski));
+    ui.chkDisplejKupca->setChecked(rsOptions_.IsYes(&Settings::DisplejKupca));
 }
 
 // Mode 2 is set from outside only; a box that shows it keeps it until it is clicked.
@@ -118,8 +108,8 @@ void frmOptions::ShowInvoice() {
     ui.txtJIB->setText(TheSettings.JIB);
     ui.txtTel->setText(TheSettings.Tel);
     ui.txtMjestoProdaje->setText(TheSettings.MjestoProdaje);
-    ui.chkPrintKasir->setChecked(ReadsAsTrue(rsOptions_[u"PrintKasir"].TextOrEmpty()));
-    ui.txtFooter->setText(rsOptions_[u"Footer"].TextOrEmpty());
+    ui.chkPrintKasir->setChecked(ReadsAsTrue(rsOptions_[&Settings::PrintKasir].TextOrEmpty()));
+    ui.txtFooter->setText(rsOptions_[&Settings::Footer].TextOrEmpty());
 }
 
 void frmOptions::ShowDetails() {
@@ -128,8 +118,8 @@ void frmOptions::ShowDetails() {
 }
 
 void frmOptions::ShowNetwork() {
-    ui.txtServerName->setText(rsOptions_[u"ServerName"].TextOrEmpty());
-    ui.txtKasa->setText(rsOptions_[u"Kasa"].TextOrEmpty());
+    ui.txtServerName->setText(rsOptions_[&Settings::ServerName].TextOrEmpty());
+    ui.txtKasa->setText(rsOptions_[&Settings::Kasa].TextOrEmpty());
 }
 
 void frmOptions::cmdPodesiWinPrinter_Click() {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "config/OptionButtons.h"
-#include "store/Recordset.h"
 #include "support/OfficeForm.h"
 #include "ui_frmOptions.h"
 
@@ -43,5 +42,5 @@ private:
     OptionButtons posMonitor_;
     OptionButtons tipRacuna_;
     OptionButtons rekapPoreza_;
-    store::Recordset rsOptions_;
+    OptionsRecord rsOptions_;
 };

@@ -4,7 +4,6 @@
 #include "config/CheckValue.h"
 #include "config/RegisterNumber.h"
 #include "config/frmOptions.h"
-#include "core/Settings.h"
 #include "forms/Controls.h"
 #include "forms/MsgBox.h"
 
@@ -25,33 +24,26 @@ void frmOptions::cmdOK_Click() {
 }
 
 void frmOptions::StoreOptions(qint16 kasa) {
-    TheSettings.DisplejKupca = ui.chkDisplejKupca->isChecked();
-    rsOptions_[u"DisplejKupca"] = TheSettings.DisplejKupca;
-    TheSettings.Kusur = ui.chkKusur->isChecked();
-    rsOptions_[u"Kusur"] = TheSettings.Kusur;
+    rsOptions_.SaveAndUse(&Settings::DisplejKupca, ui.chkDisplejKupca->isChecked());
+    rsOptions_.SaveAndUse(&Settings::Kusur, ui.chkKusur->isChecked());
     rsOptions_[u"PrikaziOdmah"] = ui.chkPrikaziOdmah->isChecked();
-    TheSettings.PrintKasir = CheckText(*ui.chkPrintKasir);
-    rsOptions_[u"PrintKasir"] = TheSettings.PrintKasir;
-    TheSettings.TrakaRacunaFileDA = ui.chkTrakaRacunaFileDA->isChecked();
-    rsOptions_[u"TrakaRacunaFileDA"] = TheSettings.TrakaRacunaFileDA;
-    rsOptions_[u"StanjeKaseVidljivo"] = CheckText(*ui.chkShowAmount);
-    rsOptions_[u"ChangeUser"] = TheSettings.ChangeUser;
-    TheSettings.Currency = ui.txtCurrency->text();
-    rsOptions_[u"Currency"] = TheSettings.Currency;
+    rsOptions_.SaveAndUse(&Settings::PrintKasir, CheckText(*ui.chkPrintKasir));
+    rsOptions_.SaveAndUse(&Settings::TrakaRacunaFileDA, ui.chkTrakaRacunaFileDA->isChecked());
+    rsOptions_[&Settings::StanjeKaseVidljivo] = CheckText(*ui.chkShowAmount);
+    rsOptions_[&Settings::ChangeUser] = TheSettings.ChangeUser;
+    rsOptions_.SaveAndUse(&Settings::Currency, ui.txtCurrency->text());
     // The fiscal mode and its file work from the next start on, as footer, server and register number do.
-    rsOptions_[u"FiskalniRacunDA"] = CheckText(*ui.chkFiskalniRacunDA);
-    rsOptions_[u"FiskalniFile"] = ui.txtFiskalniFile->text();
+    rsOptions_[&Settings::FiskalniRacunDA] = CheckText(*ui.chkFiskalniRacunDA);
+    rsOptions_[&Settings::FiskalniFile] = ui.txtFiskalniFile->text();
     tipRacuna_.Save(rsOptions_);
     posMonitor_.Save(rsOptions_);
     printerZaRacun_.Save(rsOptions_);
     emulacija_.Save(rsOptions_);
-    TheSettings.RezacPapira = CheckText(*ui.chkRezacPapira);
-    rsOptions_[u"RezacPapira"] = TheSettings.RezacPapira;
+    rsOptions_.SaveAndUse(&Settings::RezacPapira, CheckText(*ui.chkRezacPapira));
     printerZaIzvjestaj_.Save(rsOptions_);
     rekapPoreza_.Save(rsOptions_);
-    rsOptions_[u"Footer"] = ui.txtFooter->text();
-    rsOptions_[u"ServerName"] = ui.txtServerName->text();
-    rsOptions_[u"Kasa"] = kasa;
-    TheSettings.MjestoProdaje = ui.txtMjestoProdaje->text();
-    rsOptions_[u"MjestoProdaje"] = TheSettings.MjestoProdaje;
+    rsOptions_[&Settings::Footer] = ui.txtFooter->text();
+    rsOptions_[&Settings::ServerName] = ui.txtServerName->text();
+    rsOptions_[&Settings::Kasa] = kasa;
+    rsOptions_.SaveAndUse(&Settings::MjestoProdaje, ui.txtMjestoProdaje->text());
 }

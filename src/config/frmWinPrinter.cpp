@@ -4,16 +4,12 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 
-#include "core/Settings.h"
-#include "core/dbModule.h"
 #include "forms/FocusReturn.h"
 #include "output/PagePrinter.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const auto OptionsQuery = u"SELECT * FROM Options"_s;
 
 const QStringList Fonts{u"Courier New"_s, u"Courier New Bold"_s, u"OCR-B 10 BT"_s, u"Lucida Console"_s};
 
@@ -26,9 +22,7 @@ frmWinPrinter::frmWinPrinter() {
     HelpAndClose(ui.cmdHelp, ui.cmdCancel, {Qt::Key_Escape, Qt::Key_F12});
     FunctionKeys({{Qt::Key_F5, ui.cmdOK}});
     HighlightOnFocus({ui.txtFont});
-    velFont_ = {TheSettings.VelFont,
-                u"VelFont"_s,
-                {{ui.optVelFont1, u"8"_s}, {ui.optVelFont2, u"9"_s}, {ui.optVelFont3, u"10"_s}}};
+    velFont_ = {&Settings::VelFont, {{ui.optVelFont1, u"8"_s}, {ui.optVelFont2, u"9"_s}, {ui.optVelFont3, u"10"_s}}};
     // A click on the entry that is chosen already, and the arrow keys, which choose as a click does.
     connect(ui.List1, &QAbstractItemView::clicked, this, Guarded(&frmWinPrinter::List1_Click));
     connect(ui.List1->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -38,7 +32,7 @@ frmWinPrinter::frmWinPrinter() {
 }
 
 void frmWinPrinter::Form_Load() {
-    rsOptions_ = OptionsStore().OpenRecordset(OptionsQuery);
+    rsOptions_ = OptionsRecord::OfThisRegister();
     velFont_.Load(rsOptions_);
     ui.txtFont->setText(TheSettings.Font);
     for (const QString& font : Fonts) ui.List1->Add({font});
@@ -64,8 +58,7 @@ void frmWinPrinter::cmdPrinter_Click() {
 void frmWinPrinter::cmdOK_Click() {
     rsOptions_.Edit();
     velFont_.Save(rsOptions_);
-    rsOptions_[u"Font"] = ui.txtFont->text();
-    TheSettings.Font = ui.txtFont->text();
+    rsOptions_.SaveAndUse(&Settings::Font, ui.txtFont->text());
     rsOptions_.Update();
     Unload();
 }

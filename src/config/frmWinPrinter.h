@@ -1,7 +1,6 @@
 #pragma once
 
 #include "config/OptionButtons.h"
-#include "store/Recordset.h"
 #include "support/OfficeForm.h"
 #include "ui_frmWinPrinter.h"
 
@@ -23,5 +22,5 @@ private:
 
     Ui::frmWinPrinter ui;
     OptionButtons velFont_;
-    store::Recordset rsOptions_;
+    OptionsRecord rsOptions_;
 };

@@ -1,50 +1,40 @@
 #pragma once
 
-#include <QString>
+#include "store/OptionsTable.h"
+#include "store/Recordset.h"
+#include "values/Error.h"
 
-// The settings of this register, one field a column of Options and named after it: read once at start, changed by the
-// settings dialog, read by every screen. Texts of digits are compared as texts.
-struct Settings {
-    QString MjestoProdaje;
-    QString PrinterZaIzvjestaj;
-    QString VelFont;
-    QString Font;
-    QString Currency;
-    qint16 PraznihLinijaPoslijeRacuna = 0;
-    QString StanjeKaseVidljivo;
-    QString PrintKasir;
-    QString TipRacuna;
-    qint16 Kasa = 0;
-    QString ServerName;
-    QString RekapPoreza;
-    QString PrinterZaRacun;
-    QString Emulacija;
-    QString RezacPapira;
-    QString SkenerPrimarno;
-    QString TrakaRacunaFile;
-    bool TrakaRacunaFileDA = false;
-    QString FiskalniFile;
-    QString FiskalniRacunDA;
-    QString Footer;
-    bool DisplejKupca = false;
-    bool Kusur = false;
-    QString POSMonitor;
-    bool Kupac = false;
-    bool PonudiZakljucak = false;
-    QString ChangeUser;
-    bool NoviRacunAutomatski = false;
-
-    // The shop's heading lines: fixed texts of the installation at each start, then what frmFirma wrote.
+// The shop's heading lines: fixed texts of the installation at each start, then what frmFirma wrote.
+struct Heading {
     QString NazivFirme;
     QString Adresa;
     QString JIB;
     QString Tel;
+};
 
+// The settings of this register: read once at start, changed by the settings dialog, read by every screen.
+struct Settings : store::OptionsRow, Heading {
     // Character code of the user's decimal separator.
     qint16 DecimalSeparator = '.';
 };
 
 inline Settings TheSettings;
+
+// Takes the cursor's row, column after column in the order of the table; a null that is not allowed for throws 94 where
+// it stands, and what is behind it stays empty.
+void ReadSettings(store::Recordset& options);
+// Reads a setting; its error names it, which the error of its value alone does not.
+template <typename Read>
+auto OfSetting(QStringView name, Read read) {
+    try {
+        return read();
+    } catch (const values::Error& error) {
+        throw values::Error(error.Number(),
+                            QStringLiteral("The setting %1 can't be used. %2").arg(name, error.Description()));
+    }
+}
+// The texts that stand until an installation says otherwise.
+const Heading& BuiltInHeading();
 
 // One fixed text of the system, the last line of fiscal sales and of the tax book.
 inline const QString WebAddressLine = QStringLiteral("www.velton.example");

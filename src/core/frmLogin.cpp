@@ -29,16 +29,6 @@ const auto Refused = u"Wrong password.Login not allowed."_s;
 
 constexpr int Countdown = 59;
 
-// Which setting is wrong, the error of its value does not tell.
-template <typename Read>
-auto OfSetting(QStringView name, Read read) {
-    try {
-        return read();
-    } catch (const values::Error& error) {
-        throw values::Error(error.Number(), u"The setting %1 can't be used. %2"_s.arg(name, error.Description()));
-    }
-}
-
 }  // namespace
 
 frmLogin::frmLogin(std::function<void()> loggedIn)
@@ -82,70 +72,22 @@ void frmLogin::StartUp() {
     }
     TheSettings.DecimalSeparator = static_cast<qint16>(values::DecimalSeparatorChar().unicode());
     OpenOptionsStore();
-    ReadSettings();
+    rsOptions_ = OptionsStore().OpenRecordset(OptionsQuery);
+    rsOptions_.MoveFirst();
+    ReadSettings(rsOptions_);
     OpenMainStore();
     ShowWaitsOfMainStore();
     rsUsers_ = MainStore().OpenRecordset(UsersQuery);
     rsLogin_ = MainStore().OpenRecordset(LoginQuery);
     FillUserList();
     Timer1_Timer();
-    SetCompanyHeading();
+    static_cast<Heading&>(TheSettings) = BuiltInHeading();
     ProposeLoginNumber();
     countdown_ = Countdown;
 }
 
-// In the order of the settings; a null that is not allowed for stops the reading where it stands.
-void frmLogin::ReadSettings() {
-    rsOptions_ = OptionsStore().OpenRecordset(OptionsQuery);
-    rsOptions_.MoveFirst();
-    const auto text = [&](QStringView name) { return OfSetting(name, [&] { return rsOptions_[name].Text(); }); };
-    const auto yes = [&](QStringView name) { return OfSetting(name, [&] { return rsOptions_[name].YesNo(); }); };
-    const auto number = [&](QStringView name) {
-        return OfSetting(name, [&] { return values::CInt16(rsOptions_[name].Double()); });
-    };
-
-    const qint16 separator = TheSettings.DecimalSeparator;
-    TheSettings = {};
-    TheSettings.DecimalSeparator = separator;
-    TheSettings.MjestoProdaje = rsOptions_[u"MjestoProdaje"].TextOrEmpty();
-    TheSettings.PrinterZaIzvjestaj = text(u"PrinterZaIzvjestaj");
-    TheSettings.VelFont = text(u"VelFont");
-    TheSettings.Font = text(u"Font");
-    TheSettings.Currency = text(u"Currency");
-    TheSettings.PraznihLinijaPoslijeRacuna = number(u"PraznihLinijaPoslijeRacuna");
-    TheSettings.StanjeKaseVidljivo = text(u"StanjeKaseVidljivo");
-    TheSettings.PrintKasir = text(u"PrintKasir");
-    TheSettings.TipRacuna = text(u"TipRacuna");
-    if (!rsOptions_[u"Kasa"].IsNull()) TheSettings.Kasa = number(u"Kasa");
-    TheSettings.ServerName = rsOptions_[u"ServerName"].TextOrEmpty();
-    TheSettings.RekapPoreza = text(u"RekapPoreza");
-    TheSettings.PrinterZaRacun = text(u"PrinterZaRacun");
-    TheSettings.Emulacija = text(u"Emulacija");
-    TheSettings.RezacPapira = text(u"RezacPapira");
-    TheSettings.SkenerPrimarno = text(u"SkenerPrimarno");
-    TheSettings.TrakaRacunaFile = u"invoices.txt"_s;
-    TheSettings.TrakaRacunaFileDA = yes(u"TrakaRacunaFileDA");
-    TheSettings.FiskalniFile = text(u"FiskalniFile");
-    TheSettings.FiskalniRacunDA = text(u"FiskalniRacunDA");
-    TheSettings.Footer = text(u"Footer");
-    TheSettings.DisplejKupca = yes(u"DisplejKupca");
-    TheSettings.Kusur = yes(u"Kusur");
-    TheSettings.POSMonitor = text(u"POSMonitor");
-    TheSettings.Kupac = yes(u"Kupac");
-    TheSettings.PonudiZakljucak = yes(u"PonudiZakljucak");
-    TheSettings.ChangeUser = text(u"ChangeUser");
-    TheSettings.NoviRacunAutomatski = yes(u"NoviRacunAutomatski");
-}
-
 void frmLogin::FillUserList() {
     ListUserNames(*ui.txtUserName, rsUsers_);
-}
-
-void frmLogin::SetCompanyHeading() {
-    TheSettings.NazivFirme = u"VELTON Shop"_s;
-    TheSettings.Adresa = u"Main Street 1"_s;
-    TheSettings.JIB = u"ID: 4200000000000"_s;
-    TheSettings.Tel = u"Tel: 000 000 000"_s;
 }
 
 void frmLogin::ProposeLoginNumber() {

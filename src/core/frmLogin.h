@@ -26,8 +26,6 @@ private:
     void Timer1_Timer();
 
     void StartUp();
-    void ReadSettings();
-    void SetCompanyHeading();
     void ProposeLoginNumber();
     void WriteLoginRow(store::Recordset& user);
     void StartSession(store::Recordset& user);

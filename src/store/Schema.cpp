@@ -1,5 +1,7 @@
 #include "store/Schema.h"
 
+#include "store/OptionsTable.h"
+
 using namespace Qt::StringLiterals;
 
 namespace store {
@@ -132,37 +134,10 @@ Table TabControl() {
 }
 
 Table Options() {
-    return {u"Options"_s,
-            {Text(u"MjestoProdaje"_s),
-             Text(u"PrinterZaIzvjestaj"_s),
-             Text(u"VelFont"_s),
-             Text(u"Font"_s),
-             Text(u"Currency"_s),
-             Whole(u"PraznihLinijaPoslijeRacuna"_s),
-             Text(u"StanjeKaseVidljivo"_s),
-             Text(u"PrintKasir"_s),
-             Text(u"TipRacuna"_s),
-             Whole(u"Kasa"_s),
-             Text(u"ServerName"_s),
-             Text(u"RekapPoreza"_s),
-             Text(u"PrinterZaRacun"_s),
-             Text(u"Emulacija"_s),
-             Text(u"RezacPapira"_s),
-             Text(u"SkenerPrimarno"_s),
-             Text(u"TrakaRacunaFile"_s),
-             YesNo(u"TrakaRacunaFileDA"_s),
-             Text(u"FiskalniFile"_s),
-             Text(u"FiskalniRacunDA"_s),
-             Text(u"Footer"_s),
-             YesNo(u"DisplejKupca"_s),
-             YesNo(u"Kusur"_s),
-             Text(u"POSMonitor"_s),
-             YesNo(u"Kupac"_s),
-             YesNo(u"PonudiZakljucak"_s),
-             Text(u"ChangeUser"_s),
-             YesNo(u"NoviRacunAutomatski"_s),
-             YesNo(u"PrikaziOdmah"_s)},
-            {}};
+    Table table{u"Options"_s, {}, {}};
+    for (const OptionsColumn& column : OptionsColumns())
+        table.columns.append(column.type == Type::YesNo ? YesNo(column.name) : Column{column.name, column.type});
+    return table;
 }
 
 }  // namespace

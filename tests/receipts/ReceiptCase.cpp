@@ -13,26 +13,15 @@ QString ReadData(const QString& name) {
 }
 
 QString* SettingText(const QString& name) {
-    static const QMap<QString, QString Settings::*> fields = {
-        {u"NazivFirme"_s, &Settings::NazivFirme},
-        {u"Adresa"_s, &Settings::Adresa},
-        {u"JIB"_s, &Settings::JIB},
-        {u"Tel"_s, &Settings::Tel},
-        {u"MjestoProdaje"_s, &Settings::MjestoProdaje},
-        {u"Currency"_s, &Settings::Currency},
-        {u"PrinterZaRacun"_s, &Settings::PrinterZaRacun},
-        {u"Emulacija"_s, &Settings::Emulacija},
-        {u"RezacPapira"_s, &Settings::RezacPapira},
-        {u"TipRacuna"_s, &Settings::TipRacuna},
-        {u"RekapPoreza"_s, &Settings::RekapPoreza},
-        {u"PrintKasir"_s, &Settings::PrintKasir},
-        {u"Footer"_s, &Settings::Footer},
-        {u"Font"_s, &Settings::Font},
-        {u"VelFont"_s, &Settings::VelFont},
-        {u"FiskalniRacunDA"_s, &Settings::FiskalniRacunDA},
-        {u"FiskalniFile"_s, &Settings::FiskalniFile},
-    };
-    return fields.contains(name) ? &(TheSettings.*fields[name]) : nullptr;
+    static const QMap<QString, QString Settings::*> heading = {{u"NazivFirme"_s, &Settings::NazivFirme},
+                                                               {u"Adresa"_s, &Settings::Adresa},
+                                                               {u"JIB"_s, &Settings::JIB},
+                                                               {u"Tel"_s, &Settings::Tel}};
+    if (heading.contains(name)) return &(TheSettings.*heading[name]);
+    for (const store::OptionsColumn& column : store::OptionsColumns())
+        if (column.name == name && column.type == store::Type::Text)
+            return &(TheSettings.*std::get<QString store::OptionsRow::*>(column.member));
+    return nullptr;
 }
 
 QString* InvoiceField(InvoiceText& invoice, const QString& name) {

@@ -1,5 +1,7 @@
 #include "delivery/Delivery.h"
 
+#include "store/OptionsTable.h"
+
 using namespace Qt::StringLiterals;
 using values::Money;
 using values::Value;
@@ -46,39 +48,9 @@ void FillMain(store::Database& main) {
     AddRow(main, u"Company"_s, {{u"Adresa", u""_s}, {u"Tel", u""_s}, {u"Ziro", u""_s}});
 }
 
-// No column may be null: start-up reads nearly all of them without asking.
-const Fields& DeliveredOptions() {
-    static const Fields options{
-        {u"MjestoProdaje", u""_s},
-        {u"PrinterZaIzvjestaj", u"1"_s},
-        {u"VelFont", u"9"_s},
-        {u"Font", u"Courier New"_s},
-        {u"Currency", u"KM"_s},
-        {u"PraznihLinijaPoslijeRacuna", 3},
-        {u"StanjeKaseVidljivo", u"1"_s},
-        {u"PrintKasir", u"1"_s},
-        {u"TipRacuna", u"1"_s},
-        {u"Kasa", 1},
-        {u"ServerName", u""_s},
-        {u"RekapPoreza", u"1"_s},
-        {u"PrinterZaRacun", u"1"_s},
-        {u"Emulacija", u"1"_s},
-        {u"RezacPapira", u"1"_s},
-        {u"SkenerPrimarno", u"1"_s},
-        {u"TrakaRacunaFile", u"invoices.txt"_s},
-        {u"TrakaRacunaFileDA", true},
-        {u"FiskalniFile", u"fiscal.txt"_s},
-        {u"FiskalniRacunDA", u"0"_s},
-        {u"Footer", u"Thank you for your visit"_s},
-        {u"DisplejKupca", false},
-        {u"Kusur", true},
-        {u"POSMonitor", u"2"_s},
-        {u"Kupac", false},
-        {u"PonudiZakljucak", true},
-        {u"ChangeUser", u"1"_s},
-        {u"NoviRacunAutomatski", true},
-        {u"PrikaziOdmah", true},
-    };
+Fields DeliveredOptions() {
+    Fields options;
+    for (const auto& column : store::OptionsColumns()) options.append({column.name, column.delivered});
     return options;
 }
 
