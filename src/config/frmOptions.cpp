@@ -9,12 +9,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int NotSupported = 438;
-
-}  // namespace
-
 frmOptions::frmOptions(int tab) {
     ui.setupUi(this);
     ui.SSTab1->setCornerWidget(ui.Tlbr1);
@@ -157,7 +151,7 @@ void frmOptions::TakeNumber(const QString& number) {
     forms::Form* sales = mdiORVA::Window().ActiveChild();
     auto* shown = sales ? sales->findChild<QLineEdit*>(u"txtORNumber"_s) : nullptr;
     if (!shown || sales->metaObject()->indexOfProperty("RacunOrNo") < 0)
-        throw values::Error(NotSupported, u"The main window does not show the sales screen."_s);
+        throw values::Error(values::NotSupported, u"The main window does not show the sales screen."_s);
     const qint32 last = values::CInt32(values::CDouble(number) - 1);
     shown->setText(number);
     sales->setProperty("RacunOrNo", last);

@@ -10,7 +10,6 @@
 
 namespace {
 
-constexpr int PathNotFound = 76;
 int lockedFolder = -1;
 
 }  // namespace
@@ -18,7 +17,8 @@ int lockedFolder = -1;
 bool LockFolder(const QString& folder) {
     if (lockedFolder >= 0) return true;
     const int descriptor = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0) throw values::Error(PathNotFound, QStringLiteral("The folder %1 can't be opened.").arg(folder));
+    if (descriptor < 0)
+        throw values::Error(values::PathNotFound, QStringLiteral("The folder %1 can't be opened.").arg(folder));
     if (flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
         close(descriptor);
         return false;

@@ -18,9 +18,6 @@ namespace {
 
 const auto LastGrupniQuery = u"SELECT Max(Grupni) AS zadnji FROM Sales"_s;
 
-constexpr int InvalidCall = 5;
-constexpr int StoreNotOpen = 91;
-
 std::unique_ptr<store::Database> mainStore;
 std::unique_ptr<store::Patience> mainPatience;
 std::unique_ptr<store::Database> optionsStore;
@@ -31,7 +28,7 @@ std::function<bool()> BeginWait() {
 }
 
 store::Database& Opened(const std::unique_ptr<store::Database>& database) {
-    if (!database) throw store::StoreError(StoreNotOpen, u"The store is not open."_s);
+    if (!database) throw store::StoreError(values::NoObject, u"The store is not open."_s);
     return *database;
 }
 
@@ -96,7 +93,7 @@ QString PadLeft(qint32 width, const QString& text) {
 }
 
 QString PadRight(qint32 width, const QString& text) {
-    if (width < 0) throw values::Error(InvalidCall, u"A text does not fit its line."_s);
+    if (width < 0) throw values::Error(values::InvalidCall, u"A text does not fit its line."_s);
     const QString cut = output::FirstColumns(text, width);
     return cut + QString(width - output::Columns(cut), u' ');
 }

@@ -15,7 +15,6 @@ namespace forms {
 
 namespace {
 
-constexpr int NothingSelected = 91;
 constexpr int narrowestFlexibleColumn = 60;
 constexpr int betweenLooks = 15;  // milliseconds, while rows are coming in
 // What the style leaves free on both sides of a cell's text.
@@ -117,7 +116,7 @@ int ListView::Selected() const {
 
 QString ListView::SelectedText(int column) const {
     const int row = Selected();
-    if (row < 0) throw values::Error(NothingSelected, u"No row of the list is selected."_s);
+    if (row < 0) throw values::Error(values::NoObject, u"No row of the list is selected."_s);
     return Text(row, column);
 }
 

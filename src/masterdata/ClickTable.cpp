@@ -13,7 +13,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int ButtonsPerRow = 4;
-constexpr int IndexOutOfRange = 9;
 
 }  // namespace
 
@@ -50,7 +49,8 @@ ClickTable::ClickTable(QWidget* parent) : QWidget(parent), tabs_(new QTabWidget(
 }
 
 void ClickTable::SetTabCaption(int tab, const QString& caption) {
-    if (tab < 0 || tab >= TabCount) throw values::Error(IndexOutOfRange, u"The click table has no tab %1."_s.arg(tab));
+    if (tab < 0 || tab >= TabCount)
+        throw values::Error(values::IndexOutOfRange, u"The click table has no tab %1."_s.arg(tab));
     tabs_->setTabText(tab, QString(caption).replace(u'&', u"&&"_s));
     tabs_->setTabToolTip(tab, caption);
     tabs_->widget(tab)->setObjectName(caption);
@@ -58,7 +58,7 @@ void ClickTable::SetTabCaption(int tab, const QString& caption) {
 
 TouchButton* ClickTable::Button(int index) const {
     if (index < 0 || index >= ButtonCount)
-        throw values::Error(IndexOutOfRange, u"The click table has no button %1."_s.arg(index));
+        throw values::Error(values::IndexOutOfRange, u"The click table has no button %1."_s.arg(index));
     return buttons_[static_cast<size_t>(index)];
 }
 

@@ -27,8 +27,6 @@ const auto PictureFilters =
     ";;JPEG Images (*.jpg) (*.jpg)"_s;
 const auto NoPicture = u"Thumbnail (icon)"_s;
 
-constexpr int InvalidPicture = 481;
-
 // Nothing is chosen at first.
 void FillChoices(QComboBox* list, const QString& query, QStringView field) {
     const QSignalBlocker quiet(list);
@@ -126,7 +124,7 @@ void ProductEntry::cmdSave_Click() {
 void ProductEntry::ShowPicture(const QString& path) {
     ui.imgPicture->setText(NoPicture);
     if (!forms::LoadPicture(ui.imgPicture, path))
-        throw values::Error(InvalidPicture, u"The file %1 holds no picture that can be shown."_s.arg(path));
+        throw values::Error(values::InvalidPicture, u"The file %1 holds no picture that can be shown."_s.arg(path));
     constexpr int frame = 4;
     const QSize room = ui.imgPicture->maximumSize().shrunkBy({frame, frame, frame, frame});
     ui.imgPicture->setPixmap(ui.imgPicture->pixmap().scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation));

@@ -23,8 +23,6 @@ const auto CompositionQuery = u"SELECT * FROM ProductsCon WHERE SIF = '%1'"_s;
 const auto UnknownProduct = u"Product with this code-barcode does not exist."_s;
 const auto NoItems = u"You did not enter a single item in the composition."_s;
 
-constexpr int NoObject = 91;
-
 }  // namespace
 
 frmSastav::frmSastav() {
@@ -59,7 +57,7 @@ frmSastav::frmSastav() {
 
 void frmSastav::Form_Load() {
     forms::Form* editor = forms::FindForm(u"frmEditProduct");
-    if (!editor) throw values::Error(NoObject, u"A composition is opened from the screen of its product."_s);
+    if (!editor) throw values::Error(values::NoObject, u"A composition is opened from the screen of its product."_s);
     code_ = forms::TextOf(forms::Control(editor, u"txtProdCode"));
     auto product = LineBoxes::Find(code_);
     rsComposition_ = MainStore().OpenRecordset(CompositionQuery.arg(code_));

@@ -29,11 +29,11 @@ Channel::~Channel() {
 }
 
 void Channel::RequireClosed() const {
-    if (sink_) throw OutputError(ChannelInUse, u"Channel 1 is already open."_s);
+    if (sink_) throw OutputError(values::ChannelInUse, u"Channel 1 is already open."_s);
 }
 
 void Channel::RequireOpen() const {
-    if (!sink_) throw OutputError(ChannelNotOpen, u"Channel 1 is not open."_s);
+    if (!sink_) throw OutputError(values::ChannelNotOpen, u"Channel 1 is not open."_s);
 }
 
 void Channel::OpenPort(const QString& port) {

@@ -17,15 +17,6 @@ public:
     bool EndsProgram() const override { return true; }
 };
 
-constexpr int ChannelInUse = 55;
-constexpr int DeviceError = 57;
-constexpr int DiskFull = 61;
-constexpr int ChannelNotOpen = 52;
-constexpr int DeviceUnavailable = 68;
-constexpr int PermissionDenied = 70;
-constexpr int PathNotAFile = 75;
-constexpr int PathNotFound = 76;
-
 class Sink;
 
 // Channel 1: the one text output of the program, a port or a file at a time. Text goes out in the single-byte code page

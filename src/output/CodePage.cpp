@@ -25,7 +25,8 @@ struct CodePage {
 CodePage::CodePage(const char* name) {
     const iconv_t converter = iconv_open("UTF-16LE", name);
     if (converter == reinterpret_cast<iconv_t>(-1))
-        throw OutputError(DeviceUnavailable, u"This system lacks the code page %1."_s.arg(QLatin1StringView(name)));
+        throw OutputError(values::DeviceUnavailable,
+                          u"This system lacks the code page %1."_s.arg(QLatin1StringView(name)));
     bytes.fill('?');
     for (size_t code = 0; code < characters.size(); ++code) {
         char in = static_cast<char>(code);

@@ -39,7 +39,7 @@ QFont LineFont(const QString& name, double points) {
 
 QString NewPdfPath() {
     const QString folder = InProgramFolder(u"printouts"_s);
-    if (!QDir().mkpath(folder)) throw OutputError(PathNotFound, u"Cannot make the folder "_s + folder + u'.');
+    if (!QDir().mkpath(folder)) throw OutputError(values::PathNotFound, u"Cannot make the folder "_s + folder + u'.');
     const QString begin = folder + u'/' + values::Now().toString(u"yyyyMMdd-hhmmss"_s) + u'-';
     int number = 1;
     while (QFileInfo::exists(begin + QString::number(number) + u".pdf"_s)) ++number;
@@ -50,7 +50,8 @@ void SavePdf(const QByteArray& pdf) {
     QSaveFile file(NewPdfPath());
     const bool isSaved =
         file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size() && file.flush() && file.commit();
-    if (!isSaved) throw OutputError(DeviceError, u"Cannot write "_s + file.fileName() + u": "_s + file.errorString());
+    if (!isSaved)
+        throw OutputError(values::DeviceError, u"Cannot write "_s + file.fileName() + u": "_s + file.errorString());
 }
 
 }  // namespace
@@ -77,7 +78,8 @@ PagePrinter::Job::Job(const QPageLayout& paper) {
         device = std::make_unique<QPdfWriter>(&pdf);
     }
     device->setPageLayout(paper);
-    if (!painter.begin(device.get())) throw OutputError(DeviceUnavailable, u"The page printer cannot be used."_s);
+    if (!painter.begin(device.get()))
+        throw OutputError(values::DeviceUnavailable, u"The page printer cannot be used."_s);
 }
 
 bool PagePrinter::Job::DeviceFailed() const {
@@ -93,7 +95,7 @@ bool PagePrinter::Job::Holds(const QFont& font) const {
 void PagePrinter::Job::Print(const QString& line, const QFont& font) {
     const QFontMetricsF metrics(font, device.get());
     if (y > 0 && y + metrics.height() > device->height()) {
-        if (!device->newPage()) throw OutputError(DeviceError, u"The page printer takes no further page."_s);
+        if (!device->newPage()) throw OutputError(values::DeviceError, u"The page printer takes no further page."_s);
         y = 0;
     }
     painter.setFont(font);
@@ -102,7 +104,7 @@ void PagePrinter::Job::Print(const QString& line, const QFont& font) {
 }
 
 void PagePrinter::Job::End() {
-    if (!painter.end() || DeviceFailed()) throw OutputError(DeviceError, u"The page printer failed."_s);
+    if (!painter.end() || DeviceFailed()) throw OutputError(values::DeviceError, u"The page printer failed."_s);
     if (pdf.isOpen()) SavePdf(pdf.data());
 }
 

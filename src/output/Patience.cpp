@@ -34,7 +34,7 @@ void Wait::GoOn(qint64 position) {
     if (std::exchange(position_, position) != position) sinceMove_.restart();
     if (sinceMove_.hasExpired(limit_)) ThrowOsError(words_.error, ETIMEDOUT);
     if (patience_ && !patience_(words_.waitsFor + u"\nLeaving ends the program; what is stored stays stored."_s))
-        throw OutputError(DeviceError, words_.error + u": the wait for it was left."_s);
+        throw OutputError(values::DeviceError, words_.error + u": the wait for it was left."_s);
 }
 
 }  // namespace output

@@ -1,12 +1,9 @@
 #include "output/Ports.h"
 
-#include <QFile>
-#include <QFileInfo>
-#include <QHash>
-#include <QStringDecoder>
-
 #include "output/Channel.h"
 #include "output/Folder.h"
+#include "values/FileError.h"
+#include "values/IniFile.h"
 
 using namespace Qt::StringLiterals;
 
@@ -14,46 +11,25 @@ namespace output {
 
 namespace {
 
-constexpr qint64 LargestPortsFile = 64 * 1024;
 constexpr qsizetype LongestEntry = 1000;
 
-// The text of ports.ini, empty when there is none. Editors of other systems save it with two bytes a character.
-QString PortsText() {
-    QFile file(InProgramFolder(u"ports.ini"_s));
-    if (!file.exists()) return {};
-    const QString action = u"Cannot read "_s + file.fileName() + u": "_s;
-    if (!QFileInfo(file).isFile()) throw OutputError(PathNotAFile, action + u"it is no file."_s);
-    if (!file.open(QIODevice::ReadOnly)) throw OutputError(PermissionDenied, action + file.errorString() + u'.');
-    const QByteArray bytes = file.read(LargestPortsFile + 1);
-    if (bytes.size() > LargestPortsFile) throw OutputError(PathNotAFile, action + u"it is too long."_s);
-    const auto encoding = QStringConverter::encodingForData(bytes).value_or(QStringConverter::Utf8);
-    return QStringDecoder(encoding)(bytes);
-}
-
-// The keys of the section [ports] in small letters, with their values as they stand: QSettings would take commas and
-// backslashes apart. Of two equal keys the later one counts.
-QHash<QString, QString> PortsEntries() {
-    QHash<QString, QString> entries;
-    bool inPorts = false;
-    for (const QString& rawLine : PortsText().replace(u'\r', u'\n').split(u'\n')) {
-        const QString line = rawLine.trimmed();
-        if (line.startsWith(u'[')) inPorts = line.compare(u"[ports]", Qt::CaseInsensitive) == 0;
-        const qsizetype equals = line.indexOf(u'=');
-        if (!inPorts || equals < 0 || line.startsWith(u';') || line.startsWith(u'#')) continue;
-        entries[line.left(equals).trimmed().toLower()] = line.mid(equals + 1).trimmed();
+values::IniFile PortsIni() {
+    try {
+        return values::IniFile::Read(InProgramFolder(u"ports.ini"_s));
+    } catch (const values::FileError& error) {
+        throw OutputError(error.Number(), error.Description());
     }
-    return entries;
 }
 
 [[noreturn]] void ThrowBadEntry(const QString& entry) {
-    throw OutputError(DeviceUnavailable, u"ports.ini has no printer behind \"%1\"."_s.arg(entry));
+    throw OutputError(values::DeviceUnavailable, u"ports.ini has no printer behind \"%1\"."_s.arg(entry));
 }
 
 bool IsYes(const QString& key, const QString& word) {
     const QString known = word.toLower();
     if (known == u"yes" || known == u"1" || known == u"on" || known == u"true") return true;
     if (known.isEmpty() || known == u"no" || known == u"0" || known == u"off" || known == u"false") return false;
-    throw OutputError(DeviceUnavailable, u"ports.ini has \"%1\" at %2, which is yes or no."_s.arg(word, key));
+    throw OutputError(values::DeviceUnavailable, u"ports.ini has \"%1\" at %2, which is yes or no."_s.arg(word, key));
 }
 
 std::unique_ptr<Sink> OpenNetworkPrinter(const QString& entry, const Port& port) {
@@ -85,13 +61,14 @@ QString BelowFolderUnlessAbsolute(const QString& path) {
 std::unique_ptr<Sink> OpenPortSink(const QString& port) {
     const QString key = port.toLower().remove(u':');
     if (key != u"lpt1" && key != u"lpt2")
-        throw OutputError(DeviceUnavailable, u"There is no printer port \"%1\"."_s.arg(port));
+        throw OutputError(values::DeviceUnavailable, u"There is no printer port \"%1\"."_s.arg(port));
 
-    const auto entries = PortsEntries();
-    const QString entry = entries.value(key);
+    const auto ini = PortsIni();
+    const QString entry = ini.Entry(u"ports"_s, key).value_or(QString());
     if (entry.contains(QChar(0)) || entry.size() > LongestEntry) ThrowBadEntry(entry.left(40).remove(QChar(0)));
     const QString statusKey = key + u".status"_s;
-    const QString status = entries.value(statusKey, entries.value(u"status"_s));
+    const QString status =
+        ini.Entry(u"ports"_s, statusKey).value_or(ini.Entry(u"ports"_s, u"status"_s).value_or(QString()));
     const Port known{.name = key.toUpper(), .isAsked = IsYes(statusKey, status)};
     if (entry.isEmpty()) return OpenUsualDevice(key, known);
     if (entry.startsWith(u"tcp:", Qt::CaseInsensitive)) return OpenNetworkPrinter(entry, known);

@@ -156,7 +156,8 @@ std::unique_ptr<Sink> ConnectTo(const QString& host, quint16 number, const Port&
     const QString name = host + u':' + QString::number(number);
     const WaitWords words{u"Cannot reach the printer "_s + name, WaitsForPrinter(port.name, name)};
     const Addresses addresses = AddressesOf(host, number, words);
-    if (!addresses) throw OutputError(DeviceUnavailable, u"The printer "_s + name + u" has no known address."_s);
+    if (!addresses)
+        throw OutputError(values::DeviceUnavailable, u"The printer "_s + name + u" has no known address."_s);
 
     Wait wait(words, ConnectTimeoutMs);
     for (const addrinfo* address = addresses.get();; address = address->ai_next) {

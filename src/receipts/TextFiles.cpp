@@ -10,6 +10,7 @@
 #include "output/CodePage.h"
 #include "output/PagePrinter.h"
 #include "receipts/InvoiceOutput.h"
+#include "values/FileError.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,20 +18,8 @@ namespace {
 
 constexpr qint64 ChunkSize = 1024 * 1024;
 
-int NumberOf(QFileDevice::FileError error) {
-    switch (error) {
-        case QFileDevice::PermissionsError:
-            return output::PermissionDenied;
-        case QFileDevice::ResourceError:
-        case QFileDevice::WriteError:
-            return output::DiskFull;
-        default:
-            return output::PathNotFound;
-    }
-}
-
 [[noreturn]] void ThrowFileError(const QString& action, const QFileDevice& file) {
-    throw values::Error(NumberOf(file.error()), action + file.fileName() + u": "_s + file.errorString() + u'.');
+    throw values::Error(values::NumberOfFailure(file), action + file.fileName() + u": "_s + file.errorString() + u'.');
 }
 
 void OpenForReading(QFile& file) {

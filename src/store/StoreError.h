@@ -13,9 +13,10 @@ enum ErrorNumber : int {
     DuplicateKey = 3022,
     FileNotFound = 3024,
     DiskFull = 3026,
-    ReadOnly = 3027,   // a join, an aggregate, a store on read-only ground
-    DiskError = 3043,  // the disk or the network refused to read or write
-    Cancelled = 3059,  // the user did not want to wait
+    ReadOnly = 3027,        // a join, an aggregate, a store on read-only ground
+    DiskError = 3043,       // the disk or the network refused to read or write
+    IniNotReadable = 3051,  // a store.ini that does not say where the main store lies
+    Cancelled = 3059,       // the user did not want to wait
     UnknownField = 3061,
     SyntaxError = 3075,
     UnknownTable = 3078,

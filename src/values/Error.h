@@ -7,11 +7,29 @@
 
 namespace values {
 
-// Numbers of the errors that values themselves raise; those of the store stand in store/StoreError.h.
-constexpr int Overflow = 6;
-constexpr int DivisionByZero = 11;
-constexpr int TypeMismatch = 13;
-constexpr int InvalidUseOfNull = 94;
+// The numbers of the program's own errors, for all rooms; those of the store stand in store/StoreError.h.
+enum ErrorNumber : int {
+    InvalidCall = 5,
+    Overflow = 6,
+    OutOfMemory = 7,
+    IndexOutOfRange = 9,
+    DivisionByZero = 11,
+    TypeMismatch = 13,
+    InternalError = 51,
+    ChannelNotOpen = 52,
+    FileMissing = 53,
+    ChannelInUse = 55,
+    DeviceError = 57,
+    DiskFull = 61,
+    DeviceUnavailable = 68,
+    PermissionDenied = 70,
+    PathFault = 75,  // no file, or one that can't be used so
+    PathNotFound = 76,
+    NoObject = 91,  // a form, a row or a store that is not there
+    InvalidUseOfNull = 94,
+    NotSupported = 438,  // a control that a form does not have, a form that can't do it
+    InvalidPicture = 481,
+};
 
 // A run-time error as the screens report it: a number and a description in words.
 // The base of every error that one of our handlers may throw, so that one place can report them all.

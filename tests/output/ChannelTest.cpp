@@ -63,10 +63,10 @@ TEST_F(ChannelTest, MoreThanOneBufferGoesOutWhole) {
 }
 
 TEST_F(ChannelTest, OnlyOneThingIsOpenAtATime) {
-    EXPECT_EQ(ErrorOf([&] { channel.WriteLine(u"x"_s); }), ChannelNotOpen);
-    EXPECT_EQ(ErrorOf([&] { channel.Close(); }), ChannelNotOpen);
+    EXPECT_EQ(ErrorOf([&] { channel.WriteLine(u"x"_s); }), values::ChannelNotOpen);
+    EXPECT_EQ(ErrorOf([&] { channel.Close(); }), values::ChannelNotOpen);
     channel.OpenForOutput(Path(u"a.txt"_s));
-    EXPECT_EQ(ErrorOf([&] { channel.OpenForAppend(Path(u"b.txt"_s)); }), ChannelInUse);
+    EXPECT_EQ(ErrorOf([&] { channel.OpenForAppend(Path(u"b.txt"_s)); }), values::ChannelInUse);
     EXPECT_FALSE(Exists(u"b.txt"_s));
     channel.WriteLine(u"still a"_s);
     channel.Close();
@@ -86,9 +86,9 @@ TEST_F(ChannelTest, AbandonClosesAndKeepsWhatWasWritten) {
 TEST_F(ChannelTest, PlacesThatCannotBeOpenedAreToldApart) {
     QDir(Path(u"."_s)).mkdir(u"folder"_s);
     Write(u"file"_s, "");
-    EXPECT_EQ(ErrorOf([&] { channel.OpenForOutput(Path(u"missing/a.txt"_s)); }), PathNotFound);
-    EXPECT_EQ(ErrorOf([&] { channel.OpenForAppend(Path(u"file/a.txt"_s)); }), PathNotFound);
-    EXPECT_EQ(ErrorOf([&] { channel.OpenForAppend(Path(u"folder"_s)); }), PathNotAFile);
+    EXPECT_EQ(ErrorOf([&] { channel.OpenForOutput(Path(u"missing/a.txt"_s)); }), values::PathNotFound);
+    EXPECT_EQ(ErrorOf([&] { channel.OpenForAppend(Path(u"file/a.txt"_s)); }), values::PathNotFound);
+    EXPECT_EQ(ErrorOf([&] { channel.OpenForAppend(Path(u"folder"_s)); }), values::PathFault);
     EXPECT_FALSE(channel.IsOpen());
 }
 
@@ -99,12 +99,12 @@ TEST_F(ChannelTest, AFullDeviceIsReportedByWhoeverFindsIt) {
             for (int i = 0; i < lines; ++i) channel.WriteLine(u"a line"_s);
             channel.Close();
         });
-        EXPECT_EQ(error, DiskFull) << lines;
+        EXPECT_EQ(error, values::DiskFull) << lines;
         channel.Abandon();
     }
     channel.OpenForOutput(u"/dev/full"_s);
     channel.WriteLine(u"a line"_s);
-    EXPECT_EQ(ErrorOf([&] { channel.Close(); }), DiskFull);
+    EXPECT_EQ(ErrorOf([&] { channel.Close(); }), values::DiskFull);
     EXPECT_FALSE(channel.IsOpen()) << "a failed close must not block the next output";
 
     // A file that may grow a little further takes no half of a piece.
@@ -115,7 +115,7 @@ TEST_F(ChannelTest, AFullDeviceIsReportedByWhoeverFindsIt) {
     channel.OpenForAppend(Path(u"file"_s));
     channel.WriteLine(u"longer than what is left"_s);
     setrlimit(RLIMIT_FSIZE, &little);
-    EXPECT_EQ(ErrorOf([&] { channel.Close(); }), DiskFull);
+    EXPECT_EQ(ErrorOf([&] { channel.Close(); }), values::DiskFull);
     setrlimit(RLIMIT_FSIZE, &room);
     EXPECT_EQ(Read(u"file"_s), "before\r\n");
 }
@@ -161,29 +161,29 @@ TEST_F(ChannelTest, PortsWithoutAPrinterAreRefusedAndNothingIsMade) {
                                   "lpt1=file:a\nlpt1.status=perhaps\n"};
     for (const auto& entry : entries) {
         SetPorts(entry);
-        EXPECT_EQ(ErrorOf([&] { channel.OpenPort(u"lpt1:"_s); }), DeviceUnavailable) << entry.toStdString();
+        EXPECT_EQ(ErrorOf([&] { channel.OpenPort(u"lpt1:"_s); }), values::DeviceUnavailable) << entry.toStdString();
     }
-    EXPECT_EQ(ErrorOf([&] { channel.OpenPort(u"lpt3:"_s); }), DeviceUnavailable);
+    EXPECT_EQ(ErrorOf([&] { channel.OpenPort(u"lpt3:"_s); }), values::DeviceUnavailable);
     EXPECT_FALSE(channel.IsOpen());
     EXPECT_FALSE(Exists(u"printer.dev"_s) || Exists(u"a"_s));
     SetPorts(QByteArray(100'000, '\n') + "lpt1=file:a\n");
-    EXPECT_EQ(ErrorOf([&] { channel.OpenPort(u"lpt1:"_s); }), PathNotAFile);
+    EXPECT_EQ(ErrorOf([&] { channel.OpenPort(u"lpt1:"_s); }), values::PathFault);
     ASSERT_TRUE(QFile::remove(Path(u"ports.ini"_s)) && QDir().mkdir(Path(u"ports.ini"_s)));
-    EXPECT_EQ(ErrorOf([&] { channel.OpenPort(u"lpt1:"_s); }), PathNotAFile);
+    EXPECT_EQ(ErrorOf([&] { channel.OpenPort(u"lpt1:"_s); }), values::PathFault);
 }
 
 TEST_F(ChannelTest, APipeWithoutAReaderIsRefusedAndOneThatHangsUpIsReported) {
     const QByteArray pipe = Path(u"pipe"_s).toUtf8();
     ASSERT_EQ(::mkfifo(pipe.constData(), 0600), 0);
     SetPorts("lpt1=pipe\n");
-    EXPECT_EQ(ErrorOf([&] { channel.OpenPort(u"lpt1:"_s); }), DeviceUnavailable);
-    EXPECT_EQ(ErrorOf([&] { channel.OpenForAppend(Path(u"pipe"_s)); }), DeviceUnavailable);
+    EXPECT_EQ(ErrorOf([&] { channel.OpenPort(u"lpt1:"_s); }), values::DeviceUnavailable);
+    EXPECT_EQ(ErrorOf([&] { channel.OpenForAppend(Path(u"pipe"_s)); }), values::DeviceUnavailable);
 
     const int reader = ::open(pipe.constData(), O_RDONLY | O_NONBLOCK);
     channel.OpenPort(u"lpt1:"_s);
     channel.WriteLine(u"nobody reads this"_s);
     ::close(reader);
-    EXPECT_EQ(ErrorOf([&] { channel.Close(); }), DeviceError);
+    EXPECT_EQ(ErrorOf([&] { channel.Close(); }), values::DeviceError);
 }
 
 TEST_F(ChannelTest, ASlowPipeGetsEveryByte) {
@@ -220,7 +220,7 @@ TEST_F(ChannelTest, WhatTakesNothingFurtherIsLeftWhenTheUserSaysSo) {
             channel.OpenPort(u"lpt2:"_s);
         else
             channel.OpenForAppend(Path(u"pipe"_s));
-        EXPECT_EQ(ErrorOf([&] { channel.WriteBytes(QByteArray(500'000, 'x')); }), DeviceError);
+        EXPECT_EQ(ErrorOf([&] { channel.WriteBytes(QByteArray(500'000, 'x')); }), values::DeviceError);
         EXPECT_TRUE(said.contains(isPort ? u"printer on LPT2 ("_s : Path(u"pipe"_s))) << said.toStdString();
         channel.Abandon();
         EXPECT_EQ(begun, 1) << "what has failed is not waited for again";

@@ -53,7 +53,7 @@ TEST_F(NetworkPrinterTest, APrinterThatIsSwitchedOffInTheMiddleIsReported) {
     for (const int size : {5000, 3'000'000}) {
         NetworkPrinter printer(Manner::IsSwitchedOff);
         SetPorts("lpt1=tcp:127.0.0.1:" + printer.Port());
-        EXPECT_EQ(ErrorOf([&] { Print(QByteArray(size, 'x')); }), DeviceError) << size;
+        EXPECT_EQ(ErrorOf([&] { Print(QByteArray(size, 'x')); }), values::DeviceError) << size;
         Channel1().Abandon();
     }
 }
@@ -65,7 +65,7 @@ TEST_F(NetworkPrinterTest, APrinterThatIsNotThereIsReported) {
         port = printer.Port();
     }
     SetPorts("lpt1=tcp:127.0.0.1:" + port);
-    EXPECT_EQ(ErrorOf([&] { Print("abc"); }), DeviceUnavailable);
+    EXPECT_EQ(ErrorOf([&] { Print("abc"); }), values::DeviceUnavailable);
 }
 
 TEST_F(NetworkPrinterTest, APrinterIsAskedHowItDoesInItsOwnWords) {

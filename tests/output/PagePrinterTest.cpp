@@ -103,7 +103,7 @@ TEST_F(PagePrinterTest, NothingPrintedOrAbandonedLeavesNoFile) {
 TEST_F(PagePrinterTest, AFolderThatCannotBeMadeIsReportedAndEndsTheJob) {
     Write(u"printouts"_s, "in the way");
     printer.PrintLine(u"line"_s);
-    EXPECT_EQ(ErrorOf([&] { printer.EndJob(); }), PathNotFound);
+    EXPECT_EQ(ErrorOf([&] { printer.EndJob(); }), values::PathNotFound);
     QFile::remove(Path(u"printouts"_s));
     printer.EndJob();
     EXPECT_FALSE(Exists(u"printouts"_s));

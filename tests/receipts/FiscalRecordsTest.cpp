@@ -39,7 +39,7 @@ TEST_F(FiscalRecordsTest, AreAppendedWhateverTheSaleIsSetTo) {
     EXPECT_EQ(Read(u"fiscal.txt"_s),
               "X,1,______,_,__;\r\nZ,1,______,_,__;\r\nE,1,______,_,__;www.velton.example;;\r\n");
     TheSettings.FiskalniFile = u"missing\\fiscal.txt"_s;
-    EXPECT_EQ(ErrorOf([] { AppendFiscalRecords({FiscalXRecord()}); }), output::PathNotFound);
+    EXPECT_EQ(ErrorOf([] { AppendFiscalRecords({FiscalXRecord()}); }), values::PathNotFound);
     EXPECT_FALSE(output::Channel1().IsOpen());
 }
 

@@ -62,7 +62,7 @@ TEST_F(PageReceiptTest, ASizeThatIsNoNumberStillGivesAReceipt) {
 TEST_F(PageReceiptTest, AFailureOfThePageLeavesNoRibbonAndNoHalfJob) {
     Write(u"printouts"_s, "in the way");
     const auto invoice = LoadShop(u"PrinterZaRacun=3\nTrakaRacunaFileDA=1"_s);
-    EXPECT_EQ(ErrorOf([&] { PrintInvoice(invoice); }), output::PathNotFound);
+    EXPECT_EQ(ErrorOf([&] { PrintInvoice(invoice); }), values::PathNotFound);
     EXPECT_FALSE(Exists(u"invoices.txt"_s));
 
     auto broken = LoadShop(u"PrinterZaRacun=3\nNazivFirme=Broken"_s);

@@ -9,8 +9,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int InvalidCall = 5;
-
 class ReceiptFailureTest : public ReceiptFixture {
 protected:
     InvoiceText invoice = LoadShop(u"TrakaRacunaFileDA=1\nFiskalniRacunDA=1"_s);
@@ -41,7 +39,7 @@ protected:
 
 TEST_F(ReceiptFailureTest, APrinterThatIsNotThereLeavesNoRibbonAndNoFiscalRecords) {
     SetPorts("lpt1=/dev/no-such-printer\n");
-    EXPECT_EQ(Print(), output::DeviceUnavailable);
+    EXPECT_EQ(Print(), values::DeviceUnavailable);
     EXPECT_FALSE(Exists(u"invoices.txt"_s));
     EXPECT_FALSE(Exists(u"fiscal.txt"_s));
     ExpectTheNextReceiptIsPrinted();
@@ -49,7 +47,7 @@ TEST_F(ReceiptFailureTest, APrinterThatIsNotThereLeavesNoRibbonAndNoFiscalRecord
 
 TEST_F(ReceiptFailureTest, AFullPrinterDeviceLeavesNoRibbonAndNoFiscalRecords) {
     SetPorts("lpt1=/dev/full\n");
-    EXPECT_EQ(Print(), output::DiskFull);
+    EXPECT_EQ(Print(), values::DiskFull);
     EXPECT_FALSE(Exists(u"invoices.txt"_s));
     EXPECT_FALSE(Exists(u"fiscal.txt"_s));
     ExpectTheNextReceiptIsPrinted();
@@ -57,7 +55,7 @@ TEST_F(ReceiptFailureTest, AFullPrinterDeviceLeavesNoRibbonAndNoFiscalRecords) {
 
 TEST_F(ReceiptFailureTest, AFullDiskUnderTheRibbonComesBehindThePaperAndBeforeTheFiscalRecords) {
     FillUp(u"invoices.txt"_s);
-    EXPECT_EQ(Print(), output::DiskFull);
+    EXPECT_EQ(Print(), values::DiskFull);
     EXPECT_TRUE(Read(u"lpt1.prn"_s).endsWith("\x1DVB\0"_ba));
     EXPECT_FALSE(Exists(u"fiscal.txt"_s));
     ExpectTheNextReceiptIsPrinted();
@@ -65,21 +63,21 @@ TEST_F(ReceiptFailureTest, AFullDiskUnderTheRibbonComesBehindThePaperAndBeforeTh
 
 TEST_F(ReceiptFailureTest, AFullDiskUnderTheFiscalFileComesLast) {
     FillUp(u"fiscal.txt"_s);
-    EXPECT_EQ(Print(), output::DiskFull);
+    EXPECT_EQ(Print(), values::DiskFull);
     EXPECT_TRUE(Read(u"lpt1.prn"_s).endsWith("\x1DVB\0"_ba));
     EXPECT_TRUE(Read(u"invoices.txt"_s).endsWith("Thank you!\r\n\r\n\r\n"));
 }
 
 TEST_F(ReceiptFailureTest, AFiscalFileInAMissingFolderIsReported) {
     TheSettings.FiskalniFile = u"missing\\fiscal.txt"_s;
-    EXPECT_EQ(Print(), output::PathNotFound);
+    EXPECT_EQ(Print(), values::PathNotFound);
     TheSettings.FiskalniFile.clear();
-    EXPECT_EQ(Print(), output::PathNotAFile);
+    EXPECT_EQ(Print(), values::PathFault);
 }
 
 TEST_F(ReceiptFailureTest, ACodeThatLeavesNoRoomEndsTheReceipt) {
     invoice.items[0].code = QString(40, u'7');
-    EXPECT_EQ(Print(), InvalidCall);
+    EXPECT_EQ(Print(), values::InvalidCall);
     EXPECT_FALSE(Exists(u"invoices.txt"_s));
     ExpectTheNextReceiptIsPrinted();
 }
@@ -108,7 +106,7 @@ TEST_F(ReceiptFailureTest, ANetworkPrinterTakesTheReceiptOrTheReceiptFails) {
     QFile::remove(Path(u"fiscal.txt"_s));
     NetworkPrinter printer(NetworkPrinter::Manner::IsSwitchedOff);
     SetPorts("lpt1=tcp:127.0.0.1:" + printer.Port());
-    EXPECT_EQ(Print(), output::DeviceError);
+    EXPECT_EQ(Print(), values::DeviceError);
     EXPECT_FALSE(Exists(u"fiscal.txt"_s));
 }
 

@@ -79,6 +79,6 @@ TEST_F(LoadTest, AddsAllRowsOrNone) {
 
 TEST_F(LoadTest, RefusesATableOrFileThatIsNotThere) {
     EXPECT_THAT(Load(u"Taxes"_s, "A\n1\n").err.toStdString(), StartsWith("3078: "));
-    EXPECT_THAT(Tool({u"load"_s, folder_, u"Tax"_s, Path(u"none.tsv"_s)}).err.toStdString(), StartsWith("75: "));
+    EXPECT_THAT(Tool({u"load"_s, folder_, u"Tax"_s, Path(u"none.tsv"_s)}).err.toStdString(), StartsWith("76: "));
     EXPECT_THAT(Tool({u"load"_s, folder_, u"Tax"_s, folder_}).err.toStdString(), StartsWith("75: "));
 }

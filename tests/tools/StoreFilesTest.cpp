@@ -44,6 +44,7 @@ TEST_F(StoreFilesTest, StoreIniNamesTheMainStoreOnly) {
         {"[main]\npath=../server, main\n", far_},
         {"[main]\npath=..\\server, main\\ORVA.pos\n", far_},
         {"\xFF\xFE" + InTwoBytes("[main]\rpath=../server, main\r"), far_},
+        {"[main]\rpath=../gone\r[ MAIN ]\r#path=../gone\rPATH=../server, main\r[main\rpath=../gone\r", far_},
     };
     for (const auto& [ini, expected] : inis) {
         WriteIni(ini);

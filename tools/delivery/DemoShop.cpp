@@ -1,8 +1,8 @@
 #include <QFile>
 
 #include "delivery/Delivery.h"
-#include "delivery/FileError.h"
 #include "upkeep/TableLoader.h"
+#include "values/FileError.h"
 
 using namespace Qt::StringLiterals;
 
@@ -12,7 +12,7 @@ namespace {
 
 void LoadDemoTable(store::Database& main, const QString& table) {
     QFile lines(u":/delivery/demo/%1.tsv"_s.arg(table));
-    if (!lines.open(QIODevice::ReadOnly)) throw FileError(lines, u"read the demo shop's %1"_s.arg(table));
+    if (!lines.open(QIODevice::ReadOnly)) throw values::FileError(lines, u"read the demo shop's %1"_s.arg(table));
     upkeep::LoadRows(main, table, lines);
 }
 

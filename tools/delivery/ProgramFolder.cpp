@@ -8,8 +8,8 @@
 #include <filesystem>
 
 #include "delivery/Delivery.h"
-#include "delivery/FileError.h"
 #include "store/StorePath.h"
+#include "values/FileError.h"
 
 using namespace Qt::StringLiterals;
 
@@ -37,7 +37,7 @@ public:
         const QString parent = QFileInfo(path).absolutePath();
         if (parent != path) MakeFolder(parent);
         if (!QDir().mkdir(path, OwnerAlone | QFile::ExeOwner))
-            throw FileError(PathFault, u"Cannot make the folder '%1'."_s.arg(path));
+            throw values::FileError(values::PathFault, u"Cannot make the folder '%1'."_s.arg(path));
         made_.append(path);
     }
 
@@ -48,7 +48,7 @@ public:
         const QString target = folder_ + u'/' + name;
         MakeFolder(QFileInfo(target).absolutePath());
         QFile file(from);
-        if (!file.rename(target)) throw FileError(file, u"make '%1'"_s.arg(target));
+        if (!file.rename(target)) throw values::FileError(file, u"make '%1'"_s.arg(target));
         made_.append(target);
     }
 
@@ -59,7 +59,8 @@ public:
         std::error_code error;
         std::filesystem::rename(from.toStdU16String(), target.toStdU16String(), error);
         if (error)
-            throw FileError(PathFault, u"Cannot make '%1': %2"_s.arg(target, QString::fromStdString(error.message())));
+            throw values::FileError(values::PathFault,
+                                    u"Cannot make '%1': %2"_s.arg(target, QString::fromStdString(error.message())));
         if (isNew) made_.append(target);
     }
 
@@ -77,7 +78,7 @@ public:
     explicit Workshop(const QString& folder) : place_(folder + u'/' + Name + u"XXXXXX"_s) {
         ClearAbandoned(folder);
         if (!place_.isValid())
-            throw FileError(PathFault, u"Cannot write to '%1': %2"_s.arg(folder, place_.errorString()));
+            throw values::FileError(values::PathFault, u"Cannot write to '%1': %2"_s.arg(folder, place_.errorString()));
         lock_ = Locked(place_.path());
     }
     ~Workshop() {
@@ -118,10 +119,11 @@ private:
 
 // The log of a store that was lost would be taken for that of the new one.
 void RefuseStores(const QString& folder) {
-    for (const QString& store : {QString(store::MainFile), QString(store::OptionsFile)})
+    for (const QString& name : {QString(store::MainFile), QString(store::OptionsFile)})
         for (const QString& rest : {u""_s, u"-wal"_s, u"-shm"_s, u"-journal"_s})
-            if (QFileInfo::exists(folder + u'/' + store + rest))
-                throw FileError(StoreExists, u"The folder '%1' holds a store already: %2"_s.arg(folder, store + rest));
+            if (QFileInfo::exists(folder + u'/' + name + rest))
+                throw values::FileError(store::FileExists,
+                                        u"The folder '%1' holds a store already: %2"_s.arg(folder, name + rest));
 }
 
 void MakeStores(const QString& folder, bool withDemo) {
@@ -135,7 +137,7 @@ void WriteFile(const QString& path, const QByteArray& content) {
     QDir().mkpath(QFileInfo(path).absolutePath());
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly, OwnerAlone) || file.write(content) != content.size() || !file.flush())
-        throw FileError(file, u"write '%1'"_s.arg(path));
+        throw values::FileError(file, u"write '%1'"_s.arg(path));
 }
 
 // Pictures and help texts, as they lie in this program.
@@ -144,7 +146,7 @@ QStringList WriteSupplies(const QString& folder) {
     QStringList names;
     for (QDirIterator files(root, QDir::Files, QDirIterator::Subdirectories); files.hasNext();) {
         QFile supply(files.next());
-        if (!supply.open(QIODevice::ReadOnly)) throw FileError(supply, u"read '%1'"_s.arg(supply.fileName()));
+        if (!supply.open(QIODevice::ReadOnly)) throw values::FileError(supply, u"read '%1'"_s.arg(supply.fileName()));
         names.append(supply.fileName().mid(root.size()));
         WriteFile(folder + u'/' + names.last(), supply.readAll());
     }
@@ -157,11 +159,11 @@ void CopyProgram(const QString& from, const QString& folder) {
     const QString target = folder + u'/' + Program;
     QFile program(from);
     if (!program.copy(target) || !QFile::setPermissions(target, OwnerAlone | QFile::ExeOwner))
-        throw FileError(program, u"copy the program"_s);
+        throw values::FileError(program, u"copy the program"_s);
     const auto time = QFileInfo(from).lastModified();
     QFile copy(target);
     if (!copy.open(QIODevice::ReadOnly) || !copy.setFileTime(time, QFileDevice::FileModificationTime))
-        throw FileError(copy, u"date '%1'"_s.arg(target));
+        throw values::FileError(copy, u"date '%1'"_s.arg(target));
 }
 
 }  // namespace
@@ -171,7 +173,7 @@ void MakeProgramFolder(const QString& folder, bool withDemo, const QString& prog
     RefuseStores(target);
     const bool withProgram = !programPath.isEmpty();
     if (withProgram && !QFileInfo(programPath).isFile())
-        throw FileError(FileMissing, u"The program is missing: '%1'"_s.arg(programPath));
+        throw values::FileError(values::FileMissing, u"The program is missing: '%1'"_s.arg(programPath));
 
     Placing placing(target);
     // Put in place only when all of it is there.

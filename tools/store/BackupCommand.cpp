@@ -1,5 +1,5 @@
 #include "Commands.h"
-#include "delivery/FileError.h"
+#include "values/FileError.h"
 
 using namespace Qt::StringLiterals;
 
@@ -7,7 +7,7 @@ namespace tool {
 
 void Backup(const QString& folder, const QString& file) {
     if (file == u"-")
-        throw delivery::FileError(delivery::InvalidCall, u"A copy goes into a file, not to the standard output."_s);
+        throw values::FileError(values::InvalidCall, u"A copy goes into a file, not to the standard output."_s);
     OpenStore(folder, Which::Main)->BackupTo(file);
 }
 

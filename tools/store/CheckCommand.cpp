@@ -2,9 +2,9 @@
 
 #include "Commands.h"
 #include "Output.h"
-#include "delivery/FileError.h"
 #include "upkeep/Check.h"
 #include "upkeep/ValueText.h"
+#include "values/FileError.h"
 
 using namespace Qt::StringLiterals;
 using namespace upkeep;
@@ -34,7 +34,7 @@ StorePointer CheckFile(const QString& folder, Which which, Findings& findings) {
 std::vector<Receipt> RibbonOf(const QString& folder) {
     QFile ribbon(folder + u"/invoices.txt"_s);
     if (!ribbon.exists()) return {};
-    if (!ribbon.open(QIODevice::ReadOnly)) throw delivery::FileError(ribbon, u"read '%1'"_s.arg(ribbon.fileName()));
+    if (!ribbon.open(QIODevice::ReadOnly)) throw values::FileError(ribbon, u"read '%1'"_s.arg(ribbon.fileName()));
     return ReadRibbon(ribbon);
 }
 

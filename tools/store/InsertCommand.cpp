@@ -1,8 +1,8 @@
 #include <QSet>
 
 #include "Commands.h"
-#include "delivery/FileError.h"
 #include "upkeep/TableLoader.h"
+#include "values/FileError.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,7 +17,7 @@ void Insert(const QString& folder, const QString& tableName, const QStringList& 
     for (const QString& field : fields) {
         const qsizetype equals = field.indexOf(u'=');
         if (equals < 1)
-            throw delivery::FileError(delivery::InvalidCall, u"'%1' is not of the form FIELD=VALUE."_s.arg(field));
+            throw values::FileError(values::InvalidCall, u"'%1' is not of the form FIELD=VALUE."_s.arg(field));
         const int column = upkeep::FindField(table, field.first(equals));
         if (named.contains(column))
             throw store::StoreError(store::AmbiguousName,

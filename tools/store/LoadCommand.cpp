@@ -2,11 +2,11 @@
 #include <cstdio>
 
 #include "Commands.h"
-#include "delivery/FileError.h"
 #include "upkeep/Findings.h"
 #include "upkeep/GoodsFaults.h"
 #include "upkeep/TableLoader.h"
 #include "upkeep/ValueText.h"
+#include "values/FileError.h"
 
 using namespace Qt::StringLiterals;
 using namespace upkeep;
@@ -32,12 +32,12 @@ RowLook LookAtGoods(store::Database& database, Findings& findings) {
 void Load(const QString& folder, const QString& table, const QString& file) {
     const auto database = OpenStore(folder, Which::Main);
     QFile lines(file);
-    if (!lines.open(QIODevice::ReadOnly)) throw delivery::FileError(lines, u"read '%1'"_s.arg(file));
+    if (!lines.open(QIODevice::ReadOnly)) throw values::FileError(lines, u"read '%1'"_s.arg(file));
     Findings findings;
     const bool areGoods = FindTable(*database, table).name == u"Products";
     store::Database::Batch batch(*database);
     LoadRows(*database, table, lines, areGoods ? LookAtGoods(*database, findings) : RowLook());
-    if (lines.error() != QFileDevice::NoError) throw delivery::FileError(lines, u"read '%1'"_s.arg(file));
+    if (lines.error() != QFileDevice::NoError) throw values::FileError(lines, u"read '%1'"_s.arg(file));
     batch.Commit();
     Warn(findings);
 }

@@ -5,7 +5,7 @@
 
 #include <QFile>
 
-#include "delivery/FileError.h"
+#include "values/FileError.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,7 +21,7 @@ void Output::Finish() {
     QFile out;
     if (!out.open(STDOUT_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered) ||
         out.write(waiting_) != waiting_.size())
-        throw delivery::FileError(out, u"write the output"_s);
+        throw values::FileError(out, u"write the output"_s);
     waiting_.clear();
 }
 

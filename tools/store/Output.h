@@ -4,7 +4,7 @@
 
 namespace tool {
 
-// Standard output. What cannot be written throws delivery::FileError, at the latest from Finish.
+// Standard output. What cannot be written throws values::FileError, at the latest from Finish.
 class Output {
 public:
     void Write(const QByteArray& bytes);

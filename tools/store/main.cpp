@@ -7,15 +7,12 @@
 
 #include "Commands.h"
 #include "Output.h"
-#include "delivery/FileError.h"
 #include "upkeep/ValueText.h"
+#include "values/FileError.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int OutOfMemory = 7;
-constexpr int InternalError = 51;
 
 constexpr auto ValuesHelp =
     "Values, as sql prints them and insert and load take them: dates yyyy-mm-dd, times hh:mm:ss, numbers with a point\n"
@@ -99,7 +96,7 @@ int Run(int argc, char** argv) {
         output.Write(QByteArray::fromStdString(app.help()));
         output.Finish();
     } catch (const CLI::ParseError& error) {
-        return Report(delivery::InvalidCall, QString::fromUtf8(error.what()) + u" (velton-store --help tells more)"_s);
+        return Report(values::InvalidCall, QString::fromUtf8(error.what()) + u" (velton-store --help tells more)"_s);
     }
     return 0;
 }
@@ -120,8 +117,8 @@ int main(int argc, char** argv) {
     } catch (const values::Error& error) {
         return Report(error.Number(), error.Description());
     } catch (const std::bad_alloc&) {
-        return Report(OutOfMemory, u"Out of memory."_s);
+        return Report(values::OutOfMemory, u"Out of memory."_s);
     } catch (const std::exception& error) {
-        return Report(InternalError, QString::fromUtf8(error.what()));
+        return Report(values::InternalError, QString::fromUtf8(error.what()));
     }
 }

@@ -1,0 +1,58 @@
+#include "values/FileError.h"
+
+#include <QFileInfo>
+#include <cerrno>
+
+using namespace Qt::StringLiterals;
+
+namespace values {
+
+int NumberOfOsError(int errnoValue) {
+    switch (errnoValue) {
+        case ENOENT:
+        case ENOTDIR:
+        case ENAMETOOLONG:
+            return PathNotFound;
+        case EACCES:
+        case EPERM:
+        case EROFS:
+            return PermissionDenied;
+        case EISDIR:
+        case ELOOP:
+        case ETXTBSY:
+            return PathFault;
+        case ENOSPC:
+        case EDQUOT:
+        case EFBIG:
+            return DiskFull;
+        case ENXIO:
+        case ENODEV:
+        case EBUSY:
+        case ECONNREFUSED:
+        case EHOSTUNREACH:
+        case ENETUNREACH:
+            return DeviceUnavailable;
+        default:
+            return DeviceError;
+    }
+}
+
+// A file that could not be opened does not say why: one that is there was found.
+int NumberOfFailure(const QFileDevice& file) {
+    switch (file.error()) {
+        case QFileDevice::ResourceError:
+            return DiskFull;
+        case QFileDevice::PermissionsError:
+            return PermissionDenied;
+        case QFileDevice::ReadError:
+        case QFileDevice::WriteError:
+            return DeviceError;
+        default:
+            return QFileInfo::exists(file.fileName()) ? PathFault : PathNotFound;
+    }
+}
+
+FileError::FileError(const QFileDevice& file, const QString& doing)
+    : Error(NumberOfFailure(file), u"Cannot %1: %2"_s.arg(doing, file.errorString())) {}
+
+}  // namespace values

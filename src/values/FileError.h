@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QFileDevice>
+
+#include "values/Error.h"
+
+namespace values {
+
+// The number that an errno value, or the last failure of a file, stands for: the one map of both.
+int NumberOfOsError(int errnoValue);
+int NumberOfFailure(const QFileDevice& file);
+
+// A file or folder outside the stores that could not be read, made or written.
+class FileError : public Error {
+public:
+    using Error::Error;
+    // What the file itself tells about its last failure; `doing` names the attempt, such as "write 'x'".
+    FileError(const QFileDevice& file, const QString& doing);
+};
+
+}  // namespace values

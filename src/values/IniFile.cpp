@@ -1,0 +1,62 @@
+#include "values/IniFile.h"
+
+#include <QFileInfo>
+#include <QStringDecoder>
+
+#include "values/FileError.h"
+
+using namespace Qt::StringLiterals;
+
+namespace values {
+
+namespace {
+
+constexpr qint64 LargestFile = 64 * 1024;
+
+QString TextOf(const QString& path) {
+    const QFileInfo info(path);
+    if (!info.exists() && !info.isSymLink()) return {};
+    const QString action = u"Cannot read "_s + path + u": "_s;
+    QFile file(path);
+    if (!info.isFile()) throw FileError(PathFault, action + u"it is no file."_s);
+    if (!file.open(QIODevice::ReadOnly)) throw FileError(NumberOfFailure(file), action + file.errorString() + u'.');
+    const QByteArray bytes = file.read(LargestFile + 1);
+    if (file.error() != QFileDevice::NoError)
+        throw FileError(NumberOfFailure(file), action + file.errorString() + u'.');
+    if (bytes.size() > LargestFile) throw FileError(PathFault, action + u"it is too long."_s);
+    const auto encoding = QStringConverter::encodingForData(bytes).value_or(QStringConverter::Utf8);
+    return QStringDecoder(encoding)(bytes);
+}
+
+// A bracket separates them: a section's name cannot have one.
+QString NameOf(QStringView section, QStringView key) {
+    return section.trimmed().toString().toLower() + u']' + key.trimmed().toString().toLower();
+}
+
+}  // namespace
+
+IniFile IniFile::Read(const QString& path) {
+    IniFile ini;
+    QString section;
+    for (const QString& rawLine : TextOf(path).replace(u'\r', u'\n').split(u'\n')) {
+        const QString line = rawLine.trimmed();
+        if (line.isEmpty() || line.startsWith(u';') || line.startsWith(u'#')) continue;
+        if (line.startsWith(u'[') && line.endsWith(u']')) {
+            section = line.sliced(1, line.size() - 2);
+            continue;
+        }
+        ini.isSilent_ = false;
+        // A head that is not closed is that of a section which nobody asks for.
+        if (line.startsWith(u'[')) section = line;
+        const qsizetype equals = line.indexOf(u'=');
+        if (equals > 0) ini.entries_[NameOf(section, line.first(equals))] = line.sliced(equals + 1).trimmed();
+    }
+    return ini;
+}
+
+std::optional<QString> IniFile::Entry(const QString& section, const QString& key) const {
+    const auto entry = entries_.constFind(NameOf(section, key));
+    return entry == entries_.cend() ? std::nullopt : std::optional(*entry);
+}
+
+}  // namespace values
