@@ -13,9 +13,9 @@ void SearchScreen::SearchWith(SearchBlock* block, forms::ListView* list) {
     block->cboTemp->setFocus();
 }
 
-void SearchScreen::SetSearchFields(const QStringList& entries) {
+void SearchScreen::SetSearchFields(const QList<SearchField>& fields) {
     fieldsAreSet_ = false;
-    block_->cboView->addItems(entries);
+    for (const auto& [entry, field] : fields) block_->cboView->addItem(entry, field);
     block_->cboView->setCurrentIndex(0);
     fieldsAreSet_ = true;
 }
@@ -25,7 +25,7 @@ void SearchScreen::cboView_Click() {
 }
 
 void SearchScreen::Search() {
-    const QString condition = block_->Condition(SearchedField(block_->cboView->currentText()));
+    const QString condition = block_->Condition(block_->cboView->currentData().toString());
     ShowRows(base_ + condition);
     condition_ = condition;
 }

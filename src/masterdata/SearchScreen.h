@@ -12,11 +12,14 @@ class SearchScreen : public OfficeForm {
 protected:
     // Ties the block to the screen; the arrow down leads from the text into the list.
     void SearchWith(SearchBlock* block, forms::ListView* list);
-    // The entries of cboView; the first is selected, which does not search yet.
-    void SetSearchFields(const QStringList& entries);
+    // An entry of cboView, and the field that is searched while it is shown.
+    struct SearchField {
+        QString entry;
+        QString field;
+    };
+    // The first is selected, which does not search yet.
+    void SetSearchFields(const QList<SearchField>& fields);
 
-    // The field that is searched while an entry of cboView is shown.
-    virtual QString SearchedField(const QString& entry) const = 0;
     // Opens a query as the screen's rows and fills the list with them.
     virtual void ShowRows(const QString& query) = 0;
 

@@ -25,9 +25,6 @@ const std::vector<ListCell> Cells{{u"ProdCode"_s},
                                   {u"VPUnitPrice"_s, u"0.00"_s},
                                   {u"VPUnitPricebezPDV"_s, u"0.00"_s}};
 
-const auto NameEntry = u"Product name"_s;
-const auto CodeEntry = u"ProductID - BarCode"_s;
-
 }  // namespace
 
 frmArtikli::frmArtikli() {
@@ -65,16 +62,12 @@ void frmArtikli::Keep() {
 void frmArtikli::Form_Load() {
     base_ = ProductsQuery;
     ShowRows(base_);
-    SetSearchFields({NameEntry, CodeEntry});
+    SetSearchFields({{u"Product name"_s, u"ProdDescription"_s}, {u"ProductID - BarCode"_s, u"ProdCode"_s}});
 }
 
 bool frmArtikli::Form_Unload() {
     isChoosing_ = false;
     return true;
-}
-
-QString frmArtikli::SearchedField(const QString& entry) const {
-    return entry == NameEntry ? u"ProdDescription"_s : u"ProdCode"_s;
 }
 
 void frmArtikli::ShowRows(const QString& query) {

@@ -19,7 +19,6 @@ public:
 protected:
     void Form_Load() override;
     bool Form_Unload() override;
-    QString SearchedField(const QString& entry) const override;
     void ShowRows(const QString& query) override;
     void cmdNew_Click() override;
     void cmdUpdate_Click() override;

@@ -85,13 +85,9 @@ void frmKlikTabla::Form_Load() {
     base_ = ProductsQuery;
     ShowRows(base_);
     LoadTable();
-    SetSearchFields({u"ProductName"_s, u"ProductID"_s});
+    // The search runs on the code, whichever entry is shown.
+    SetSearchFields({{u"ProductName"_s, u"ProdCode"_s}, {u"ProductID"_s, u"ProdCode"_s}});
     ForgetSelected();
-}
-
-// The search runs on the code, whichever entry is shown.
-QString frmKlikTabla::SearchedField(const QString&) const {
-    return u"ProdCode"_s;
 }
 
 void frmKlikTabla::ShowRows(const QString& query) {

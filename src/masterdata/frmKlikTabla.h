@@ -17,7 +17,6 @@ public:
 
 protected:
     void Form_Load() override;
-    QString SearchedField(const QString& entry) const override;
     void ShowRows(const QString& query) override;
 
 private:

@@ -41,12 +41,8 @@ frmKupci::frmKupci() {
 void frmKupci::Form_Load() {
     base_ = CustomersQuery;
     ShowRows(base_);
-    SetSearchFields({u"Name"_s, u"Ident"_s});
-}
-
-// The entries bear other names, so that it is the identification that is searched, whichever of them is shown.
-QString frmKupci::SearchedField(const QString& entry) const {
-    return entry == u"Naziv" ? u"Naziv"_s : u"JMBG"_s;
+    // It is the identification that is searched, whichever of them is shown.
+    SetSearchFields({{u"Name"_s, u"JMBG"_s}, {u"Ident"_s, u"JMBG"_s}});
 }
 
 void frmKupci::ShowRows(const QString& query) {

@@ -13,7 +13,6 @@ public:
 
 protected:
     void Form_Load() override;
-    QString SearchedField(const QString& entry) const override;
     void ShowRows(const QString& query) override;
     void cmdNew_Click() override;
     void cmdUpdate_Click() override;

@@ -17,9 +17,6 @@ const std::vector<ListCell> Cells{
     {u"ProdCode"_s}, {u"ProdDescription"_s}, {u"UnitPrice"_s, u"0.00"_s}, {u"TaxPercent"_s, u"0.00"_s}, {u"Qty"_s},
     {u"Unit"_s}};
 
-const auto NameEntry = u"Product Name"_s;
-const auto CodeEntry = u"ProductID-BarCode"_s;
-
 }  // namespace
 
 frmViewer::frmViewer() {
@@ -40,15 +37,11 @@ frmViewer::frmViewer() {
 // Listing all products takes its time in a large shop: the register's setting says whether the window opens with them.
 void frmViewer::Form_Load() {
     base_ = ListedQuery;
-    SetSearchFields({NameEntry, CodeEntry});
+    SetSearchFields({{u"Product Name"_s, u"ProdDescription"_s}, {u"ProductID-BarCode"_s, u"ProdCode"_s}});
     auto products = MainStore().OpenListing(base_);
     auto options = OptionsStore().OpenRecordset(OptionsQuery);
     const values::Value atOnce = options[u"PrikaziOdmah"];
     if (!atOnce.IsNull() && atOnce.ToBool()) FillViewerGrid(std::move(products));
-}
-
-QString frmViewer::SearchedField(const QString& entry) const {
-    return entry == NameEntry ? u"ProdDescription"_s : u"ProdCode"_s;
 }
 
 void frmViewer::ShowRows(const QString& query) {
