@@ -8,6 +8,7 @@
 #include "core/AccessLevels.h"
 #include "core/ImageList.h"
 #include "values/Clock.h"
+#include "values/Error.h"
 #include "values/Format.h"
 
 using namespace Qt::StringLiterals;
@@ -148,6 +149,8 @@ void mdiORVA::SetEntryEnabled(const QString& name, bool enabled) {
         menu->setEnabled(enabled);
     else if (auto* action = findChild<QAction*>(name))
         action->setEnabled(enabled);
+    else
+        throw values::Error(values::NotSupported, u"The main window has no entry %1."_s.arg(name));
 }
 
 void mdiORVA::ApplyAccessLevel(const QString& accLevel) {

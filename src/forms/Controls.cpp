@@ -13,13 +13,15 @@
 #include "forms/OneLine.h"
 #include "forms/Pictures.h"
 #include "forms/TextView.h"
+#include "values/Error.h"
+
+using namespace Qt::StringLiterals;
 
 namespace forms {
 
-QWidget* Control(QWidget* form, QStringView name) {
-    auto* control = form->findChild<QWidget*>(name.toString());
-    Q_ASSERT_X(control, "forms::Control", qPrintable(name.toString()));
-    return control;
+void ThrowNoControl(const QWidget* form, QStringView name) {
+    if (!form) throw values::Error(values::NoObject, u"The screen that shows %1 is closed."_s.arg(name));
+    throw values::Error(values::NotSupported, u"%1 has no control %2."_s.arg(form->objectName(), name));
 }
 
 QString TextOf(const QWidget* control) {

@@ -2,15 +2,23 @@
 
 #include <QString>
 #include <QStringView>
+#include <QWidget>
 
 class QLineEdit;
-class QWidget;
 
 // Controls by name and by text, whatever their kind, and the keys that the screens send themselves.
 namespace forms {
 
-// A named control of a form; asserts that it exists.
-QWidget* Control(QWidget* form, QStringView name);
+[[noreturn]] void ThrowNoControl(const QWidget* form, QStringView name);
+
+// A named control of a form, of the kind that is asked for; never null: Error 91 where the form is gone, 438 where it
+// has no such control.
+template <typename T = QWidget>
+T* Control(const QWidget* form, QStringView name) {
+    auto* control = form ? form->findChild<T*>(name.toString()) : nullptr;
+    if (!control) ThrowNoControl(form, name);
+    return control;
+}
 
 // The text of a line edit, combo box, label, button or text view. What is set is shown whole, also where less may be
 // typed.

@@ -17,6 +17,7 @@ constexpr int ButtonsPerRow = 4;
 }  // namespace
 
 ClickTable::ClickTable(QWidget* parent) : QWidget(parent), tabs_(new QTabWidget(this)) {
+    setObjectName(u"clickTable"_s);
     tabs_->setObjectName(u"SSTab1"_s);
     tabs_->setUsesScrollButtons(false);
     tabs_->setElideMode(Qt::ElideRight);

@@ -15,7 +15,7 @@ const auto TabsQuery = u"Select * from TabControl"_s;
 const auto PlacedQuery = u"Select ProdDescription, ProdCode, UnitPrice, Tab, Pict from Products where tab > -1"_s;
 
 ClickTable& TableOf(const forms::Form* form) {
-    return *form->findChild<ClickTable*>();
+    return *forms::Control<ClickTable>(form, u"clickTable");
 }
 
 }  // namespace

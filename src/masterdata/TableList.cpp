@@ -41,5 +41,5 @@ void TableList::cmdDelete_Click() {
 }
 
 QString SelectedKey(forms::Form* listScreen) {
-    return static_cast<forms::ListView*>(forms::Control(listScreen, u"lv1"))->SelectedText();
+    return forms::Control<forms::ListView>(listScreen, u"lv1")->SelectedText();
 }

@@ -20,7 +20,7 @@ frmEditKupac::frmEditKupac()
 }
 
 void frmEditKupac::Form_Load() {
-    lv1_ = qobject_cast<forms::ListView*>(forms::Control(CallerForm, u"lv1"));
+    lv1_ = forms::Control<forms::ListView>(CallerForm, u"lv1");
     row_ = lv1_->Selected();
     rsCustomer_ = OpenListedRow(CustomerQuery.arg(lv1_->SelectedText()));
     ShowCustomer();

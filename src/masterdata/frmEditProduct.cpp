@@ -40,7 +40,7 @@ frmEditProduct::frmEditProduct()
 }
 
 void frmEditProduct::Form_Load() {
-    lv1_ = qobject_cast<forms::ListView*>(forms::Control(forms::FindForm(u"frmArtikli"), u"lv1"));
+    lv1_ = forms::Control<forms::ListView>(forms::FindForm(u"frmArtikli"), u"lv1");
     row_ = lv1_->Selected();
     const QString query = ProductQuery.arg(lv1_->SelectedText());
     FillTaxList();

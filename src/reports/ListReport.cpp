@@ -7,6 +7,7 @@
 #include "core/Settings.h"
 #include "core/dbModule.h"
 #include "core/mdiORVA.h"
+#include "forms/Controls.h"
 #include "forms/FileDialog.h"
 #include "forms/LongWork.h"
 #include "forms/MsgBox.h"
@@ -98,7 +99,7 @@ QPushButton* ListReport::AddButton(const QString& name, const QString& caption, 
 }
 
 QLineEdit* ListReport::SumBox(const ReportSum& sum) const {
-    return ui.panelSums->findChild<QLineEdit*>(sum.box);
+    return forms::Control<QLineEdit>(ui.panelSums, sum.box);
 }
 
 // A report that is left or fails in the middle shows nothing rather than a part, and must not look like days without

@@ -7,6 +7,7 @@
 #include "forms/Controls.h"
 #include "forms/Frame.h"
 #include "forms/MsgBox.h"
+#include "support/ErrorOf.h"
 #include "support/ScreenTest.h"
 
 using drivers::Boxes;
@@ -46,6 +47,14 @@ TEST_F(FormTest, UnloadsUnlessItRefuses) {
     EXPECT_FALSE(form.isVisible());
     EXPECT_FALSE(forms::IsFormLoaded(&form));
     EXPECT_EQ(forms::FindForm(u"frmSample"), nullptr);
+}
+
+TEST_F(FormTest, AControlThatIsNotThereIsAnError) {
+    frmSample form;
+    EXPECT_EQ(forms::Control<QLineEdit>(&form, u"txtCode"), form.txtCode);
+    EXPECT_EQ(ErrorOf([&] { forms::Control(&form, u"txtNone"); }), values::NotSupported);
+    EXPECT_EQ(ErrorOf([&] { forms::Control<QPushButton>(&form, u"txtCode"); }), values::NotSupported);
+    EXPECT_EQ(ErrorOf([] { forms::Control(nullptr, u"txtCode"); }), values::NoObject);
 }
 
 TEST_F(FormTest, CanBeLoadedAgainAfterUnloading) {

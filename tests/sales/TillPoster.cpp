@@ -20,7 +20,7 @@ namespace {
 
 template <typename T>
 T* ControlOf(const char16_t* form, const char16_t* name) {
-    return qobject_cast<T*>(forms::Control(forms::FindForm(form), QStringView(name)));
+    return forms::Control<T>(forms::FindForm(form), QStringView(name));
 }
 
 void Scan(const QString& code) {
