@@ -109,7 +109,7 @@ int ListView::Find(QStringView text) const {
 }
 
 int ListView::Selected() const {
-    rows_->hasChildren();  // the first row is selected as soon as it is there
+    rows_->Await(1);  // the first row is selected as soon as it is there
     const QModelIndexList chosen = selectionModel()->selectedRows();
     return chosen.isEmpty() ? -1 : chosen.first().row();
 }
@@ -123,6 +123,7 @@ QString ListView::SelectedText(int column) const {
 void ListView::Select(int row) {
     rows_->Publish();
     selectsFirst_ = false;
+    rows_->Await(row + 1);
     const QModelIndex index = rows_->index(row, FirstShownColumn());
     if (!index.isValid()) {
         selectionModel()->clear();
@@ -136,6 +137,7 @@ void ListView::Select(int row) {
 
 void ListView::BringIntoView(int row) {
     rows_->Publish();
+    rows_->Await(row + 1);
     const QModelIndex index = rows_->index(row, FirstShownColumn());
     if (index.isValid()) scrollTo(index);
 }
@@ -226,7 +228,7 @@ void ListView::resizeEvent(QResizeEvent* event) {
 void ListView::focusInEvent(QFocusEvent* event) {
     QTreeView::focusInEvent(event);
     // The view makes its first row current without selecting it; the Down key would then skip that row.
-    if (Selected() < 0) selectionModel()->clearCurrentIndex();
+    if (!selectionModel()->hasSelection()) selectionModel()->clearCurrentIndex();
 }
 
 bool ListView::viewportEvent(QEvent* event) {

@@ -26,7 +26,7 @@ void RowModel::SetColumns(const std::vector<ListColumn>& columns) {
 
 int RowModel::Count() {
     if (!source_) return headings_.empty() ? 0 : static_cast<int>(cells_.size() / Width());
-    Need(AllRows);
+    Await(AllRows);
     return published_;
 }
 
@@ -78,7 +78,7 @@ void RowModel::Take(int rows) {
 }
 
 // Whoever counts rows does not mean to change the list; that it grows by what was on its way is no change.
-void RowModel::Need(int rows) const {
+void RowModel::Await(int rows) const {
     if (rows > published_ && IsComingIn() && !isTaking_) const_cast<RowModel*>(this)->Take(rows);
 }
 
@@ -91,7 +91,7 @@ bool RowModel::Measure(int column, qsizetype length) const {
 
 void RowModel::LeaveSource() {
     if (!source_) return;
-    Need(AllRows);
+    Await(AllRows);
     for (int row = 0; row < published_; ++row)
         for (int column = 0; column < static_cast<int>(Width()); ++column) cells_.push_back(Keep(TextAt(row, column)));
     source_.reset();
@@ -139,7 +139,7 @@ QString RowModel::TextAt(int row, int column) const {
 
 bool RowModel::HasCell(int row, int column) {
     if (row < 0 || !HasColumn(column)) return false;
-    Need(row + 1);
+    Await(row + 1);
     return row < (source_ ? published_ : Count());
 }
 
@@ -172,19 +172,19 @@ void RowModel::Publish() {
 
 QModelIndex RowModel::index(int row, int column, const QModelIndex& parent) const {
     if (row < 0 || !HasColumn(column) || parent.isValid()) return {};
-    Need(row + 1);
+    if (viewAsks_ == 0) Await(row + 1);
     return row < published_ ? createIndex(row, column) : QModelIndex();
 }
 
 bool RowModel::hasChildren(const QModelIndex& parent) const {
     if (parent.isValid() || headings_.empty()) return false;
-    Need(1);
+    if (viewAsks_ == 0) Await(1);
     return published_ > 0;
 }
 
 int RowModel::rowCount(const QModelIndex& parent) const {
     if (parent.isValid()) return 0;
-    if (viewAsks_ == 0) Need(AllRows);
+    if (viewAsks_ == 0) Await(AllRows);
     return published_;
 }
 

@@ -26,6 +26,8 @@ public:
     void SetColumns(const std::vector<ListColumn>& columns);
 
     int Count();
+    // Has so many rows on hand where there are as many, whoever asks.
+    void Await(int rows) const;
     void Clear();
     int Add(const QStringList& cells);
     void Remove(int row);
@@ -94,8 +96,6 @@ private:
     // Notes the length of a text; true when it is the longest of its column.
     bool Measure(int column, qsizetype length) const;
     void Take(int rows);
-    // Has so many rows on hand where there are as many, whoever asks.
-    void Need(int rows) const;
     // Goes on as a list that was filled row by row.
     void LeaveSource();
 

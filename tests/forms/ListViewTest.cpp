@@ -171,7 +171,10 @@ public:
     explicit Rows(int here, bool fails = false) : here_(here), fails_(fails) {}
     int WaitFor(int rows, std::chrono::milliseconds atMost) override {
         if (fails_ && rows > here_) throw values::Error(3043, u"The disk is gone."_s);
-        if (rows > here_ && atMost.count() > 0) here_ = qMin(rows, All);
+        if (rows > here_ && atMost.count() > 0) {
+            ++waits;
+            here_ = qMin(rows, All);
+        }
         return here_;
     }
     bool IsWhole() const override { return here_ == All; }
@@ -181,6 +184,7 @@ public:
     }
     static constexpr int All = 100'000;
     static inline int looks = 0;
+    static inline int waits = 0;
 
 private:
     int here_;
@@ -231,6 +235,9 @@ TEST_F(ListViewTest, NobodyTakesRowsThatAreStillComingInForAll) {
     Keys(u"{End}");
     EXPECT_EQ(list.Selected(), 99'999);
     list.ShowRows(std::make_unique<Rows>(0));
+    Rows::waits = 0;
+    Settle();
+    EXPECT_EQ(Rows::waits, 0) << "nothing is waited for to paint the list";
     EXPECT_EQ(list.SelectedText(), u"0") << "the first row is waited for";
 
     drivers::Boxes boxes;
