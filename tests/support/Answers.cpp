@@ -3,26 +3,21 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QLineEdit>
-#include <QPointer>
 #include <QPushButton>
-#include <QTimer>
 #include <deque>
 #include <optional>
 
 #include "forms/Form.h"
 #include "player/Keys.h"
+#include "player/ModalWatch.h"
 
 using namespace Qt::StringLiterals;
 
 namespace drivers {
 
 namespace {
-
-constexpr int lookEvery = 2;         // milliseconds
-constexpr int patience = 10 * 1000;  // milliseconds
 
 struct Expected {
     enum class Kind { Box, Form, File } kind;
@@ -42,10 +37,6 @@ bool Fits(const Expected& expected, const QMessageBox& box) {
 }
 
 std::deque<Expected> queue;
-QPointer<QWidget> waitingFor;
-// The box that is being answered by keys: each of them lets the events go on.
-QPointer<QWidget> typedInto;
-QElapsedTimer waiting;
 
 std::string Words(const Expected& expected) {
     switch (expected.kind) {
@@ -79,10 +70,7 @@ void AnswerBox(QMessageBox& box) {
     const Expected expected = *TakeNext(Expected::Kind::Box);
     EXPECT_EQ(box.windowTitle().toStdString(), expected.title.value_or(box.windowTitle()).toStdString());
     EXPECT_EQ(box.icon(), expected.icon.value_or(box.icon())) << Words(expected);
-    if (!expected.keys.isEmpty()) {
-        typedInto = &box;
-        return Keys(expected.keys);
-    }
+    if (!expected.keys.isEmpty()) return Keys(expected.keys);
     if (QAbstractButton* button = box.button(expected.button)) return button->click();
     ADD_FAILURE() << Words(expected) << " has no such button";
     box.reject();
@@ -101,36 +89,24 @@ void AnswerFileDialog(QFileDialog& dialog) {
     QMetaObject::invokeMethod(&dialog, "accept");
 }
 
-void RunScript(forms::Form& form) {
-    if (queue.empty() || queue.front().kind != Expected::Kind::Form || queue.front().text != form.objectName()) return;
+bool RunScript(forms::Form& form) {
+    if (queue.empty() || queue.front().kind != Expected::Kind::Form || queue.front().text != form.objectName())
+        return false;
     const Expected expected = *TakeNext(Expected::Kind::Form);
     expected.script(form);
+    return true;
 }
 
-void CloseByForce(QWidget& modal) {
+bool Attend(QWidget& modal) {
+    if (auto* box = qobject_cast<QMessageBox*>(&modal)) return AnswerBox(*box), true;
+    if (auto* dialog = qobject_cast<QFileDialog*>(&modal)) return AnswerFileDialog(*dialog), true;
+    auto* form = qobject_cast<forms::Form*>(&modal);
+    return form && RunScript(*form);
+}
+
+void TellThatNobodyAttends(const QWidget& modal) {
     ADD_FAILURE() << "nobody answers " << modal.metaObject()->className() << " \"" << modal.windowTitle().toStdString()
                   << "\"; expected was " << Next();
-    if (auto* dialog = qobject_cast<QDialog*>(&modal)) return dialog->reject();
-    auto* form = qobject_cast<forms::Form*>(&modal);
-    if (!form || !form->Unload()) QCoreApplication::exit(1);
-}
-
-void Look() {
-    // Armed first: an answer may run a loop of its own, in which further answers are due.
-    QTimer::singleShot(lookEvery, qApp, Look);
-    QWidget* modal = QApplication::activeModalWidget();
-    if (modal != waitingFor || !modal) {
-        waitingFor = modal;
-        waiting.start();
-        // Once around the loop first, so that the window is up and active.
-        return;
-    }
-    auto* box = qobject_cast<QMessageBox*>(modal);
-    if (box && box != typedInto) return AnswerBox(*box);
-    if (auto* dialog = qobject_cast<QFileDialog*>(modal)) return AnswerFileDialog(*dialog);
-    if (auto* form = qobject_cast<forms::Form*>(modal)) RunScript(*form);
-    if (waitingFor && waitingFor == QApplication::activeModalWidget() && waiting.elapsed() > patience)
-        CloseByForce(*waitingFor);
 }
 
 }  // namespace
@@ -181,7 +157,7 @@ int Boxes::Left() const {
 }
 
 void WatchModalWindows() {
-    QTimer::singleShot(lookEvery, qApp, Look);
+    static const ModalWatch watch(Attend, TellThatNobodyAttends);
 }
 
 }  // namespace drivers

@@ -1,11 +1,9 @@
 #include "cashier/Cashier.h"
 
 #include <QApplication>
-#include <QDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTimer>
 #include <stdexcept>
 
 #include "app/Start.h"
@@ -20,23 +18,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int LookEvery = 5;         // milliseconds
-constexpr int Patience = 10 * 1000;  // milliseconds
-
 [[noreturn]] void GiveUp(const QString& words) {
     throw std::runtime_error(words.toStdString());
 }
 
-void CloseByForce(QWidget& modal) {
-    if (auto* dialog = qobject_cast<QDialog*>(&modal)) return dialog->reject();
-    if (auto* form = qobject_cast<forms::Form*>(&modal)) form->Unload();
-}
-
 }  // namespace
 
-Cashier::Cashier(Camera camera) : camera_(std::move(camera)) {
+Cashier::Cashier(Camera camera)
+    : camera_(std::move(camera)),
+      watch_([this](QWidget& modal) { return Attend(modal); },
+             [this](const QWidget& modal) {
+                 trouble_ = u"Nobody answers %1 \"%2\"."_s.arg(modal.objectName(), modal.windowTitle());
+             }) {
     drivers::HearKeyTrouble([this](const QString& words) { trouble_ = words; });
-    WatchModal();
 }
 
 QWidget* Cashier::Screen(const QString& name) const {
@@ -51,29 +45,18 @@ forms::ListView* Cashier::List(const QString& screen) const {
     return list;
 }
 
-// Looks after what comes up modally, within its own loop. Armed first: an answer may run a loop of its own.
-void Cashier::WatchModal() {
-    QTimer::singleShot(LookEvery, &watch_, [this] {
-        WatchModal();
-        QWidget* modal = QApplication::activeModalWidget();
-        if (!modal || inWork_.contains(modal)) return;
-        if (auto* box = qobject_cast<QMessageBox*>(modal)) return WorkOn(*modal, [&] { AnswerBox(*box); });
-        if (scripts_.isEmpty() || modal->objectName() != scripts_.first().first) return LosePatience(*modal);
-        WorkOn(*modal, scripts_.takeFirst().second);
-    });
-}
-
 // Nothing is thrown through the event loop.
-void Cashier::WorkOn(QWidget& modal, const Script& script) {
+bool Cashier::Attend(QWidget& modal) {
+    auto* box = qobject_cast<QMessageBox*>(&modal);
+    if (!box && (scripts_.isEmpty() || modal.objectName() != scripts_.first().first)) return false;
     const QPointer<QWidget> alive = &modal;
-    inWork_ << alive;
     try {
-        script();
+        box ? AnswerBox(*box) : scripts_.takeFirst().second();
     } catch (const std::exception& error) {
         trouble_ = QString::fromUtf8(error.what());
-        if (alive) CloseByForce(*alive);
+        if (alive) drivers::CloseByForce(*alive);
     }
-    inWork_.removeLast();
+    return true;
 }
 
 void Cashier::AnswerBox(QMessageBox& box) {
@@ -83,16 +66,6 @@ void Cashier::AnswerBox(QMessageBox& box) {
     if (!answer.picture.isEmpty()) TakePicture(answer.picture);
     auto* button = box.button(answer.yes ? QMessageBox::Yes : QMessageBox::No);
     (button ? button : box.button(QMessageBox::Ok))->click();
-}
-
-void Cashier::LosePatience(QWidget& modal) {
-    if (unattended_ != &modal) {
-        unattended_ = &modal;
-        waiting_.start();
-    }
-    if (waiting_.elapsed() < Patience) return;
-    trouble_ = u"Nobody answers %1 \"%2\"."_s.arg(modal.objectName(), modal.windowTitle());
-    CloseByForce(modal);
 }
 
 void Cashier::Start() {

@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QList>
-#include <QObject>
-#include <QPointer>
 #include <QString>
 #include <QWidget>
 #include <functional>
 #include <utility>
+
+#include "player/ModalWatch.h"
 
 namespace forms {
 class ListView;
@@ -65,17 +64,12 @@ private:
         QString picture;
     };
 
-    void WatchModal();
-    void WorkOn(QWidget& modal, const Script& script);
+    bool Attend(QWidget& modal);
     void AnswerBox(QMessageBox& box);
-    void LosePatience(QWidget& modal);
 
     Camera camera_;
     QList<BoxAnswer> answers_;
     QList<std::pair<QString, Script>> scripts_;
-    QList<QPointer<QWidget>> inWork_;
-    QPointer<QWidget> unattended_;
-    QElapsedTimer waiting_;
     QString trouble_;
-    QObject watch_;
+    drivers::ModalWatch watch_;
 };
