@@ -107,8 +107,13 @@ bool IsFormLoaded(const forms::Form* form) {
     return forms::IsFormLoaded(form);
 }
 
-qint16 LastEndReportNumber() {
+std::optional<qint16> LastEndReport() {
     auto rs = MainStore().OpenRecordset(LastGrupniQuery);
     rs.MoveFirst();
-    return rs[u"zadnji"].IsNull() ? qint16{0} : values::CInt16(rs[u"zadnji"].Double());
+    if (rs[u"zadnji"].IsNull()) return std::nullopt;
+    return values::CInt16(rs[u"zadnji"].Double());
+}
+
+qint16 LastEndReportNumber() {
+    return LastEndReport().value_or(0);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 #include "store/Database.h"
 
@@ -41,5 +42,7 @@ QString PadRight(qint32 width, const QString& text);
 bool FileExists(const QString& path);
 bool IsFormLoaded(const forms::Form* form);
 
-// The number of the last End Report, 0 when there is none; Error 6 above 16 bits.
+// The number of the last End Report, none before the first; Error 6 above 16 bits.
+std::optional<qint16> LastEndReport();
+// The same, with 0 for none.
 qint16 LastEndReportNumber();

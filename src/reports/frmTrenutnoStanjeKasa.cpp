@@ -19,7 +19,6 @@ using values::TimeText;
 
 namespace {
 
-const auto LastGrupniQuery = u"SELECT Max(Grupni) AS zadnji FROM Sales"_s;
 const auto LastMomentQuery = u"SELECT DateStoped, TimeStoped FROM Sales WHERE Grupni = %1"_s;
 const auto WhereGrupni = u" WHERE Grupni = "_s;
 
@@ -143,11 +142,10 @@ frmTrenutnoStanjeKasa::frmTrenutnoStanjeKasa() {
 void frmTrenutnoStanjeKasa::Form_Load() {
     firstActivate_ = true;
     endReportDone_ = false;
-    auto rs = MainStore().OpenRecordset(LastGrupniQuery);
-    rs.MoveFirst();
     ui.lblPrethodni->clear();
-    if (rs[u"zadnji"].IsNull()) return;
-    lastGrupni_ = values::CInt16(rs[u"zadnji"].Double());
+    const auto last = LastEndReport();
+    if (!last) return;
+    lastGrupni_ = *last;
     auto moment = MainStore().OpenRecordset(LastMomentQuery.arg(lastGrupni_));
     ui.lblPrethodni->setText(moment[u"DateStoped"].TextOrEmpty() + u' ' + moment[u"TimeStoped"].TextOrEmpty());
 }
