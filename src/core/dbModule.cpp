@@ -3,7 +3,6 @@
 #include <QFileInfo>
 #include <algorithm>
 
-#include "forms/Form.h"
 #include "forms/LongWork.h"
 #include "output/Channel.h"
 #include "output/CodePage.h"
@@ -101,10 +100,6 @@ QString PadRight(qint32 width, const QString& text) {
 bool FileExists(const QString& path) {
     const QFileInfo file(path);
     return file.exists() && !file.isDir();
-}
-
-bool IsFormLoaded(const forms::Form* form) {
-    return forms::IsFormLoaded(form);
 }
 
 std::optional<qint16> LastEndReport() {

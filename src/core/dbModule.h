@@ -5,10 +5,6 @@
 
 #include "store/Database.h"
 
-namespace forms {
-class Form;
-}
-
 // The common module: the two stores, action queries, and the helpers on which receipts and reports rest.
 
 void OpenOptionsStore();
@@ -40,7 +36,6 @@ QString PadLeft(qint32 width, const QString& text);
 QString PadRight(qint32 width, const QString& text);
 
 bool FileExists(const QString& path);
-bool IsFormLoaded(const forms::Form* form);
 
 // The number of the last End Report, none before the first; Error 6 above 16 bits.
 std::optional<qint16> LastEndReport();

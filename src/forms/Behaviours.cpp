@@ -142,19 +142,15 @@ void Form::Behaviours::FollowFocus() {
     if (now && !form.isAncestorOf(now)) return;
     if (now == focused) return;
 
-    const auto tell = [this](const QObject* control, std::vector<std::function<void()>> Control::*handlers) {
-        const auto found = controls.find(control);
-        if (found == controls.end()) return;
-        // A handler may add behaviours or end the form.
-        const auto copy = found->second.*handlers;
-        for (const auto& handler : copy) handler();
-    };
     const QPointer<Form> alive = &form;
     const QPointer<QWidget> before = std::exchange(focused, nullptr);
-    if (before) tell(before, &Control::lostFocus);
+    if (const auto left = controls.find(before); left != controls.end()) {
+        // A handler may add behaviours or end the form.
+        const auto handlers = left->second.lostFocus;
+        for (const auto& handler : handlers) handler();
+    }
     if (!alive || !form.loaded_ || focused || form.window()->focusWidget() != now) return;
     focused = now;
-    if (now) tell(now, &Control::gotFocus);
 }
 
 bool Form::Behaviours::eventFilter(QObject* watched, QEvent* event) {
@@ -245,10 +241,8 @@ void Form::EnterMovesOn() {
     behaviours_->enterMovesOn = true;
 }
 
-void Form::WatchFocus(QWidget* control, std::function<void()> got, std::function<void()> lost) {
-    auto& told = behaviours_->For(control);
-    if (got) told.gotFocus.push_back(std::move(got));
-    if (lost) told.lostFocus.push_back(std::move(lost));
+void Form::WatchFocus(QWidget* control, std::function<void()> lost) {
+    behaviours_->For(control).lostFocus.push_back(std::move(lost));
 }
 
 void Form::WatchMouse(QWidget* control, Qt::MouseButton button, std::function<void()> handler) {

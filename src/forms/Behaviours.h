@@ -39,7 +39,6 @@ struct Form::Behaviours : QObject {
         std::optional<QString> numericAnd;
         std::optional<OnFocus> highlight;
         bool clickedInto = false;
-        std::vector<std::function<void()>> gotFocus;
         std::vector<std::function<void()>> lostFocus;
         std::vector<MouseHandler> mouse;
     };

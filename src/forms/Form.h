@@ -103,14 +103,10 @@ protected:
     void OnChoice(QComboBox* box, void (Screen::*handler)()) {
         WatchChoice(box, Guarded(handler));
     }
-    // The control got or lost the focus within the program (not: another window or a menu came to the front).
-    template <typename Screen>
-    void OnGotFocus(QWidget* control, void (Screen::*handler)()) {
-        WatchFocus(control, Guarded(handler), {});
-    }
+    // The control lost the focus within the program (not: another window or a menu came to the front).
     template <typename Screen>
     void OnLostFocus(QWidget* control, void (Screen::*handler)()) {
-        WatchFocus(control, {}, Guarded(handler));
+        WatchFocus(control, Guarded(handler));
     }
     // A mouse button was released over a control (for lists: anywhere over the rows' area).
     template <typename Screen>
@@ -148,7 +144,7 @@ private:
     friend T* Open(Arguments&&... arguments);
     friend void DropLoadedForms();
 
-    void WatchFocus(QWidget* control, std::function<void()> got, std::function<void()> lost);
+    void WatchFocus(QWidget* control, std::function<void()> lost);
     void WatchMouse(QWidget* control, Qt::MouseButton button, std::function<void()> handler);
     void WatchChoice(QComboBox* box, std::function<void()> handler);
     void ConnectTimer(QTimer* timer, std::function<void()> handler);

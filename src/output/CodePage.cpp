@@ -94,12 +94,6 @@ bool IsCentralEuropean(QStringView locale) {
     return language == u"sr" && !isCyrillic && (says(u"latn") || says(u"latin") || parts.contains(u"me"));
 }
 
-QByteArray ToCodePage(QStringView text) {
-    QByteArray result;
-    AppendInCodePage(result, text);
-    return result;
-}
-
 void AppendInCodePage(QByteArray& bytes, QStringView text) {
     const CodePage& page = UserPage();
     const qsizetype before = bytes.size();

@@ -7,12 +7,11 @@ namespace output {
 
 // Text in the single-byte code page of the user's locale: 1250 for the languages of central and south-eastern Europe
 // that are written in Latin letters, 1252 elsewhere. What the page lacks becomes "?", one a character.
-QByteArray ToCodePage(QStringView text);
 void AppendInCodePage(QByteArray& bytes, QStringView text);
 // Whether a locale, however it is spelled ("sr_RS.utf8@latin", "sr-Latn", "hr"), is one of page 1250.
 bool IsCentralEuropean(QStringView locale);
 QString FromCodePage(const QByteArray& bytes);
-// The columns that a text takes on paper: the bytes that ToCodePage makes of it. A sign of two UTF-16 units is one, a
+// The columns that a text takes on paper: its bytes in the code page. A sign of two UTF-16 units is one, a
 // combining mark is one of its own beside its letter.
 qint32 Columns(QStringView text);
 // The beginning of a text, in so many columns at most; never half a sign.

@@ -25,7 +25,6 @@ public:
 
     constexpr qint64 Units() const { return units_; }
     double ToDouble() const;
-    bool IsWhole() const { return units_ % Scale == 0; }
 
     Money operator-() const;
     friend Money operator+(Money a, Money b);

@@ -60,10 +60,7 @@ public:
     using Form::NumericKeys;
     using Form::StoreErrorsEndProgram;
 
-    void WatchCode() {
-        OnGotFocus(txtCode, &frmSample::txtCode_GotFocus);
-        OnLostFocus(txtCode, &frmSample::txtCode_LostFocus);
-    }
+    void WatchCode() { OnLostFocus(txtCode, &frmSample::txtCode_LostFocus); }
     void WatchList() {
         OnMouseUp(lv1, Qt::LeftButton, &frmSample::lv1_LeftUp);
         OnMouseUp(lv1, Qt::RightButton, &frmSample::lv1_RightUp);
@@ -92,7 +89,6 @@ private:
     }
     void cmdDelete_Click() { log << u"delete"_s; }
     void cmdClose_Click() { Unload(); }
-    void txtCode_GotFocus() { log << u"got"_s; }
     void txtCode_LostFocus() { log << u"lost"_s; }
     void lv1_LeftUp() { log << u"left:%1"_s.arg(lv1->Selected()); }
     void lv1_RightUp() { log << u"right:%1"_s.arg(lv1->Selected()); }

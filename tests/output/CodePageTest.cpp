@@ -9,6 +9,12 @@ using namespace output;
 
 namespace {
 
+QByteArray ToCodePage(QStringView text) {
+    QByteArray bytes;
+    AppendInCodePage(bytes, text);
+    return bytes;
+}
+
 struct Case {
     const char* locale;
     QString text;
