@@ -14,7 +14,7 @@
 #include "bench/RawStore.h"
 #include "bench/UntilPainted.h"
 #include "forms/Controls.h"
-#include "masterdata/frmArtikli.h"
+#include "masterdata/products/frmArtikli.h"
 
 using namespace Qt::StringLiterals;
 

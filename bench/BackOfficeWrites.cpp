@@ -12,9 +12,9 @@
 #include "bench/RawStore.h"
 #include "core/dbModule.h"
 #include "forms/Controls.h"
-#include "masterdata/ClickTable.h"
-#include "masterdata/frmKlikTabla.h"
-#include "masterdata/frmSastav.h"
+#include "masterdata/clicktable/ClickTable.h"
+#include "masterdata/clicktable/frmKlikTabla.h"
+#include "masterdata/products/frmSastav.h"
 
 using namespace Qt::StringLiterals;
 

@@ -6,7 +6,7 @@
 
 #include "core/Settings.h"
 #include "core/dbModule.h"
-#include "masterdata/ClickTable.h"
+#include "masterdata/clicktable/ClickTable.h"
 #include "output/Folder.h"
 #include "store/StorePath.h"
 

@@ -6,8 +6,8 @@
 #include "bench/Figures.h"
 #include "bench/RawStore.h"
 #include "forms/Form.h"
-#include "masterdata/ClickTable.h"
-#include "masterdata/Module1.h"
+#include "masterdata/clicktable/ClickTable.h"
+#include "masterdata/clicktable/Module1.h"
 
 using namespace Qt::StringLiterals;
 

@@ -64,7 +64,7 @@ function(velton_room name)
     target_link_libraries(velton_${name} PUBLIC velton_strict ${ROOM_LINK})
     if(ROOM_WIDGETS)
         # Not by automatic uic: other rooms include these headers through the screens', so the build must know them.
-        file(GLOB forms CONFIGURE_DEPENDS *.ui)
+        file(GLOB_RECURSE forms CONFIGURE_DEPENDS *.ui)
         qt_wrap_ui(form_headers ${forms})
         target_sources(velton_${name} PRIVATE ${form_headers})
         target_include_directories(velton_${name} PUBLIC ${CMAKE_CURRENT_BINARY_DIR})

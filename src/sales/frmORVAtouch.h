@@ -2,7 +2,7 @@
 
 #include "forms/Form.h"
 #include "forms/LongWork.h"
-#include "masterdata/LineBoxes.h"
+#include "masterdata/products/LineBoxes.h"
 #include "receipts/InvoiceText.h"
 #include "store/Recordset.h"
 #include "ui_frmORVAtouch.h"

@@ -5,7 +5,7 @@
 #include "core/mdiORVA.h"
 #include "forms/Controls.h"
 #include "forms/MsgBox.h"
-#include "masterdata/frmArtikli.h"
+#include "masterdata/products/frmArtikli.h"
 #include "sales/frmORVAtouch.h"
 #include "values/LineAmount.h"
 #include "values/Numbers.h"

@@ -4,7 +4,7 @@
 #include <QTest>
 
 #include "forms/ListView.h"
-#include "masterdata/frmKlikTabla.h"
+#include "masterdata/clicktable/frmKlikTabla.h"
 #include "store/StorePath.h"
 #include "support/Office.h"
 

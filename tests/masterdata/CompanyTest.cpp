@@ -1,7 +1,7 @@
 #include <QLineEdit>
 
 #include "core/Settings.h"
-#include "masterdata/frmFirma.h"
+#include "masterdata/shop/frmFirma.h"
 #include "support/Office.h"
 
 using namespace Qt::StringLiterals;

@@ -1,4 +1,4 @@
-#include "masterdata/frmSastav.h"
+#include "masterdata/products/frmSastav.h"
 
 #include <QApplication>
 #include <QClipboard>

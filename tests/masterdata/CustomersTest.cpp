@@ -2,7 +2,7 @@
 #include <QLineEdit>
 #include <QTabWidget>
 
-#include "masterdata/frmKupci.h"
+#include "masterdata/people/frmKupci.h"
 #include "support/Office.h"
 #include "values/Locale.h"
 

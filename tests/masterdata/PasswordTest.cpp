@@ -2,7 +2,7 @@
 #include <QToolButton>
 
 #include "core/Session.h"
-#include "masterdata/frmChangePassword.h"
+#include "masterdata/people/frmChangePassword.h"
 #include "support/Office.h"
 
 using namespace Qt::StringLiterals;

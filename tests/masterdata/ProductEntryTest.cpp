@@ -7,9 +7,9 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include "masterdata/frmArtikli.h"
-#include "masterdata/frmEditProduct.h"
-#include "masterdata/frmNewProduct.h"
+#include "masterdata/products/frmArtikli.h"
+#include "masterdata/products/frmEditProduct.h"
+#include "masterdata/products/frmNewProduct.h"
 #include "support/Office.h"
 #include "values/Locale.h"
 

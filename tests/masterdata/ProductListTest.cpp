@@ -1,4 +1,4 @@
-#include "masterdata/frmArtikli.h"
+#include "masterdata/products/frmArtikli.h"
 
 #include <QComboBox>
 #include <QLineEdit>

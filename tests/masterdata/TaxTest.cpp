@@ -1,4 +1,4 @@
-#include "masterdata/frmTax.h"
+#include "masterdata/shop/frmTax.h"
 
 #include <SQLiteCpp/Database.h>
 

@@ -1,4 +1,4 @@
-#include "masterdata/frmUsers.h"
+#include "masterdata/people/frmUsers.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -1,4 +1,4 @@
-#include "masterdata/frmViewer.h"
+#include "masterdata/products/frmViewer.h"
 
 #include <QApplication>
 

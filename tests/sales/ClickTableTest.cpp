@@ -1,6 +1,6 @@
 #include <QTabWidget>
 
-#include "masterdata/ClickTable.h"
+#include "masterdata/clicktable/ClickTable.h"
 #include "support/Till.h"
 
 using namespace Qt::StringLiterals;

@@ -35,7 +35,7 @@ report("docs/screens keeps old pictures (run docs/make-screens.sh)" kept taken)
 
 # Captions stand in the guide in bold, messages in the tables behind a bar.
 set(sources "")
-file(GLOB files ${ROOT}/src/*/*.ui ${ROOT}/src/*/*.cpp ${ROOT}/src/*/*.h)
+file(GLOB_RECURSE files ${ROOT}/src/*.ui ${ROOT}/src/*.cpp ${ROOT}/src/*.h)
 foreach(file ${files})
     file(READ ${file} source)
     string(APPEND sources "${source}")

@@ -11,7 +11,7 @@
 #include "forms/Controls.h"
 #include "forms/Form.h"
 #include "forms/ListView.h"
-#include "masterdata/ClickTable.h"
+#include "masterdata/clicktable/ClickTable.h"
 #include "player/Keys.h"
 
 using namespace Qt::StringLiterals;

@@ -1,6 +1,6 @@
 # cmake -D SOURCE=src -D OUTPUT=file -P ListScreens.cmake: the names of all screens, as their headers declare them, one a
 # line and ready to be included into an array.
-file(GLOB headers ${SOURCE}/*/frm*.h ${SOURCE}/*/mdi*.h)
+file(GLOB_RECURSE headers ${SOURCE}/frm*.h ${SOURCE}/mdi*.h)
 set(names "")
 foreach(header ${headers})
     file(STRINGS ${header} classes REGEX "^class (frm|mdi)[A-Za-z0-9]+ : public ")

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QTabWidget>
+#include <array>
+
+#include "masterdata/clicktable/TouchButton.h"
+
+// The grid of touch buttons that till and set-up show: the tab strip SSTab1 with ten tabs, 32 buttons to a tab, the
+// array Command2 from 0 to 319 in the order of the tabs.
+class ClickTable : public QWidget {
+    Q_OBJECT
+
+public:
+    static constexpr int TabCount = 10;
+    static constexpr int ButtonsPerTab = 32;
+    static constexpr int ButtonCount = TabCount * ButtonsPerTab;
+
+    explicit ClickTable(QWidget* parent = nullptr);
+
+    QTabWidget* Tabs() const { return tabs_; }
+    void SetTabCaption(int tab, const QString& caption);
+    QString TabCaption(int tab) const { return tabs_->tabToolTip(tab); }
+    // A button by its index; an index that has no button is an error of its own (9).
+    TouchButton* Button(int index) const;
+    // Every button free, without caption and picture.
+    void Clear();
+    // For a screen where nobody scans: the Tab key reaches tabs and buttons, the arrow keys move among them.
+    void LetKeysIn();
+
+Q_SIGNALS:
+    void Clicked(int index);
+    // A mouse button was released over a touch button.
+    void MouseUp(int index, Qt::MouseButton button);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QTabWidget* tabs_;
+    std::array<TouchButton*, ButtonCount> buttons_{};
+};

@@ -1,0 +1,73 @@
+#include "masterdata/people/frmKupci.h"
+
+#include <QScopedValueRollback>
+
+#include "core/FillList.h"
+#include "core/Session.h"
+#include "core/dbModule.h"
+#include "masterdata/ListedRow.h"
+#include "masterdata/people/frmEditKupac.h"
+#include "masterdata/people/frmNewKupac.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto CustomersQuery = u"SELECT * FROM Custumer"_s;
+const auto CustomerQuery = u"SELECT * FROM Custumer WHERE Sifra = %1"_s;
+
+const std::vector<ListCell> Cells{{u"Sifra"_s},   {u"Naziv"_s},   {u"Adresa"_s},    {u"JMBG"_s},
+                                  {u"Telefon"_s}, {u"Telefax"_s}, {u"RabatMarza"_s}};
+
+}  // namespace
+
+frmKupci::frmKupci() {
+    ui.setupUi(this);
+    ui.SSTab1->widget(0)->setObjectName(ui.SSTab1->tabText(0));
+    ui.search->SetCaptions({.field = u"Search in:"_s,
+                            .text = u"Enter the text you're looking for:"_s,
+                            .anywhere = u"everywhere in text"_s,
+                            .fromBeginning = u"from begining"_s});
+    ui.lv1->SetColumns({{u"CustumerID"_s, Qt::AlignLeft, 120},
+                        {u"Name"_s, Qt::AlignLeft, -1},
+                        {u"Address"_s, Qt::AlignLeft, -1},
+                        {u"Ident"_s, Qt::AlignLeft, 130},
+                        {u"Phone"_s, Qt::AlignLeft, 106},
+                        {u"Fax"_s, Qt::AlignLeft, 106},
+                        {u"Rate rebate/margin"_s, Qt::AlignRight, 140}});
+    KeepList(ui);
+}
+
+void frmKupci::Form_Load() {
+    base_ = CustomersQuery;
+    ShowRows(base_);
+    // It is the identification that is searched, whichever of them is shown.
+    SetSearchFields({{u"Name"_s, u"JMBG"_s}, {u"Ident"_s, u"JMBG"_s}});
+}
+
+void frmKupci::ShowRows(const QString& query) {
+    FillCustomerGrid(MainStore().OpenListing(query));
+}
+
+void frmKupci::FillCustomerGrid(store::Listing customers) {
+    FillList(*ui.lv1, std::move(customers), Cells);
+}
+
+// The list is not read again after a new customer, F11 brings it in; an edited one writes its row itself.
+void frmKupci::cmdNew_Click() {
+    frmNewKupac().ShowModal();
+}
+
+void frmKupci::cmdUpdate_Click() {
+    if (ui.lv1->Count() == 0) return;
+    const QScopedValueRollback<QPointer<forms::Form>> caller(CallerForm, this);
+    frmEditKupac().ShowModal();
+}
+
+void frmKupci::cmdDelete_Click() {
+    if (ui.lv1->Count() == 0) return;
+    auto customer = OpenListedRow(CustomerQuery.arg(ui.lv1->SelectedText()));
+    const QString question =
+        u"Custumer: "_s + customer[u"Naziv"].TextOrEmpty() + u"\nDo you want to delete the customer?"_s;
+    DeleteRow(customer, question, u"Custumer deleted."_s);
+}

@@ -1,0 +1,103 @@
+#include "masterdata/products/frmArtikli.h"
+
+#include "core/FillList.h"
+#include "core/Session.h"
+#include "core/dbModule.h"
+#include "forms/Controls.h"
+#include "masterdata/ListedRow.h"
+#include "masterdata/products/frmEditProduct.h"
+#include "masterdata/products/frmNewProduct.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto ProductsQuery = u"SELECT * FROM Products"_s;
+const auto ProductQuery = u"SELECT * FROM Products WHERE ProdCode = '%1'"_s;
+
+const std::vector<ListCell> Cells{{u"ProdCode"_s},
+                                  {u"ProdDescription"_s},
+                                  {u"Qty"_s},
+                                  {u"Unit"_s},
+                                  {u"UnitPrice"_s, u"0.00"_s},
+                                  {u"TaxPercent"_s, u"0.00"_s},
+                                  {u"UnitPricebezPDV"_s, u"0.00"_s},
+                                  {u"VPUnitPrice"_s, u"0.00"_s},
+                                  {u"VPUnitPricebezPDV"_s, u"0.00"_s}};
+
+}  // namespace
+
+frmArtikli::frmArtikli() {
+    ui.setupUi(this);
+    ui.lv1->SetColumns({{u"ProductID - BarCode"_s, Qt::AlignLeft, 160},
+                        {u"Product name"_s, Qt::AlignLeft, -1},
+                        {u"Quantity"_s, Qt::AlignRight, 90},
+                        {u"Unit"_s, Qt::AlignLeft, 70},
+                        {u"Price"_s, Qt::AlignRight, 90},
+                        {u"Tax rate"_s, Qt::AlignRight, 84},
+                        {u"Price without Tax"_s, Qt::AlignLeft, 130},
+                        {u"Second Price"_s, Qt::AlignLeft, 0},
+                        {u"Second Price without Tax"_s, Qt::AlignLeft, 0}});
+    KeepList(ui);
+    ControlKeys(ui.lv1, {{Qt::Key_Return, Guarded(&frmArtikli::Activate)}});
+    OnDoubleClick(ui.lv1, &frmArtikli::Activate);
+}
+
+// There is one list of products: when it is open already it comes to the front, as it is.
+void frmArtikli::Choose() {
+    auto* list = qobject_cast<frmArtikli*>(forms::FindForm(u"frmArtikli"));
+    if (!list) list = forms::Open<frmArtikli>();
+    list->isChoosing_ = true;
+    // What was chosen would have nowhere to go.
+    connect(CallerForm, &forms::Form::Unloaded, list, &forms::Form::Unload, Qt::UniqueConnection);
+    list->Show();
+}
+
+// A chooser that is open gives way: there are never two lists.
+void frmArtikli::Keep() {
+    if (auto* chooser = forms::FindForm(u"frmArtikli")) chooser->Unload();
+    frmArtikli().ShowModal();
+}
+
+void frmArtikli::Form_Load() {
+    base_ = ProductsQuery;
+    ShowRows(base_);
+    SetSearchFields({{u"Product name"_s, u"ProdDescription"_s}, {u"ProductID - BarCode"_s, u"ProdCode"_s}});
+}
+
+bool frmArtikli::Form_Unload() {
+    isChoosing_ = false;
+    return true;
+}
+
+void frmArtikli::ShowRows(const QString& query) {
+    FillProductGrid(MainStore().OpenListing(query));
+}
+
+void frmArtikli::FillProductGrid(store::Listing products) {
+    FillList(*ui.lv1, std::move(products), Cells);
+}
+
+void frmArtikli::Activate() {
+    if (!isChoosing_) return cmdUpdate_Click();
+    const QString code = ui.lv1->SelectedText();
+    if (CallerForm) forms::SetText(forms::Control(CallerForm, u"txtProdCode"), code);
+    Unload();
+}
+
+// The list is not read again after a new product, F11 brings it in; an edited one writes its row itself.
+void frmArtikli::cmdNew_Click() {
+    frmNewProduct().ShowModal();
+}
+
+void frmArtikli::cmdUpdate_Click() {
+    frmEditProduct().ShowModal();
+}
+
+void frmArtikli::cmdDelete_Click() {
+    if (ui.lv1->Count() == 0) return;
+    auto product = OpenListedRow(ProductQuery.arg(ui.lv1->SelectedText()));
+    const QString question = u"ProductID - Barcode: "_s + product[u"ProdCode"].TextOrEmpty() + u"\nProduct name: "_s +
+                             product[u"ProdDescription"].TextOrEmpty() + u"\nDo you want to delete this item?"_s;
+    DeleteRow(product, question, u"Product deleted."_s);
+}
