@@ -38,6 +38,7 @@ TEST_F(StartFaultsTest, RefusesASecondInstanceInTheFolder) {
     Crash();
     ShowLogin();
     EXPECT_TRUE(Login().isVisible()) << "the lock ends with its process";
+    EXPECT_EQ(QProcess::execute(u"flock"_s, {u"-n"_s, u"-s"_s, folder.path(), u"true"_s}), 1) << "nobody shares it";
 }
 
 TEST_F(StartFaultsTest, EndsWhenTheStoreIsHeldExclusively) {

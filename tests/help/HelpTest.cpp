@@ -71,7 +71,7 @@ TEST_F(HelpTest, IsReadByKeysByContentsAndByLinks) {
         EXPECT_EQ(TopLine(text), u"When something goes wrong");
         drivers::Grab(form, u"frmHelp-scrolled"_s);
 
-        text.anchorClicked(QUrl(u"Lozinka.rtf"_s));
+        text.anchorClicked(QUrl(u"../Lozinka.rtf"_s));
         EXPECT_TRUE(text.toPlainText().startsWith(u"Passwords and levels"));
         EXPECT_EQ(contents->Text(0), u"Passwords and levels");
         EXPECT_EQ(Place(text), 0);

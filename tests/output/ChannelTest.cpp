@@ -1,4 +1,5 @@
 #include <QDir>
+#include <QThread>
 #include <thread>
 
 #include <fcntl.h>
@@ -227,6 +228,17 @@ TEST_F(ChannelTest, WhatTakesNothingFurtherIsLeftWhenTheUserSaysSo) {
     }
     SetPatience({});
     ::close(reader);
+}
+
+TEST_F(ChannelTest, AWaitIsOverWhenNothingHasMovedForItsLimit) {
+    Wait wait({u"Cannot write"_s, {}}, 20);
+    const auto later = [&](qint64 taken) {
+        QThread::msleep(25);
+        return ErrorOf([&] { wait.GoOn(taken); });
+    };
+    EXPECT_EQ(later(1), 0);
+    EXPECT_EQ(later(2), 0) << "a slow printer is no dead one";
+    EXPECT_EQ(later(2), DeviceError);
 }
 
 }  // namespace

@@ -171,13 +171,14 @@ TEST_F(ItemEntryTest, ANegativeMergeLeavesALineOfNothing) {
     EXPECT_EQ(Shown(u"txtTotalAmount"), u"0.00");
 }
 
-TEST_F(ItemEntryTest, AMergeTakesThePriceOfNow) {
+TEST_F(ItemEntryTest, AMergeTakesPriceAndRateOfNow) {
     LogIn();
     Keys(u"100{Enter}");
-    Run(u"UPDATE Products SET UnitPrice = 2 WHERE ProdCode = '100'"_s);
+    Run(u"UPDATE Products SET UnitPrice = 2, TaxPercent = 10 WHERE ProdCode = '100'"_s);
     Keys(u"100{Enter}");
     EXPECT_EQ(Line()[2], u"1.50") << "the price column keeps what it shows";
     EXPECT_EQ(Line()[4], u"4.00");
+    EXPECT_EQ(Line()[6], u"0.36");
 }
 
 TEST_F(ItemEntryTest, ALineTakenBackKeepsItsRateAndTheTaxOfIt) {
@@ -270,6 +271,7 @@ TEST_F(ItemEntryTest, LargeFiguresShrinkInsteadOfLosingDigits) {
         EXPECT_LT(box->fontMetrics().horizontalAdvance(box->text()), box->width()) << box->text().toStdString();
     }
     Keys(u"{Enter}100{Enter}");
+    EXPECT_EQ(Line()[2], u"1234567.89");
     auto* total = drivers::Get<QLineEdit>(Sales(), u"txtTotalAmount");
     EXPECT_EQ(total->text(), u"121932099.16");
     EXPECT_LT(total->fontMetrics().horizontalAdvance(total->text()), total->width());

@@ -7,7 +7,10 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
+
+#include <cerrno>
 
 #include "core/mdiORVA.h"
 #include "output/NetworkPrinter.h"
@@ -16,6 +19,19 @@
 using namespace Qt::StringLiterals;
 using drivers::Boxes;
 using drivers::Keys;
+
+namespace {
+
+bool diskRefuses = false;
+
+}  // namespace
+
+// The engine's way to bring its log to the disk.
+extern "C" int fdatasync(int file) {
+    if (!diskRefuses) return static_cast<int>(::syscall(SYS_fdatasync, file));
+    errno = EIO;
+    return -1;
+}
 
 namespace {
 
@@ -119,6 +135,17 @@ TEST_F(OutputFaultTest, ACodeTooLongForTheFirstLayoutEndsTheReceipt) {
     }
     EXPECT_EQ(forms::ProgramExitCode(), 1);
     EXPECT_EQ(Rows(u"SELECT InvoiceID FROM Invoices"_s), QStringList{u"1"_s});
+}
+
+TEST_F(OutputFaultTest, APostingThatTheDiskRefusesMovesNoPaper) {
+    LogIn();
+    diskRefuses = true;
+    Boxes boxes;
+    boxes.ExpectBeginning(u"3043The disk or the network refused the access"_s);
+    Keys(u"100{Enter}{F5}");
+    diskRefuses = false;
+    EXPECT_TRUE(File(u"lpt1.prn"_s).isEmpty());
+    EXPECT_EQ(drivers::Get<QPushButton>(Sales(), u"cmdNew")->text(), u"F5-Print"_s);
 }
 
 // Somebody puts a backup in the place of the store while the till is open, or clears its log away.
