@@ -238,7 +238,7 @@ TEST_F(ChannelTest, AWaitIsOverWhenNothingHasMovedForItsLimit) {
     };
     EXPECT_EQ(later(1), 0);
     EXPECT_EQ(later(2), 0) << "a slow printer is no dead one";
-    EXPECT_EQ(later(2), DeviceError);
+    EXPECT_EQ(later(2), values::DeviceError);
 }
 
 }  // namespace
