@@ -6,10 +6,10 @@
 #include <QPushButton>
 
 #include "core/dbModule.h"
-#include "upkeep/TableLoader.h"
 #include "forms/Controls.h"
 #include "player/Keys.h"
 #include "store/StorePath.h"
+#include "upkeep/TableLoader.h"
 #include "values/Numbers.h"
 
 using namespace Qt::StringLiterals;
