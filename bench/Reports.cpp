@@ -242,7 +242,7 @@ std::vector<Figure> ReportFigures(const LateShop& shop) {
     }
     for (const Report& list : StockLists)
         figures.push_back(Beside(
-            list, Always, 0, [&] { return OpenOurs(shop, list); }, [&] { return OpenByHand(shop, list); }));
+            list, Always, 1.3, [&] { return OpenOurs(shop, list); }, [&] { return OpenByHand(shop, list); }));
     return figures;
 }
 

@@ -15,7 +15,10 @@ constexpr auto FirstPatience = 8ms;
 class ListingRows : public forms::RowSource {
 public:
     ListingRows(store::Listing rows, const std::vector<ListCell>& cells) : rows_(std::move(rows)) {
-        for (const ListCell& cell : cells) cells_.push_back({rows_.Column(cell.field), cell.pattern});
+        for (const ListCell& cell : cells) {
+            const int position = static_cast<int>(cells_.size());
+            cells_.push_back({cell.field.isEmpty() ? position : rows_.Column(cell.field), cell.pattern});
+        }
     }
 
     int WaitFor(int rows, std::chrono::milliseconds atMost) override {
@@ -44,10 +47,11 @@ private:
 
 }  // namespace
 
-void FillList(forms::ListView& list, store::Listing rows, const std::vector<ListCell>& cells) {
+void FillList(forms::ListView& list, store::Listing rows, const std::vector<ListCell>& cells,
+              forms::ListView::Selects selects) {
     auto source = std::make_unique<ListingRows>(std::move(rows), cells);
     // Both would use the same connection, and nobody will see what is still to come.
     list.StopComingIn();
     source->WaitFor(FirstRows, FirstPatience);
-    list.ShowRows(std::move(source));
+    list.ShowRows(std::move(source), selects);
 }

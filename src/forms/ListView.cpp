@@ -142,11 +142,11 @@ void ListView::BringIntoView(int row) {
     if (index.isValid()) scrollTo(index);
 }
 
-void ListView::ShowRows(std::unique_ptr<RowSource> source) {
+void ListView::ShowRows(std::unique_ptr<RowSource> source, Selects selects) {
     rows_->ShowRows(std::move(source));
     if (rows_->IsComingIn()) comingIn_.start(betweenLooks);
     WidenForNumbers();
-    selectsFirst_ = true;
+    selectsFirst_ = selects == Selects::FirstRow;
     SelectFirst();
 }
 

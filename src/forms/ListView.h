@@ -48,9 +48,10 @@ public:
     // Makes a row visible without selecting it.
     void BringIntoView(int row);
 
-    // Takes the place of what the list held, and selects the first row. Rows that are not here yet appear when they
-    // are; whoever asks before for the count, or for one of them, waits for it.
-    void ShowRows(std::unique_ptr<RowSource> source);
+    enum class Selects { FirstRow, Nothing };
+    // Takes the place of what the list held. Rows that are not here yet appear when they are; whoever asks before for
+    // the count, or for one of them, waits for it.
+    void ShowRows(std::unique_ptr<RowSource> source, Selects selects = Selects::FirstRow);
     // Empties a list whose rows are still coming in, and waits no longer for them.
     void StopComingIn();
     // Many rows at once: between Begin and End nothing is repainted.

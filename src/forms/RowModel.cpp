@@ -137,6 +137,12 @@ QString RowModel::TextAt(int row, int column) const {
     return written == written_.end() ? source_->Text(row, column) : written->second;
 }
 
+QString RowModel::LookedAt(int row, int column) const {
+    QString text = TextAt(row, column);
+    if (source_ && Measure(column, text.size())) Q_EMIT TextsGrew();
+    return text;
+}
+
 bool RowModel::HasCell(int row, int column) {
     if (row < 0 || !HasColumn(column)) return false;
     Await(row + 1);
@@ -144,7 +150,7 @@ bool RowModel::HasCell(int row, int column) {
 }
 
 QString RowModel::Cell(int row, int column) {
-    return HasCell(row, column) ? TextAt(row, column) : QString();
+    return HasCell(row, column) ? LookedAt(row, column) : QString();
 }
 
 void RowModel::SetCell(int row, int column, const QString& text) {
@@ -195,9 +201,7 @@ int RowModel::columnCount(const QModelIndex& parent) const {
 QVariant RowModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::DisplayRole) {
         if (!index.isValid() || index.row() >= published_ || !HasColumn(index.column())) return {};
-        QString text = TextAt(index.row(), index.column());
-        if (source_ && Measure(index.column(), text.size())) Q_EMIT TextsGrew();
-        return text;
+        return LookedAt(index.row(), index.column());
     }
     if (role == Qt::TextAlignmentRole) return headerData(index.column(), Qt::Horizontal, role);
     // From here and not from the style sheet, which a list that is filled before it is shown does not have yet.

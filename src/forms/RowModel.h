@@ -93,6 +93,8 @@ private:
     void Empty();
     Piece Keep(const QString& text);
     QString TextAt(int row, int column) const;
+    // The same, and tells when the text needs more room than those before.
+    QString LookedAt(int row, int column) const;
     // Notes the length of a text; true when it is the longest of its column.
     bool Measure(int column, qsizetype length) const;
     void Take(int rows);

@@ -1,9 +1,9 @@
 #include "reports/ListReport.h"
 
 #include <QLabel>
-#include <QScopeGuard>
 #include <QScopedValueRollback>
 
+#include "core/FillList.h"
 #include "core/Settings.h"
 #include "core/dbModule.h"
 #include "core/mdiORVA.h"
@@ -30,20 +30,10 @@ forms::ListColumn ListColumnOf(const ReportColumn& column) {
     return {column.heading, column.look == Look::Text ? Qt::AlignLeft : Qt::AlignRight, column.width};
 }
 
-// A value that can't be shown leaves its cell empty.
-QString Cell(store::Recordset& row, const ReportColumn& column, int position) {
-    try {
-        const values::Value value = column.field.isEmpty() ? row[position].Get() : row[column.field].Get();
-        return column.look == Look::Amount ? Format(value, u"0.00") : value.TextOrEmpty();
-    } catch (const values::Error&) {
-        return {};
-    }
-}
-
-QStringList CellsOf(store::Recordset& row, const std::vector<ReportColumn>& columns) {
-    QStringList cells;
-    cells.reserve(static_cast<qsizetype>(columns.size()));
-    for (const ReportColumn& column : columns) cells << Cell(row, column, static_cast<int>(cells.size()));
+std::vector<ListCell> CellsOf(const std::vector<ReportColumn>& columns) {
+    std::vector<ListCell> cells;
+    for (const ReportColumn& column : columns)
+        cells.push_back({column.field, column.look == Look::Amount ? u"0.00"_s : QString()});
     return cells;
 }
 
@@ -109,13 +99,10 @@ bool ListReport::OpenAndSum(const QString& query) {
     const QScopedValueRollback working(work_, &work);
     const store::Watch watch(MainStore(), [&work] { return work.GoesOn(); });
     try {
-        rsList_ = facts_.isRefreshed ? MainStore().OpenRecordset(query) : MainStore().OpenSnapshot(query);
-        FillList();
-        if (!facts_.isRefreshed) rsList_.Close();
+        ListRows(Read(query));
         SumList();
         return true;
     } catch (const values::Error& error) {
-        rsList_.Close();
         ui.lv1->Clear();
         SumList();
         ui.lblNaslov->clear();
@@ -124,24 +111,19 @@ bool ListReport::OpenAndSum(const QString& query) {
     }
 }
 
-void ListReport::FillList() {
-    ui.lv1->Clear();
-    if (rsList_.IsOpen()) AddRows(rsList_);
+store::Listing ListReport::Read(const QString& query) {
+    return MainStore().ReadListing(query);
 }
 
-// From where the cursor stands: on its first row when it was just opened.
-void ListReport::AddRows(store::Recordset& rows) {
-    ui.lv1->BeginFill();
-    const auto end = qScopeGuard([this] { ui.lv1->EndFill(); });
-    for (; !rows.AtEOF(); rows.MoveNext()) {
-        if (work_ && !work_->GoesOn()) throw store::StoreError(store::Cancelled, u"The report was left."_s);
-        ui.lv1->Add(CellsOf(rows, facts_.columns));
-    }
+void ListReport::ListRows(store::Listing rows) {
+    FillList(*ui.lv1, std::move(rows), CellsOf(facts_.columns), forms::ListView::Selects::Nothing);
 }
 
+// Here the amounts of all rows become texts, which takes its time in a long list.
 values::Money ListReport::SumOf(int column) const {
     values::Money sum;
     for (int row = 0; row < ui.lv1->Count(); ++row) {
+        if (work_ && !work_->GoesOn()) throw store::StoreError(store::Cancelled, u"The report was left."_s);
         const QString amount = ui.lv1->Text(row, column);
         if (!amount.isEmpty()) sum += values::CMoney(amount);
     }
@@ -149,8 +131,13 @@ values::Money ListReport::SumOf(int column) const {
 }
 
 void ListReport::SumList() {
-    for (const ReportSum& sum : facts_.sums)
-        SumBox(sum)->setText(ui.lv1->Count() > 0 ? Format(SumOf(sum.column), u"0.00") : facts_.emptySum);
+    const bool isEmpty = ui.lv1->Count() == 0;
+    for (const ReportSum& sum : facts_.sums) {
+        if (isEmpty)
+            SumBox(sum)->setText(facts_.emptySum);
+        else if (sum.column != OwnFigure)
+            SumBox(sum)->setText(Format(SumOf(sum.column), u"0.00"));
+    }
 }
 
 bool ListReport::HasItems() const {

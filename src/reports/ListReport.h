@@ -1,7 +1,7 @@
 #pragma once
 
 #include "reports/ReportFacts.h"
-#include "store/Recordset.h"
+#include "store/Listing.h"
 #include "support/OfficeForm.h"
 #include "ui_ListReport.h"
 
@@ -16,13 +16,11 @@ class ListReport : public OfficeForm {
 protected:
     explicit ListReport(ReportFacts facts);
 
-    // Opens a query as the report's cursor, fills the list and sums it; the cursor stays open only where the list is
-    // refreshed. False when the user left it.
+    // Reads the rows of a query, lists and sums them. False when the user left it.
     bool OpenAndSum(const QString& query);
-    // The rows of the cursor into the list; a value that can't be shown leaves its cell empty.
-    virtual void FillList();
-    // These behind the rows of the list; they are of one moment, so that none can be gone.
-    void AddRows(store::Recordset& rows);
+    virtual store::Listing Read(const QString& query);
+    // Gives the list these rows; a value that can't be shown leaves its cell empty.
+    void ListRows(store::Listing rows);
     // The sums of the texts as they are shown.
     void SumList();
     values::Money SumOf(int column) const;
@@ -49,7 +47,6 @@ protected:
 
     Ui::ListReport ui;
     const ReportFacts facts_;
-    store::Recordset rsList_;
 
 private:
     // While a query runs and its rows come in.

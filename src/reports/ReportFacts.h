@@ -22,6 +22,9 @@ struct ReportColumn {
     QString field = {};  // the query's column by name; without one, the column at the same position
 };
 
+// The column of a box whose figure the report reckons itself.
+constexpr int OwnFigure = -1;
+
 // A box that shows the sum of a column of the list, with a caption in front of it.
 struct ReportSum {
     QString caption;
@@ -70,5 +73,4 @@ struct ReportFacts {
     QString saveTitle = QStringLiteral("Save as");
     bool optionsLeadToList = false;  // a choice of an option gives the list the focus
     bool optionsAreIdle = false;     // the option buttons stand there without effect
-    bool isRefreshed = false;        // its rows are listed again later, with what they hold by then
 };

@@ -50,7 +50,7 @@ void frmActivity::cmdBrisi_Click() {
         [&] { login[u"LogInNo"] = u"0"_s; },
         [&] { TheSession.LoginNumber = u"0"_s; },
         [&] { login.Update(); },
-        [&] { FillList(); },
+        [&] { ui.lv1->Clear(); },
     };
     for (const auto& step : steps) {
         try {

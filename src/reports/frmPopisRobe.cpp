@@ -38,8 +38,8 @@ const ReportFacts Facts{
                 {u"Cijena"_s, 90, Look::Amount},
                 {u"Vrijednost"_s, 110, Look::Amount}},
     .sums = {{u"TOTAL with Tax:"_s, u"txtTotalAmount"_s, ValueColumn},
-             {u"TOTAL without Tax:"_s, u"txtTotalAmount1"_s, ValueColumn},
-             {u"TAX:"_s, u"txtTotalAmount2"_s, ValueColumn}},
+             {u"TOTAL without Tax:"_s, u"txtTotalAmount1"_s, OwnFigure},
+             {u"TAX:"_s, u"txtTotalAmount2"_s, OwnFigure}},
     .saveTitle = u"Sacuvaj kao"_s,
 };
 
@@ -62,9 +62,10 @@ void frmPopisRobe::Form_Load() {
 }
 
 void frmPopisRobe::TakeTaxOut() {
+    const double total = CDouble(SumBox(facts_.sums[0])->text());
     QLineEdit* withoutTax = SumBox(facts_.sums[1]);
-    withoutTax->setText(Format(SumOf(ValueColumn).ToDouble() / WithTax, u"0.00"));
-    const double tax = CDouble(SumBox(facts_.sums[0])->text()) - CDouble(withoutTax->text());
+    withoutTax->setText(Format(total / WithTax, u"0.00"));
+    const double tax = total - CDouble(withoutTax->text());
     SumBox(facts_.sums[2])->setText(values::NumberText(tax));
 }
 

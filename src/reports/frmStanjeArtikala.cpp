@@ -1,6 +1,6 @@
 #include "reports/frmStanjeArtikala.h"
 
-#include "reports/ReportFile.h"
+#include "core/dbModule.h"
 #include "values/Clock.h"
 #include "values/DateText.h"
 
@@ -24,7 +24,6 @@ const ReportFacts Facts{
                  .item = {{Left(3, 0), Left(20, 1), Right(3, 2), Right(6, 3), Right(8, 4)}},
                  .total = u"TOTAL: "_s}},
     .emptyList = u"List does not contain any item."_s,
-    .isRefreshed = true,
 };
 
 }  // namespace
@@ -35,19 +34,18 @@ frmStanjeArtikala::frmStanjeArtikala() : ListReport(Facts) {
 }
 
 void frmStanjeArtikala::Form_Load() {
-    if (OpenAndSum(ProductsQuery)) TellTime();
+    if (!OpenAndSum(ProductsQuery)) return rsList_.Close();
+    TellTime();
 }
 
-void frmStanjeArtikala::FillList() {
-    if (!rsList_.IsOpen()) return ui.lv1->Clear();
-    auto rows = rsList_.Snapshot();
-    ui.lv1->Clear();
-    AddRows(rows);
+store::Listing frmStanjeArtikala::Read(const QString& query) {
+    rsList_ = MainStore().OpenRecordset(query);
+    return rsList_.ListNow();
 }
 
 // The same rows with what they hold now; the total stays that of the opening.
 void frmStanjeArtikala::cmdOsvjezi_Click() {
-    FillList();
+    if (rsList_.IsOpen()) ListRows(rsList_.ListNow());
     TellTime();
 }
 

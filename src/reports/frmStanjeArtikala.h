@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reports/ListReport.h"
+#include "store/Recordset.h"
 
 // What is in stock and what it is worth, as the products stand.
 class frmStanjeArtikala : public ListReport {
@@ -11,10 +12,12 @@ public:
 
 protected:
     void Form_Load() override;
-    void FillList() override;
+    store::Listing Read(const QString& query) override;
 
 private:
     void cmdOsvjezi_Click();
 
     void TellTime();
+
+    store::Recordset rsList_;
 };

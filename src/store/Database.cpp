@@ -64,9 +64,17 @@ Listing Database::OpenListing(const QString& query) {
     if (!side && !engine_->InTransaction())
         if (auto engine = engine_->OpenBeside()) side = std::make_shared<SideEngine>(std::move(engine));
     if (side && !engine_->InTransaction()) return Listing(std::make_unique<Listing::Impl>(std::move(compiled), side));
+    return ListingOf(std::move(compiled));
+}
+
+Listing Database::ReadListing(const QString& query) {
+    return ListingOf(internals_->CompileSelect(query));
+}
+
+Listing Database::ListingOf(dialect::Query query) {
     RowBlock rows;
-    engine_->ReadAll(compiled, rows);
-    return Listing(std::make_unique<Listing::Impl>(std::move(compiled), std::move(rows)));
+    engine_->ReadAll(query, rows);
+    return Listing(std::make_unique<Listing::Impl>(std::move(query), std::move(rows)));
 }
 
 qint64 Database::Execute(const QString& query) {

@@ -34,6 +34,8 @@ public:
     Recordset OpenSnapshot(const QString& query);
     // The rows for a list that shows them: of one moment and for reading only, too, but on hand as they come in.
     Listing OpenListing(const QString& query);
+    // The same with all rows on hand when it returns; a Watch can stop it.
+    Listing ReadListing(const QString& query);
     // Runs an action query (UPDATE, DELETE) as one commit; gives the number of rows it touched.
     qint64 Execute(const QString& query);
 
@@ -66,6 +68,7 @@ public:
 
 private:
     Recordset SnapshotOf(dialect::Query query);
+    Listing ListingOf(dialect::Query query);
     Database(std::unique_ptr<Engine> engine, const Schema& schema);
     friend class Recordset;
     friend class Burst;

@@ -1,5 +1,6 @@
 #include "store/Recordset.h"
 
+#include "store/ListingImpl.h"
 #include "store/RecordsetImpl.h"
 
 using namespace Qt::StringLiterals;
@@ -48,10 +49,9 @@ qint64 Recordset::RecordCount() const {
     return Open().rows->KnownCount();
 }
 
-Recordset Recordset::Snapshot() {
+Listing Recordset::ListNow() {
     Impl& impl = Open();
-    auto rows = std::make_unique<SnapshotRows>(impl.rows->ReadNow());
-    return Recordset(std::make_unique<Impl>(impl.engine, impl.compiler, impl.query, std::move(rows)));
+    return Listing(std::make_unique<Listing::Impl>(impl.query, impl.rows->ReadNow()));
 }
 
 void Recordset::AddNew() {

@@ -3,6 +3,7 @@
 #include <QString>
 #include <memory>
 
+#include "store/Listing.h"
 #include "store/Schema.h"
 #include "store/StoreError.h"
 #include "values/Value.h"
@@ -80,8 +81,8 @@ public:
     // Above 0 when there is a row; the full count after MoveLast.
     qint64 RecordCount() const;
 
-    // The rows of the cursor as they all are now, of one moment, without those that were deleted; for reading only.
-    Recordset Snapshot();
+    // The rows of the cursor as they all are now, of one moment, without those that were deleted.
+    Listing ListNow();
 
     // Fields, by name (case ignored) or by position from 0; 3265 for a name that the cursor does not have.
     Field operator[](QStringView name);
