@@ -19,6 +19,7 @@ using values::Format;
 namespace {
 
 const auto CompositionQuery = u"SELECT * FROM ProductsCon WHERE SIF = '%1'"_s;
+const auto DeleteComposition = u"DELETE * FROM ProductsCon WHERE SIF = '%1'"_s;
 
 const auto UnknownProduct = u"Product with this code-barcode does not exist."_s;
 const auto NoItems = u"You did not enter a single item in the composition."_s;
@@ -182,10 +183,11 @@ void frmSastav::StoreComposition() {
     batch.Commit();
 }
 
-// The rows are read anew: another register may have saved meanwhile, and the recipe is replaced as a whole.
+// As they are now, and not as they were shown: another register may have saved meanwhile, and the recipe is replaced as
+// a whole.
 void frmSastav::DeleteCompositionRows() {
+    ExecuteSql(DeleteComposition.arg(code_));
     rsComposition_ = MainStore().OpenRecordset(CompositionQuery.arg(code_));
-    for (auto& part : rsComposition_) part.Delete();
 }
 
 void frmSastav::cmdDelete_Click() {
