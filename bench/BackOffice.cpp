@@ -1,6 +1,7 @@
 // The list of products: opening it until it is painted, and one letter typed into its search until the first rows of
 // the answer are painted, or until all of them are known, too.
 
+#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -24,6 +25,8 @@ namespace {
 
 constexpr int CodeColumn = 1;
 constexpr qint64 RowsMadeTexts = 1000;
+constexpr qint64 Frame = 16'000'000;  // nanoseconds
+constexpr qint64 UntilNextKey = 100;  // milliseconds, in which all rows come in
 
 enum class Where { AtBeginning, Anywhere };
 enum class Rows { First, All };
@@ -62,18 +65,37 @@ public:
     }
 
     qint64 Type(const QString& text, Rows rows) {
-        auto* box = form_.findChild<QLineEdit*>(u"cboTemp"_s);
-        if (text.size() == 1) box->selectAll();
-        const QChar letter = text.back();
-        QKeyEvent key(QEvent::KeyPress, letter.toUpper().unicode(), Qt::NoModifier, letter);
-        QCoreApplication::sendEvent(box, &key);
+        Press(text);
         UntilPainted{*list_};
         return Digest() + (rows == Rows::All ? list_->Count() : 0);
+    }
+
+    // The longest turn of the event loop from this key to the next.
+    qint64 LongestTurn(const QString& text) {
+        QElapsedTimer sinceKey, turn;
+        sinceKey.start();
+        turn.start();
+        Press(text);
+        qint64 longest = turn.nsecsElapsed();
+        while (!sinceKey.hasExpired(UntilNextKey)) {
+            turn.start();
+            QCoreApplication::processEvents();
+            longest = std::max(longest, turn.nsecsElapsed());
+        }
+        return longest;
     }
 
     qint64 Digest() const { return DigestOf(list_->Text(0), list_->Text(9)); }
 
 private:
+    void Press(const QString& text) {
+        auto* box = form_.findChild<QLineEdit*>(u"cboTemp"_s);
+        if (text.size() == 1) box->selectAll();
+        const QChar letter = text.back();
+        QKeyEvent key(QEvent::KeyPress, letter.toUpper().unicode(), Qt::NoModifier, letter);
+        QCoreApplication::sendEvent(box, &key);
+    }
+
     frmArtikli form_;
     forms::ListView* list_ = form_.findChild<forms::ListView*>(u"lv1"_s);
 };
@@ -88,6 +110,13 @@ Work SearchOurs(const BusyTill& till, Where where, Rows rows) {
     const auto list = std::make_shared<ProductList>();
     list->Look(where);
     return [program, list, rows, typing = Typing()]() mutable { return list->Type(typing.Next(), rows); };
+}
+
+Work HoldOurs(const BusyTill& till, Where where) {
+    const auto program = std::make_shared<LoggedIn>(till);
+    const auto list = std::make_shared<ProductList>();
+    list->Look(where);
+    return [program, list, typing = Typing()]() mutable { return list->LongestTurn(typing.Next()); };
 }
 
 // What Qt has for the same: a table model reads 256 rows and the others as they are scrolled to, so that nobody knows
@@ -191,6 +220,15 @@ Figure FirstFoundFigure(const BusyTill& till, bool anywhere) {
             .ours = [&till, where] { return SearchOurs(till, where, Rows::First); },
             .yardsticks = {{"QSqlTableModel, 256 rows, painted",
                             [&till, where] { return SearchTable(till, where, Rows::First); }, 1.2}}};
+}
+
+Figure HoldFigure(const BusyTill& till, bool anywhere) {
+    const Where where = anywhere ? Where::Anywhere : Where::AtBeginning;
+    return {.name = anywhere ? "a key in the search, anywhere, longest hold" : "a key in the search, longest hold",
+            .ours = [&till, where] { return HoldOurs(till, where); },
+            .yardsticks = {{"a frame", [] { return [] { return Frame; }; }, 1}},
+            .iterations = 1,
+            .timesItself = true};
 }
 
 Figure AllFoundFigure(const BusyTill& till, bool anywhere) {

@@ -21,6 +21,8 @@ Figure PreviewFigure(const BusyTill& till);
 Figure RegisterListsFigure(const BusyTill& till);
 Figure ProductListFigure(const BusyTill& till);
 Figure FirstFoundFigure(const BusyTill& till, bool anywhere);
+// How long a key, or the rows that it brings in, keep the window from answering; the load of the machine counts.
+Figure HoldFigure(const BusyTill& till, bool anywhere);
 Figure AllFoundFigure(const BusyTill& till, bool anywhere);
 // These two write to the till.
 Figure PlacementFigure(const BusyTill& till);

@@ -72,6 +72,8 @@ int Measure(const Job& job) {
         bench::ProductListFigure(busy),
         bench::FirstFoundFigure(busy, false),
         bench::FirstFoundFigure(busy, true),
+        bench::HoldFigure(busy, false),
+        bench::HoldFigure(busy, true),
         bench::AllFoundFigure(busy, false),
         bench::AllFoundFigure(busy, true),
         bench::PlacementFigure(office),
