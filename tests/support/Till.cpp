@@ -121,15 +121,7 @@ forms::Form& TillTest::Login() const {
 }
 
 QStringList TillTest::Rows(const QString& query) const {
-    const auto main = OpenMain(folder);
-    auto rs = main->OpenRecordset(query);
-    QStringList rows;
-    for (auto& row : rs) {
-        QStringList cells;
-        for (int column = 0; column < row.FieldCount(); ++column) cells << row[column].TextOrEmpty();
-        rows << cells.join(u'|');
-    }
-    return rows;
+    return RowsOf(*OpenMain(folder), query);
 }
 
 void TillTest::Run(const QString& query) const {
@@ -139,6 +131,17 @@ void TillTest::Run(const QString& query) const {
 QByteArray TillTest::File(const QString& name) const {
     QFile file(Path(name));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QStringList RowsOf(store::Database& store, const QString& query) {
+    auto rs = store.OpenRecordset(query);
+    QStringList rows;
+    for (auto& row : rs) {
+        QStringList cells;
+        for (int column = 0; column < row.FieldCount(); ++column) cells << row[column].TextOrEmpty();
+        rows << cells.join(u'|');
+    }
+    return rows;
 }
 
 void ExpectHelp(Boxes& boxes, const QString& file) {

@@ -34,7 +34,7 @@ protected:
     forms::Form& Login() const;
     QString Shown(QStringView control) const { return Box(Sales(), control); }
 
-    // Rows of a query on the main store as texts, fields joined by "|".
+    // On the main store.
     QStringList Rows(const QString& query) const;
     void Run(const QString& query) const;
     QString Path(const QString& name) const { return folder.filePath(name); }
@@ -43,6 +43,9 @@ protected:
 private:
     void AddGoods();
 };
+
+// Rows of a query as texts, fields joined by "|".
+QStringList RowsOf(store::Database& store, const QString& query);
 
 // The help comes up with this text, and is closed again.
 void ExpectHelp(Boxes& boxes, const QString& file);

@@ -1,0 +1,133 @@
+#include "support/CaseText.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QMap>
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace drivers {
+
+namespace {
+
+constexpr int Indent = 4;
+
+// What is no escape stands as it is: "\\img" is a folder.
+QString Unescaped(const QString& text) {
+    static const QMap<QChar, QString> escapes = {
+        {u'n', u"\n"_s}, {u'r', u"\r"_s}, {u's', u" "_s}, {u'0', {}}, {u'\\', u"\\"_s}};
+    QString plain;
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        const bool isEscape = text[at] == u'\\' && at + 1 < text.size() && escapes.contains(text[at + 1]);
+        plain += isEscape ? escapes[text[++at]] : QString(text[at]);
+    }
+    return plain;
+}
+
+class CaseReader {
+public:
+    explicit CaseReader(const QString& path) : path_(path) {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+        lines_ = QString::fromUtf8(file.readAll()).split(u'\n');
+    }
+
+    std::vector<CaseText> Cases() {
+        const std::vector<Step> before = Block(at_, 0);
+        std::vector<CaseText> cases;
+        while (at_ < lines_.size()) {
+            CaseText text{.name = lines_[at_++].mid(3), .steps = {}};
+            text.steps.inner = before;
+            std::ranges::move(Block(at_, 0), std::back_inserter(text.steps.inner));
+            cases.push_back(std::move(text));
+        }
+        return cases;
+    }
+
+private:
+    static bool IsRemark(const QString& line) { return line.trimmed().isEmpty() || line.trimmed().startsWith(u'#'); }
+
+    void Let(const QString& line) { texts_[u'$' + line.section(u' ', 1, 1)] = Put(line.section(u" = "_s, 1)); }
+
+    QString Put(QString text) const {
+        // The longest name first, or $Row would be found in $Rows.
+        QStringList names = texts_.keys();
+        std::ranges::sort(names, std::greater{}, &QString::size);
+        for (const QString& name : names) text.replace(name, texts_[name]);
+        return text;
+    }
+
+    // The lines from `next` on that are indented at least as deep.
+    std::vector<Step> Block(qsizetype& next, int depth) {
+        std::vector<Step> steps;
+        for (; next < lines_.size(); ++next) {
+            const QString& line = lines_[next];
+            if (IsRemark(line)) continue;
+            const qsizetype blanks = std::ranges::find_if(line, [](QChar c) { return c != u' '; }) - line.begin();
+            if (blanks < depth || line.startsWith(u"== ")) break;
+            if (blanks > depth) {
+                ADD_FAILURE() << path_.toStdString() << ':' << next + 1 << ": indented under nothing";
+                break;
+            }
+            if (line.mid(depth).startsWith(u"let "))
+                Let(line.mid(depth));
+            else
+                Add(steps, next, depth);
+        }
+        return steps;
+    }
+
+    void Add(std::vector<Step>& steps, qsizetype& next, int depth) {
+        const qsizetype head = next;
+        const QString text = Put(lines_[head].mid(depth));
+        if (text.startsWith(u"each ")) return Repeat(steps, text.mid(5).split(u" | "_s), next, depth);
+        Step step = StepOf(text, head);
+        ++next;
+        step.inner = Block(next, depth + Indent);
+        --next;
+        steps.push_back(std::move(step));
+    }
+
+    void Repeat(std::vector<Step>& steps, const QStringList& each, qsizetype& next, int depth) {
+        const qsizetype head = next + 1;
+        const QString outer = texts_.value(u"$_"_s);
+        for (const QString& one : each) {
+            texts_[u"$_"_s] = one;
+            next = head;
+            std::ranges::move(Block(next, depth + Indent), std::back_inserter(steps));
+        }
+        texts_[u"$_"_s] = outer;
+        --next;
+    }
+
+    Step StepOf(QString text, qsizetype at) const {
+        text = Unescaped(text);
+        const qsizetype arrow = text.lastIndexOf(u" => "_s);
+        const QString form = arrow < 0 ? QString() : text.mid(arrow + 4);
+        if (arrow >= 0) text.truncate(arrow);
+        return {path_.toStdString(), static_cast<int>(at) + 1, text, form, {}};
+    }
+
+    QString path_;
+    QStringList lines_;
+    qsizetype at_ = 0;
+    QMap<QString, QString> texts_;
+};
+
+}  // namespace
+
+void PrintTo(const CaseText& text, std::ostream* out) {
+    *out << text.name.toStdString();
+}
+
+std::vector<CaseText> ReadCases(const QStringList& topics) {
+    std::vector<CaseText> cases;
+    for (const QString& topic : topics)
+        std::ranges::move(CaseReader(QStringLiteral(CASES_FOLDER "/") + topic + u".txt"_s).Cases(),
+                          std::back_inserter(cases));
+    return cases;
+}
+
+}  // namespace drivers

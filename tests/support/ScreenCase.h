@@ -1,0 +1,90 @@
+#pragma once
+
+#include <QMap>
+#include <QPointer>
+
+#include "support/CaseText.h"
+#include "support/Till.h"
+
+namespace drivers {
+
+// Plays a case of tests/data/screens: a line is a word and what it is about. A text stands as it is, several of them
+// between " | "; a form that a line brings up stands behind " => ", and the lines under it are played in that form,
+// which is closed after them if it is still there. Every box that a line brings up stands in the lines before it, and
+// has to come with that line and no later. Without a `login` of its own a case begins with the administrator at the
+// till.
+//
+// To begin with, and in between:
+//   run QUERY            an action query, on the store that has the table; another register acts like this, too
+//   load TABLE           the rows under it: names of fields, then a line a row, cells divided by |
+//   login USER, restart  at the start, or after a crash
+//   locale NAME; clock DATE TIME; clipboard TEXT; write FILE | TEXT
+// What is done:
+//   open ENTRY           of the menu; keys KEYS; go CONTROL (it gets the focus)
+//   type CONTROL KEYS    over what stands there
+//   click CONTROL, tool NAME (of the tool bar), tab NUMBER
+//   in FORM              goes on in a form that is open beside the others, until it is gone
+//   clickrow N, rightclickrow N, doubleclickrow N     of the form's list; -1 is below its rows
+// What comes up, in this order, at the next thing that is done:
+//   box TEXT | TITLE | ICON | BUTTON   Ok is pressed, or the button; "3021..." is how a text begins
+//   pick PATH | TITLE                  a file is chosen, or with no path none
+//   help FILE                          comes up and is closed
+// What has to be:
+//   see CONTROL=TEXT | CONTROL.property=VALUE | CONTROL^BEGINNING | CONTROL~PART
+//   focus CONTROL; title TEXT; loaded FORM; unloaded FORM; ended CODE (of the program)
+//   list, row N CELLS, codes CODE | CODE, count N     the list, the cells of a row joined by |
+//   rows QUERY           with the rows under it
+//   runs FIELD=TEXT      settings in force
+//   file NAME=TEXT       ^ and ~ as for `see`; nofile NAME
+class ScreenCase : public TillTest, public testing::WithParamInterface<CaseText> {
+public:
+    using Word = std::function<void(ScreenCase& at, const QString& rest, const Step& step)>;
+    // Words of a room's own.
+    static bool AddWords(const QMap<QString, Word>& words);
+
+    // The form in which the case is played.
+    QWidget& Form();
+    void GoOnIn(forms::Form& form) { forms_ << &form; }
+    Boxes& Coming() { return boxes_; }
+    using TillTest::File;
+    using TillTest::Path;
+
+protected:
+    void Play(const Step& block);
+
+private:
+    static QMap<QString, Word>& Words();
+    static QMap<QString, Word> States();
+    static QMap<QString, Word> Deeds();
+    static QMap<QString, Word> Announcements();
+    static QMap<QString, Word> Checks();
+
+    void PlayStep(const Step& step);
+    void PlayIn(forms::Form& form, const Step& block);
+    void LogInOnce();
+    std::unique_ptr<store::Database> StoreOf(const QString& query) const;
+    QObject* Find(const QString& name);
+    template <typename T>
+    T& Of(const QString& name) {
+        auto* found = qobject_cast<T*>(Find(name));
+        if (!found) throw std::runtime_error("there is no " + name.toStdString());
+        return *found;
+    }
+    QString Shown(const QString& what);
+    forms::ListView& List();
+    QStringList ListRows();
+
+    Boxes boxes_;
+    QList<QPointer<forms::Form>> forms_;
+    bool loggedIn_ = false;
+};
+
+// A setting in force, by its field.
+QString SettingInForce(const QString& field);
+
+}  // namespace drivers
+
+// All cases of some topics, in the test program of their room.
+#define INSTANTIATE_SCREEN_CASES(room, ...)                                                          \
+    INSTANTIATE_TEST_SUITE_P(room, ScreenCase, testing::ValuesIn(drivers::ReadCases({__VA_ARGS__})), \
+                             [](const auto& info) { return info.param.name.toStdString(); })
