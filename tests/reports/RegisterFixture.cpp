@@ -6,16 +6,49 @@
 #include <QPushButton>
 
 #include "core/dbModule.h"
-#include "forms/Controls.h"
 #include "player/Keys.h"
+#include "reports/frmActivity.h"
+#include "reports/frmIzvjestajKIF.h"
+#include "reports/frmPopisRobe.h"
+#include "reports/frmRacuni.h"
+#include "reports/frmSales.h"
+#include "reports/frmSalesProducts.h"
+#include "reports/frmSalesTax.h"
+#include "reports/frmStanjeArtikala.h"
+#include "reports/frmTaxbyInvoice.h"
+#include "reports/frmZakljucakPregled.h"
+#include "reports/frmZakljucakPregled1.h"
 #include "store/StorePath.h"
 #include "upkeep/TableLoader.h"
 #include "values/Numbers.h"
 
 using namespace Qt::StringLiterals;
 
-RegisterFixture::RegisterFixture() {
-    const auto main = store::Database::Open(store::MainPlace(folder.path()), store::MainSchema());
+namespace {
+
+template <typename Report>
+forms::Form* Open() {
+    return forms::Open<Report>();
+}
+
+const QMap<QString, forms::Form* (*)()> Reports = {
+    {u"frmActivity"_s, Open<frmActivity>},
+    {u"frmIzvjestajKIF"_s, Open<frmIzvjestajKIF>},
+    {u"frmPopisRobe"_s, Open<frmPopisRobe>},
+    {u"frmRacuni"_s, Open<frmRacuni>},
+    {u"frmSales"_s, Open<frmSales>},
+    {u"frmSalesProducts"_s, Open<frmSalesProducts>},
+    {u"frmSalesTax"_s, Open<frmSalesTax>},
+    {u"frmStanjeArtikala"_s, Open<frmStanjeArtikala>},
+    {u"frmTaxbyInvoice"_s, Open<frmTaxbyInvoice>},
+    {u"frmZakljucakPregled"_s, Open<frmZakljucakPregled>},
+    {u"frmZakljucakPregled1"_s, Open<frmZakljucakPregled1>},
+};
+
+}  // namespace
+
+void OpenShopOfReports(const QString& folder) {
+    const auto main = store::Database::Open(store::MainPlace(folder), store::MainSchema());
     for (const auto& table : {u"Sales"_s, u"Invoices"_s, u"SalesDetails"_s}) {
         QFile lines(QString::fromUtf8(TEST_DATA "/reports/shop/") + table + u".tsv"_s);
         EXPECT_TRUE(lines.open(QIODevice::ReadOnly)) << lines.fileName().toStdString();
@@ -24,37 +57,12 @@ RegisterFixture::RegisterFixture() {
     OpenMainStore();
 }
 
-frmTrenutnoStanjeKasa& RegisterFixture::ShowState() {
-    auto* form = forms::Open<frmTrenutnoStanjeKasa>();
-    forms::SetText(forms::Control(form, u"lblTipPregleda"), u"1"_s);
+forms::Form& ShowReport(const QString& name) {
+    if (!forms::LoadedForms().isEmpty()) forms::LoadedForms().last()->Unload();
+    forms::Form* form = Reports[name]();
     form->Show();
     drivers::Settle();
     return *form;
-}
-
-frmTrenutnoStanjeKasa& RegisterFixture::ShowReview(const QString& number, const QString& date, const QString& time) {
-    auto* form = forms::Open<frmTrenutnoStanjeKasa>();
-    forms::SetText(forms::Control(form, u"lblTipPregleda"), u"2"_s);
-    forms::SetText(forms::Control(form, u"lblZakljucakBr"), number);
-    forms::SetText(forms::Control(form, u"lblDatumZakljucka"), date);
-    forms::SetText(forms::Control(form, u"lblVrijemeZakljucka"), time);
-    form->Show();
-    drivers::Settle();
-    return *form;
-}
-
-void RegisterFixture::ExpectPreview(drivers::Boxes& boxes, const QString& contents) {
-    boxes.ExpectForm(u"frmRacunPregled"_s, [contents](QWidget& preview) {
-        EXPECT_EQ(drivers::Box(preview, u"lblNazivFajla"), u"\\Report.txt");
-        EXPECT_EQ(drivers::Box(preview, u"rtBox").toStdString(), contents.toStdString());
-        drivers::Keys(u"{Esc}");
-    });
-}
-
-QStringList RegisterFixture::Shown(const forms::Form& form) {
-    QStringList rows;
-    for (const QStringList& cells : drivers::List(form, u"lv1")) rows << cells.join(u'|');
-    return rows;
 }
 
 void RegisterFixture::Sell(const QString& number, QDate day, const QString& amount) {

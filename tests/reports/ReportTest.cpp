@@ -1,73 +1,103 @@
-#include <QDir>
+#include <QCalendarWidget>
 #include <QPrinterInfo>
 #include <QProcess>
 #include <QPushButton>
 #include <QStandardPaths>
+#include <QTableView>
 #include <QTest>
 #include <QTimer>
 #include <csignal>
+#include <ctime>
 #include <thread>
 
 #include <sys/resource.h>
 
 #include "core/Settings.h"
 #include "core/dbModule.h"
-#include "output/Channel.h"
 #include "receipts/TextFiles.h"
 #include "reports/RegisterFixture.h"
-#include "reports/frmPopisRobe.h"
-#include "reports/frmSales.h"
-#include "reports/frmSalesProducts.h"
-#include "reports/frmTaxbyInvoice.h"
-#include "reports/frmZakljucakPregled.h"
+#include "values/Locale.h"
 #include "values/Numbers.h"
 
 using namespace Qt::StringLiterals;
 using drivers::Box;
-using drivers::Boxes;
+using drivers::Get;
 using drivers::Keys;
 
 namespace {
 
-const auto Always = u"01.11.2026-30.11.2026"_s;
+using ReportTest = RegisterFixture;
 
-// Reports on paper, in files, and at work beside others.
-class ReportOutputTest : public RegisterFixture {
-protected:
-    void PrintOn(const QString& printer) {
-        TheSettings.PrinterZaIzvjestaj = printer;
-        TheSettings.PraznihLinijaPoslijeRacuna = 2;
-    }
-    // What F4 saves of the report that is up.
-    QByteArray Saved() {
-        boxes_.ExpectFile(Path(u"saved.txt"_s)).Titled(u"Save as"_s);
-        Keys(u"{F4}");
-        return File(u"saved.txt"_s);
-    }
-
-    Boxes boxes_;
-};
-
-TEST_F(ReportOutputTest, BothPortsGetWhatIsSavedAndBlankLines) {
-    ShowReport<frmTaxbyInvoice>();
-    Choose(*forms::FindForm(u"frmTaxbyInvoice"), Always);
-    const QByteArray saved = Saved();
-    EXPECT_TRUE(saved.startsWith("Tax report for period\r\n"));
-    for (const QString& printer : {u"1"_s, u"2"_s, u"0"_s}) {
-        PrintOn(printer);
-        Keys(u"{F5}");
-    }
-    EXPECT_EQ(File(u"lpt1.prn"_s), saved + "\r\n\r\n");
-    EXPECT_EQ(File(u"lpt2.prn"_s), saved + "\r\n\r\n");
-    EXPECT_FALSE(QDir(Path(u"printouts"_s)).exists());
+// A day by the keyboard and by the mouse, and a period that is typed.
+void ByKeyboard(const forms::Form& form, QDate day) {
+    auto* month = Get<QCalendarWidget>(form, u"mv1");
+    month->setSelectedDate(day.addDays(-1));
+    month->setFocus();
+    Keys(u"12{Right}{Enter}");  // digits mean nothing here
 }
 
-TEST_F(ReportOutputTest, ThePagePrinterGetsTheSameLines) {
+void ByMouse(const forms::Form& form, QDate day) {
+    auto* month = Get<QCalendarWidget>(form, u"mv1");
+    month->setCurrentPage(day.year(), day.month());
+    auto* days = month->findChild<QTableView*>(u"qt_calendar_calendarview"_s);
+    QModelIndex cell;
+    for (int row = 0; row < days->model()->rowCount(); ++row)
+        for (int column = 0; column < days->model()->columnCount(); ++column) {
+            const QModelIndex index = days->model()->index(row, column);
+            if (index.data().toInt() == day.day() && (row > 2) == (day.day() > 15)) cell = index;
+        }
+    QTest::mouseClick(days->viewport(), Qt::LeftButton, {}, days->visualRect(cell).center());
+    drivers::Settle();
+}
+
+void ByTyping(const forms::Form& form, QDate day) {
+    Get<QWidget>(form, u"DTPicker1")->setFocus(Qt::TabFocusReason);
+    const QString typed = day.toString(u"ddMMyyyy"_s);
+    Keys(typed + u"{Tab}"_s + typed + u"{Enter}{Enter}"_s);
+}
+
+TEST_F(ReportTest, ADayIsThatDayWhateverTheCalendarDoes) {
+    const QByteArray zone = qgetenv("TZ");
+    const struct {
+        const char* zone;
+        const char* locale;
+        QDate day;
+    } cases[] = {{"UTC", "en_US", QDate(2028, 2, 29)},
+                 {"Europe/Sarajevo", "hr_HR", QDate(2026, 3, 29)},
+                 {"Europe/Sarajevo", "en_US", QDate(2026, 10, 25)},
+                 {"America/Sao_Paulo", "hr_HR", QDate(2018, 11, 4)},
+                 {"Asia/Beirut", "en_US", QDate(2026, 3, 29)}};
+    for (const auto& [place, locale, day] : cases) {
+        qputenv("TZ", place);
+        tzset();
+        values::SetUserLocale(QLocale(QString::fromLatin1(locale)));
+        for (int offset = -1; offset <= 1; ++offset)
+            Sell(u"9%1"_s.arg(offset + 1), day.addDays(offset), QString::number(offset + 5));
+        forms::Form& form = ShowReport(u"frmRacuni"_s);
+        for (const auto choose : {ByKeyboard, ByMouse, ByTyping}) {
+            Choose(form, u"01.01.2030"_s);
+            choose(form, day);
+            const auto rows = drivers::List(form, u"lv1");
+            ASSERT_EQ(rows.size(), 1u) << place << ' ' << Box(form, u"lblNaslov").toStdString();
+            EXPECT_EQ(rows[0][0], u"91") << Box(form, u"lblNaslov").toStdString();
+            EXPECT_TRUE(Box(form, u"lblNaslov").endsWith(day.toString(u"dd.MM.yyyy"_s)));
+            EXPECT_TRUE(Get<QWidget>(form, u"lv1")->hasFocus());
+        }
+        form.Unload();
+        Run(u"DELETE * FROM Invoices WHERE Val(OrNo) >= 90"_s);
+    }
+    zone.isNull() ? qunsetenv("TZ") : qputenv("TZ", zone);
+    tzset();
+}
+
+TEST_F(ReportTest, ThePagePrinterGetsTheSameLines) {
     if (!QPrinterInfo::defaultPrinter().isNull()) GTEST_SKIP() << "this machine has a printer";
     if (QStandardPaths::findExecutable(u"pdftotext"_s).isEmpty()) GTEST_SKIP() << "pdftotext is missing";
-    Choose(ShowReport<frmSales>(), Always);
-    const QString saved = QString::fromLatin1(Saved());
-    PrintOn(u"3"_s);
+    Choose(ShowReport(u"frmSales"_s), u"01.11.2026-30.11.2026"_s);
+    boxes_.ExpectFile(Path(u"saved.txt"_s));
+    Keys(u"{F4}");
+    const QString saved = QString::fromLatin1(File(u"saved.txt"_s));
+    TheSettings.PrinterZaIzvjestaj = u"3"_s;
     TheSettings.VelFont = u"12"_s;
     Keys(u"{F5}");
     QProcess reader;
@@ -77,28 +107,7 @@ TEST_F(ReportOutputTest, ThePagePrinterGetsTheSameLines) {
     EXPECT_FALSE(QFile::exists(Path(u"lpt1.prn"_s)));
 }
 
-TEST_F(ReportOutputTest, APortThatIsGoneEndsTheProgram) {
-    QFile ports(Path(u"ports.ini"_s));
-    ASSERT_TRUE(ports.open(QIODevice::WriteOnly));
-    ports.write("[ports]\nlpt1=/dev/no-such-printer\n");
-    ports.close();
-    Choose(ShowReport<frmSales>(), Always);
-    PrintOn(u"1"_s);
-    boxes_.ExpectBeginning(u"68"_s).WithIcon(QMessageBox::Critical).Titled(u"Sale by Cashier"_s);
-    Keys(u"{F5}");
-    EXPECT_TRUE(forms::ProgramIsEnding());
-    EXPECT_EQ(forms::ProgramExitCode(), 1);
-}
-
-TEST_F(ReportOutputTest, AListOfGoodsThatCannotBeWrittenEndsTheProgram) {
-    ASSERT_TRUE(QFile::link(u"/dev/full"_s, Path(u"Report.txt"_s)));
-    ShowReport<frmPopisRobe>();
-    boxes_.ExpectBeginning(u"61"_s).WithIcon(QMessageBox::Critical);
-    Keys(u"{F5}");
-    EXPECT_EQ(forms::ProgramExitCode(), 1);
-}
-
-TEST_F(ReportOutputTest, ACopyThatDoesNotFitLeavesTheOldFile) {
+TEST_F(ReportTest, ACopyThatDoesNotFitLeavesTheOldFile) {
     for (const auto& [name, contents] : {std::pair(u"long.txt"_s, QByteArray(5000, 'x')), {u"old.txt"_s, "old"}}) {
         QFile file(Path(name));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size());
@@ -114,39 +123,17 @@ TEST_F(ReportOutputTest, ACopyThatDoesNotFitLeavesTheOldFile) {
     EXPECT_EQ(File(u"old.txt"_s), "old");
 }
 
-TEST_F(ReportOutputTest, ASaveThatFailsSaysNothingAndLeavesTheOldFile) {
-    const auto write = [this](const QString& name) {
-        QFile file(Path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("of last year");
-    };
-    Choose(ShowReport<frmSales>(), Always);
-    for (const QString& name : {u"saved.txt"_s, u"a-file"_s}) write(name);
-    ASSERT_TRUE(QFile::link(u"/dev/full"_s, Path(u"Report.txt"_s)));
-    EXPECT_EQ(Saved(), "of last year") << "a full disk";
-    EXPECT_FALSE(output::Channel1().IsOpen());
-    ASSERT_TRUE(QFile::remove(Path(u"Report.txt"_s)));
-    for (const QString& name : {u"a-file/saved.txt"_s, u"nowhere/saved.txt"_s, u""_s}) {
-        boxes_.ExpectFile(name.isEmpty() ? name : Path(name));
-        Keys(u"{F4}");
-        EXPECT_EQ(File(u"a-file"_s), "of last year");
-    }
-    EXPECT_EQ(File(u"saved.txt"_s), "of last year");
-    EXPECT_TRUE(Saved().startsWith("Sale by Cashier\r\n")) << "an old file is overwritten";
-    EXPECT_EQ(File(u"Report.txt"_s), File(u"saved.txt"_s));
-}
-
-TEST_F(ReportOutputTest, ALongReportIsLeftByEscOrByItsButton) {
+TEST_F(ReportTest, ALongReportIsLeftByEscOrByItsButton) {
     {
         // Many rows of one number: joined with each other they keep the store busy.
         store::Database::Batch batch(MainStore());
         for (int row = 0; row < 5000; ++row) Sell(u"77"_s, QDate(2026, 12, 1), u"1"_s);
         batch.Commit();
     }
-    forms::Form& form = ShowReport<frmSalesProducts>();
+    forms::Form& form = ShowReport(u"frmSalesProducts"_s);
     const auto leaveBy = [&](std::function<void(QPushButton*)> act) {
         Choose(form, u"23.11.2026"_s);
-        EXPECT_EQ(Shown(form).size(), 3);
+        EXPECT_EQ(Count(form), 3);
         bool acted = false;
         QTimer timer;
         QObject::connect(&timer, &QTimer::timeout, &form, [&] {
@@ -161,7 +148,7 @@ TEST_F(ReportOutputTest, ALongReportIsLeftByEscOrByItsButton) {
         timer.start(20);
         Choose(form, u"01.12.2026"_s);
         EXPECT_TRUE(acted);
-        EXPECT_TRUE(Shown(form).isEmpty());
+        EXPECT_EQ(Count(form), 0);
         EXPECT_EQ(Box(form, u"txtTotalAmount"), u"");
         EXPECT_FALSE(form.findChild<QPushButton*>(u"cmdLeave"_s));
         EXPECT_FALSE(QApplication::overrideCursor());
@@ -170,11 +157,11 @@ TEST_F(ReportOutputTest, ALongReportIsLeftByEscOrByItsButton) {
     leaveBy([](QPushButton* leave) { QTest::mouseClick(leave, Qt::LeftButton); });
     EXPECT_TRUE(form.IsLoaded());
     Choose(form, u"23.11.2026"_s);
-    EXPECT_EQ(Shown(form).size(), 3);
+    EXPECT_EQ(Count(form), 3);
 }
 
 // The other register counts up the first period, then the last one: in no moment is the last one ahead.
-TEST_F(ReportOutputTest, AReportReadsOneMomentWhileAnotherRegisterSells) {
+TEST_F(ReportTest, AReportReadsOneMomentWhileAnotherRegisterSells) {
     constexpr int periods = 3000;
     {
         store::Database::Batch batch(MainStore());
@@ -187,7 +174,7 @@ TEST_F(ReportOutputTest, AReportReadsOneMomentWhileAnotherRegisterSells) {
         }
         batch.Commit();
     }
-    forms::Form& form = ShowReport<frmZakljucakPregled>();
+    forms::Form& form = ShowReport(u"frmZakljucakPregled"_s);
     std::jthread register2([this](const std::stop_token& stop) {
         const auto main = store::Database::Open(Path(u"ORVA.pos"_s), store::MainSchema());
         const store::Burst burst(*main);
