@@ -10,7 +10,7 @@
 
 #include "core/dbModule.h"
 #include "forms/Program.h"
-#include "masterdata/frmSastav.h"
+#include "masterdata/products/frmSastav.h"
 #include "support/ScreenCase.h"
 
 using drivers::Get;

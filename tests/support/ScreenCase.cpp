@@ -91,8 +91,8 @@ QStringList ScreenCase::ListRows() {
 
 std::unique_ptr<store::Database> ScreenCase::StoreOf(const QString& query) const {
     if (query.contains(u" Options"))
-        return store::Database::Open(store::OptionsStorePath(folder.path()), store::OptionsSchema());
-    return store::Database::Open(store::MainStorePath(folder.path()), store::MainSchema());
+        return store::Database::Open(store::OptionsPlace(folder.path()), store::OptionsSchema());
+    return store::Database::Open(store::MainPlace(folder.path()), store::MainSchema());
 }
 
 bool ScreenCase::AddWords(const QMap<QString, Word>& words) {
