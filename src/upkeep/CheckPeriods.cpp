@@ -26,10 +26,6 @@ QString NameOf(const Period& period) {
     return period.endReport == 0 ? u"Closed without an End Report"_s : u"End Report %1"_s.arg(period.endReport);
 }
 
-QString Shown(Money money) {
-    return QString::fromLatin1(WriteValue(money));
-}
-
 QString Range(qint64 first, qint64 last) {
     return first == last ? QString::number(first) : u"%1-%2"_s.arg(first).arg(last);
 }
@@ -89,7 +85,7 @@ QStringList Doubles(const Span& span) {
 QStringList Differences(const Span& span, qint64 expected) {
     QStringList differences;
     const auto compare = [&](const QString& what, Money told, Money summed) {
-        if (told != summed) differences.append(u"%1 %2"_s.arg(what, Shown(summed)));
+        if (told != summed) differences.append(u"%1 %2"_s.arg(what, ShownAmount(summed)));
     };
     compare(u"lines"_s, span.invoices.total, span.lines.total);
     compare(u"tax of the lines"_s, span.invoices.tax, span.lines.tax);
@@ -105,8 +101,8 @@ QString Head(const Span& span) {
     const QString day = span.day.isValid() ? u" of "_s + span.day.toString(Qt::ISODate) : QString();
     if (span.count == 0) return span.name + day + u": no invoices"_s;
     const QString invoices = span.count == 1 ? u"1 invoice"_s : u"%1 invoices"_s.arg(span.count);
-    const QString head = u"%1%2: %3, total %4, tax %5"_s.arg(span.name, day, invoices, Shown(span.invoices.total),
-                                                             Shown(span.invoices.tax));
+    const QString head = u"%1%2: %3, total %4, tax %5"_s.arg(span.name, day, invoices, ShownAmount(span.invoices.total),
+                                                             ShownAmount(span.invoices.tax));
     if (span.numbers.empty()) return head;
     return u"%1, numbers %2"_s.arg(head, Range(span.numbers.begin()->first, span.numbers.rbegin()->first));
 }

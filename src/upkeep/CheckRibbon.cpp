@@ -13,7 +13,7 @@ namespace {
 QString Shown(const Receipt& receipt) {
     QStringList details;
     if (receipt.day.isValid()) details.append(receipt.day.toString(Qt::ISODate));
-    if (receipt.total) details.append(QString::fromLatin1(WriteValue(*receipt.total)));
+    if (receipt.total) details.append(ShownAmount(*receipt.total));
     return details.isEmpty() ? receipt.number : u"%1 (%2)"_s.arg(receipt.number, details.join(u", "));
 }
 

@@ -8,12 +8,8 @@ namespace upkeep {
 
 namespace {
 
-QString Shown(Money money) {
-    return QString::fromLatin1(WriteValue(money));
-}
-
 void NoteUnlessEqual(const QString& kind, const QString& id, Money told, Money summed, Findings& findings) {
-    if (told != summed) findings.Note(kind, u"%1 (%2, not %3)"_s.arg(id, Shown(told), Shown(summed)));
+    if (told != summed) findings.Note(kind, u"%1 (%2, not %3)"_s.arg(id, ShownAmount(told), ShownAmount(summed)));
 }
 
 void NoteUnlessNumber(const QString& field, const QString& key, Findings& findings) {

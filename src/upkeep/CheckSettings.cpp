@@ -1,3 +1,4 @@
+#include "store/OptionsTable.h"
 #include "upkeep/Check.h"
 #include "upkeep/TableLoader.h"
 
@@ -6,13 +7,12 @@ using namespace Qt::StringLiterals;
 namespace upkeep {
 
 void CheckSettings(store::Database& options, Findings& findings) {
-    const store::Table& table = FindTable(options, u"Options"_s);
-    auto rows = OpenTable(options, table);
+    auto rows = OpenTable(options, FindTable(options, u"Options"_s));
     int count = 0;
     for (auto& row : rows) {
         ++count;
-        for (const store::Column& column : table.columns)
-            if (row[column.name].IsNull())
+        for (const store::OptionsColumn& column : store::OptionsColumns())
+            if (column.atStart == store::AtStart::Required && row[column.name].IsNull())
                 findings.Note(u"settings without a value, which start-up stops at"_s, column.name);
     }
     if (count != 1)

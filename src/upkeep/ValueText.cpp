@@ -131,6 +131,10 @@ QByteArray WriteText(const QString& text) {
     return cell;
 }
 
+QString ShownAmount(Money amount) {
+    return QString::fromLatin1(MoneyText(amount));
+}
+
 QByteArray WriteValue(const Value& value) {
     switch (value.GetKind()) {
         case Value::Kind::Null:

@@ -14,6 +14,8 @@ namespace upkeep {
 
 QByteArray WriteValue(const values::Value& value);
 QByteArray WriteText(const QString& text);
+// An amount in the same form, within a sentence.
+QString ShownAmount(values::Money amount);
 
 // The value of a column's type; what is not exactly of the form above throws StoreError 3421.
 values::Value ReadValue(const QByteArray& cell, store::Type type);
