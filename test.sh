@@ -4,4 +4,4 @@ set -euo pipefail
 cd "$(dirname "$0")"
 . packaging/setup.sh
 build_all
-ctest --test-dir build/release --output-on-failure "$@"
+ctest --test-dir build/release --output-on-failure --parallel "$(nproc)" "$@"

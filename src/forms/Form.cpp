@@ -207,7 +207,7 @@ void Form::ConnectTimer(QTimer* timer, std::function<void()> handler) {
 
 // The box tells of a choice once, and of one that changes the entry once more right before that. A change by the
 // program has nothing behind it: its entry may be chosen later, and that counts.
-void Form::WatchChoice(QComboBox* box, std::function<void()> handler) {
+void Form::WatchChoice(QComboBox* box, const std::function<void()>& handler) {
     const auto told = std::make_shared<int>(-1);
     connect(box, &QComboBox::currentIndexChanged, this, [told, handler](int entry) {
         handler();

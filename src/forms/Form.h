@@ -146,7 +146,7 @@ private:
 
     void WatchFocus(QWidget* control, std::function<void()> lost);
     void WatchMouse(QWidget* control, Qt::MouseButton button, std::function<void()> handler);
-    void WatchChoice(QComboBox* box, std::function<void()> handler);
+    void WatchChoice(QComboBox* box, const std::function<void()>& handler);
     void ConnectTimer(QTimer* timer, std::function<void()> handler);
 
     void Present();

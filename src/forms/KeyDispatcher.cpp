@@ -66,7 +66,7 @@ bool KeyDispatcher::eventFilter(QObject* watched, QEvent* event) {
 
 void KeyDispatcher::FollowFocus() {
     const int before = FocusReturn::Count();
-    const auto forms = LoadedForms();
+    const QList<Form*> forms(LoadedForms().begin(), LoadedForms().end());  // a handler may load or unload some
     for (Form* form : forms)
         if (IsFormLoaded(form)) form->behaviours_->FollowFocus();
     if (FocusReturn::Count() == before) return;

@@ -52,7 +52,7 @@ QPixmap Cached(const QString& path) {
     const QString key =
         u"%1|%2|%3"_s.arg(file.absoluteFilePath()).arg(file.size()).arg(file.lastModified().toMSecsSinceEpoch());
     if (QPixmap* known = cache.object(key)) return *known;
-    const QPixmap picture = Reader(path).Read();
+    QPixmap picture = Reader(path).Read();
     cache.insert(key, new QPixmap(picture), 1 + picture.width() * picture.height() * 4 / 1024);
     return picture;
 }

@@ -58,7 +58,7 @@ public:
             const int left = std::max(0, AnswerTimeoutMs - static_cast<int>(timer.elapsed()));
             if (::poll(&waiting, 1, left) == 0) return {};
             if (!Read(answer) && errno != EAGAIN && errno != EINTR) return {};
-            if (const auto found = find(answer)) return found;
+            if (auto found = find(answer)) return found;
         }
         return {};
     }

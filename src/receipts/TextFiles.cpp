@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 ChunkSize = 1024 * 1024;
+constexpr qint64 ChunkSize = qint64{1024} * 1024;
 
 [[noreturn]] void ThrowFileError(const QString& action, const QFileDevice& file) {
     throw values::Error(values::NumberOfFailure(file), action + file.fileName() + u": "_s + file.errorString() + u'.');

@@ -32,6 +32,7 @@ forms::ListColumn ListColumnOf(const ReportColumn& column) {
 
 std::vector<ListCell> CellsOf(const std::vector<ReportColumn>& columns) {
     std::vector<ListCell> cells;
+    cells.reserve(columns.size());
     for (const ReportColumn& column : columns)
         cells.push_back({column.field, column.look == Look::Amount ? u"0.00"_s : QString()});
     return cells;

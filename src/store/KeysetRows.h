@@ -18,7 +18,7 @@ public:
     Place Last() override;
     Place Next(Place place) override;
     Place Previous(Place place) override;
-    qint64 KnownCount() const override { return static_cast<qint64>(base_.size() + added_.size()); }
+    qint64 KnownCount() const override { return std::ssize(base_) + std::ssize(added_); }
     qint64 RowAt(Place place) const override;
     Place Find(qint64 row, Place likely) override;
     Data Load(Place place) override;

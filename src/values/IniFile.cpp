@@ -11,7 +11,7 @@ namespace values {
 
 namespace {
 
-constexpr qint64 LargestFile = 64 * 1024;
+constexpr qint64 LargestFile = qint64{64} * 1024;
 
 QString TextOf(const QString& path) {
     const QFileInfo info(path);

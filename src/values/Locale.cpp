@@ -64,7 +64,7 @@ const QString& UserLocaleName() {
 
 QString LocaleNameInEnvironment() {
     for (const char* variable : {"LC_ALL", "LC_CTYPE", "LANG"})
-        if (const QString name = qEnvironmentVariable(variable); !name.isEmpty()) return name;
+        if (QString name = qEnvironmentVariable(variable); !name.isEmpty()) return name;
     return {};
 }
 
