@@ -7,6 +7,6 @@ cd "$(dirname "$0")/.."
 . packaging/setup.sh
 install_missing $program_packages $test_packages clang-tidy
 cmake --preset lint >/dev/null
-headers=$(ninja -C build/lint -t targets all | sed -n 's/^\(.*ui_[^:]*\.h\):.*/\1/p')
-ninja -C build/lint $headers >/dev/null
+made=$(ninja -C build/lint -t targets all | sed -n 's/^\(.*ui_[^:]*\.h\|.*\.inc\):.*/\1/p')
+ninja -C build/lint $made >/dev/null
 run-clang-tidy -quiet -p build/lint -header-filter "^$PWD/(src|tools)/" "${1:-^$PWD/(src|tools)/.*\\.cpp$}"

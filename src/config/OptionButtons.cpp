@@ -2,9 +2,10 @@
 
 OptionButtons::OptionButtons(QString store::OptionsRow::*setting, std::vector<OptionButton> buttons)
     : setting_(setting), buttons_(std::move(buttons)) {
-    for (const auto& [button, text, sets] : buttons_)
-        if (sets)
-            QObject::connect(button, &QRadioButton::clicked, button, [setting, text] { TheSettings.*setting = text; });
+    for (const OptionButton& option : buttons_)
+        if (option.sets)
+            QObject::connect(option.button, &QRadioButton::clicked, option.button,
+                             [setting, text = option.text] { TheSettings.*setting = text; });
 }
 
 void OptionButtons::Load(OptionsRecord& options) {

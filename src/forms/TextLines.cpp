@@ -4,7 +4,7 @@ namespace forms {
 
 namespace {
 
-constexpr qint64 chunkSize = 1024 * 1024;
+constexpr qint64 chunkSize = qint64{1024} * 1024;
 
 }  // namespace
 

@@ -14,7 +14,7 @@ namespace output {
 namespace {
 
 // A receipt or a fiscal sale fits, so that who reads the file meanwhile sees it whole or not at all.
-constexpr qsizetype BufferSize = 64 * 1024;
+constexpr qsizetype BufferSize = qsizetype{64} * 1024;
 
 }  // namespace
 

@@ -5,10 +5,11 @@
 namespace store {
 
 void RowBlock::DropGone() {
+    const auto begin = [this](int row) { return cells_.begin() + std::ptrdiff_t{row} * columns_; };
     int kept = 0;
     for (int row = 0; row < Rows(); ++row) {
         if (Gone(row)) continue;
-        if (kept != row) std::copy_n(cells_.begin() + row * columns_, columns_, cells_.begin() + kept * columns_);
+        if (kept != row) std::copy_n(begin(row), columns_, begin(kept));
         ++kept;
     }
     cells_.resize(static_cast<size_t>(kept) * static_cast<size_t>(columns_));

@@ -13,7 +13,7 @@ namespace store {
 
 namespace {
 
-QString Unquoted(QString text) {
+QString Unquoted(const QString& text) {
     const bool quoted = text.size() >= 2 && text.startsWith(u'"') && text.endsWith(u'"');
     return quoted ? text.sliced(1, text.size() - 2) : text;
 }

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // A text beyond this is no help to anybody, and could take long to lay out.
-constexpr qint64 LongestText = 256 * 1024;
+constexpr qint64 LongestText = qint64{256} * 1024;
 
 const auto Missing = u"The help text is not there.\n\nIt should be in this file:\n%1"_s;
 const auto Unreadable = u"The help text cannot be read: %1\n\nIt is in this file:\n%2"_s;
@@ -78,7 +78,7 @@ void frmHelp::ListHeadings() {
         if (block.blockFormat().headingLevel() == 0) continue;
         headings_.push_back(block);
         const int depth = block.blockFormat().headingLevel() - 1;
-        ui.lvContents->Add({QString(4 * depth, u' ') + block.text()});
+        ui.lvContents->Add({QString(qsizetype{4} * depth, u' ') + block.text()});
     }
     ui.lvContents->setVisible(headings_.size() > 1);
 }

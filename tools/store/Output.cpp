@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace tool {
 
 void Output::Write(const QByteArray& bytes) {
-    constexpr qsizetype block = 64 * 1024;
+    constexpr qsizetype block = qsizetype{64} * 1024;
     waiting_ += bytes;
     if (waiting_.size() >= block) Finish();
 }

@@ -68,9 +68,9 @@ struct Compiler::Cache {
     static constexpr size_t Most = 512;
 
     const Prepare prepare;
-    std::vector<Token> tokens;
-    std::u16string key;
-    std::unordered_map<std::u16string, std::shared_ptr<const Plan>, ShapeHash, std::equal_to<>> plans;
+    std::vector<Token> tokens{};
+    std::u16string key{};
+    std::unordered_map<std::u16string, std::shared_ptr<const Plan>, ShapeHash, std::equal_to<>> plans{};
 
     template <typename MakePlan>
     Query QueryOf(const QString& text, const MakePlan& makePlan) {
@@ -86,8 +86,7 @@ struct Compiler::Cache {
     }
 };
 
-Compiler::Compiler(const Schema& schema, Prepare prepare)
-    : schema_(&schema), cache_(std::make_unique<Cache>(std::move(prepare))) {}
+Compiler::Compiler(const Schema& schema, Prepare prepare) : schema_(&schema), cache_(new Cache{std::move(prepare)}) {}
 Compiler::~Compiler() = default;
 Compiler::Compiler(Compiler&&) noexcept = default;
 
