@@ -6,6 +6,9 @@
 #include <QMap>
 #include <algorithm>
 
+#include "support/UnderLocale.h"
+#include "values/Error.h"
+
 using namespace Qt::StringLiterals;
 
 namespace drivers {
@@ -122,12 +125,42 @@ void PrintTo(const CaseText& text, std::ostream* out) {
     *out << text.name.toStdString();
 }
 
-std::vector<CaseText> ReadCases(const QStringList& topics) {
+std::vector<CaseText> ReadCases(const QString& folder, const QStringList& topics) {
     std::vector<CaseText> cases;
     for (const QString& topic : topics)
-        std::ranges::move(CaseReader(QStringLiteral(CASES_FOLDER "/") + topic + u".txt"_s).Cases(),
+        std::ranges::move(CaseReader(QStringLiteral(TEST_DATA "/%1/%2.txt").arg(folder, topic)).Cases(),
                           std::back_inserter(cases));
     return cases;
+}
+
+namespace {
+
+std::string Outcome(const Function& function, const QStringList& arguments) {
+    try {
+        return function(arguments).toStdString();
+    } catch (const values::Error& error) {
+        return "error " + std::to_string(error.Number());
+    }
+}
+
+}  // namespace
+
+void CheckRows(const Step& step, const QMap<QString, Function>& functions) {
+    const QStringList locales = step.text.section(u" in "_s, 1).split(u' ');
+    EXPECT_FALSE(step.inner.empty()) << step.file << ':' << step.line;
+    for (const QString& name : step.text.section(u" in "_s, 0, 0).split(u" & "_s)) {
+        if (!functions.contains(name))
+            ADD_FAILURE() << step.file << ':' << step.line << ": what is " << name.toStdString();
+        for (const QString& locale : locales) {
+            const UnderLocale under(locale.isEmpty() ? QLocale::c() : QLocale(locale));
+            for (const Step& row : step.inner) {
+                QStringList cells = row.text.split(u" | "_s);
+                const std::string expected = cells.takeLast().toStdString();
+                EXPECT_EQ(Outcome(functions[name], cells), expected)
+                    << row.file << ':' << row.line << ": " << name.toStdString() << " in " << locale.toStdString();
+            }
+        }
+    }
 }
 
 }  // namespace drivers

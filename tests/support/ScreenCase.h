@@ -85,6 +85,7 @@ QString SettingInForce(const QString& field);
 }  // namespace drivers
 
 // All cases of some topics, in the test program of their room.
-#define INSTANTIATE_SCREEN_CASES(room, ...)                                                          \
-    INSTANTIATE_TEST_SUITE_P(room, ScreenCase, testing::ValuesIn(drivers::ReadCases({__VA_ARGS__})), \
+#define INSTANTIATE_SCREEN_CASES(room, ...)                                                                   \
+    INSTANTIATE_TEST_SUITE_P(room, ScreenCase,                                                                \
+                             testing::ValuesIn(drivers::ReadCases(QStringLiteral("screens"), {__VA_ARGS__})), \
                              [](const auto& info) { return info.param.name.toStdString(); })

@@ -28,7 +28,7 @@ TEST_P(WrongCase, FailsWithTheseWordsAndItsLine) {
     EXPECT_NE(message.find("screens/wrong.txt:"), std::string::npos) << message;
 }
 
-INSTANTIATE_TEST_SUITE_P(Drivers, WrongCase, testing::ValuesIn(drivers::ReadCases({u"wrong"_s})),
+INSTANTIATE_TEST_SUITE_P(Drivers, WrongCase, testing::ValuesIn(drivers::ReadCases(u"screens"_s, {u"wrong"_s})),
                          [](const auto& info) { return info.param.name.toStdString(); });
 
 }  // namespace
