@@ -126,8 +126,4 @@ Value FromStored(const BoundValue& stored, Type type) {
     return {};
 }
 
-Type ShownType(const dialect::OutputColumn& column) {
-    return IsScaled(column.type) && column.scale > MoneyDecimals ? Type::Double : column.type;
-}
-
 }  // namespace store

@@ -18,7 +18,4 @@ values::Value FromStored(const RowBlock& rows, const RowBlock::Cell& cell, const
 // A value that waits to be stored, read back.
 values::Value FromStored(const dialect::BoundValue& stored, Type type);
 
-// The type of value that FromStored gives for an output column.
-Type ShownType(const dialect::OutputColumn& column);
-
 }  // namespace store

@@ -13,10 +13,6 @@ Recordset::Recordset(Recordset&&) noexcept = default;
 Recordset& Recordset::operator=(Recordset&&) noexcept = default;
 Recordset::~Recordset() = default;
 
-bool Recordset::Updatable() const {
-    return Open().keyset != nullptr;
-}
-
 bool Recordset::AtEOF() const {
     return Open().position == Impl::Position::After;
 }

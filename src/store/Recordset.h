@@ -68,7 +68,6 @@ public:
     ~Recordset();
 
     bool IsOpen() const { return impl_ != nullptr; }
-    bool Updatable() const;
 
     // Position. A cursor with rows opens on its first.
     bool AtEOF() const;
@@ -89,7 +88,6 @@ public:
     Field operator[](int position);
     int FieldCount() const;
     QString FieldName(int position) const;
-    Type FieldType(int position) const;
 
     // Changes. Update is one commit of its own; when it throws, the edit stays pending.
     void AddNew();

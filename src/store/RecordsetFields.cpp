@@ -117,9 +117,4 @@ QString Recordset::FieldName(int position) const {
     return Open().Output(position).name;
 }
 
-Type Recordset::FieldType(int position) const {
-    Open().CheckColumn(position);
-    return ShownType(Open().Output(position));
-}
-
 }  // namespace store

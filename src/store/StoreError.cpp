@@ -55,12 +55,8 @@ QString LineWithCaret(QStringView text, Span span) {
 
 }  // namespace
 
-QueryError::QueryError(Stage stage, int number, Span span, QString message, QString queryText, QStringList near)
-    : StoreError(number, std::move(message)),
-      stage_(stage),
-      span_(span),
-      queryText_(std::move(queryText)),
-      near_(std::move(near)) {}
+QueryError::QueryError(int number, Span span, QString message, QString queryText, QStringList near)
+    : StoreError(number, std::move(message)), span_(span), queryText_(std::move(queryText)), near_(std::move(near)) {}
 
 QString QueryError::Rendered() const {
     QString rendered = Description() + u'\n' + LineWithCaret(queryText_, span_);

@@ -56,23 +56,17 @@ struct Span {
     int length = 0;
 };
 
-// Where on its road a query text failed.
-enum class Stage { Lexer, Parser, Binder, Literal, Engine };
-
 // An error in a query text. Description() is one line; Rendered() adds the line of the query and a caret under the
 // span.
 class QueryError : public StoreError {
 public:
-    QueryError(Stage stage, int number, Span span, QString message, QString queryText, QStringList near = {});
+    QueryError(int number, Span span, QString message, QString queryText, QStringList near = {});
 
-    Stage GetStage() const { return stage_; }
-    Span GetSpan() const { return span_; }
     // Known names close to an unknown one, best first; may be empty.
     const QStringList& NearNames() const { return near_; }
     QString Rendered() const;
 
 private:
-    Stage stage_;
     Span span_;
     QString queryText_;
     QStringList near_;

@@ -47,13 +47,13 @@ TEST_F(DurabilityTest, ABatchIsAllOrNone) {
     {
         Database::Batch batch(*store);
         AddTaxes({u"B"_s, u"C"_s});
-        EXPECT_EQ(ErrorOf([&] { AddTax(u"b"_s, {}); }), DuplicateKey);
+        EXPECT_EQ(ErrorOf([&] { AddTaxes({u"b"_s}); }), DuplicateKey);
         EXPECT_EQ(ErrorOf([&] { Database::Batch second(*store); }), NotSupported);
-        EXPECT_EQ(Column(u"SELECT TaxID FROM Tax"_s).size(), 3);
+        EXPECT_EQ(Taxes(), 3);
         EXPECT_EQ(seen(), 1);
     }
     EXPECT_EQ(seen(), 1);
-    EXPECT_EQ(Column(u"SELECT TaxID FROM Tax"_s).size(), 1);
+    EXPECT_EQ(Taxes(), 1);
     Database::Batch batch(*store);
     AddTaxes({u"B"_s, u"C"_s});
     batch.Commit();
@@ -135,16 +135,16 @@ TEST_F(DurabilityTest, AKilledProcessLosesNothingThatWasAcknowledged) {
 TEST_F(DurabilityTest, EightRegistersSellOneProductToTheLastPiece) {
     constexpr int registers = 8;
     constexpr int sales = 40;
-    AddProduct(u"1"_s, u"Coffee"_s, Money::FromWhole(100));
+    AddProducts(100, 100);
     std::vector<pid_t> children;
     for (int i = 0; i < registers; ++i)
         children.push_back(InChild([&](Database& database) {
             for (int sale = 0; sale < sales; ++sale) {
-                auto product = database.OpenRecordset(u"SELECT * FROM Products WHERE ProdCode = '1'"_s);
+                auto product = database.OpenRecordset(u"SELECT * FROM Products WHERE ProdCode = '100'"_s);
                 for (;;) {
                     product.LockEdits(false);
                     product.Edit();
-                    product[u"Qty"] = product[u"Qty"].Money() - Units(5000);
+                    product[u"Qty"] = product[u"Qty"].Money() - Money::FromUnits(5000);
                     ErrorOf([&] { product.Update(); });
                     if (product.EditMode() == EditState::None) break;
                     product.CancelUpdate();
@@ -238,46 +238,38 @@ TEST_F(DurabilityTest, ABackupReplacesNoFileAndLeavesNoneWhenItFails) {
 // What somebody does to the files in the folder while a till is open.
 class LostFilesTest : public StoreTest {
 protected:
-    enum class Deed { DeletesLog, DeletesIndex, DeletesAll, MovesAway, RestoresABackup, RenamesTheFolder };
+    static inline const QStringList Endings{u""_s, u"-wal"_s, u"-shm"_s};
 
-    void Do(Deed deed) const {
-        const auto remove = [&](const QString& ending) { ASSERT_TRUE(QFile::remove(StorePath() + ending)); };
-        const auto moveAway = [&] {
-            for (const QString& ending : {u""_s, u"-wal"_s, u"-shm"_s})
-                ASSERT_TRUE(QFile::rename(StorePath() + ending, PathOf(u"old/ORVA.pos"_s + ending)));
-        };
-        switch (deed) {
-            case Deed::DeletesLog:
-                return remove(u"-wal"_s);
-            case Deed::DeletesIndex:
-                return remove(u"-shm"_s);
-            case Deed::DeletesAll:
-                for (const QString& ending : {u""_s, u"-wal"_s, u"-shm"_s}) remove(ending);
-                return;
-            case Deed::MovesAway:
-                return moveAway();
-            case Deed::RestoresABackup:
-                moveAway();
-                ASSERT_TRUE(QFile::copy(PathOf(u"backup.pos"_s), StorePath()));
-                return;
-            case Deed::RenamesTheFolder:
-                ASSERT_TRUE(QDir().rename(folder_.path(), folder_.path() + u"-renamed"_s));
-        }
+    void Remove(const QStringList& endings) const {
+        for (const QString& ending : endings) ASSERT_TRUE(QFile::remove(StorePath() + ending));
+    }
+    void MoveAway() const {
+        QDir().mkpath(PathOf(u"old"_s));
+        for (const QString& ending : Endings)
+            ASSERT_TRUE(QFile::rename(StorePath() + ending, PathOf(u"old/ORVA.pos"_s + ending)));
+    }
+    void Rename(const QString& from, const QString& to) const {
+        ASSERT_TRUE(QDir().rename(folder_.path() + from, folder_.path() + to));
     }
     QStringList Saved() const { return QDir(folder_.path()).entryList({u"ORVA-saved-*.pos"_s}); }
 };
 
 TEST_F(LostFilesTest, ALostStoreTakesNoMoreAndIsSavedBesideItsPlace) {
     const auto stored = QStringList{u"A"_s, u"B"_s};
-    for (const Deed deed :
-         {Deed::DeletesLog, Deed::DeletesIndex, Deed::DeletesAll, Deed::MovesAway, Deed::RestoresABackup}) {
-        SCOPED_TRACE(static_cast<int>(deed));
+    const std::vector<std::function<void()>> deeds = {
+        [&] { Remove({u"-wal"_s}); }, [&] { Remove({u"-shm"_s}); }, [&] { Remove(Endings); }, [&] { MoveAway(); },
+        [&] {
+            MoveAway();
+            ASSERT_TRUE(QFile::copy(PathOf(u"backup.pos"_s), StorePath()));
+        }};
+    for (size_t i = 0; i < deeds.size(); ++i) {
+        SCOPED_TRACE(i);
         QDir(folder_.path()).removeRecursively();
-        QDir().mkpath(PathOf(u"old"_s));
+        QDir().mkpath(folder_.path());
         store = Database::Create(StorePath(), MainSchema());
         store->BackupTo(PathOf(u"backup.pos"_s));
         AddTaxes(stored);
-        ASSERT_NO_FATAL_FAILURE(Do(deed));
+        ASSERT_NO_FATAL_FAILURE(deeds[i]());
 
         const auto isRefused = [](const auto& write) {
             try {
@@ -309,7 +301,7 @@ TEST_F(LostFilesTest, ACommitOnItsWayIsNotAcknowledged) {
     {
         Database::Batch batch(*store);
         AddTaxes({u"B"_s});
-        Do(Deed::DeletesLog);
+        Remove({u"-wal"_s});
         EXPECT_EQ(ErrorOf([&] { batch.Commit(); }), DiskError);
     }
     EXPECT_EQ(Column(u"SELECT TaxID FROM Tax"_s), QStringList{u"A"_s});
@@ -320,13 +312,13 @@ TEST_F(LostFilesTest, ACommitOnItsWayIsNotAcknowledged) {
 TEST_F(LostFilesTest, ABurstThatLostItsFilesDoesNotEndWell) {
     Burst burst(*store);
     AddTaxes({u"A"_s});
-    Do(Deed::DeletesAll);
+    Remove(Endings);
     EXPECT_EQ(ErrorOf([&] { burst.End(); }), DiskError);
 }
 
 TEST_F(LostFilesTest, WithoutRoomForACopyThisIsSaid) {
     AddTaxes({u"A"_s});
-    Do(Deed::RenamesTheFolder);
+    Rename({}, u"-renamed"_s);
     try {
         AddTaxes({u"B"_s});
         FAIL();
@@ -334,14 +326,14 @@ TEST_F(LostFilesTest, WithoutRoomForACopyThisIsSaid) {
         EXPECT_TRUE(error.Description().contains(u"no copy"_s)) << error.what();
     }
     store.reset();
-    QDir().rename(folder_.path() + u"-renamed"_s, folder_.path());
+    Rename(u"-renamed"_s, {});
     store = OpenAgain();
     EXPECT_EQ(Column(u"SELECT TaxID FROM Tax"_s), QStringList{u"A"_s});
 }
 
 TEST_F(LostFilesTest, AnEndWithoutAWriteSavesWhatWasWritten) {
     AddTaxes({u"A"_s});
-    Do(Deed::DeletesAll);
+    Remove(Endings);
     store.reset();
     EXPECT_EQ(Saved().size(), 1);
 }

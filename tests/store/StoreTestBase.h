@@ -3,10 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QTemporaryDir>
-
 #include "store/Database.h"
 #include "support/ErrorOf.h"
+#include "support/TestFolder.h"
 #include "values/Locale.h"
 
 // So that a failed comparison shows words instead of bytes.
@@ -26,10 +25,6 @@ using namespace Qt::StringLiterals;
 using values::Money;
 using values::Value;
 
-inline Money Units(qint64 tenThousandths) {
-    return Money::FromUnits(tenThousandths);
-}
-
 // A new main store in a folder of its own; the tests see it through Database and Recordset alone.
 class StoreTest : public testing::Test {
 protected:
@@ -39,25 +34,28 @@ protected:
     QString StorePath() const { return PathOf(u"ORVA.pos"_s); }
     std::unique_ptr<Database> OpenAgain() const { return Database::Open(StorePath(), MainSchema()); }
 
-    void AddProduct(const QString& code, const QString& name, Money quantity = {}) {
+    void AddProducts(int first, int last) {
+        Database::Batch batch(*store);
         auto products = store->OpenRecordset(u"SELECT * FROM Products"_s);
-        products.AddNew();
-        products[u"ProdCode"] = code;
-        products[u"ProdDescription"] = name;
-        products[u"Qty"] = quantity;
-        products.Update();
-    }
-    void AddTax(const QString& id, const QString& name, Money percent = {}) {
-        auto taxes = store->OpenRecordset(u"SELECT * FROM Tax"_s);
-        taxes.AddNew();
-        taxes[u"TaxID"] = id;
-        taxes[u"Name"] = name;
-        taxes[u"Percent"] = percent;
-        taxes.Update();
+        for (int i = first; i <= last; ++i) {
+            products.AddNew();
+            products[u"ProdCode"] = QString::number(i);
+            products[u"ProdDescription"] = u"product %1"_s.arg(i);
+            products[u"Qty"] = i;
+            products.Update();
+        }
+        batch.Commit();
     }
     void AddTaxes(const QStringList& ids) {
-        for (const QString& id : ids) AddTax(id, u"tax "_s + id);
+        auto taxes = store->OpenRecordset(u"SELECT * FROM Tax"_s);
+        for (const QString& id : ids) {
+            taxes.AddNew();
+            taxes[u"TaxID"] = id;
+            taxes[u"Name"] = u"tax "_s + id;
+            taxes.Update();
+        }
     }
+    qsizetype Taxes() { return Column(u"SELECT TaxID FROM Tax"_s).size(); }
     // The first column of a query as texts, nulls as "".
     static QStringList Column(Database& database, const QString& query) {
         QStringList texts;
@@ -67,7 +65,7 @@ protected:
     }
     QStringList Column(const QString& query) { return Column(*store, query); }
 
-    QTemporaryDir folder_;
+    QTemporaryDir folder_{FolderTemplate()};
     std::unique_ptr<Database> store = Database::Create(StorePath(), MainSchema());
 };
 

@@ -26,8 +26,7 @@ constexpr int FirstUnnamed = 1000;
 
 class Binder {
 public:
-    Binder(const Schema& schema, const QString& text)
-        : fail_(Stage::Binder, text), scope_(schema, fail_), exprs_(scope_, fail_) {}
+    Binder(const Schema& schema, const QString& text) : fail_(text), scope_(schema, fail_), exprs_(scope_, fail_) {}
 
     BoundStatement Whole(const Select& select) {
         bound_.from = Tables(select.from);

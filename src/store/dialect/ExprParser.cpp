@@ -198,28 +198,24 @@ ExprPtr ExprParser::Call() {
 
 ExprPtr ExprParser::LiteralToken() {
     const Token& token = reader_.Advance();
-    LiteralExpr literal{{Literal::Kind::Text, ContentOf(reader_.Text(), token), token.span}, Type::Text, literals_++};
+    LiteralExpr literal{Type::Text, literals_++};
     switch (token.lexeme) {
         case Lexeme::Whole:
-            literal.literal.kind = Literal::Kind::Whole;
             literal.type = Type::Whole;
             break;
         case Lexeme::Decimal:
-            literal.literal.kind = Literal::Kind::Decimal;
             literal.type = Type::Decimal;
             break;
         case Lexeme::LongDecimal:
-            literal.literal.kind = Literal::Kind::Decimal;
             literal.type = Type::Double;
             break;
         case Lexeme::Date:
-            literal.literal.kind = Literal::Kind::Date;
             literal.type = Type::Date;
             break;
         default:
             break;
     }
-    return Node(token.span.offset, 0, std::move(literal));
+    return Node(token.span.offset, 0, literal);
 }
 
 }  // namespace store::dialect

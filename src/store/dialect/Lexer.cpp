@@ -56,8 +56,7 @@ bool IsDigit(QChar c) {
 
 class Scanner {
 public:
-    Scanner(const QString& text, std::vector<Token>& tokens)
-        : text_(text), tokens_(tokens), fail_(Stage::Lexer, text) {}
+    Scanner(const QString& text, std::vector<Token>& tokens) : text_(text), tokens_(tokens), fail_(text) {}
 
     void Run() {
         while (SkipBlanks()) {
@@ -192,7 +191,7 @@ private:
 void Lex(const QString& text, std::vector<Token>& tokens) {
     tokens.clear();
     if (text.size() >= std::numeric_limits<int>::max()) {
-        Complaint(Stage::Lexer, text)(SyntaxError, {0, 1}, u"The query text is too long."_s);
+        Complaint{text}(SyntaxError, {0, 1}, u"The query text is too long."_s);
     }
     Scanner(text, tokens).Run();
 }

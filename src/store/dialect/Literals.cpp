@@ -61,7 +61,7 @@ std::optional<QDate> ReadLiteralDate(QStringView content) {
 
 class Reader {
 public:
-    Reader(const QString& text, const Token& literal) : text_(text), literal_(literal), fail_(Stage::Literal, text) {}
+    Reader(const QString& text, const Token& literal) : text_(text), literal_(literal), fail_(text) {}
 
     BoundValue As(Target target) const {
         switch (literal_.lexeme) {

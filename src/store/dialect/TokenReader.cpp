@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 namespace store::dialect {
 
 TokenReader::TokenReader(const QString& text, const std::vector<Token>& tokens)
-    : text_(text), tokens_(tokens), fail_(Stage::Parser, text) {}
+    : text_(text), tokens_(tokens), fail_(text) {}
 
 bool TokenReader::SeesAhead(std::initializer_list<Lexeme> lexemes) const {
     return std::equal(lexemes.begin(), lexemes.end(), tokens_.begin() + static_cast<std::ptrdiff_t>(at_),

@@ -14,14 +14,6 @@ namespace store::dialect {
 struct Expr;
 using ExprPtr = std::unique_ptr<Expr>;
 
-// A literal of one query text.
-struct Literal {
-    enum class Kind { Text, Whole, Decimal, Date };
-    Kind kind;
-    QString text;  // a text without its quotes and with '' undoubled; a number as written; a date as mm-dd-yyyy
-    Span span;
-};
-
 // Binding from loose to tight: OR, AND, NOT, comparisons, &, + -, * /, the unary minus.
 enum class Op {
     Or,
@@ -38,7 +30,7 @@ enum class Op {
     Multiply,
     Divide,
 };
-enum class Level { Or, And, Not, Compare, Join, Add, Multiply, Minus, Primary };
+enum class Level { Or, And, Not, Compare, Join, Add, Multiply, Minus };
 Level LevelOf(Op op);
 QLatin1StringView SignOf(Op op);
 
@@ -48,7 +40,6 @@ struct NameExpr {
     QString name;
 };
 struct LiteralExpr {
-    Literal literal;
     Type type;
     int index;  // by appearance in the text, from 0
 };

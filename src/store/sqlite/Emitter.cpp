@@ -104,8 +104,8 @@ Pieces Emit(const dialect::Plan& plan, const QString& text) {
     for (const std::string* piece :
          {&pieces.columns, &pieces.from, &pieces.where, &pieces.group, &pieces.having, &pieces.order, &pieces.set}) {
         if (DeepestBrackets(*piece) <= MostBrackets) continue;
-        dialect::Complaint(Stage::Engine, text)(SyntaxError, {0, static_cast<int>(text.size())},
-                                                u"The query text is nested too deeply."_s);
+        dialect::Complaint{text}(SyntaxError, {0, static_cast<int>(text.size())},
+                                 u"The query text is nested too deeply."_s);
     }
     return pieces;
 }
