@@ -1,0 +1,184 @@
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+
+#include "delivery/Delivery.h"
+#include "store/Database.h"
+#include "support/CaseText.h"
+#include "support/TestFolder.h"
+#include "support/ValueOf.h"
+#include "upkeep/ValueText.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A case is a talk with a shell, in a folder that holds `shop`, a program folder with delivered stores: "$ " is typed,
+// and "> " behind it; the lines below are the answer: the output, then the error output behind "! ". The exit code is 1
+// where an error's number is told and 0 elsewhere, or the last line says "exit N". In an answer "|" is a tab, "~" an
+// empty line, "..." any text, and as a line any lines. What stands before the first case is defined in all of them.
+struct Talk {
+    QString name, file, shell;
+    std::vector<std::pair<int, QString>> lines;
+};
+
+void PrintTo(const Talk& talk, std::ostream* out) {
+    *out << talk.name.toStdString();
+}
+
+std::vector<Talk> Talks() {
+    std::vector<Talk> talks;
+    for (const auto& topic :
+         {u"backup"_s, u"check"_s, u"delivery"_s, u"files"_s, u"insert"_s, u"load"_s, u"new"_s, u"sql"_s}) {
+        QFile file(QStringLiteral(TEST_DATA "/tools/%1.txt").arg(topic));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << topic.toStdString();
+        QString shell;
+        bool isInCase = false;
+        for (int number = 1; const QString& line : QString::fromUtf8(file.readAll()).split(u'\n')) {
+            isInCase = isInCase || line.startsWith(u"== ");
+            if (line.startsWith(u"== "))
+                talks.push_back({line.mid(3), file.fileName(), shell, {}});
+            else if (!isInCase)
+                shell += line + u'\n';
+            else if (!line.isEmpty() && !line.startsWith(u"# "))
+                talks.back().lines.emplace_back(number, line);
+            ++number;
+        }
+    }
+    return talks;
+}
+
+const auto Shell =
+    uR"(
+tool() { LC_ALL=${locale:-en_US.UTF-8} "$TOOL" "$@"; }
+sql() { tool sql shop "$@"; }
+insert() { tool insert shop "$@"; }
+check() { tool check shop; }
+bytes() { printf "$2" | tr '|' '\t' > rows.tsv; tool load shop "$1" rows.tsv; }
+load() { bytes "$1" "$2\n"; }
+raw() { "$SQLITE" --sqlite shop/ORVA.pos "$1"; }
+beside() { cp "$TOOL" velton-store; echo 'the program' > velton; }
+)"_s;
+
+QStringList LinesOf(const QByteArray& output, const QString& before) {
+    QStringList lines = QString::fromUtf8(output).replace(u'\t', u'|').split(u'\n');
+    if (lines.last().isEmpty()) lines.removeLast();
+    for (QString& line : lines) line = line.isEmpty() ? u"~"_s : before + line;
+    return lines;
+}
+
+class ToolTest : public testing::TestWithParam<Talk> {
+protected:
+    ToolTest() { delivery::MakeProgramFolder(folder_.filePath(u"shop"_s), false); }
+
+    QString Answer(const QString& command) const {
+        QProcess process;
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+        environment.insert(u"TOOL"_s, QStringLiteral(PROGRAMS "/velton-store"));
+        environment.insert(u"SQLITE"_s, QCoreApplication::applicationFilePath());
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(folder_.path());
+        process.start(u"bash"_s, {u"-c"_s, Shell + GetParam().shell + command}, QIODevice::ReadOnly);
+        if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit) return u"a crash\n"_s;
+        const QStringList errors = LinesOf(process.readAllStandardError(), u"! "_s);
+        QStringList answer = LinesOf(process.readAllStandardOutput(), {}) + errors;
+        const bool fails = !errors.filter(QRegularExpression(u"^! [0-9]+: "_s)).isEmpty();
+        if (process.exitCode() != (fails ? 1 : 0)) answer += u"exit %1"_s.arg(process.exitCode());
+        answer += QString();
+        return answer.join(u'\n');
+    }
+
+    void Expect(int line, const QString& command, const QStringList& expected) const {
+        QString pattern;
+        for (const QString& one : expected)
+            pattern +=
+                one == u"..." ? u"(.*\n)*"_s : QRegularExpression::escape(one).replace(u"\\.\\.\\."_s, u".*"_s) + u'\n';
+        const QString answer = Answer(command);
+        const QRegularExpression whole(QRegularExpression::anchoredPattern(pattern));
+        EXPECT_TRUE(whole.match(answer).hasMatch())
+            << GetParam().file.toStdString() << ':' << line << ": " << command.toStdString() << "\nanswers\n"
+            << answer.toStdString() << "and not\n"
+            << expected.join(u'\n').toStdString();
+    }
+
+    const QTemporaryDir folder_{FolderTemplate()};
+};
+
+}  // namespace
+
+TEST_P(ToolTest, AnswersAsItsCaseSays) {
+    QString command;
+    QStringList expected;
+    int begin = 0;
+    for (const auto& [number, line] : GetParam().lines) {
+        if (line.startsWith(u"$ ")) {
+            if (begin > 0) Expect(begin, command, expected);
+            begin = number;
+            command = line.mid(2);
+            expected.clear();
+        } else if (line.startsWith(u"> ") && expected.isEmpty()) {
+            command += u'\n' + line.mid(2);
+        } else {
+            expected += line;
+        }
+    }
+    ASSERT_GT(begin, 0);
+    Expect(begin, command, expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Tool, ToolTest, testing::ValuesIn(Talks()),
+                         [](const auto& info) { return info.param.name.toStdString(); });
+
+TEST(StoreFiles, AStoreThatSomebodyHoldsForHimselfIsToldSo) {
+    const QTemporaryDir folder(FolderTemplate());
+    delivery::MakeProgramFolder(folder.path(), false);
+    const auto database = store::Database::Open(folder.filePath(u"ORVA.pos"_s), store::MainSchema());
+    const store::Database::Batch held(*database);
+    QProcess tool;
+    tool.start(QStringLiteral(PROGRAMS "/velton-store"), {u"insert"_s, folder.path(), u"Unit"_s, u"Abr=x"_s});
+    EXPECT_TRUE(tool.waitForFinished());
+    EXPECT_TRUE(tool.readAllStandardError().startsWith("3356: "));
+}
+
+class CellTest : public testing::TestWithParam<drivers::CaseText> {};
+
+TEST_P(CellTest, GivesWhatItsRowsSay) {
+    const QStringList types{u"Null"_s,     u"Text"_s,   u"Whole"_s, u"Money"_s, u"Decimal"_s,
+                            u"Quantity"_s, u"Double"_s, u"Date"_s,  u"Time"_s,  u"YesNo"_s};
+    const auto cell = [&types](const QStringList& at) {
+        const values::Value value = upkeep::ReadValue(at[1].toUtf8(), static_cast<store::Type>(types.indexOf(at[0])));
+        EXPECT_EQ(upkeep::WriteValue(value), at[1].toUtf8());
+        return drivers::Told(value);
+    };
+    for (const drivers::Step& step : GetParam().steps.inner) CheckRows(step, {{u"Cell"_s, cell}});
+}
+
+INSTANTIATE_TEST_SUITE_P(Tool, CellTest, testing::ValuesIn(drivers::ReadCases(u"tools"_s, {u"cells"_s})),
+                         [](const auto& info) { return info.param.name.toStdString(); });
+
+TEST(ValueText, TextsThatNoFileOfCasesHoldsAreKeptOrRefused) {
+    const QString zero = QString(u'x') + QChar(u'\0') + u'y';
+    EXPECT_EQ(upkeep::WriteValue(zero), "x\\0y");
+    EXPECT_EQ(upkeep::WriteValue(0.1 + 0.2), "0.3");
+    EXPECT_EQ(upkeep::ReadValue("x\\0y", store::Type::Text), values::Value(zero));
+    EXPECT_EQ(upkeep::ReadValue("\xEF\xBB\xBFmark", store::Type::Text), values::Value(u"\uFEFFmark"_s));
+    for (const char* bytes : {"\xFF", "\xC4", "\xED\xA0\x80"})
+        EXPECT_THROW(upkeep::ReadValue(bytes, store::Type::Text), store::StoreError) << bytes;
+}
+
+// With "--sqlite FILE TEXT" it is the stranger who works on a store behind its back.
+int main(int argc, char** argv) {
+    if (argc == 4 && QByteArrayView(argv[1]) == "--sqlite") {
+        SQLite::Database(argv[2], SQLite::OPEN_READWRITE).exec(argv[3]);
+        return 0;
+    }
+    testing::InitGoogleTest(&argc, argv);
+    const QCoreApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
