@@ -66,25 +66,6 @@ private:
         }
     }
 
-    static void SetAll(Recordset& rows, const QString& fields) {
-        for (const QString& field : fields.split(u" | "_s)) rows[field.section(u'=', 0, 0)] = field.section(u'=', 1);
-    }
-    static void Add(Database& database, const QString& table, const QString& fields) {
-        auto rows = database.OpenRecordset(u"SELECT * FROM "_s + table);
-        rows.AddNew();
-        if (!fields.isEmpty()) SetAll(rows, fields);
-        rows.Update();
-    }
-    static QString Rows(Database& database, const QString& query) {
-        QStringList lines;
-        auto rows = database.OpenRecordset(query);
-        for (auto& row : rows) {
-            QStringList cells;
-            for (int i = 0; i < row.FieldCount(); ++i) cells += row[i].TextOrEmpty();
-            lines += cells.join(u'|');
-        }
-        return lines.join(u'\n');
-    }
     // Numbers that follow each other as "1..700".
     static QString Shortened(const QStringList& cells) {
         QStringList told;

@@ -46,6 +46,27 @@ protected:
         }
         batch.Commit();
     }
+    // Fields as "NAME=TEXT | NAME=TEXT".
+    static void SetAll(Recordset& rows, const QString& fields) {
+        for (const QString& field : fields.split(u" | "_s)) rows[field.section(u'=', 0, 0)] = field.section(u'=', 1);
+    }
+    static void Add(Database& database, const QString& table, const QString& fields) {
+        auto rows = database.OpenRecordset(u"SELECT * FROM "_s + table);
+        rows.AddNew();
+        if (!fields.isEmpty()) SetAll(rows, fields);
+        rows.Update();
+    }
+    // Cells divided by |.
+    static QString Rows(Database& database, const QString& query) {
+        QStringList lines;
+        auto rows = database.OpenRecordset(query);
+        for (auto& row : rows) {
+            QStringList cells;
+            for (int i = 0; i < row.FieldCount(); ++i) cells += row[i].TextOrEmpty();
+            lines += cells.join(u'|');
+        }
+        return lines.join(u'\n');
+    }
     void AddTaxes(const QStringList& ids) {
         auto taxes = store->OpenRecordset(u"SELECT * FROM Tax"_s);
         for (const QString& id : ids) {
