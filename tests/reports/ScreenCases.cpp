@@ -1,7 +1,6 @@
 #include "support/ScreenCase.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QRegularExpression>
 #include <QStringDecoder>
 #include <QTest>
@@ -116,37 +115,21 @@ void Walk(ScreenCase&, const QString& rest, const Step&) {
          Get<QAbstractButton>(at.Form(), rest)->click();
          EXPECT_EQ(drivers::List(at.Form(), u"lv1"), before);
      }},
-    {u"unselect"_s,
-     [](ScreenCase& at, const QString&, const Step&) { Get<forms::ListView>(at.Form(), u"lv1")->Select(-1); }},
     {u"keypad"_s,
      [](ScreenCase&, const QString& rest, const Step&) {
          QTest::keyClick(QApplication::focusWidget(), rest[0].toLatin1(), Qt::KeypadModifier);
      }},
-    {u"totals"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
-         EXPECT_EQ(Box(at.Form(), u"rtBox").count(u"TOTAL..."_s), rest.toInt());
-     }},
-    {u"session"_s,
-     [](ScreenCase&, const QString& rest, const Step&) { EXPECT_EQ(TheSession.LoginNumber, rest); }},
-    {u"close"_s, [](ScreenCase& at, const QString&, const Step&) { at.Form().close(); }},
-    {u"goes-on"_s, [](ScreenCase&, const QString&, const Step&) { EXPECT_FALSE(forms::ProgramIsEnding()); }},
+    {u"totals"_s, [](ScreenCase& at, const QString& rest,
+                     const Step&) { EXPECT_EQ(Box(at.Form(), u"rtBox").count(u"TOTAL..."_s), rest.toInt()); }},
+    {u"session"_s, [](ScreenCase&, const QString& rest, const Step&) { EXPECT_EQ(TheSession.LoginNumber, rest); }},
     {u"begin-again"_s,
      [](ScreenCase&, const QString&, const Step&) {
          forms::DropLoadedForms();
          forms::ResetProgramEnd();
      }},
-    {u"folder"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) { EXPECT_TRUE(QDir().mkdir(at.Path(rest))); }},
     {u"link"_s,
      [](ScreenCase& at, const QString& rest, const Step&) {
          EXPECT_TRUE(QFile::link(rest.section(u" | "_s, 1), at.Path(rest.section(u" | "_s, 0, 0))));
-     }},
-    {u"unlink"_s, [](ScreenCase& at, const QString& rest, const Step&) { EXPECT_TRUE(QFile::remove(at.Path(rest))); }},
-    // FILE | OTHER | END: the file is the other one and this end.
-    {u"copied"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
-         const QStringList parts = rest.split(u" | "_s);
-         EXPECT_EQ(at.File(parts[0]), at.File(parts[1]) + parts[2].toLatin1());
      }},
 });
 

@@ -7,31 +7,16 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <sys/syscall.h>
 #include <unistd.h>
-
-#include <cerrno>
 
 #include "core/mdiORVA.h"
 #include "output/NetworkPrinter.h"
+#include "support/Disk.h"
 #include "support/Till.h"
 
 using namespace Qt::StringLiterals;
 using drivers::Boxes;
 using drivers::Keys;
-
-namespace {
-
-bool diskRefuses = false;
-
-}  // namespace
-
-// The engine's way to bring its log to the disk.
-extern "C" int fdatasync(int file) {
-    if (!diskRefuses) return static_cast<int>(::syscall(SYS_fdatasync, file));
-    errno = EIO;
-    return -1;
-}
 
 namespace {
 
@@ -139,11 +124,11 @@ TEST_F(OutputFaultTest, ACodeTooLongForTheFirstLayoutEndsTheReceipt) {
 
 TEST_F(OutputFaultTest, APostingThatTheDiskRefusesMovesNoPaper) {
     LogIn();
-    diskRefuses = true;
+    drivers::diskRefuses = true;
     Boxes boxes;
     boxes.ExpectBeginning(u"3043The disk or the network refused the access"_s);
     Keys(u"100{Enter}{F5}");
-    diskRefuses = false;
+    drivers::diskRefuses = false;
     EXPECT_TRUE(File(u"lpt1.prn"_s).isEmpty());
     EXPECT_EQ(drivers::Get<QPushButton>(Sales(), u"cmdNew")->text(), u"F5-Print"_s);
 }

@@ -23,6 +23,11 @@ QString Unescaped(const QString& text) {
         {u'n', u"\n"_s}, {u'r', u"\r"_s}, {u's', u" "_s}, {u'0', {}}, {u'\\', u"\\"_s}};
     QString plain;
     for (qsizetype at = 0; at < text.size(); ++at) {
+        if (text.sliced(at).startsWith(u"\\u") && at + 6 <= text.size()) {
+            plain += QChar(text.sliced(at + 2, 4).toUShort(nullptr, 16));
+            at += 5;
+            continue;
+        }
         const bool isEscape = text[at] == u'\\' && at + 1 < text.size() && escapes.contains(text[at + 1]);
         plain += isEscape ? escapes[text[++at]] : QString(text[at]);
     }

@@ -28,7 +28,7 @@ void PrintTo(const CaseText& text, std::ostream* out);
 
 // "== Name" begins a case, "#" a remark; what stands before the first case begins them all. "let NAME = TEXT" puts the
 // text for $NAME from there on; "each A | B" repeats the lines under it with $_ for each of them. Any text may hold \n,
-// \r, \s (a blank), \0 (nothing) and \\.
+// \r, \s (a blank), \0 (nothing), \\ and \u001B (a character by its number).
 std::vector<CaseText> ReadCases(const QString& folder, const QStringList& topics);
 
 using Function = std::function<QString(const QStringList& arguments)>;

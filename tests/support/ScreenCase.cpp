@@ -51,7 +51,7 @@ void ScreenCase::PlayIn(forms::Form& form, const Step& block) {
 }
 
 void ScreenCase::LogInOnce() {
-    if (!std::exchange(loggedIn_, true)) LogIn(u"admin"_s);
+    if (!std::exchange(loggedIn_, true)) LogIn(user_);
 }
 
 QWidget& ScreenCase::Form() {
@@ -77,15 +77,17 @@ QString ScreenCase::Shown(const QString& what) {
     return value.toString();
 }
 
-forms::ListView& ScreenCase::List() {
-    auto* list = Form().findChild<forms::ListView*>();
+forms::ListView& ScreenCase::List(const QString& name) {
+    if (!name.isEmpty()) return Of<forms::ListView>(name);
+    auto* list = Form().findChild<forms::ListView*>(u"lv1"_s);
+    if (!list) list = Form().findChild<forms::ListView*>();
     if (!list) throw std::runtime_error("the form has no list");
     return *list;
 }
 
-QStringList ScreenCase::ListRows() {
+QStringList ScreenCase::ListRows(const QString& name) {
     QStringList rows;
-    for (const QStringList& cells : drivers::List(Form(), List().objectName())) rows << cells.join(u'|');
+    for (const QStringList& cells : drivers::List(Form(), List(name).objectName())) rows << cells.join(u'|');
     return rows;
 }
 

@@ -12,30 +12,30 @@ namespace drivers {
 // between " | "; a form that a line brings up stands behind " => ", and the lines under it are played in that form,
 // which is closed after them if it is still there. Every box that a line brings up stands in the lines before it, and
 // has to come with that line and no later. Without a `login` of its own a case begins with the administrator at the
-// till.
+// till, or with the user that `as` names.
 //
 // To begin with, and in between:
 //   run QUERY            an action query, on the store that has the table; another register acts like this, too
 //   load TABLE           the rows under it: names of fields, then a line a row, cells divided by |
-//   login USER, restart  at the start, or after a crash
-//   locale NAME; clock DATE TIME; clipboard TEXT; write FILE | TEXT
+//   as USER; login USER; login (the screen alone); crash; restart (a crash, and the user of `as` again)
+//   locale NAME; clock DATE TIME; clipboard TEXT; write FILE | TEXT; remove FILE; folder NAME; engine SQL
 // What is done:
-//   open ENTRY           of the menu; keys KEYS; go CONTROL (it gets the focus)
+//   open ENTRY           of the menu; keys KEYS; go CONTROL (it gets the focus); close (by its window)
 //   type CONTROL KEYS    over what stands there
 //   click CONTROL, tool NAME (of the tool bar), tab NUMBER
 //   in FORM              goes on in a form that is open beside the others, until it is gone
-//   clickrow N, rightclickrow N, doubleclickrow N     of the form's list; -1 is below its rows
+//   clickrow N, rightclickrow N, doubleclickrow N     of the form's list; -1 is below its rows; selectrow N
 // What comes up, in this order, at the next thing that is done:
 //   box TEXT | TITLE | ICON | BUTTON   Ok is pressed, or the button; "3021..." is how a text begins
 //   pick PATH | TITLE                  a file is chosen, or with no path none
 //   help FILE                          comes up and is closed
 // What has to be:
-//   see CONTROL=TEXT | CONTROL.property=VALUE | CONTROL^BEGINNING | CONTROL~PART
-//   focus CONTROL; title TEXT; loaded FORM; unloaded FORM; ended CODE (of the program)
-//   list, row N CELLS, codes CODE | CODE, count N     the list, the cells of a row joined by |
+//   see CONTROL=TEXT | CONTROL.property=VALUE | CONTROL^BEGINNING | CONTROL~PART | CONTROL!NO PART | CONTROL$END
+//   focus CONTROL; title TEXT; loaded FORM; unloaded FORM; ended CODE (of the program); goes-on
+//   list, row N CELLS, codes CODE | CODE, count N     the list, the cells of a row joined by |; list NAME
 //   rows QUERY           with the rows under it
 //   runs FIELD=TEXT      settings in force
-//   file NAME=TEXT       ^ and ~ as for `see`; nofile NAME
+//   file NAME=TEXT       and the other signs of `see`; nofile NAME; copied FILE | OTHER | END (the other and this)
 class ScreenCase : public TillTest, public testing::WithParamInterface<CaseText> {
 public:
     using Word = std::function<void(ScreenCase& at, const QString& rest, const Step& step)>;
@@ -46,8 +46,11 @@ public:
     QWidget& Form();
     void GoOnIn(forms::Form& form) { forms_ << &form; }
     Boxes& Coming() { return boxes_; }
+    using TillTest::Crash;
     using TillTest::File;
+    using TillTest::LogIn;
     using TillTest::Path;
+    using TillTest::Setting;
 
 protected:
     void Play(const Step& block);
@@ -71,11 +74,12 @@ private:
         return *found;
     }
     QString Shown(const QString& what);
-    forms::ListView& List();
-    QStringList ListRows();
+    forms::ListView& List(const QString& name = {});
+    QStringList ListRows(const QString& name = {});
 
     Boxes boxes_;
     QList<QPointer<forms::Form>> forms_;
+    QString user_ = QStringLiteral("admin");
     bool loggedIn_ = false;
 };
 

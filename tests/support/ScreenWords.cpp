@@ -2,11 +2,14 @@
 #include <QApplication>
 #include <QBuffer>
 #include <QClipboard>
+#include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QToolBar>
+
+#include <SQLiteCpp/Database.h>
 
 #include "core/Settings.h"
 #include "forms/Program.h"
@@ -36,19 +39,29 @@ void ExpectEqual(const QString& is, const QString& wanted) {
     EXPECT_EQ(is.toStdString(), wanted.toStdString());
 }
 
-// "NAME=TEXT", "NAME^BEGINNING" or "NAME~PART", several of them between " | ".
+// "NAME=TEXT" or another of the signs that `see` has, several of them between " | ".
 void ExpectShown(const QString& claims, const std::function<QString(const QString&)>& shown) {
-    static const QRegularExpression claim(u"^([^=^~]+)([=^~])(.*)$"_s, QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression claim(u"^([^=^~!$]+)([=^~!$])(.*)$"_s,
+                                          QRegularExpression::DotMatchesEverythingOption);
     for (const QString& text : claims.split(u" | "_s)) {
         const auto parts = claim.match(text);
         ASSERT_TRUE(parts.hasMatch()) << "no claim: " << text.toStdString();
         const QString is = shown(parts.captured(1));
         const QString wanted = parts.captured(3);
         SCOPED_TRACE(text.toStdString());
-        if (parts.captured(2) == u"=")
-            ExpectEqual(is, wanted);
-        else
-            EXPECT_TRUE(parts.captured(2) == u"^" ? is.startsWith(wanted) : is.contains(wanted)) << is.toStdString();
+        switch (parts.captured(2)[0].unicode()) {
+            case u'=':
+                ExpectEqual(is, wanted);
+                break;
+            case u'^':
+                EXPECT_TRUE(is.startsWith(wanted)) << is.toStdString();
+                break;
+            case u'$':
+                EXPECT_TRUE(is.endsWith(wanted)) << is.toStdString();
+                break;
+            default:
+                EXPECT_EQ(is.contains(wanted), parts.captured(2) == u"~") << is.toStdString();
+        }
     }
 }
 
@@ -147,12 +160,21 @@ QMap<QString, ScreenCase::Word> ScreenCase::States() {
         {u"login"_s,
          [](ScreenCase& at, const QString& rest, const Step&) {
              at.loggedIn_ = true;
-             at.LogIn(rest);
+             if (!rest.isEmpty()) return at.LogIn(rest);
+             at.ShowLogin();
+             if (auto* login = forms::FindForm(u"frmLogin")) at.GoOnIn(*login);
+         }},
+        {u"as"_s, [](ScreenCase& at, const QString& rest, const Step&) { at.user_ = rest; }},
+        {u"crash"_s,
+         [](ScreenCase& at, const QString&, const Step&) {
+             at.Crash();
+             at.loggedIn_ = false;
          }},
         {u"restart"_s,
          [](ScreenCase& at, const QString&, const Step&) {
              at.Crash();
-             at.LogIn(u"admin"_s);
+             at.loggedIn_ = true;
+             at.LogIn(at.user_);
          }},
         {u"locale"_s, [](ScreenCase&, const QString& rest, const Step&) { values::SetUserLocale(QLocale(rest)); }},
         {u"clock"_s,
@@ -165,7 +187,15 @@ QMap<QString, ScreenCase::Word> ScreenCase::States() {
          [](ScreenCase& at, const QString& rest, const Step&) {
              QFile file(at.Path(rest.section(u" | "_s, 0, 0)));
              EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-             file.write(rest.section(u" | "_s, 1).toUtf8());
+             file.write(rest.section(u" | "_s, 1).toLatin1());
+         }},
+        {u"remove"_s,
+         [](ScreenCase& at, const QString& rest, const Step&) { EXPECT_TRUE(QFile::remove(at.Path(rest))); }},
+        {u"folder"_s,
+         [](ScreenCase& at, const QString& rest, const Step&) { EXPECT_TRUE(QDir().mkdir(at.Path(rest))); }},
+        {u"engine"_s,
+         [](ScreenCase& at, const QString& rest, const Step&) {
+             SQLite::Database(at.Path(u"ORVA.pos"_s).toStdString(), SQLite::OPEN_READWRITE).exec(rest.toStdString());
          }},
     };
 }
@@ -186,6 +216,7 @@ QMap<QString, ScreenCase::Word> ScreenCase::Deeds() {
              Keys(rest);
          }},
         {u"go"_s, [](ScreenCase& at, const QString& rest, const Step&) { at.Of<QWidget>(rest).setFocus(); }},
+        {u"close"_s, [](ScreenCase& at, const QString&, const Step&) { at.Form().close(); }},
         {u"type"_s,
          [](ScreenCase& at, const QString& rest, const Step&) {
              const QString name = rest.section(u' ', 0, 0);
@@ -215,6 +246,7 @@ QMap<QString, ScreenCase::Word> ScreenCase::Deeds() {
              if (!form) throw std::runtime_error("the form is not there");
              at.GoOnIn(*form);
          }},
+        {u"selectrow"_s, [](ScreenCase& at, const QString& rest, const Step&) { at.List().Select(rest.toInt()); }},
         {u"clickrow"_s, [](ScreenCase& at, const QString& rest, const Step&) { ClickRow(&at.List(), rest.toInt()); }},
         {u"rightclickrow"_s,
          [](ScreenCase& at, const QString& rest, const Step&) { ClickRow(&at.List(), rest.toInt(), Qt::RightButton); }},
@@ -256,8 +288,9 @@ QMap<QString, ScreenCase::Word> ScreenCase::Checks() {
              EXPECT_TRUE(forms::ProgramIsEnding());
              EXPECT_EQ(forms::ProgramExitCode(), rest.toInt());
          }},
-        {u"list"_s, [](ScreenCase& at, const QString&,
-                       const Step& step) { ExpectEqual(Joined(at.ListRows()), Joined(Texts(step.inner))); }},
+        {u"goes-on"_s, [](ScreenCase&, const QString&, const Step&) { EXPECT_FALSE(forms::ProgramIsEnding()); }},
+        {u"list"_s, [](ScreenCase& at, const QString& rest,
+                       const Step& step) { ExpectEqual(Joined(at.ListRows(rest)), Joined(Texts(step.inner))); }},
         {u"row"_s,
          [](ScreenCase& at, const QString& rest, const Step&) {
              ExpectEqual(at.ListRows().value(rest.section(u' ', 0, 0).toInt()), rest.section(u' ', 1));
@@ -281,6 +314,11 @@ QMap<QString, ScreenCase::Word> ScreenCase::Checks() {
          }},
         {u"nofile"_s,
          [](ScreenCase& at, const QString& rest, const Step&) { EXPECT_FALSE(QFile::exists(at.Path(rest))); }},
+        {u"copied"_s,
+         [](ScreenCase& at, const QString& rest, const Step&) {
+             const QStringList parts = rest.split(u" | "_s);
+             EXPECT_EQ(at.File(parts[0]), at.File(parts[1]) + parts.value(2).toLatin1());
+         }},
     };
 }
 

@@ -4,12 +4,28 @@
 #include <QLocale>
 #include <QLoggingCategory>
 #include <QTemporaryDir>
+#include <cerrno>
 
 #include "forms/Theme.h"
 #include "player/Offscreen.h"
 #include "support/Answers.h"
+#include "support/Disk.h"
 
 using namespace Qt::StringLiterals;
+
+bool drivers::diskRefuses = false;
+int drivers::diskSyncs = 0;
+
+// In the place of the system's, also for the engine of the store.
+extern "C" int fdatasync(int /*file*/) {
+    ++drivers::diskSyncs;
+    if (drivers::diskRefuses) errno = EIO;
+    return drivers::diskRefuses ? -1 : 0;
+}
+
+extern "C" int fsync(int file) {
+    return fdatasync(file);
+}
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
