@@ -10,22 +10,35 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const auto Poster = QStringLiteral(PROGRAMS "/till-poster");
-const auto Tool = QStringLiteral(PROGRAMS "/velton-store");
 constexpr int ManyInvoices = 100000;
 
-// Real processes that post, killed at random moments or working side by side on one store.
+// Real processes that write, killed at random moments or working side by side on one store.
 class CrashTest : public drivers::TillTest {
 protected:
-    static std::unique_ptr<QProcess> StartPoster(const QString& folder, int invoices) {
+    static std::unique_ptr<QProcess> Start(const QStringList& arguments) {
         auto process = std::make_unique<QProcess>();
-        process->start(Poster, {folder, u"100"_s, QString::number(invoices)});
+        process->start(QStringLiteral(PROGRAMS "/till-worker"), arguments);
         return process;
+    }
+    static QStringList Selling(const QString& folder, int invoices) {
+        return {folder, u"sell"_s, u"100"_s, QString::number(invoices)};
+    }
+    static int Rounds(int usual) { return qEnvironmentVariableIntValue("VELTON_KILL_ROUNDS") ?: usual; }
+
+    // Kills a worker at some moment after its first word; the lines that it had said by then.
+    static QStringList Kill(const QStringList& arguments, quint32 mostMicroseconds) {
+        const auto worker = Start(arguments);
+        EXPECT_TRUE(worker->waitForReadyRead()) << worker->readAllStandardError().toStdString();
+        QThread::usleep(QRandomGenerator::global()->bounded(100u, mostMicroseconds));
+        kill(static_cast<pid_t>(worker->processId()), SIGKILL);
+        EXPECT_TRUE(worker->waitForFinished());
+        const QString said = QString::fromLatin1(worker->readAllStandardOutput());
+        return said.first(said.lastIndexOf(u'\n') + 1).split(u'\n', Qt::SkipEmptyParts);
     }
 
     void ExpectSoundStore() const {
         QProcess check;
-        check.start(Tool, {u"check"_s, folder.path()});
+        check.start(QStringLiteral(PROGRAMS "/velton-store"), {u"check"_s, folder.path()});
         ASSERT_TRUE(check.waitForFinished());
         EXPECT_EQ(check.exitCode(), 0) << check.readAllStandardError().toStdString()
                                        << check.readAllStandardOutput().toStdString();
@@ -33,16 +46,10 @@ protected:
 };
 
 TEST_F(CrashTest, KillingWhilePostingLosesNothingAcknowledged) {
-    const int rounds = qEnvironmentVariableIntValue("VELTON_KILL_ROUNDS") ?: 12;
+    const int rounds = Rounds(12);
     QStringList acknowledged;
     for (int round = 0; round < rounds; ++round) {
-        const auto poster = StartPoster(folder.path(), ManyInvoices);
-        ASSERT_TRUE(poster->waitForReadyRead(20000)) << poster->readAllStandardError().toStdString();
-        QThread::msleep(QRandomGenerator::global()->bounded(1u, 120u));
-        kill(static_cast<pid_t>(poster->processId()), SIGKILL);
-        ASSERT_TRUE(poster->waitForFinished());
-        const QString printed = QString::fromLatin1(poster->readAllStandardOutput());
-        acknowledged += printed.first(printed.lastIndexOf(u'\n') + 1).split(u'\n', Qt::SkipEmptyParts);
+        acknowledged += Kill(Selling(folder.path(), ManyInvoices), 120'000);
         ExpectSoundStore();
     }
     const QStringList stored = Rows(u"SELECT InvoiceID FROM Invoices"_s);
@@ -54,33 +61,62 @@ TEST_F(CrashTest, KillingWhilePostingLosesNothingAcknowledged) {
         EXPECT_TRUE(heads.contains(invoice)) << invoice.toStdString();
         EXPECT_TRUE(complete.contains(invoice + u"|3"_s)) << invoice.toStdString();
     }
-    RecordProperty("acknowledged", static_cast<int>(acknowledged.size()));
     std::printf("%d rounds, %lld invoices acknowledged, %lld stored\n", rounds,
                 static_cast<long long>(acknowledged.size()), static_cast<long long>(stored.size()));
+}
+
+TEST_F(CrashTest, KillingAnEndReportLeavesEachPeriodEitherOpenOrClosedAsAWhole) {
+    constexpr int periods = 300;
+    {
+        const auto main = store::Database::Open(Path(u"ORVA.pos"_s), store::MainSchema());
+        store::Database::Batch batch(*main);
+        auto sales = main->OpenRecordset(u"SELECT * FROM Sales"_s);
+        for (int number = 1; number <= periods; ++number) {
+            sales.AddNew();
+            sales[u"SalesID"] = QString::number(number);
+            sales.Update();
+        }
+        batch.Commit();
+    }
+    const QStringList closing{folder.path(), u"close"_s};
+    const auto open = u"SELECT SalesID FROM Sales WHERE Closed = False"_s;
+    for (int round = 0; round < Rounds(6); ++round) {
+        Run(u"UPDATE Sales SET Closed = False, Payed = False, DateStoped = Null, TimeStoped = Null, Grupni = Null"_s);
+        Kill(closing, 20'000);
+        EXPECT_EQ(Rows(u"SELECT SalesID FROM Sales"_s).size(), periods);
+        for (const QString& row : Rows(u"SELECT Closed, Payed, DateStoped, TimeStoped, Grupni, SalesID FROM Sales"_s)) {
+            const bool isOpen = row.startsWith(u"False|False||||"_s);
+            const bool isClosed = row.startsWith(u"True|True|11/24/2026|10:00:05 PM|"_s) && !row.contains(u"||"_s);
+            EXPECT_NE(isOpen, isClosed) << row.toStdString();
+        }
+        std::printf("%lld of %d periods open after a kill\n", static_cast<long long>(Rows(open).size()), periods);
+    }
+    const auto last = Start(closing);
+    ASSERT_TRUE(last->waitForFinished());
+    EXPECT_EQ(last->exitCode(), 0);
+    EXPECT_TRUE(Rows(open).isEmpty());
 }
 
 TEST_F(CrashTest, EightRegistersSellOneProductAndTheStockIsExact) {
     constexpr int registers = 8;
     constexpr int invoices = 25;
-    std::vector<std::unique_ptr<QProcess>> posters;
+    std::vector<std::unique_ptr<QProcess>> workers;
     std::vector<std::unique_ptr<QTemporaryDir>> folders;
     for (int number = 0; number < registers; ++number) {
         folders.push_back(std::make_unique<QTemporaryDir>());
         const QString own = folders.back()->path();
         delivery::MakeProgramFolder(own, false);
-        QFile::remove(own + u"/ORVA.pos"_s);
-        ASSERT_TRUE(QFile::copy(Path(u"opt.pos"_s), own + u"/opt2.pos"_s));
-        QFile::remove(own + u"/opt.pos"_s);
-        ASSERT_TRUE(QFile::rename(own + u"/opt2.pos"_s, own + u"/opt.pos"_s));
+        for (const QString& store : {u"/ORVA.pos"_s, u"/opt.pos"_s}) ASSERT_TRUE(QFile::remove(own + store));
+        ASSERT_TRUE(QFile::copy(Path(u"opt.pos"_s), own + u"/opt.pos"_s));
         QFile ini(own + u"/store.ini"_s);
         ASSERT_TRUE(ini.open(QIODevice::WriteOnly));
         ini.write("[main]\npath=" + folder.path().toUtf8() + "\n");
         ini.close();
-        posters.push_back(StartPoster(own, invoices));
+        workers.push_back(Start(Selling(own, invoices)));
     }
-    for (const auto& poster : posters) {
-        ASSERT_TRUE(poster->waitForFinished(120000));
-        EXPECT_EQ(poster->exitCode(), 0) << poster->readAllStandardError().toStdString();
+    for (const auto& worker : workers) {
+        ASSERT_TRUE(worker->waitForFinished(300'000));
+        EXPECT_EQ(worker->exitCode(), 0) << worker->readAllStandardError().toStdString();
     }
     // Each invoice sells one piece of 100 and a menu that takes two more of it.
     EXPECT_EQ(Rows(u"SELECT Qty FROM Products WHERE ProdCode = '100'"_s),
