@@ -1,4 +1,4 @@
-#include <QDir>
+#include <functional>
 
 #include "ReceiptCase.h"
 #include "core/Settings.h"
@@ -11,7 +11,7 @@ namespace {
 
 class ReceiptFailureTest : public ReceiptFixture {
 protected:
-    InvoiceText invoice = LoadShop(u"TrakaRacunaFileDA=1\nFiskalniRacunDA=1"_s);
+    InvoiceText invoice;
 
     // The number of the error, which is one that ends the program.
     int Print() {
@@ -26,7 +26,6 @@ protected:
         EXPECT_FALSE(output::Channel1().IsOpen());
         return number;
     }
-    void FillUp(const QString& name) { ASSERT_TRUE(QFile::link(u"/dev/full"_s, Path(name))); }
     // Whatever went wrong, the next receipt is whole.
     void ExpectTheNextReceiptIsPrinted() {
         SetPorts("lpt1=file:next.prn\n");
@@ -37,49 +36,44 @@ protected:
     }
 };
 
-TEST_F(ReceiptFailureTest, APrinterThatIsNotThereLeavesNoRibbonAndNoFiscalRecords) {
-    SetPorts("lpt1=/dev/no-such-printer\n");
-    EXPECT_EQ(Print(), values::DeviceUnavailable);
-    EXPECT_FALSE(Exists(u"invoices.txt"_s));
-    EXPECT_FALSE(Exists(u"fiscal.txt"_s));
-    ExpectTheNextReceiptIsPrinted();
-}
-
-TEST_F(ReceiptFailureTest, AFullPrinterDeviceLeavesNoRibbonAndNoFiscalRecords) {
-    SetPorts("lpt1=/dev/full\n");
-    EXPECT_EQ(Print(), values::DiskFull);
-    EXPECT_FALSE(Exists(u"invoices.txt"_s));
-    EXPECT_FALSE(Exists(u"fiscal.txt"_s));
-    ExpectTheNextReceiptIsPrinted();
-}
-
-TEST_F(ReceiptFailureTest, AFullDiskUnderTheRibbonComesBehindThePaperAndBeforeTheFiscalRecords) {
-    FillUp(u"invoices.txt"_s);
-    EXPECT_EQ(Print(), values::DiskFull);
-    EXPECT_TRUE(Read(u"lpt1.prn"_s).endsWith("\x1DVB\0"_ba));
-    EXPECT_FALSE(Exists(u"fiscal.txt"_s));
-    ExpectTheNextReceiptIsPrinted();
-}
-
-TEST_F(ReceiptFailureTest, AFullDiskUnderTheFiscalFileComesLast) {
-    FillUp(u"fiscal.txt"_s);
-    EXPECT_EQ(Print(), values::DiskFull);
-    EXPECT_TRUE(Read(u"lpt1.prn"_s).endsWith("\x1DVB\0"_ba));
-    EXPECT_TRUE(Read(u"invoices.txt"_s).endsWith("Thank you!\r\n\r\n\r\n"));
-}
-
-TEST_F(ReceiptFailureTest, AFiscalFileInAMissingFolderIsReported) {
-    TheSettings.FiskalniFile = u"missing\\fiscal.txt"_s;
-    EXPECT_EQ(Print(), values::PathNotFound);
-    TheSettings.FiskalniFile.clear();
-    EXPECT_EQ(Print(), values::PathFault);
-}
-
-TEST_F(ReceiptFailureTest, ACodeThatLeavesNoRoomEndsTheReceipt) {
-    invoice.items[0].code = QString(40, u'7');
-    EXPECT_EQ(Print(), values::InvalidCall);
-    EXPECT_FALSE(Exists(u"invoices.txt"_s));
-    ExpectTheNextReceiptIsPrinted();
+// The paper comes first, then the ribbon, then the fiscal records: what fails leaves nothing behind it.
+TEST_F(ReceiptFailureTest, WhatFailsKeepsWhatComesBehindItFromBeingWritten) {
+    struct Case {
+        const char* way;
+        std::function<void()> fail;
+        int error;
+        bool hasPaper, hasRibbon;
+    };
+    // A link to a device that is full has no text to be read.
+    const auto text = [this](const QString& name) {
+        return QFileInfo(Path(name)).isSymLink() ? QByteArray() : Read(name);
+    };
+    const auto port = [this](const QByteArray& place) { return [=, this] { SetPorts("lpt1=" + place + '\n'); }; };
+    const auto full = [this](const QString& name) { return [=, this] { QFile::link(u"/dev/full"_s, Path(name)); }; };
+    const auto fiscal = [](const QString& name) { return [=] { TheSettings.FiskalniFile = name; }; };
+    const Case cases[] = {
+        {"no printer", port("/dev/no-such-printer"), values::DeviceUnavailable, false, false},
+        {"a full printer", port("/dev/full"), values::DiskFull, false, false},
+        {"a code that leaves no room", [this] { invoice.items[0].code = QString(40, u'7'); }, values::InvalidCall,
+         false, false},
+        {"a full disk under the ribbon", full(u"invoices.txt"_s), values::DiskFull, true, false},
+        {"a full disk under the fiscal file", full(u"fiscal.txt"_s), values::DiskFull, true, true},
+        {"a fiscal file in a missing folder", fiscal(u"missing\\fiscal.txt"_s), values::PathNotFound, true, true},
+        {"no name of a fiscal file", fiscal({}), values::PathFault, true, true},
+    };
+    for (const auto& [way, fail, error, hasPaper, hasRibbon] : cases) {
+        SCOPED_TRACE(way);
+        SetPorts("lpt1=file:lpt1.prn\n");
+        invoice = LoadShop(u"TrakaRacunaFileDA=1\nFiskalniRacunDA=1"_s);
+        fail();
+        EXPECT_EQ(Print(), error);
+        EXPECT_EQ(Read(u"lpt1.prn"_s).endsWith("\x1DVB\0"_ba), hasPaper);
+        EXPECT_EQ(text(u"invoices.txt"_s).endsWith("Thank you!\r\n\r\n\r\n"), hasRibbon);
+        EXPECT_EQ(QFile(Path(u"fiscal.txt"_s)).size(), 0);
+        ExpectTheNextReceiptIsPrinted();
+        for (const QString& name : {u"lpt1.prn"_s, u"next.prn"_s, u"invoices.txt"_s, u"fiscal.txt"_s})
+            QFile::remove(Path(name));
+    }
 }
 
 TEST_F(ReceiptFailureTest, FiguresThatAreNoNumbersEndTheReceipt) {
@@ -95,6 +89,7 @@ TEST_F(ReceiptFailureTest, FiguresThatAreNoNumbersEndTheReceipt) {
 }
 
 TEST_F(ReceiptFailureTest, ANetworkPrinterTakesTheReceiptOrTheReceiptFails) {
+    invoice = LoadShop(u"TrakaRacunaFileDA=1\nFiskalniRacunDA=1"_s);
     {
         NetworkPrinter printer(NetworkPrinter::Manner::TakesAll);
         SetPorts("lpt1=tcp:127.0.0.1:" + printer.Port());
