@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <atomic>
 #include <thread>
 
 #include <arpa/inet.h>
@@ -9,7 +10,8 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-// A printer on the network that takes whole jobs, or some bytes and then it is switched off. Asked how it does it gives
+// A printer on the network that takes whole jobs, and may then keep the line open until somebody asks what it took, or
+// takes some bytes and then is switched off. Asked how it does it gives
 // its answers in turn, hangs up at HangsUp, and is silent when it has none left.
 class NetworkPrinter {
 public:
@@ -62,13 +64,14 @@ private:
             if (answer == HangsUp) break;
             ::send(job, answer.constData(), static_cast<size_t>(answer.size()), MSG_NOSIGNAL);
         }
-        if (manner_ == Manner::KeepsTheLineOpen) ::usleep(1'500'000);
+        while (manner_ == Manner::KeepsTheLineOpen && !isOver_) ::usleep(1000);
         if (manner_ == Manner::IsSwitchedOff)
             ::setsockopt(job, SOL_SOCKET, SO_LINGER, &switchedOff_, sizeof switchedOff_);
         ::close(job);
     }
     void Finish() {
         // A test that failed before it connected must not wait for a job that never comes.
+        isOver_ = true;
         ::shutdown(listener_, SHUT_RDWR);
         if (worker_.joinable()) worker_.join();
         if (listener_ >= 0) ::close(listener_);
@@ -80,6 +83,7 @@ private:
     int listener_ = -1;
     quint16 port_ = 0;
     bool isListening_ = false;
+    std::atomic<bool> isOver_ = false;
     QByteArray taken_;
     QList<QByteArray> answers_;
     std::thread worker_;
