@@ -20,14 +20,18 @@ namespace {
 
 // The page setup, in which A5 is chosen, and taken or not: what paper there is then.
 void ChoosePaper(ScreenCase& at, const QString& rest, const Step&) {
-    QTimer::singleShot(100, qApp, [rest] {
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&timer, rest] {
         auto* dialog = qobject_cast<QPageSetupDialog*>(QApplication::activeModalWidget());
-        ASSERT_TRUE(dialog);
+        if (!dialog) return;
+        timer.stop();
         auto* sizes = Get<QComboBox>(*dialog, u"pageSizeCombo");
         sizes->setCurrentIndex(sizes->findText(u"A5"_s));
         rest == u"A5" ? dialog->accept() : dialog->reject();
     });
+    timer.start(10);
     drivers::Click(Get<QAbstractButton>(at.Form(), u"cmdPrinter"));
+    EXPECT_FALSE(timer.isActive()) << "no page setup came up";
     const QPageLayout paper = output::ThePagePrinter().Paper();
     EXPECT_EQ(paper.pageSize().id(), rest == u"A5" ? QPageSize::A5 : QPageSize::A4);
     EXPECT_TRUE(rest != u"A5" || qAbs(paper.margins(QPageLayout::Millimeter).left() - 12) < 0.1);

@@ -155,6 +155,7 @@ TEST_F(ChannelTest, PortsWithoutAPrinterAreRefusedAndNothingIsMade) {
                                   "lpt1=tcp:localhost\n",
                                   "lpt1=tcp::9100\n",
                                   "lpt1=tcp:host:99999\n",
+                                  "lpt1=tcp:127.0.0.1:1\n",
                                   "lpt1=file:\n",
                                   "lpt1=tcp:\n",
                                   "lpt1=tcp:[::1\n",

@@ -58,16 +58,6 @@ TEST_F(NetworkPrinterTest, APrinterThatIsSwitchedOffInTheMiddleIsReported) {
     }
 }
 
-TEST_F(NetworkPrinterTest, APrinterThatIsNotThereIsReported) {
-    QByteArray port;
-    {
-        NetworkPrinter printer(Manner::TakesAll);
-        port = printer.Port();
-    }
-    SetPorts("lpt1=tcp:127.0.0.1:" + port);
-    EXPECT_EQ(ErrorOf([&] { Print("abc"); }), values::DeviceUnavailable);
-}
-
 TEST_F(NetworkPrinterTest, APrinterIsAskedHowItDoesInItsOwnWords) {
     struct Case {
         PrinterFamily family;

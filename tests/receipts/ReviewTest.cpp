@@ -139,13 +139,13 @@ protected:
 
 TEST_F(OddShopTest, ThePreviewHoldsWhatTheControlsShow) {
     AddOddInvoices();
-    for (const QString& locale : {u"en_US"_s, u"hr_HR"_s, u"de_CH"_s})
-        for (const QChar layout : u"12345678"_s) {
-            values::SetUserLocale(QLocale(locale));
-            TheSettings.TipRacuna = layout;
-            TheSettings.RekapPoreza = layout == u'4' ? u"2"_s : u"1"_s;
-            ExpectPreviewAsShown();
-        }
+    const QStringList locales = {u"en_US"_s, u"hr_HR"_s, u"de_CH"_s};
+    for (const QChar layout : u"12345678"_s) {
+        values::SetUserLocale(QLocale(locales[layout.digitValue() % 3]));
+        TheSettings.TipRacuna = layout;
+        TheSettings.RekapPoreza = layout == u'4' ? u"2"_s : u"1"_s;
+        ExpectPreviewAsShown();
+    }
 }
 
 TEST_F(ReviewTest, TenThousandInvoicesAreWrittenQuickly) {
