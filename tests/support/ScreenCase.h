@@ -26,7 +26,8 @@ namespace drivers {
 //   in FORM              goes on in a form that is open beside the others, until it is gone
 //   clickrow N, rightclickrow N, doubleclickrow N     of the form's list; -1 is below its rows; selectrow N
 // What comes up, in this order, at the next thing that is done:
-//   box TEXT | TITLE | ICON | BUTTON   Ok is pressed, or the button; "3021..." is how a text begins
+//   box TEXT | TITLE | ICON | BUTTON   Ok is pressed, or the button; "3021..." is how a text begins,
+//                                      {folder} where the case plays
 //   pick PATH | TITLE                  a file is chosen, or with no path none
 //   help FILE                          comes up and is closed
 // What has to be:

@@ -257,7 +257,8 @@ QMap<QString, ScreenCase::Word> ScreenCase::Deeds() {
 
 QMap<QString, ScreenCase::Word> ScreenCase::Announcements() {
     return {
-        {u"box"_s, [](ScreenCase& at, const QString& rest, const Step&) { ExpectBox(at.boxes_, rest); }},
+        {u"box"_s, [](ScreenCase& at, const QString& rest,
+                      const Step&) { ExpectBox(at.boxes_, QString(rest).replace(u"{folder}"_s, at.folder.path())); }},
         {u"pick"_s,
          [](ScreenCase& at, const QString& rest, const Step&) {
              const QString name = rest.section(u" | "_s, 0, 0);
