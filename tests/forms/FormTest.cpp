@@ -32,7 +32,7 @@ TEST_F(FormTest, LoadsOnceAndBeforeItIsShown) {
     EXPECT_EQ(form.objectName(), u"frmSample"_s);
 }
 
-TEST_F(FormTest, UnloadsUnlessItRefuses) {
+TEST_F(FormTest, UnloadsUnlessItRefusesAndCanBeLoadedAgain) {
     frmSample form;
     form.Show();
     Settle();
@@ -47,6 +47,11 @@ TEST_F(FormTest, UnloadsUnlessItRefuses) {
     EXPECT_FALSE(form.isVisible());
     EXPECT_FALSE(forms::IsFormLoaded(&form));
     EXPECT_EQ(forms::FindForm(u"frmSample"), nullptr);
+
+    form.log.clear();
+    form.Show();
+    Settle();
+    EXPECT_THAT(form.log, ElementsAre(u"load"_s, u"activate"_s));
 }
 
 TEST_F(FormTest, AControlThatIsNotThereIsAnError) {
@@ -55,16 +60,6 @@ TEST_F(FormTest, AControlThatIsNotThereIsAnError) {
     EXPECT_EQ(ErrorOf([&] { forms::Control(&form, u"txtNone"); }), values::NotSupported);
     EXPECT_EQ(ErrorOf([&] { forms::Control<QPushButton>(&form, u"txtCode"); }), values::NotSupported);
     EXPECT_EQ(ErrorOf([] { forms::Control(nullptr, u"txtCode"); }), values::NoObject);
-}
-
-TEST_F(FormTest, CanBeLoadedAgainAfterUnloading) {
-    frmSample form;
-    form.Show();
-    form.Unload();
-    form.log.clear();
-    form.Show();
-    Settle();
-    EXPECT_THAT(form.log, ElementsAre(u"load"_s, u"activate"_s));
 }
 
 TEST_F(FormTest, ShownModallyBlocksUntilUnloadedAndGivesTheFocusBack) {

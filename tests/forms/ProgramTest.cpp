@@ -107,13 +107,9 @@ TEST_F(ProgramTest, EndingLeavesEveryHandlerAndLoopAtOnce) {
     EXPECT_THROW(late.ShowModal(), forms::ProgramEnds);
 }
 
-TEST_F(ProgramTest, EndingBeforeTheMainLoopLetsItLeaveAtItsFirstTurn) {
+TEST_F(ProgramTest, EndingBeforeTheMainLoopLetsItLeaveAtItsFirstTurnAndAResetLivesAgain) {
     forms::Run([] { forms::EndProgram(3); }, {});
     EXPECT_EQ(QApplication::exec(), 3);
-}
-
-TEST_F(ProgramTest, AnEndedProgramLivesAgainAfterReset) {
-    forms::Run([] { forms::EndProgram(3); }, {});
     forms::ResetProgramEnd();
     Boxes boxes;
     boxes.Expect(u"alive"_s);
