@@ -16,7 +16,8 @@ namespace {
 [[maybe_unused]] const bool added = ScreenCase::AddWords({
     {u"picture"_s, [](ScreenCase& at, const QString& rest,
                       const Step&) { EXPECT_FALSE(Get<QAbstractButton>(at.Form(), rest)->icon().isNull()); }},
-    {u"session"_s, [](ScreenCase&, const QString& rest, const Step&) { EXPECT_EQ(TheSession.SessionUserID, rest); }},
+    {u"session-user"_s,
+     [](ScreenCase&, const QString& rest, const Step&) { EXPECT_EQ(TheSession.SessionUserID, rest); }},
     {u"to-the-till"_s, [](ScreenCase&, const QString&, const Step&) { mdiORVA::Window().activateWindow(); }},
     {u"window"_s,
      [](ScreenCase& at, const QString& rest, const Step&) {
