@@ -38,7 +38,9 @@ QString NameOf(QStringView section, QStringView key) {
 IniFile IniFile::Read(const QString& path) {
     IniFile ini;
     QString section;
-    for (const QString& rawLine : TextOf(path).replace(u'\r', u'\n').split(u'\n')) {
+    int number = 0;
+    for (const QString& rawLine : TextOf(path).replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n').split(u'\n')) {
+        ++number;
         const QString line = rawLine.trimmed();
         if (line.isEmpty() || line.startsWith(u';') || line.startsWith(u'#')) continue;
         if (line.startsWith(u'[') && line.endsWith(u']')) {
@@ -49,14 +51,19 @@ IniFile IniFile::Read(const QString& path) {
         // A head that is not closed is that of a section which nobody asks for.
         if (line.startsWith(u'[')) section = line;
         const qsizetype equals = line.indexOf(u'=');
-        if (equals > 0) ini.entries_[NameOf(section, line.first(equals))] = line.sliced(equals + 1).trimmed();
+        if (equals > 0) ini.entries_[NameOf(section, line.first(equals))] = {line.sliced(equals + 1).trimmed(), number};
     }
     return ini;
 }
 
+std::optional<IniFile::Value> IniFile::Find(const QString& section, const QString& key) const {
+    const auto value = entries_.constFind(NameOf(section, key));
+    return value == entries_.cend() ? std::nullopt : std::optional(*value);
+}
+
 std::optional<QString> IniFile::Entry(const QString& section, const QString& key) const {
-    const auto entry = entries_.constFind(NameOf(section, key));
-    return entry == entries_.cend() ? std::nullopt : std::optional(*entry);
+    const auto value = Find(section, key);
+    return value ? std::optional(value->text) : std::nullopt;
 }
 
 }  // namespace values

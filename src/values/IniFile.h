@@ -16,14 +16,19 @@ public:
     // FileError.
     static IniFile Read(const QString& path);
 
-    // What stands at a key. Sections and keys go in any case; of two equal keys the later one counts.
+    struct Value {
+        QString text;
+        int line = 0;  // from 1
+    };
+    // What stands at a key, and where. Sections and keys go in any case; of two equal keys the later one counts.
+    std::optional<Value> Find(const QString& section, const QString& key) const;
     std::optional<QString> Entry(const QString& section, const QString& key) const;
     // Whether there is nothing but words and the heads of sections.
     bool IsSilent() const { return isSilent_; }
 
 private:
     bool isSilent_ = true;
-    QHash<QString, QString> entries_;  // by "section]key" in small letters
+    QHash<QString, Value> entries_;  // by "section]key" in small letters
 };
 
 }  // namespace values
