@@ -80,7 +80,7 @@ private:
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     if (argc != 2) return 2;
-    forms::InstallTheme(application);
+    forms::InstallTheme();
     output::SetProgramFolder(QString::fromLocal8Bit(argv[1]));
     OpenOptionsStore();
     OpenMainStore();

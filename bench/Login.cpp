@@ -14,7 +14,7 @@ int main(int argc, char* argv[]) {
     if (argc != 2) return 2;
     output::SetProgramFolder(QString::fromLocal8Bit(argv[1]));
     bench::QuitWhenPainted(u"frmLogin"_s);
-    PrepareApplication(application);
+    PrepareApplication();
     if (StartProgram()) QApplication::exec();
     return forms::ProgramExitCode();
 }

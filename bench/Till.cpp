@@ -75,7 +75,7 @@ int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     if (argc != 3) return 2;
     output::SetProgramFolder(QString::fromLocal8Bit(argv[1]));
-    PrepareApplication(application);
+    PrepareApplication();
     if (!StartProgram() || !LogIn()) return 3;
     const int count = QByteArray(argv[2]).toInt();
     const qint64 before = StoredInvoices();

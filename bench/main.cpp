@@ -107,7 +107,7 @@ int main(int argc, char* argv[]) {
 
     qputenv("QT_LOGGING_RULES", "*.warning=false");  // what the off-screen platform lacks
     QApplication application(argc, argv);
-    forms::InstallTheme(application);
+    forms::InstallTheme();
     const QLocale locale(u"en_US"_s);
     QLocale::setDefault(locale);
     values::SetUserLocale(locale);

@@ -2,12 +2,15 @@
 
 #include <sys/stat.h>
 
+#include <QScreen>
 #include <csignal>
 
 #include "app/Screens.h"
+#include "core/Installation.h"
 #include "core/PrinterWait.h"
 #include "core/frmLogin.h"
 #include "core/mdiORVA.h"
+#include "forms/MsgBox.h"
 #include "forms/Theme.h"
 #include "sales/frmORVAtouch.h"
 
@@ -15,11 +18,26 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// What a file says that can't be used is told, and the till goes on without it.
+void TakeInstallation() {
+    QStringList refused;
+    try {
+        refused = ReadInstallation();
+    } catch (const values::Error& error) {
+        refused = {error.Description()};
+    }
+    forms::UseContrast(TheInstallation.contrast);
+    forms::FitTypeTo(QGuiApplication::primaryScreen()->availableSize());
+    if (!refused.isEmpty()) forms::Inform(refused.join(u'\n'), u"VELTON"_s);
+}
+
 // The main window opens with its child.
 void ShowSalesScreen() {
     mdiORVA& main = mdiORVA::Window();
     TieEntries(main);
     main.ShowChild(forms::Open<frmORVAtouch>());
+    // Where no window manager gives it the screen, it has that of itself.
+    main.setGeometry(main.screen()->availableGeometry());
     main.showMaximized();
     main.raise();
     main.activateWindow();
@@ -27,7 +45,7 @@ void ShowSalesScreen() {
 
 }  // namespace
 
-void PrepareApplication(QApplication& application) {
+void PrepareApplication() {
     ::umask(077);  // a shop's files belong to its user alone
     // A printer that hangs up and a file that may not grow any further are errors to report, not an end.
     std::signal(SIGPIPE, SIG_IGN);
@@ -35,11 +53,16 @@ void PrepareApplication(QApplication& application) {
     QApplication::setApplicationName(u"VELTON"_s);
     QApplication::setApplicationVersion(QStringLiteral(VELTON_VERSION));
     QApplication::setQuitOnLastWindowClosed(false);
-    forms::InstallTheme(application);
+    forms::InstallTheme();
 }
 
 bool StartProgram() {
     ShowWaitsOfOutput();
-    forms::Run([] { forms::Open<frmLogin>(ShowSalesScreen)->Show(); }, u"VELTON"_s);
+    forms::Run(
+        [] {
+            TakeInstallation();
+            forms::Open<frmLogin>(ShowSalesScreen)->Show();
+        },
+        u"VELTON"_s);
     return !forms::ProgramIsEnding() && !forms::LoadedForms().isEmpty();
 }

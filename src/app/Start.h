@@ -1,10 +1,8 @@
 #pragma once
 
-class QApplication;
-
 // What ties the rooms together: the look, which screen a menu entry opens, and what follows a good login.
 
-// The theme and the process-wide settings; once a process.
-void PrepareApplication(QApplication& application);
+// The theme and the process-wide settings; once a process, when its QApplication is there.
+void PrepareApplication();
 // Shows the login. False when the program already ended there.
 bool StartProgram();

@@ -5,7 +5,7 @@
 
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
-    PrepareApplication(application);
+    PrepareApplication();
     if (StartProgram()) QApplication::exec();
     return forms::ProgramExitCode();
 }

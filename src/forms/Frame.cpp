@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "forms/Controls.h"
+#include "forms/Theme.h"
 
 namespace forms {
 
@@ -38,6 +39,11 @@ Form* Frame::ActiveChild() const {
     for (auto* form : room_->findChildren<Form*>(Qt::FindDirectChildrenOnly))
         if (!form->isHidden()) return form;
     return nullptr;
+}
+
+void Frame::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    FitTypeTo(size());
 }
 
 void Frame::closeEvent(QCloseEvent* event) {

@@ -22,6 +22,7 @@ public:
 protected:
     // A window manager's or anybody else's request to close is refused in every case.
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     QWidget* room_;

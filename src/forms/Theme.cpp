@@ -5,7 +5,9 @@
 #include <QHash>
 #include <QPalette>
 #include <algorithm>
+#include <cmath>
 
+#include "forms/FixedSizes.h"
 #include "forms/ThemeStyle.h"
 #include "forms/Tokens.h"
 
@@ -15,39 +17,69 @@ namespace forms {
 
 // In ThemeSheet.cpp: the rules, with @names in place of the tokens.
 QString ThemeSheet();
+// In Contrasts.cpp: the colours.
+Tokens TokensOf(Contrast contrast);
 
 namespace {
+
+// From which size of the main window on, and by how much.
+struct Step {
+    QSize room;
+    double factor;
+};
+constexpr Step Steps[] = {{{0, 0}, 1.0}, {{1600, 800}, 1.25}, {{2400, 1260}, 1.75}};
+
+struct Look {
+    Contrast contrast = Contrast::Usual;
+    double factor = Steps[0].factor;
+    Tokens tokens;
+};
+Look look;
+
+constexpr int Tokens::*Measures[] = {&Tokens::TextSize,      &Tokens::LabelSize,      &Tokens::PlainAccentSize,
+                                     &Tokens::StrongSize,    &Tokens::FieldHeight,    &Tokens::EntryHeight,
+                                     &Tokens::ButtonHeight,  &Tokens::TabHeight,      &Tokens::RowHeight,
+                                     &Tokens::HeadingHeight, &Tokens::ScrollBarWidth, &Tokens::DaySize,
+                                     &Tokens::TickSize};
+
+Tokens Enlarged(Tokens tokens) {
+    for (const auto measure : Measures) tokens.*measure = Scaled(tokens.*measure);
+    for (auto* sizes : {&tokens.EntrySizes, &tokens.TotalSizes})
+        for (int& size : *sizes) size = Scaled(size);
+    for (int& size : tokens.TabSizes) size = Scaled(size);
+    return tokens;
+}
 
 QFont TextFont() {
     QFont font = QApplication::font();
     if (QFontDatabase::hasFamily(u"Roboto"_s)) font.setFamily(u"Roboto"_s);
-    font.setPixelSize(Tokens::TextSize);
+    font.setPixelSize(look.tokens.TextSize);
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }
 
-QPalette Colours() {
+QPalette Colours(const Tokens& tokens) {
     QPalette palette;
-    palette.setColor(QPalette::Window, Tokens::Ground);
-    palette.setColor(QPalette::WindowText, Tokens::Ink);
-    palette.setColor(QPalette::Base, Tokens::Paper);
-    palette.setColor(QPalette::AlternateBase, Tokens::SecondRow);
-    palette.setColor(QPalette::Text, Tokens::Ink);
-    palette.setColor(QPalette::PlaceholderText, Tokens::Muted);
-    palette.setColor(QPalette::Button, Tokens::Paper);
-    palette.setColor(QPalette::ButtonText, Tokens::Ink);
-    palette.setColor(QPalette::BrightText, Tokens::Danger);
-    palette.setColor(QPalette::Highlight, Tokens::Accent);
-    palette.setColor(QPalette::HighlightedText, Tokens::Paper);
-    palette.setColor(QPalette::Link, Tokens::Accent);
-    palette.setColor(QPalette::ToolTipBase, Tokens::Night);
-    palette.setColor(QPalette::ToolTipText, Tokens::Paper);
-    palette.setColor(QPalette::Light, Tokens::Paper);
-    palette.setColor(QPalette::Mid, Tokens::Line);
-    palette.setColor(QPalette::Dark, Tokens::Edge);
+    palette.setColor(QPalette::Window, tokens.Ground);
+    palette.setColor(QPalette::WindowText, tokens.Ink);
+    palette.setColor(QPalette::Base, tokens.Paper);
+    palette.setColor(QPalette::AlternateBase, tokens.SecondRow);
+    palette.setColor(QPalette::Text, tokens.Ink);
+    palette.setColor(QPalette::PlaceholderText, tokens.Muted);
+    palette.setColor(QPalette::Button, tokens.Paper);
+    palette.setColor(QPalette::ButtonText, tokens.Ink);
+    palette.setColor(QPalette::BrightText, tokens.Danger);
+    palette.setColor(QPalette::Highlight, tokens.Accent);
+    palette.setColor(QPalette::HighlightedText, tokens.OnAccent);
+    palette.setColor(QPalette::Link, tokens.Accent);
+    palette.setColor(QPalette::ToolTipBase, tokens.Night);
+    palette.setColor(QPalette::ToolTipText, tokens.NightText);
+    palette.setColor(QPalette::Light, tokens.Paper);
+    palette.setColor(QPalette::Mid, tokens.Line);
+    palette.setColor(QPalette::Dark, tokens.Edge);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, Tokens::Faint);
-    palette.setColor(QPalette::Disabled, QPalette::Base, Tokens::ReadOnly);
+        palette.setColor(QPalette::Disabled, role, tokens.Faint);
+    palette.setColor(QPalette::Disabled, QPalette::Base, tokens.ReadOnly);
     return palette;
 }
 
@@ -55,62 +87,72 @@ QString Pixels(int number) {
     return QString::number(number) + u"px"_s;
 }
 
-QHash<QString, QString> Names() {
-    using namespace forms::Tokens;
+QHash<QString, QString> Names(const Tokens& tokens) {
     return {
-        {u"ground"_s, Ground.name()},
-        {u"paper"_s, Paper.name()},
-        {u"line"_s, Line.name()},
-        {u"edge"_s, Edge.name()},
-        {u"ink"_s, Ink.name()},
-        {u"muted"_s, Muted.name()},
-        {u"faint"_s, Faint.name()},
-        {u"accent"_s, Accent.name()},
-        {u"accentDark"_s, AccentDark.name()},
-        {u"danger"_s, Danger.name()},
-        {u"dangerLine"_s, DangerLine.name()},
-        {u"dangerPale"_s, DangerPale.name()},
-        {u"night"_s, Night.name()},
-        {u"nightText"_s, NightText.name()},
-        {u"glow"_s, Glow.name()},
-        {u"chosenRow"_s, ChosenRow.name()},
-        {u"secondRow"_s, SecondRow.name()},
-        {u"heading"_s, Heading.name()},
-        {u"strip"_s, Strip.name()},
-        {u"stripLine"_s, StripLine.name()},
-        {u"hover"_s, Hover.name()},
-        {u"pressed"_s, Pressed.name()},
-        {u"tabBehind"_s, TabBehind.name()},
-        {u"focus"_s, Focus.name()},
-        {u"readOnly"_s, ReadOnly.name()},
-        {u"textSize"_s, Pixels(TextSize)},
-        {u"labelSize"_s, Pixels(LabelSize)},
-        {u"strongSize"_s, Pixels(StrongSize)},
-        {u"entrySize"_s, Pixels(EntrySize)},
-        {u"plainAccentSize"_s, Pixels(PlainAccentSize)},
-        {u"totalSize"_s, Pixels(TotalSize)},
-        {u"entryFit1"_s, Pixels(EntrySizes[1])},
-        {u"entryFit2"_s, Pixels(EntrySizes[2])},
-        {u"entryFit3"_s, Pixels(EntrySizes[3])},
-        {u"totalFit1"_s, Pixels(TotalSizes[1])},
-        {u"totalFit2"_s, Pixels(TotalSizes[2])},
-        {u"totalFit3"_s, Pixels(TotalSizes[3])},
-        {u"corner"_s, Pixels(Corner)},
-        {u"fieldCorner"_s, Pixels(Corner - 2)},
+        {u"ground"_s, tokens.Ground.name()},
+        {u"paper"_s, tokens.Paper.name()},
+        {u"line"_s, tokens.Line.name()},
+        {u"edge"_s, tokens.Edge.name()},
+        {u"ink"_s, tokens.Ink.name()},
+        {u"muted"_s, tokens.Muted.name()},
+        {u"faint"_s, tokens.Faint.name()},
+        {u"accent"_s, tokens.Accent.name()},
+        {u"accentDark"_s, tokens.AccentDark.name()},
+        {u"onAccent"_s, tokens.OnAccent.name()},
+        {u"danger"_s, tokens.Danger.name()},
+        {u"dangerLine"_s, tokens.DangerLine.name()},
+        {u"dangerPale"_s, tokens.DangerPale.name()},
+        {u"night"_s, tokens.Night.name()},
+        {u"nightText"_s, tokens.NightText.name()},
+        {u"glow"_s, tokens.Glow.name()},
+        {u"chosenRow"_s, tokens.ChosenRow.name()},
+        {u"secondRow"_s, tokens.SecondRow.name()},
+        {u"heading"_s, tokens.Heading.name()},
+        {u"strip"_s, tokens.Strip.name()},
+        {u"stripLine"_s, tokens.StripLine.name()},
+        {u"hover"_s, tokens.Hover.name()},
+        {u"pressed"_s, tokens.Pressed.name()},
+        {u"tabBehind"_s, tokens.TabBehind.name()},
+        {u"focus"_s, tokens.Focus.name()},
+        {u"onFocus"_s, tokens.OnFocus.name()},
+        {u"readOnly"_s, tokens.ReadOnly.name()},
+        {u"textSize"_s, Pixels(tokens.TextSize)},
+        {u"labelSize"_s, Pixels(tokens.LabelSize)},
+        {u"strongSize"_s, Pixels(tokens.StrongSize)},
+        {u"plainAccentSize"_s, Pixels(tokens.PlainAccentSize)},
+        {u"entrySize"_s, Pixels(tokens.EntrySizes[0])},
+        {u"entryFit1"_s, Pixels(tokens.EntrySizes[1])},
+        {u"entryFit2"_s, Pixels(tokens.EntrySizes[2])},
+        {u"entryFit3"_s, Pixels(tokens.EntrySizes[3])},
+        {u"totalSize"_s, Pixels(tokens.TotalSizes[0])},
+        {u"totalFit1"_s, Pixels(tokens.TotalSizes[1])},
+        {u"totalFit2"_s, Pixels(tokens.TotalSizes[2])},
+        {u"totalFit3"_s, Pixels(tokens.TotalSizes[3])},
+        {u"tabFit1"_s, Pixels(tokens.TabSizes[1])},
+        {u"tabFit2"_s, Pixels(tokens.TabSizes[2])},
+        {u"corner"_s, Pixels(tokens.Corner)},
+        {u"fieldCorner"_s, Pixels(tokens.Corner - 2)},
         // A style sheet's heights do not count the borders.
-        {u"fieldHeight"_s, Pixels(FieldHeight - 2)},
-        {u"entryHeight"_s, Pixels(EntryHeight - 2)},
-        {u"buttonHeight"_s, Pixels(ButtonHeight - 2)},
-        {u"focusedFieldHeight"_s, Pixels(FieldHeight - 4)},
-        {u"focusedEntryHeight"_s, Pixels(EntryHeight - 4)},
-        {u"focusedButtonHeight"_s, Pixels(ButtonHeight - 4)},
-        {u"spinHeight"_s, Pixels(FieldHeight - 6)},
-        {u"headingHeight"_s, Pixels(HeadingHeight - 1)},
+        {u"fieldHeight"_s, Pixels(tokens.FieldHeight - 2)},
+        {u"entryHeight"_s, Pixels(tokens.EntryHeight - 2)},
+        {u"buttonHeight"_s, Pixels(tokens.ButtonHeight - 2)},
+        {u"focusedFieldHeight"_s, Pixels(tokens.FieldHeight - 4)},
+        {u"focusedEntryHeight"_s, Pixels(tokens.EntryHeight - 4)},
+        {u"focusedButtonHeight"_s, Pixels(tokens.ButtonHeight - 4)},
+        {u"spinHeight"_s, Pixels(tokens.FieldHeight - 6)},
+        {u"plainHeight"_s, Pixels(tokens.FieldHeight - 12)},
+        {u"tabHeight"_s, Pixels(tokens.TabHeight)},
+        {u"headingHeight"_s, Pixels(tokens.HeadingHeight - 1)},
+        // Seven days, and six weeks with the names of the days and the bar of the month.
+        {u"calendarWidth"_s, Pixels(7 * tokens.DaySize)},
+        {u"calendarHeight"_s, Pixels(8 * tokens.DaySize)},
+        {u"tightHeading"_s, Pixels(tokens.HeadingHeight * 2 / 3)},
+        {u"scrollBarWidth"_s, Pixels(tokens.ScrollBarWidth)},
     };
 }
 
 QString Filled(QStringView sheet) {
-    const auto tokens = Names();
+    const auto tokens = Names(look.tokens);
     QString filled;
     for (qsizetype at; (at = sheet.indexOf(u'@')) >= 0;) {
         const auto name = sheet.sliced(at + 1);
@@ -124,13 +166,43 @@ QString Filled(QStringView sheet) {
     return filled.append(sheet);
 }
 
+void Install() {
+    look.tokens = Enlarged(TokensOf(look.contrast));
+    QApplication::setFont(TextFont());
+    QApplication::setPalette(Colours(look.tokens));
+    qApp->setStyleSheet(Filled(ThemeSheet()));
+}
+
 }  // namespace
 
-void InstallTheme(QApplication& application) {
+const Tokens& TheTokens() {
+    return look.tokens;
+}
+
+int Scaled(int pixels) {
+    return static_cast<int>(std::lround(pixels * look.factor));
+}
+
+void InstallTheme() {
     QApplication::setStyle(new ThemeStyle);
-    QApplication::setFont(TextFont());
-    QApplication::setPalette(Colours());
-    application.setStyleSheet(Filled(ThemeSheet()));
+    Install();
+}
+
+void UseContrast(Contrast contrast) {
+    if (contrast == look.contrast) return;
+    look.contrast = contrast;
+    Install();
+}
+
+void FitTypeTo(QSize room) {
+    double factor = look.factor;
+    for (const Step& step : Steps)
+        if (room.width() >= step.room.width() && room.height() >= step.room.height()) factor = step.factor;
+    if (factor == look.factor) return;
+    look.factor = factor;
+    // The sheet has the last word on what both of them measure, now as when a form is first shown.
+    for (QWidget* window : QApplication::topLevelWidgets()) ScaleFixedSizes(*window);
+    Install();
 }
 
 }  // namespace forms

@@ -9,7 +9,7 @@ namespace {
 constexpr auto boxes = R"(
 QLineEdit, QPlainTextEdit, QTextEdit {
     background: @paper; color: @ink; border: 1px solid @edge; border-radius: @fieldCorner;
-    selection-background-color: @accent; selection-color: @paper;
+    selection-background-color: @accent; selection-color: @onAccent;
 }
 QLineEdit { min-height: @fieldHeight; padding: 0 10px; }
 QLineEdit:focus, QPlainTextEdit:focus, QTextEdit:focus { border: 2px solid @ink; }
@@ -20,7 +20,7 @@ QLineEdit:disabled, QPlainTextEdit:disabled, QTextEdit:disabled {
     background: @readOnly; color: @muted; border-color: @line;
 }
 QLineEdit[highlight="true"]:focus, QPlainTextEdit[highlight="true"]:focus, QTextEdit[highlight="true"]:focus {
-    background: @focus;
+    background: @focus; color: @onFocus;
 }
 QLineEdit[role="entry"] { font-size: @entrySize; min-height: @entryHeight; }
 QLineEdit[role="entry"]:focus { min-height: @focusedEntryHeight; }
@@ -31,11 +31,11 @@ QLineEdit[role="entry"][fit="2"] { font-size: @entryFit2; }
 QLineEdit[role="entry"][fit="3"] { font-size: @entryFit3; }
 QComboBox[role="entry"] { font-size: @entrySize; }
 QLineEdit[role="plain"], QLineEdit[role="plain"]:read-only, QLineEdit[role="plain"]:disabled {
-    background: transparent; border: none; padding: 0; min-height: 24px; color: @ink;
+    background: transparent; border: none; padding: 0; min-height: @plainHeight; color: @ink;
     font-size: @strongSize; font-weight: 500;
 }
 QLineEdit[role="plainAccent"], QLineEdit[role="plainAccent"]:read-only, QLineEdit[role="plainAccent"]:disabled {
-    background: transparent; border: none; padding: 0; min-height: 24px; color: @accent;
+    background: transparent; border: none; padding: 0; min-height: @plainHeight; color: @accent;
     font-size: @plainAccentSize; font-weight: 500;
 }
 QComboBox QLineEdit, QComboBox QLineEdit:focus, QComboBox QLineEdit:disabled, QComboBox QLineEdit:read-only,
@@ -60,7 +60,7 @@ QPushButton:pressed { background: @pressed; }
 QPushButton:focus { border: 2px solid @accent; padding: 0 13px; min-height: @focusedButtonHeight; }
 QPushButton:disabled { background: @ground; color: @faint; border-color: @line; }
 QPushButton[role="main"], QPushButton[role="post"] {
-    background: @accent; color: @paper; border-color: @accentDark; font-weight: 500;
+    background: @accent; color: @onAccent; border-color: @accentDark; font-weight: 500;
 }
 QPushButton[role="post"] { font-size: @entrySize; }
 QPushButton[tight="true"] { padding: 0 4px; }
@@ -82,7 +82,7 @@ QToolBar QToolButton {
 QTabWidget QToolBar QToolButton { min-height: @fieldHeight; }
 QToolBar QToolButton:hover { background: @hover; }
 QToolBar QToolButton:pressed { background: @pressed; }
-QToolBar QToolButton[role="main"] { background: @accent; color: @paper; border-color: @accentDark; font-weight: 500; }
+QToolBar QToolButton[role="main"] { background: @accent; color: @onAccent; border-color: @accentDark; font-weight: 500; }
 QToolBar QToolButton[role="main"]:hover, QToolBar QToolButton[role="main"]:pressed { background: @accentDark; }
 QDialogButtonBox QPushButton, QMessageBox QPushButton { min-width: 76px; }
 QMessageBox QLabel#qt_msgbox_label { padding: 6px 8px 10px 4px; }
@@ -109,7 +109,7 @@ QLineEdit[role="nightText"], QLineEdit[role="nightText"]:read-only, QLineEdit[ro
 QCheckBox, QRadioButton { background: transparent; color: @ink; }
 QCheckBox:disabled, QRadioButton:disabled { color: @faint; }
 QRadioButton[role="columns"] { font-family: monospace; }
-QToolTip { background: @night; color: @paper; border: 1px solid @night; padding: 4px 6px; font-size: @labelSize; }
+QToolTip { background: @night; color: @nightText; border: 1px solid @night; padding: 4px 6px; font-size: @labelSize; }
 )";
 
 constexpr auto panels = R"(
@@ -139,18 +139,19 @@ QProgressBar::chunk { background: @accent; border-radius: 3px; }
 
 constexpr auto lists = R"(
 QTreeView, QTableView, QListView {
-    background: @paper; alternate-background-color: @secondRow; border: 1px solid @line; border-radius: @corner;
+    background: @paper; alternate-background-color: @secondRow; border: 1px solid @edge; border-radius: @corner; padding: 1px;
     outline: none; selection-background-color: @chosenRow; selection-color: @ink;
 }
-QTreeView:focus, QTableView:focus, QListView:focus { border-color: @accent; }
-QTextBrowser { border: 1px solid @line; border-radius: @corner; }
-QTextBrowser:focus { border: 1px solid @accent; }
-forms--TextView { background: @paper; border: 1px solid @line; border-radius: @corner; }
-forms--TextView:focus { border-color: @accent; }
+QTreeView:focus, QTableView:focus, QListView:focus { border: 2px solid @accent; padding: 0; }
+QTextBrowser { border: 1px solid @edge; border-radius: @corner; padding: 1px; }
+QTextBrowser:focus { border: 2px solid @accent; padding: 0; }
+forms--TextView { background: @paper; border: 1px solid @edge; border-radius: @corner; padding: 1px; }
+forms--TextView:focus { border: 2px solid @accent; padding: 0; }
 QTreeView:disabled { color: @faint; }
 QTreeView::item { padding: 0 8px; border: none; color: @ink; }
 QTreeView::item:selected, QTreeView::item:selected:!active { background: @chosenRow; color: @ink; }
-QTreeView::item:disabled { color: @faint; }
+QTreeView::item:disabled, QTreeView[role="stale"]::item { color: @faint; }
+QTreeView[role="stale"]::item:selected { background: transparent; }
 QHeaderView { background: @heading; border: none; border-top-left-radius: @corner; border-top-right-radius: @corner; }
 QHeaderView::section {
     background: @heading; color: @muted; font-size: @labelSize; font-weight: 500; min-height: @headingHeight;
@@ -159,15 +160,16 @@ QHeaderView::section {
 QHeaderView::section:first { border-top-left-radius: @corner; }
 QHeaderView::section:last { border-top-right-radius: @corner; }
 QFileDialog QHeaderView::section { min-height: 22px; }
+QTreeView[tight="true"] QHeaderView::section { min-height: @tightHeading; }
 QHeaderView::section:disabled { color: @faint; }
-QScrollBar:vertical { background: transparent; width: 14px; margin: 0; }
-QScrollBar:horizontal { background: transparent; height: 14px; margin: 0; }
-/* Long texts are scrolled with a thumb. */
-forms--TextView QScrollBar:vertical, QTextBrowser QScrollBar:vertical { width: 26px; }
-QScrollBar::handle { background: @line; border-radius: 4px; margin: 3px; }
-QScrollBar::handle:vertical { min-height: 36px; }
-QScrollBar::handle:horizontal { min-width: 36px; }
-QScrollBar::handle:hover, QScrollBar::handle:pressed { background: @edge; }
+QScrollBar:vertical { background: @ground; width: @scrollBarWidth; margin: 0; }
+QScrollBar:horizontal { background: @ground; height: @scrollBarWidth; margin: 0; }
+QScrollBar::handle { background: @edge; border-radius: @corner; }
+QScrollBar::handle:vertical { margin: 6px 12px; }
+QScrollBar::handle:horizontal { margin: 12px 6px; }
+QScrollBar::handle:vertical { min-height: @scrollBarWidth; }
+QScrollBar::handle:horizontal { min-width: @scrollBarWidth; }
+QScrollBar::handle:hover, QScrollBar::handle:pressed { background: @muted; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QAbstractScrollArea::corner { background: transparent; }
@@ -180,9 +182,11 @@ QTabBar { font-size: @labelSize; }
 QTabBar::tab {
     background: @tabBehind; color: @ink; border: 1px solid @line; border-bottom: 1px solid @line;
     border-top-left-radius: @corner; border-top-right-radius: @corner;
-    min-height: 42px; min-width: 30px; padding: 0 8px; margin-right: 2px;
+    min-height: @tabHeight; min-width: 30px; padding: 0 8px; margin-right: 2px;
 }
-QTabBar[role="narrow"]::tab { min-width: 24px; padding: 0 6px; }
+QTabBar[fit="1"] { font-size: @tabFit1; }
+QTabBar[fit="2"] { font-size: @tabFit2; }
+QTabBar[fit]::tab { min-width: 0; padding: 0 2px; }
 QTabBar::tab:selected { background: @paper; border-bottom-color: @paper; font-weight: bold; }
 QTabBar::tab:hover:!selected { background: @hover; }
 QTabBar::tab:focus { color: @accent; }
@@ -205,12 +209,13 @@ QStatusBar QLabel { color: @muted; font-size: @labelSize; padding: 0 8px; }
 QStatusBar QLabel[role="figure"], QStatusBar QLabel[role="strong"] {
     color: @ink; font-size: @plainAccentSize; font-weight: 500;
 }
+QCalendarWidget { min-width: @calendarWidth; min-height: @calendarHeight; }
 QCalendarWidget QWidget#qt_calendar_navigationbar { background: @accent; }
-QCalendarWidget QToolButton { color: @paper; font-weight: 500; min-height: 30px; border: none; }
+QCalendarWidget QToolButton { color: @onAccent; font-weight: 500; min-height: 26px; border: none; }
 QCalendarWidget QToolButton#qt_calendar_prevmonth, QCalendarWidget QToolButton#qt_calendar_nextmonth { min-width: 44px; }
 QCalendarWidget QToolButton:hover { background: @accentDark; }
 QCalendarWidget QToolButton::menu-indicator { image: none; }
-QCalendarWidget QTableView { border-radius: 0; selection-background-color: @accent; selection-color: @paper; }
+QCalendarWidget QTableView { border-radius: 0; selection-background-color: @accent; selection-color: @onAccent; }
 )";
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <QWidget>
 #include <functional>
 
+#include "forms/Theme.h"
 #include "forms/Tokens.h"
 
 using namespace Qt::StringLiterals;
@@ -17,8 +18,8 @@ namespace forms {
 
 namespace {
 
-constexpr int comboArrowWidth = 28;
-constexpr int spinArrowWidth = 26;
+constexpr int comboArrowWidth = 36;
+constexpr int spinArrowWidth = 36;
 constexpr int fieldPadding = 9;
 constexpr int signSize = 40;
 constexpr int monthArrowSize = 16;
@@ -37,20 +38,20 @@ bool IsPartOfField(const QWidget* widget) {
 }
 
 QColor InkOf(const QStyleOption& option) {
-    return Has(option, QStyle::State_Enabled) ? Tokens::Ink : Tokens::Faint;
+    return Has(option, QStyle::State_Enabled) ? TheTokens().Ink : TheTokens().Faint;
 }
 
 void DrawField(QPainter& painter, const QStyleOption& option, const QWidget* widget) {
     const bool focused = Has(option, QStyle::State_HasFocus);
     const bool enabled = Has(option, QStyle::State_Enabled);
     const qreal width = focused ? 2 : 1;
-    QColor ground = enabled ? Tokens::Paper : Tokens::ReadOnly;
-    if (IsHighlighted(option, widget)) ground = Tokens::Focus;
-    painter.setPen(QPen(focused ? Tokens::Ink : Tokens::Edge, width));
+    QColor ground = enabled ? TheTokens().Paper : TheTokens().ReadOnly;
+    if (IsHighlighted(option, widget)) ground = TheTokens().Focus;
+    painter.setPen(QPen(focused ? TheTokens().Ink : TheTokens().Edge, width));
     painter.setBrush(ground);
     const qreal inset = width / 2;
-    painter.drawRoundedRect(QRectF(option.rect).adjusted(inset, inset, -inset, -inset), Tokens::Corner - 2,
-                            Tokens::Corner - 2);
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(inset, inset, -inset, -inset), TheTokens().Corner - 2,
+                            TheTokens().Corner - 2);
 }
 
 void DrawChevron(QPainter& painter, const QPointF& middle, const QColor& colour, bool up = false) {
@@ -65,10 +66,10 @@ void DrawTickBox(QPainter& painter, const QStyleOption& option, bool round) {
     const bool on = between || Has(option, QStyle::State_On);
     const QRectF box = QRectF(option.rect).adjusted(1, 1, -1, -1);
     const qreal corner = round ? box.width() / 2 : 4;
-    const QColor mark = enabled ? Tokens::Accent : Tokens::Faint;
+    const QColor mark = enabled ? TheTokens().Accent : TheTokens().Faint;
     const bool filled = on && !round;
-    painter.setPen(QPen(on ? mark : (enabled ? Tokens::Muted : Tokens::Line), 1.5));
-    painter.setBrush(filled ? mark : (enabled ? Tokens::Paper : Tokens::ReadOnly));
+    painter.setPen(QPen(on ? mark : (enabled ? TheTokens().Muted : TheTokens().Line), 1.5));
+    painter.setBrush(filled ? mark : (enabled ? TheTokens().Paper : TheTokens().ReadOnly));
     painter.drawRoundedRect(box, corner, corner);
     if (!on) return;
     if (round) {
@@ -77,7 +78,7 @@ void DrawTickBox(QPainter& painter, const QStyleOption& option, bool round) {
         painter.drawEllipse(box.center(), box.width() / 4, box.height() / 4);
         return;
     }
-    painter.setPen(QPen(Tokens::Paper, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(TheTokens().OnAccent, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     const QPointF middle = box.center();
     if (between)
         painter.drawLine(middle + QPointF(-4, 0), middle + QPointF(4, 0));
@@ -86,7 +87,7 @@ void DrawTickBox(QPainter& painter, const QStyleOption& option, bool round) {
 }
 
 void DrawFocusRing(QPainter& painter, const QStyleOption& option) {
-    QColor ring = Tokens::Accent;
+    QColor ring = TheTokens().Accent;
     ring.setAlpha(160);
     painter.setPen(QPen(ring, 1, Qt::DotLine));
     painter.setBrush(Qt::NoBrush);
@@ -107,16 +108,16 @@ QPixmap Drawn(int size, const std::function<void(QPainter&)>& draw) {
 
 // A disc with a sign: what a message box is about.
 QPixmap Sign(const QString& sign, const QColor& colour) {
-    return Drawn(signSize, [&](QPainter& painter) {
+    return Drawn(Scaled(signSize), [&](QPainter& painter) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(colour);
-        const QRectF disc(1, 1, signSize - 2, signSize - 2);
+        const QRectF disc(1, 1, Scaled(signSize) - 2, Scaled(signSize) - 2);
         painter.drawEllipse(disc);
         QFont font = QApplication::font();
-        font.setPixelSize(signSize * 3 / 5);
+        font.setPixelSize(Scaled(signSize) * 3 / 5);
         font.setBold(true);
         painter.setFont(font);
-        painter.setPen(Tokens::Paper);
+        painter.setPen(TheTokens().OnAccent);
         painter.drawText(disc, Qt::AlignCenter, sign);
     });
 }
@@ -126,7 +127,7 @@ QPixmap MonthArrow(bool back) {
     return Drawn(monthArrowSize, [&](QPainter& painter) {
         const QPointF middle(monthArrowSize / 2.0, monthArrowSize / 2.0);
         const qreal dip = back ? -3 : 3;
-        painter.setPen(QPen(Tokens::Paper, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setPen(QPen(TheTokens().OnAccent, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         painter.drawPolyline(
             QPolygonF({middle + QPointF(-dip, -6), middle + QPointF(dip, 0), middle + QPointF(-dip, 6)}));
     });
@@ -195,20 +196,20 @@ int ThemeStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
         case PM_IndicatorHeight:
         case PM_ExclusiveIndicatorWidth:
         case PM_ExclusiveIndicatorHeight:
-            return Tokens::TickSize;
+            return TheTokens().TickSize;
         case PM_CheckBoxLabelSpacing:
         case PM_RadioButtonLabelSpacing:
             return 8;
         case PM_MessageBoxIconSize:
-            return signSize;
+            return Scaled(signSize);
         case PM_LayoutLeftMargin:
         case PM_LayoutTopMargin:
         case PM_LayoutRightMargin:
         case PM_LayoutBottomMargin:
-            return Tokens::Margin;
+            return TheTokens().Margin;
         case PM_LayoutHorizontalSpacing:
         case PM_LayoutVerticalSpacing:
-            return Tokens::Spacing;
+            return TheTokens().Spacing;
         default:
             return QProxyStyle::pixelMetric(metric, option, widget);
     }
@@ -228,23 +229,24 @@ QSize ThemeStyle::sizeFromContents(ContentsType type, const QStyleOption* option
     QSize result = QProxyStyle::sizeFromContents(type, option, size, widget);
     if (type == CT_ComboBox || type == CT_SpinBox) {
         const bool entry = widget && widget->property("role") == u"entry"_s;
-        result.setHeight(qMax(result.height(), entry ? Tokens::EntryHeight : Tokens::FieldHeight));
-        result.setWidth(qMax(result.width(), size.width() + fieldPadding + comboArrowWidth + 4));
+        result.setHeight(qMax(result.height(), entry ? TheTokens().EntryHeight : TheTokens().FieldHeight));
+        result.setWidth(qMax(result.width(), size.width() + fieldPadding + Scaled(comboArrowWidth) + 4));
     }
-    if (type == CT_CheckBox || type == CT_RadioButton) result.setHeight(qMax(result.height(), Tokens::TickSize + 6));
+    if (type == CT_CheckBox || type == CT_RadioButton)
+        result.setHeight(qMax(result.height(), TheTokens().TickSize + 6));
     return result;
 }
 
 QIcon ThemeStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {
     switch (icon) {
         case SP_MessageBoxInformation:
-            return Sign(u"i"_s, Tokens::Accent);
+            return Sign(u"i"_s, TheTokens().Accent);
         case SP_MessageBoxQuestion:
-            return Sign(u"?"_s, Tokens::Accent);
+            return Sign(u"?"_s, TheTokens().Accent);
         case SP_MessageBoxWarning:
-            return Sign(u"!"_s, Tokens::Warning);
+            return Sign(u"!"_s, TheTokens().Warning);
         case SP_MessageBoxCritical:
-            return Sign(u"×"_s, Tokens::Danger);
+            return Sign(u"×"_s, TheTokens().Danger);
         case SP_ArrowLeft:
         case SP_ArrowRight:
             return MonthArrow(icon == SP_ArrowLeft);
@@ -264,18 +266,18 @@ QRect ThemeStyle::subControlRect(ComplexControl control, const QStyleOptionCompl
     const QRect whole = option->rect;
     const auto at = [&](const QRect& place) { return visualRect(option->direction, whole, place); };
     const auto right = [&](int width) { return whole.adjusted(whole.width() - width, 0, 0, 0); };
-    if (control == CC_ComboBox && part == SC_ComboBoxArrow) return at(right(comboArrowWidth));
+    if (control == CC_ComboBox && part == SC_ComboBoxArrow) return at(right(Scaled(comboArrowWidth)));
     if (control == CC_ComboBox && part == SC_ComboBoxEditField)
-        return at(whole.adjusted(fieldPadding, 2, -comboArrowWidth, -2));
+        return at(whole.adjusted(fieldPadding, 2, -Scaled(comboArrowWidth), -2));
     if (control == CC_SpinBox) {
-        const QRect arrows = right(spinArrowWidth).adjusted(0, 2, 0, -2);
+        const QRect arrows = right(Scaled(spinArrowWidth)).adjusted(0, 2, 0, -2);
         switch (part) {
             case SC_SpinBoxUp:
                 return at(arrows.adjusted(0, 0, 0, -arrows.height() / 2));
             case SC_SpinBoxDown:
                 return at(arrows.adjusted(0, arrows.height() / 2, 0, 0));
             case SC_SpinBoxEditField:
-                return at(whole.adjusted(fieldPadding, 2, -spinArrowWidth, -2));
+                return at(whole.adjusted(fieldPadding, 2, -Scaled(spinArrowWidth), -2));
             default:
                 break;
         }

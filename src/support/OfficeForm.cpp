@@ -21,7 +21,7 @@ void OfficeForm::TieToolBar(QToolBar* bar, std::initializer_list<std::pair<QActi
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     bar->setIconSize({ImageSize, ImageSize});
     for (const auto& [tool, button] : tools) {
-        tool->setIcon(mdiORVA::Image(tool->objectName(), forms::Tokens::Ink));
+        tool->setIcon(mdiORVA::Image(tool->objectName(), forms::TheTokens().Ink));
         connect(tool, &QAction::triggered, button, &QAbstractButton::click);
     }
 }
@@ -30,7 +30,7 @@ void OfficeForm::TieToolBar(QToolBar* bar, std::initializer_list<std::pair<QActi
 void OfficeForm::SpreadToolBar(QToolBar* bar) {
     QAction* work = bar->actions().first();
     bar->widgetForAction(work)->setProperty("role", u"main"_s);
-    work->setIcon(mdiORVA::Image(work->objectName(), forms::Tokens::Paper));
+    work->setIcon(mdiORVA::Image(work->objectName(), forms::TheTokens().Paper));
     auto* gap = new QWidget;
     gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     bar->insertWidget(bar->actions().at(1), gap);

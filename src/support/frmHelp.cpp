@@ -26,7 +26,7 @@ void Add(QTextDocument& document, const QString& fault) {
     cursor.movePosition(QTextCursor::End);
     if (!document.isEmpty()) cursor.insertBlock(QTextBlockFormat());
     QTextCharFormat letters;
-    letters.setForeground(forms::Tokens::Danger);
+    letters.setForeground(forms::TheTokens().Danger);
     cursor.insertText(Damaged.arg(fault), letters);
 }
 

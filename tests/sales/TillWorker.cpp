@@ -70,6 +70,6 @@ int main(int argc, char* argv[]) {
     if (words.size() != 3 && words.size() != 5) return 2;
     output::SetProgramFolder(words[1]);
     if (words[2] == u"close") return MakeEndReport();
-    PrepareApplication(application);
+    PrepareApplication();
     return Sell(words.value(3), words.value(4).toInt());
 }

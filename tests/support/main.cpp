@@ -35,7 +35,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"VELTON"_s);
     QLocale::setDefault(QLocale(u"en_US"_s));
-    forms::InstallTheme(application);
+    forms::InstallTheme();
     drivers::WatchModalWindows();
     return RUN_ALL_TESTS();
 }

@@ -72,7 +72,7 @@ int Run(int argc, char* argv[]) {
     const QTemporaryDir screen;
     drivers::UseTillScreen(screen.path());
     QApplication application(argc, argv);
-    PrepareApplication(application);
+    PrepareApplication();
     Play(QString::fromLocal8Bit(folder));
     return 0;
 }

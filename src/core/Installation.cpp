@@ -1,0 +1,64 @@
+#include "core/Installation.h"
+
+#include <vector>
+
+#include "output/Folder.h"
+#include "values/IniFile.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// What a key may say, and what each of it sets.
+struct Choice {
+    const char16_t* text;
+    void (*set)(Installation& installation);
+};
+
+struct Key {
+    const char16_t* section;
+    const char16_t* name;
+    std::vector<Choice> choices;
+};
+
+using forms::Contrast;
+
+const std::vector<Key> Keys = {
+    {u"till",
+     u"sound",
+     {{u"yes", [](Installation& i) { i.sound = true; }}, {u"no", [](Installation& i) { i.sound = false; }}}},
+    {u"till",
+     u"contrast",
+     {{u"usual", [](Installation& i) { i.contrast = Contrast::Usual; }},
+      {u"high", [](Installation& i) { i.contrast = Contrast::High; }},
+      {u"dark", [](Installation& i) { i.contrast = Contrast::Dark; }}}},
+};
+
+bool Take(const Key& key, const QString& text, Installation& installation) {
+    for (const Choice& choice : key.choices) {
+        if (text.compare(QStringView(choice.text), Qt::CaseInsensitive) != 0) continue;
+        choice.set(installation);
+        return true;
+    }
+    return false;
+}
+
+QString Refusal(const Key& key, const values::IniFile::Value& value) {
+    QStringList known;
+    for (const Choice& choice : key.choices) known << QString::fromUtf16(choice.text);
+    return u"velton.ini, line %1: %2 can't be \"%3\", only %4."_s.arg(value.line)
+        .arg(QString::fromUtf16(key.name), value.text, known.join(u" or "_s));
+}
+
+}  // namespace
+
+QStringList ReadInstallation() {
+    const auto ini = values::IniFile::Read(output::InProgramFolder(u"velton.ini"_s));
+    QStringList refused;
+    TheInstallation = {};
+    for (const Key& key : Keys) {
+        const auto value = ini.Find(QString::fromUtf16(key.section), QString::fromUtf16(key.name));
+        if (value && !Take(key, value->text, TheInstallation)) refused << Refusal(key, *value);
+    }
+    return refused;
+}
