@@ -4,8 +4,10 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QStyle>
+#include <QTimer>
 
 #include "forms/Controls.h"
+#include "forms/Swipe.h"
 #include "values/Locale.h"
 
 using namespace Qt::StringLiterals;
@@ -13,6 +15,8 @@ using namespace Qt::StringLiterals;
 namespace forms {
 
 namespace {
+
+constexpr int LongPress = 600;  // milliseconds
 
 bool IsEnter(int key) {
     return key == Qt::Key_Return || key == Qt::Key_Enter;
@@ -72,14 +76,13 @@ void SelectWhole(QWidget* box) {
         QMetaObject::invokeMethod(box, "selectAll", Qt::DirectConnection);
 }
 
-// What stands on the page of a tab has taken its looks before anything was told about it.
-void Restyle(QWidget* box) {
-    if (!box->testAttribute(Qt::WA_WState_Polished)) return;
-    box->style()->unpolish(box);
-    box->style()->polish(box);
-}
-
 }  // namespace
+
+Form::Behaviours::Behaviours(Form& owner) : form(owner), longPress(new QTimer(this)) {
+    longPress->setSingleShot(true);
+    longPress->setInterval(LongPress);
+    connect(longPress, &QTimer::timeout, this, &Behaviours::LongPressed);
+}
 
 bool Form::Behaviours::FormKey(const QKeyEvent& key) {
     if (Press(functionKeys, key)) return true;
@@ -154,18 +157,31 @@ void Form::Behaviours::FollowFocus() {
 }
 
 bool Form::Behaviours::eventFilter(QObject* watched, QEvent* event) {
-    const auto type = event->type();
-    if (type != QEvent::FocusIn && type != QEvent::MouseButtonRelease) return false;
-
-    // Lists get their mouse in the viewport, editable combo boxes in their line edit.
     auto* widget = qobject_cast<QWidget*>(watched);
-    auto found = controls.find(watched);
-    if (found == controls.end()) found = controls.find(watched->parent());
+    const auto found = Find(watched);
     if (!widget || found == controls.end()) return false;
-
-    if (type == QEvent::FocusIn) return FocusArrives(widget, found->second, static_cast<QFocusEvent&>(*event));
-    MouseReleased(widget, found->second, static_cast<QMouseEvent&>(*event));
+    switch (event->type()) {
+        case QEvent::FocusIn:
+            return FocusArrives(widget, found->second, static_cast<QFocusEvent&>(*event));
+        case QEvent::MouseButtonPress:
+            MousePressed(widget, static_cast<QMouseEvent&>(*event));
+            break;
+        case QEvent::MouseMove:
+            MouseMoved(static_cast<QMouseEvent&>(*event));
+            break;
+        case QEvent::MouseButtonRelease:
+            MouseReleased(widget, found->second, static_cast<QMouseEvent&>(*event));
+            break;
+        default:
+            break;
+    }
     return false;
+}
+
+// Lists get their mouse in the viewport, editable combo boxes in their line edit.
+std::map<const QObject*, Form::Behaviours::Control>::iterator Form::Behaviours::Find(const QObject* watched) {
+    const auto found = controls.find(watched);
+    return found == controls.end() ? controls.find(watched->parent()) : found;
 }
 
 bool Form::Behaviours::FocusArrives(QWidget* box, Control& control, const QFocusEvent& event) {
@@ -173,8 +189,7 @@ bool Form::Behaviours::FocusArrives(QWidget* box, Control& control, const QFocus
     if (!control.highlight || box == focused) return false;
     // Yellow now, and white when it is left, whatever it was before.
     if (box->property("role") == u"pale"_s) {
-        box->setProperty("role", {});
-        Restyle(box);
+        SetRole(box, {});
     }
     if (*control.highlight == OnFocus::SelectAll) {
         SelectWhole(box);
@@ -188,6 +203,30 @@ bool Form::Behaviours::FocusArrives(QWidget* box, Control& control, const QFocus
     return true;
 }
 
+void Form::Behaviours::MousePressed(QWidget* watched, const QMouseEvent& event) {
+    pressed = {event.globalPosition()};
+    pressedControl = watched;
+    if (event.button() == Qt::LeftButton) longPress->start();
+}
+
+void Form::Behaviours::MouseMoved(const QMouseEvent& event) {
+    if (!pressed || IsTap(pressed->at, event.globalPosition())) return;
+    pressed->counts = false;
+    longPress->stop();
+}
+
+// A finger has no second button.
+void Form::Behaviours::LongPressed() {
+    const auto found = pressedControl ? Find(pressedControl) : controls.end();
+    if (!pressed || found == controls.end() || !pressedControl->isEnabled()) return;
+    const auto handlers = found->second.mouse;
+    for (const auto& handler : handlers) {
+        if (handler.button != Qt::RightButton) continue;
+        if (pressed) pressed->counts = false;
+        handler.run();
+    }
+}
+
 void Form::Behaviours::MouseReleased(QWidget* watched, Control& control, const QMouseEvent& event) {
     if (control.clickedInto) {
         control.clickedInto = false;
@@ -197,6 +236,9 @@ void Form::Behaviours::MouseReleased(QWidget* watched, Control& control, const Q
             QMetaObject::invokeMethod(
                 watched, [watched] { SelectWhole(watched); }, Qt::QueuedConnection);
     }
+    longPress->stop();
+    const auto press = std::exchange(pressed, std::nullopt);
+    if (press && !(press->counts && IsTap(press->at, event.globalPosition()))) return;
     if (!watched->isEnabled() || !watched->rect().contains(event.position().toPoint())) return;
     const auto handlers = control.mouse;
     for (const auto& handler : handlers)

@@ -9,12 +9,13 @@
 #include "forms/Form.h"
 
 class QEventLoop;
+class QTimer;
 
 namespace forms {
 
 // What a form and its controls were told to do beyond what they do by nature, and the form's state on the screen.
 struct Form::Behaviours : QObject {
-    explicit Behaviours(Form& owner) : form(owner) {}
+    explicit Behaviours(Form& owner);
 
     // The keys of the whole form. True when the key is used up.
     bool FormKey(const QKeyEvent& key);
@@ -51,15 +52,30 @@ struct Form::Behaviours : QObject {
     std::map<const QObject*, Control> controls;
     QPointer<QWidget> focused;
 
+    // A mouse button, or a finger, that came down on a control.
+    struct Pressed {
+        QPointF at;
+        bool counts = true;  // not yet drawn away, and not yet taken for a long press
+    };
+    std::optional<Pressed> pressed;
+    QTimer* longPress;
+    QPointer<QWidget> pressedControl;
+
     std::optional<FocusReturn> cameFrom;
     QPointer<QEventLoop> modalLoop;
     bool unloading = false;
+    bool sized = false;  // for its first showing
 
 private:
     bool Press(const std::vector<KeyBinding>& keys, const QKeyEvent& key);
     // True when the event has been dealt with.
     bool FocusArrives(QWidget* box, Control& control, const QFocusEvent& event);
+    void MousePressed(QWidget* watched, const QMouseEvent& event);
+    void MouseMoved(const QMouseEvent& event);
     void MouseReleased(QWidget* watched, Control& control, const QMouseEvent& event);
+    void LongPressed();
+    // A control, or the one that the watched part belongs to.
+    std::map<const QObject*, Control>::iterator Find(const QObject* watched);
 };
 
 }  // namespace forms
