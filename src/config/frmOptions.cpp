@@ -4,6 +4,7 @@
 #include "config/frmWinPrinter.h"
 #include "core/mdiORVA.h"
 #include "forms/MsgBox.h"
+#include "forms/Scrollable.h"
 #include "values/Error.h"
 #include "values/Numbers.h"
 
@@ -11,6 +12,7 @@ using namespace Qt::StringLiterals;
 
 frmOptions::frmOptions(int tab) {
     ui.setupUi(this);
+    for (int page = 0; page < ui.SSTab1->count(); ++page) forms::MakeScrollable(ui.SSTab1->widget(page));
     ui.SSTab1->setCornerWidget(ui.Tlbr1);
     ui.SSTab1->setCurrentIndex(tab);
 

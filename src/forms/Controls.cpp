@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QStyle>
 #include <QTextEdit>
 
 #include "forms/OneLine.h"
@@ -33,6 +34,19 @@ QString TextOf(const QWidget* control) {
     if (const auto* view = qobject_cast<const QPlainTextEdit*>(control)) return view->toPlainText();
     if (const auto* view = qobject_cast<const QTextEdit*>(control)) return view->toPlainText();
     return {};
+}
+
+// What has no looks yet takes them when it is first shown.
+void Restyle(QWidget* control) {
+    if (!control->testAttribute(Qt::WA_WState_Polished)) return;
+    control->style()->unpolish(control);
+    control->style()->polish(control);
+}
+
+void SetRole(QWidget* control, const QString& role) {
+    if (control->property("role").toString() == role) return;
+    control->setProperty("role", role);
+    Restyle(control);
 }
 
 void SetText(QWidget* control, const QString& text) {

@@ -25,6 +25,11 @@ T* Control(const QWidget* form, QStringView name) {
 QString TextOf(const QWidget* control);
 void SetText(QWidget* control, const QString& text);
 
+// The looks follow the properties that they hang on, once these have changed.
+void Restyle(QWidget* control);
+// What the control is to the theme; empty for nothing special.
+void SetRole(QWidget* control, const QString& role);
+
 // {tab}: the focus moves on as the Tab key does.
 void SendTab(QWidget* from);
 // {home}+{end}: the whole text is selected. {end}: the caret goes to the end.

@@ -1,5 +1,6 @@
 #include "forms/Form.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
@@ -7,13 +8,18 @@
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
+#include <algorithm>
 
 #include "forms/Behaviours.h"
+#include "forms/FixedSizes.h"
 #include "forms/Frame.h"
 #include "forms/KeyDispatcher.h"
 #include "forms/OneLine.h"
 #include "forms/OptionGroups.h"
 #include "forms/ShrinkToFit.h"
+#include "forms/SpokenNames.h"
+#include "forms/TextView.h"
+#include "forms/Theme.h"
 
 namespace forms {
 
@@ -28,9 +34,29 @@ QRect RoomAround(const QWidget* window) {
     return QGuiApplication::primaryScreen()->availableGeometry();
 }
 
+// What a window manager puts around a window.
+constexpr QSize Surroundings(8, 34);
+// Of a list, beyond this many times the width and height that it was designed for nothing more is to be seen.
+constexpr double LargestList = 1.6;
+
+bool HasListOrText(const QWidget& form) {
+    const auto areas = form.findChildren<QAbstractScrollArea*>();
+    return std::ranges::any_of(areas, [](const QAbstractScrollArea* area) {
+        const bool isContent = qobject_cast<const ListView*>(area) || qobject_cast<const TextView*>(area);
+        return isContent && area->maximumHeight() == QWIDGETSIZE_MAX;
+    });
+}
+
+// As designed, in the step of type in use; lists and long texts take the room that there is.
+QSize FirstSize(const QWidget& form, QSize room) {
+    const QSize designed(Scaled(form.width()), Scaled(form.height()));
+    if (!HasListOrText(form)) return designed;
+    return designed.expandedTo((designed * LargestList).boundedTo(room));
+}
+
 void CentreOver(QWidget* form, const QWidget* window) {
     const QRect screen = form->screen()->availableGeometry();
-    form->resize(form->size().expandedTo(form->minimumSizeHint()).boundedTo(screen.size()));
+    form->resize(form->size().expandedTo(form->minimumSizeHint()).boundedTo(screen.size() - Surroundings));
     QRect place = form->geometry();
     place.moveCenter(RoomAround(window).center());
     place.moveLeft(qBound(screen.left(), place.left(), qMax(screen.left(), screen.right() - place.width())));
@@ -56,6 +82,8 @@ void Form::Load() {
     loadedForms.append(this);
     for (auto* box : findChildren<QLineEdit*>()) KeepToOneLine(box);
     KeepFocusOnChosenOptions(*this);
+    ScaleFixedSizes(*this);
+    NameForReaders(*this);
     try {
         Form_Load();
     } catch (...) {
@@ -178,6 +206,8 @@ void Form::Present() {
     QWidget* below = QApplication::activeWindow();
     if (!isVisible()) {
         if (below != this) behaviours_->cameFrom.emplace();
+        if (!std::exchange(behaviours_->sized, true))
+            resize(FirstSize(*this, screen()->availableSize() - Surroundings));
         winId();
         if (below && below != this) windowHandle()->setTransientParent(below->windowHandle());
         CentreOver(this, below);

@@ -3,10 +3,15 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
 #include <QToolTip>
 
 #include "forms/Program.h"
 #include "forms/RowModel.h"
+#include "forms/Swipe.h"
+#include "forms/Theme.h"
+#include "forms/Tokens.h"
 #include "values/Error.h"
 
 using namespace Qt::StringLiterals;
@@ -43,7 +48,7 @@ ListView::ListView(QWidget* parent) : QTreeView(parent), rows_(new RowModel(this
     setHeader(new Headings(*rows_, this));
     setModel(rows_);
     // Not at once: rows are looked at while the list is painted.
-    connect(rows_, &RowModel::TextsGrew, this, &ListView::WidenForNumbers, Qt::QueuedConnection);
+    connect(rows_, &RowModel::TextsGrew, this, &ListView::LayOutColumns, Qt::QueuedConnection);
     // Not at once either: whoever has just found the list empty has work of his own under way.
     connect(rows_, &RowModel::Failed, this, &ListView::Report, Qt::QueuedConnection);
     connect(&comingIn_, &QTimer::timeout, this, &ListView::TakeIn);
@@ -58,13 +63,14 @@ ListView::ListView(QWidget* parent) : QTreeView(parent), rows_(new RowModel(this
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setTextElideMode(Qt::ElideRight);
     setTabKeyNavigation(false);
-    setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     header()->setSectionsClickable(false);
     header()->setSectionsMovable(false);
     header()->setStretchLastSection(false);
     header()->setMinimumSectionSize(0);
     header()->setHighlightSections(false);
+    new Swipe(this, [this] { Select(selectedBefore_); });
 }
 
 void ListView::SetColumns(std::vector<ListColumn> columns) {
@@ -79,11 +85,12 @@ int ListView::Count() const {
 
 void ListView::Clear() {
     rows_->Clear();
+    LayOutColumns();
 }
 
 int ListView::Add(const QStringList& cells) {
     const int row = rows_->Add(cells);
-    if (updatesEnabled()) WidenForNumbers();
+    if (updatesEnabled()) LayOutColumns();
     return row;
 }
 
@@ -91,6 +98,7 @@ void ListView::Remove(int row) {
     const int selected = Selected();
     rows_->Remove(row);
     if (selected == row) Select(qMin(row, Count() - 1));
+    LayOutColumns();
 }
 
 QString ListView::Text(int row, int column) const {
@@ -99,7 +107,7 @@ QString ListView::Text(int row, int column) const {
 
 void ListView::SetText(int row, int column, const QString& text) {
     rows_->SetCell(row, column, text);
-    WidenForNumbers();
+    LayOutColumns();
 }
 
 int ListView::Find(QStringView text) const {
@@ -145,7 +153,7 @@ void ListView::BringIntoView(int row) {
 void ListView::ShowRows(std::unique_ptr<RowSource> source, Selects selects) {
     rows_->ShowRows(std::move(source));
     if (rows_->IsComingIn()) comingIn_.start(betweenLooks);
-    WidenForNumbers();
+    LayOutColumns();
     selectsFirst_ = selects == Selects::FirstRow;
     SelectFirst();
 }
@@ -179,7 +187,11 @@ void ListView::BeginFill() {
 void ListView::EndFill() {
     rows_->EndFill();
     setUpdatesEnabled(true);
-    WidenForNumbers();
+    LayOutColumns();
+}
+
+QSize ListView::minimumSizeHint() const {
+    return {QTreeView::minimumSizeHint().width(), header()->sizeHint().height() + 2 * TheTokens().RowHeight};
 }
 
 void ListView::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -222,7 +234,7 @@ QModelIndex ListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modi
 
 void ListView::resizeEvent(QResizeEvent* event) {
     QTreeView::resizeEvent(event);
-    GiveRestToFlexibleColumns();
+    LayOutColumns();
 }
 
 void ListView::focusInEvent(QFocusEvent* event) {
@@ -242,7 +254,41 @@ bool ListView::viewportEvent(QEvent* event) {
         }
     }
     const RowModel::ViewAsks viewAsks(*rows_);
+    if (event->type() == QEvent::MouseButtonPress) {
+        const QModelIndexList chosen = selectionModel()->selectedRows();
+        selectedBefore_ = chosen.isEmpty() ? -1 : chosen.first().row();
+    }
     return QTreeView::viewportEvent(event);
+}
+
+void ListView::SetRowHeight(int pixels) {
+    rows_->SetRowHeight(pixels);
+    if (isVisible()) scheduleDelayedItemsLayout();
+}
+
+void ListView::SetEmptyText(const QString& text) {
+    emptyText_ = text;
+    viewport()->update();
+}
+
+// The pale ground of the chosen row alone would not stand out enough.
+void ListView::drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    QTreeView::drawRow(painter, option, index);
+    if (!selectionModel()->isSelected(index) || property("role").toString() == u"stale") return;
+    const int line = Scaled(2);
+    const QRect row(0, option.rect.top(), viewport()->width(), option.rect.height());
+    painter->fillRect(row.adjusted(0, 0, 0, line - row.height()), TheTokens().Accent);
+    painter->fillRect(row.adjusted(0, row.height() - line, 0, 0), TheTokens().Accent);
+}
+
+void ListView::paintEvent(QPaintEvent* event) {
+    QTreeView::paintEvent(event);
+    if (emptyText_.isEmpty() || rows_->KnownToView() > 0 || rows_->IsComingIn()) return;
+    QPainter painter(viewport());
+    painter.setPen(TheTokens().Muted);
+    const int margin = Scaled(cellPadding);
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, emptyText_);
 }
 
 QItemSelectionModel::SelectionFlags ListView::selectionCommand(const QModelIndex& index, const QEvent*) const {
@@ -252,27 +298,32 @@ QItemSelectionModel::SelectionFlags ListView::selectionCommand(const QModelIndex
 }
 
 void ListView::LayOutColumns() {
-    for (size_t i = 0; i < columns_.size(); ++i) {
-        const int section = static_cast<int>(i);
-        header()->setSectionHidden(section, columns_[i].width == 0);
-        if (columns_[i].width > 0) header()->resizeSection(section, columns_[i].width);
+    int rest = viewport()->width();
+    std::vector<int> flexible;
+    for (int column = 0; column < static_cast<int>(columns_.size()); ++column) {
+        const int width = columns_[static_cast<size_t>(column)].width;
+        header()->setSectionHidden(column, width == 0);
+        if (width < 0) flexible.push_back(column);
+        if (width <= 0) continue;
+        header()->resizeSection(column, WidthOf(column));
+        rest -= header()->sectionSize(column);
     }
-    GiveRestToFlexibleColumns();
+    for (size_t i = 0; i < flexible.size(); ++i) {
+        const int share = rest / static_cast<int>(flexible.size() - i);
+        header()->resizeSection(flexible[i], qMax(share, Scaled(narrowestFlexibleColumn)));
+        rest -= share;
+    }
 }
 
-// A number that does not show all its digits is a wrong number: columns of numbers grow with what they hold.
-void ListView::WidenForNumbers() {
-    const int digit = fontMetrics().horizontalAdvance(u'0');
-    bool widened = false;
-    for (size_t i = 0; i < columns_.size(); ++i) {
-        const int section = static_cast<int>(i);
-        if (columns_[i].width <= 0 || !(columns_[i].align & Qt::AlignRight)) continue;
-        const int needed = static_cast<int>(rows_->LongestText(section)) * digit + cellPadding;
-        if (needed <= header()->sectionSize(section)) continue;
-        header()->resizeSection(section, needed);
-        widened = true;
-    }
-    if (widened) GiveRestToFlexibleColumns();
+// A number that does not show all its digits is a wrong number.
+int ListView::WidthOf(int column) const {
+    const ListColumn& facts = columns_[static_cast<size_t>(column)];
+    const int needed = fontMetrics().horizontalAdvance(QString(rows_->LongestText(column), u'0')) + cellPadding;
+    const int designed = Scaled(facts.width);
+    if (facts.align & Qt::AlignRight) return qMax(designed, needed);
+    if (!facts.shrinks) return designed;
+    const int heading = header()->fontMetrics().horizontalAdvance(facts.heading) + cellPadding;
+    return qMin(designed, qMax(needed, heading));
 }
 
 // A hidden first column would not do as the current cell: the view could not scroll to it.
@@ -280,23 +331,6 @@ int ListView::FirstShownColumn() const {
     int column = 0;
     while (column + 1 < static_cast<int>(columns_.size()) && header()->isSectionHidden(column)) ++column;
     return column;
-}
-
-void ListView::GiveRestToFlexibleColumns() {
-    int rest = viewport()->width();
-    std::vector<int> flexible;
-    for (size_t i = 0; i < columns_.size(); ++i) {
-        const int section = static_cast<int>(i);
-        if (columns_[i].width < 0)
-            flexible.push_back(section);
-        else
-            rest -= header()->sectionSize(section);
-    }
-    for (size_t i = 0; i < flexible.size(); ++i) {
-        const int share = rest / static_cast<int>(flexible.size() - i);
-        header()->resizeSection(flexible[i], qMax(share, narrowestFlexibleColumn));
-        rest -= share;
-    }
 }
 
 }  // namespace forms

@@ -11,12 +11,13 @@ namespace forms {
 
 class RowModel;
 
-// One column of a list: its heading, which side it is aligned to, and its width in pixels; width 0 hides it, a
-// negative width takes what the others leave.
+// One column of a list: its heading, which side it is aligned to, and its width in pixels of the smallest step of type;
+// width 0 hides it, a negative width takes what the others leave. Columns of numbers grow with what they hold.
 struct ListColumn {
     QString heading;
     Qt::Alignment align = Qt::AlignLeft;
     int width = 100;
+    bool shrinks = false;  // no wider than what it holds
 };
 
 // The list of every screen: rows of texts, one row selected at a time, no sorting by heading. A hundred thousand rows
@@ -54,9 +55,18 @@ public:
     void ShowRows(std::unique_ptr<RowSource> source, Selects selects = Selects::FirstRow);
     // Empties a list whose rows are still coming in, and waits no longer for them.
     void StopComingIn();
+    // Gives each column its width.
+    void LayOutColumns();
+    // Of every row, in the step of type in use; without it as the look has it.
+    void SetRowHeight(int pixels);
+    // What an empty list says in the place of its rows.
+    void SetEmptyText(const QString& text);
     // Many rows at once: between Begin and End nothing is repainted.
     void BeginFill();
     void EndFill();
+
+    // Its heading and two rows.
+    QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
     // A double click while a row is selected, wherever in the list it falls.
@@ -73,6 +83,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     bool viewportEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                          const QEvent* event = nullptr) const override;
 
@@ -80,13 +92,13 @@ private:
     void TakeIn();
     void SelectFirst();
     void Report(const std::exception_ptr& why);
-    void LayOutColumns();
-    void WidenForNumbers();
+    int WidthOf(int column) const;
     int FirstShownColumn() const;
-    void GiveRestToFlexibleColumns();
 
     RowModel* rows_;
     std::vector<ListColumn> columns_;
+    QString emptyText_;
+    int selectedBefore_ = -1;  // the last press
     QTimer comingIn_;
     bool selectsFirst_ = false;
 };

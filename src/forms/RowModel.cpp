@@ -125,6 +125,8 @@ void RowModel::Remove(int row) {
     const auto first = cells_.begin() + static_cast<std::ptrdiff_t>(PlaceOf(row, 0));
     cells_.erase(first, first + static_cast<std::ptrdiff_t>(Width()));
     --published_;
+    longest_.assign(Width(), 0);
+    for (size_t cell = 0; cell < cells_.size(); ++cell) Measure(static_cast<int>(cell % Width()), cells_[cell].length);
     endRemoveRows();
 }
 
@@ -205,7 +207,7 @@ QVariant RowModel::data(const QModelIndex& index, int role) const {
     }
     if (role == Qt::TextAlignmentRole) return headerData(index.column(), Qt::Horizontal, role);
     // From here and not from the style sheet, which a list that is filled before it is shown does not have yet.
-    if (role == Qt::SizeHintRole) return QSize(0, Tokens::RowHeight);
+    if (role == Qt::SizeHintRole) return QSize(0, rowHeight_ ? rowHeight_ : TheTokens().RowHeight);
     return {};
 }
 

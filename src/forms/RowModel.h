@@ -24,6 +24,7 @@ public:
     using QAbstractTableModel::QAbstractTableModel;
 
     void SetColumns(const std::vector<ListColumn>& columns);
+    void SetRowHeight(int pixels) { rowHeight_ = pixels; }
 
     int Count();
     // Has so many rows on hand where there are as many, whoever asks.
@@ -44,8 +45,8 @@ public:
     QString Cell(int row, int column);
     void SetCell(int row, int column, const QString& text);
 
-    // Characters of the longest text that a column has held since the list was last empty; of a source's rows those
-    // that were looked at count.
+    // Characters of the longest text that a column has held since the list was last empty, or a row was last removed;
+    // of a source's rows those that were looked at count.
     qsizetype LongestText(int column) const { return longest_[static_cast<size_t>(column)]; }
 
     void BeginFill() { ++fills_; }
@@ -109,6 +110,7 @@ private:
     // Instead of cells_, with the cells that were written since.
     std::unique_ptr<RowSource> source_;
     std::unordered_map<size_t, QString> written_;
+    int rowHeight_ = 0;  // 0: as the look has it
     int published_ = 0;
     int fills_ = 0;
     int viewAsks_ = 0;

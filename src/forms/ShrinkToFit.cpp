@@ -1,8 +1,8 @@
 #include "forms/ShrinkToFit.h"
 
 #include <QEvent>
-#include <QStyle>
 
+#include "forms/Controls.h"
 #include "forms/Tokens.h"
 
 using namespace Qt::StringLiterals;
@@ -27,19 +27,20 @@ bool ShrinkToFit::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void ShrinkToFit::Fit() {
-    const auto& sizes = box_->property("role").toString() == u"total" ? Tokens::TotalSizes : Tokens::EntrySizes;
+    const auto& sizes = box_->property("role").toString() == u"total" ? TheTokens().TotalSizes : TheTokens().EntrySizes;
     const int last = static_cast<int>(sizes.size()) - 1;
     QFont font = box_->font();
     int step = 0;
     for (; step < last; ++step) {
         font.setPixelSize(sizes[static_cast<size_t>(step)]);
-        if (QFontMetrics(font).horizontalAdvance(box_->text()) + BoxPadding <= box_->width()) break;
+        const QFontMetrics metrics(font);
+        if (metrics.horizontalAdvance(box_->text()) + BoxPadding <= box_->width() && metrics.ascent() <= box_->height())
+            break;
     }
     if (step == step_) return;
     step_ = step;
     box_->setProperty("fit", QString::number(step));
-    box_->style()->unpolish(box_);
-    box_->style()->polish(box_);
+    Restyle(box_);
 }
 
 }  // namespace forms

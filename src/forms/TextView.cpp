@@ -22,7 +22,7 @@ constexpr int margin = 12;
 TextView::TextView(QWidget* parent)
     : QAbstractScrollArea(parent), decoder_([](const QByteArray& bytes) { return QString::fromLatin1(bytes); }) {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    font.setPixelSize(Tokens::TextSize);
+    font.setPixelSize(TheTokens().TextSize);
     font.setStyleHint(QFont::Monospace);
     viewport()->setFont(font);
     viewport()->setCursor(Qt::IBeamCursor);
@@ -123,8 +123,8 @@ void TextView::paintEvent(QPaintEvent*) {
         const auto [from, to] = MarkedColumns(number, static_cast<int>(text.size()));
         if (to > from)
             painter.fillRect(left + from * ColumnWidth(), y, (to - from) * ColumnWidth(), LineHeight(),
-                             Tokens::ChosenRow);
-        painter.setPen(Tokens::Ink);
+                             TheTokens().ChosenRow);
+        painter.setPen(TheTokens().Ink);
         painter.drawText(left, y + viewport()->fontMetrics().ascent(), text);
     }
 }

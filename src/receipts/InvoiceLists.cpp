@@ -12,7 +12,7 @@ enum TaxColumn { RecapTaxID, RecapNothing, RecapPercent, RecapAmount, RecapTax }
 
 void SetLineColumns(forms::ListView& lines, LinesOf screen) {
     const bool isReview = screen == LinesOf::Review;
-    std::vector<forms::ListColumn> columns{{u"Code"_s, Qt::AlignLeft, 128},
+    std::vector<forms::ListColumn> columns{{u"Code"_s, Qt::AlignLeft, 128, true},
                                            {u"Product name"_s, Qt::AlignLeft, -1},
                                            {u"Price"_s, Qt::AlignRight, 78},
                                            {u"Quantity"_s, Qt::AlignRight, 76},

@@ -11,6 +11,7 @@
 #include "forms/FileDialog.h"
 #include "forms/LongWork.h"
 #include "forms/MsgBox.h"
+#include "forms/Scrollable.h"
 #include "output/OutputGuard.h"
 #include "receipts/InvoiceOutput.h"
 #include "reports/ReportFile.h"
@@ -24,7 +25,7 @@ using values::Format;
 
 namespace {
 
-constexpr int SumBoxWidth = 130;
+constexpr int SumBoxWidth = 110;
 
 forms::ListColumn ListColumnOf(const ReportColumn& column) {
     return {column.heading, column.look == Look::Text ? Qt::AlignLeft : Qt::AlignRight, column.width};
@@ -43,6 +44,7 @@ std::vector<ListCell> CellsOf(const std::vector<ReportColumn>& columns) {
 ListReport::ListReport(ReportFacts facts) : facts_(std::move(facts)) {
     setObjectName(facts_.name);
     ui.setupUi(this);
+    forms::MakeScrollable(ui.panelPeriod);
     setWindowTitle(facts_.caption);
     std::vector<forms::ListColumn> columns;
     for (const ReportColumn& column : facts_.columns) columns.push_back(ListColumnOf(column));

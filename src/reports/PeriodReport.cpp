@@ -24,6 +24,7 @@ QString TitleDate(QDate day) {
 
 PeriodReport::PeriodReport(ReportFacts facts) : ListReport(std::move(facts)) {
     ui.panelPeriod->show();
+    ui.lv1->SetEmptyText(u"Choose a day in the calendar, or two days and \"%1\"."_s.arg(ui.Command1->text()));
     AddOptions();
     // A click, and Enter on the day that the arrow keys have reached.
     const auto chosen = [this](QDate day) { Run([&] { mv1_DateClick(day); }); };
@@ -90,6 +91,7 @@ void PeriodReport::Command1_Click() {
 
 void PeriodReport::ShowDays(const QString& where, const QString& title) {
     queryWhere_ = where;
+    ui.lv1->SetEmptyText(u"There is nothing on these days."_s);
     if (RunQuery()) ui.lblNaslov->setText(title);
     ui.lv1->setFocus();
 }

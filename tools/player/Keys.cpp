@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QHash>
 #include <QKeyEvent>
+#include <QScrollArea>
 #include <QWindow>
 
 #include "forms/ListView.h"
@@ -151,8 +152,19 @@ void HoldKey(Qt::Key key, int repeats) {
     }
 }
 
+namespace {
+
+// As a person would, who looks for it.
+void ScrollTo(QWidget* control) {
+    for (QWidget* around = control->parentWidget(); around; around = around->parentWidget())
+        if (auto* area = qobject_cast<QScrollArea*>(around)) area->ensureWidgetVisible(control);
+}
+
+}  // namespace
+
 void Click(QWidget* control, Qt::MouseButton button) {
     Settle();
+    ScrollTo(control);
     ClickAt(control, control->rect().center(), button);
     Settle();
 }
