@@ -109,6 +109,12 @@ void frmORVAtouch::ShowCustomer(bool visible) {
     ui.lblKupac->setVisible(visible);
     ui.txtKupac->setVisible(visible);
     ui.txtIB->setVisible(visible);
+    layout_.Arrange();
+}
+
+void frmORVAtouch::resizeEvent(QResizeEvent* event) {
+    Form::resizeEvent(event);
+    layout_.Arrange();
 }
 
 // The open period goes on, with the total that its row holds; after a closed one, or none, a new one begins.
@@ -184,17 +190,22 @@ void frmORVAtouch::cmdNew_Click() {
 void frmORVAtouch::OpenInvoice() {
     ui.txtInvoiceNumber->setText(QString::number(Next(RacunBroj_)));
     ui.txtORNumber->setText(QString::number(Next(RacunOrNo)));
-    ui.Frame2->setEnabled(true);
-    ui.Frame3->setEnabled(true);
+    EnableWork(true);
     if (ui.txtProdCode->isEnabled()) ui.txtProdCode->setFocus();
     ui.txtPosDisplay->setText(u"New Invoice"_s);
     ShowOnButton(PrintCaption, u"\\images\\printer.gif"_s);
 }
 
 void frmORVAtouch::CloseInvoice() {
-    ui.Frame2->setEnabled(false);
-    ui.Frame3->setEnabled(false);
+    EnableWork(false);
     ShowOnButton(NewCaption, u"\\images\\pisi.gif"_s);
+}
+
+// The panel of the entry stands beside the frame that it belongs to, since a low screen has it above both columns.
+void frmORVAtouch::EnableWork(bool enabled) {
+    ui.Frame2->setEnabled(enabled);
+    ui.panelEntry->setEnabled(enabled);
+    ui.Frame3->setEnabled(enabled);
 }
 
 void frmORVAtouch::ShowOnButton(const QString& caption, const QString& picture) {
@@ -210,6 +221,7 @@ void frmORVAtouch::cmdESCponisti_Click() {
          {ui.txtProdCode, ui.txtTotalAmount, ui.txtTaxTotal, ui.txtInvoiceNumber, ui.txtORNumber, ui.txtKupac, ui.txtIB,
           ui.txtTaxPercent, ui.txtUnitPrice, ui.txtQuantity, ui.txtPrice, ui.txtTaxAmount, ui.txtPosDisplay})
         box->clear();
+    ShowCount();
     CloseInvoice();
     if (TheSettings.NoviRacunAutomatski) cmdNew_Click();
 }

@@ -4,6 +4,7 @@
 #include "forms/LongWork.h"
 #include "masterdata/products/LineBoxes.h"
 #include "receipts/InvoiceText.h"
+#include "sales/SalesLayout.h"
 #include "store/Recordset.h"
 #include "ui_frmORVAtouch.h"
 #include "values/Money.h"
@@ -28,6 +29,7 @@ public:
 
 protected:
     void Form_Load() override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     // The period and the numbers (frmORVAtouch.cpp).
@@ -40,6 +42,7 @@ private:
     static qint32 Next(qint32 number);
     void OpenInvoice();
     void CloseInvoice();
+    void EnableWork(bool enabled);
     void ShowOnButton(const QString& caption, const QString& picture);
     void cmdESCponisti_Click();
     void txtUserFullName_Change();
@@ -73,6 +76,7 @@ private:
     void AddLine();
     void MergeInto(int row);
     void RecomputeInvoice();
+    void ShowCount();
     void DeleteLine();
     void ChangeLineQuantity();
 
@@ -86,6 +90,7 @@ private:
     InvoiceText TakeInvoiceText() const;
 
     Ui::frmORVAtouch ui;
+    SalesLayout layout_{ui};
     LineBoxes boxes_;
 
     qint32 RacunBroj_ = 0;

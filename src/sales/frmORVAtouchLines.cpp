@@ -16,6 +16,12 @@ using values::Money;
 
 using enum InvoiceText::Item::Column;
 
+namespace {
+
+const auto Pieces = u"pcs"_s;
+
+}  // namespace
+
 void frmORVAtouch::cmdAddItem_Click() {
     const int row = boxes_.RowIn(*ui.lv1);
     if (row < 0)
@@ -74,6 +80,20 @@ void frmORVAtouch::RecomputeInvoice() {
     RebuildTaxRecap(*ui.lv1, *ui.lvPorez);
     ui.txtTotalAmount->setText(Format(TotalAmountValue_, u"0.00"));
     ui.txtTaxTotal->setText(Format(TaxTotalValue_, u"0.00"));
+    ShowCount();
+}
+
+// What is weighed or measured is one piece. The taxes of an invoice that is gone stay until the next one has its own,
+// but pale.
+void frmORVAtouch::ShowCount() {
+    const int lines = ui.lv1->Count();
+    double pieces = 0;
+    for (int row = 0; row < lines; ++row) {
+        const bool isCounted = ui.lv1->Text(row, Unit) == Pieces;
+        pieces += isCounted ? CDouble(ui.lv1->Text(row, Quantity)) : 1;
+    }
+    ui.lblCount->setText(lines == 0 ? QString() : u"Lines: %1   Pieces: %2"_s.arg(lines).arg(Format(pieces, u"")));
+    forms::SetRole(ui.lvPorez, lines == 0 ? u"stale"_s : QString());
 }
 
 void frmORVAtouch::DeleteLine() {

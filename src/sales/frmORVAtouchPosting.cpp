@@ -40,6 +40,7 @@ void frmORVAtouch::PostInvoice() {
     for (QLineEdit* box : {ui.txtTotalAmount, ui.txtInvoiceNumber, ui.txtORNumber, ui.txtTaxTotal, ui.txtKupac,
                            ui.txtPosDisplay, ui.txtIB})
         box->clear();
+    ShowCount();
     CloseInvoice();
     if (TheSettings.NoviRacunAutomatski) cmdNew_Click();
 }

@@ -1,28 +1,33 @@
 #include "masterdata/clicktable/ClickTable.h"
 
-#include <QButtonGroup>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTabBar>
 #include <QVBoxLayout>
 
+#include "forms/Theme.h"
 #include "values/Error.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int ButtonsPerRow = 4;
+constexpr int FewestColumns = 4;
+constexpr int MostColumns = 6;
+constexpr int FingerHeight = 44;
+constexpr int PageMargin = 6;
+constexpr int Gap = 5;
+
+int RowsFor(int columns) {
+    return (ClickTable::ButtonsPerTab + columns - 1) / columns;
+}
 
 }  // namespace
 
-ClickTable::ClickTable(QWidget* parent) : QWidget(parent), tabs_(new QTabWidget(this)) {
+ClickTable::ClickTable(QWidget* parent) : QWidget(parent), tabs_(new CategoryTabs(this)) {
     setObjectName(u"clickTable"_s);
     tabs_->setObjectName(u"SSTab1"_s);
-    tabs_->setUsesScrollButtons(false);
-    tabs_->setElideMode(Qt::ElideRight);
-    tabs_->tabBar()->setExpanding(false);
-    tabs_->tabBar()->setProperty("role", u"narrow"_s);
     tabs_->setFocusPolicy(Qt::NoFocus);
     tabs_->tabBar()->setFocusPolicy(Qt::NoFocus);
     auto* whole = new QVBoxLayout(this);
@@ -32,21 +37,44 @@ ClickTable::ClickTable(QWidget* parent) : QWidget(parent), tabs_(new QTabWidget(
     for (int tab = 0; tab < TabCount; ++tab) {
         auto* page = new QWidget;
         auto* grid = new QGridLayout(page);
-        grid->setContentsMargins(8, 8, 8, 8);
-        grid->setSpacing(6);
+        grid->setContentsMargins(PageMargin, PageMargin, PageMargin, PageMargin);
+        grid->setSpacing(Gap);
         for (int place = 0; place < ButtonsPerTab; ++place) {
             const int index = tab * ButtonsPerTab + place;
             auto* button = new TouchButton;
             button->setObjectName(u"Command2_%1"_s.arg(index));
             button->installEventFilter(this);
             connect(button, &TouchButton::clicked, this, [this, index] { Q_EMIT Clicked(index); });
-            grid->addWidget(button, place / ButtonsPerRow, place % ButtonsPerRow);
             buttons_[static_cast<size_t>(index)] = button;
         }
-        for (int column = 0; column < ButtonsPerRow; ++column) grid->setColumnStretch(column, 1);
         tabs_->addTab(page, {});
         SetTabCaption(tab, QString::number(tab + 1));
     }
+    LayOut(FewestColumns);
+}
+
+void ClickTable::LayOut(int columns) {
+    if (columns == columns_) return;
+    columns_ = columns;
+    for (int tab = 0; tab < TabCount; ++tab) {
+        auto* grid = static_cast<QGridLayout*>(tabs_->widget(tab)->layout());
+        for (int place = 0; place < ButtonsPerTab; ++place)
+            grid->addWidget(Button(tab * ButtonsPerTab + place), place / columns, place % columns);
+        for (int line = 0; line < ButtonsPerTab; ++line) {
+            grid->setColumnStretch(line, line < columns ? 1 : 0);
+            grid->setRowStretch(line, line < RowsFor(columns) ? 1 : 0);
+        }
+    }
+}
+
+// Where eight rows would be lower than a finger there are fewer, with more buttons each.
+void ClickTable::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    const int room = height() - tabs_->tabBar()->sizeHint().height() - 2 * PageMargin;
+    const auto heightOf = [room](int columns) { return (room + Gap) / RowsFor(columns) - Gap; };
+    int columns = FewestColumns;
+    while (columns < MostColumns && heightOf(columns) < forms::Scaled(FingerHeight)) ++columns;
+    LayOut(columns);
 }
 
 void ClickTable::SetTabCaption(int tab, const QString& caption) {
@@ -55,6 +83,7 @@ void ClickTable::SetTabCaption(int tab, const QString& caption) {
     tabs_->setTabText(tab, QString(caption).replace(u'&', u"&&"_s));
     tabs_->setTabToolTip(tab, caption);
     tabs_->widget(tab)->setObjectName(caption);
+    tabs_->Share();
 }
 
 TouchButton* ClickTable::Button(int index) const {
@@ -69,24 +98,60 @@ void ClickTable::Clear() {
 
 void ClickTable::LetKeysIn() {
     tabs_->tabBar()->setFocusPolicy(Qt::TabFocus);
-    for (int tab = 0; tab < TabCount; ++tab) {
-        // Within a group the arrow keys go by where the buttons lie.
-        auto* page = new QButtonGroup(this);
-        page->setExclusive(false);
-        for (int place = 0; place < ButtonsPerTab; ++place) {
-            TouchButton* button = Button(tab * ButtonsPerTab + place);
-            button->setFocusPolicy(Qt::TabFocus);
-            page->addButton(button);
-        }
+    for (TouchButton* button : buttons_) button->setFocusPolicy(Qt::TabFocus);
+}
+
+void ClickTable::TakeFocus() {
+    if (!isEnabled()) return;
+    const auto first = buttons_.begin() + tabs_->currentIndex() * ButtonsPerTab;
+    const auto taken =
+        std::find_if(first, first + ButtonsPerTab, [](auto* button) { return !button->Tag().isEmpty(); });
+    (taken == first + ButtonsPerTab ? *first : *taken)->setFocus(Qt::ShortcutFocusReason);
+}
+
+int ClickTable::IndexOf(const QObject* button) const {
+    const auto at = std::find(buttons_.begin(), buttons_.end(), button);
+    return at == buttons_.end() ? -1 : static_cast<int>(at - buttons_.begin());
+}
+
+// An arrow goes to the neighbour, PageUp and PageDown to the same place of another tab.
+bool ClickTable::KeyPressed(int index, int key) {
+    int tab = index / ButtonsPerTab;
+    int place = index % ButtonsPerTab;
+    switch (key) {
+        case Qt::Key_Left:
+            --place;
+            break;
+        case Qt::Key_Right:
+            ++place;
+            break;
+        case Qt::Key_Up:
+            place -= columns_;
+            break;
+        case Qt::Key_Down:
+            place += columns_;
+            break;
+        case Qt::Key_PageUp:
+            --tab;
+            break;
+        case Qt::Key_PageDown:
+            ++tab;
+            break;
+        default:
+            return false;
     }
+    if (tab < 0 || tab >= TabCount || place < 0 || place >= ButtonsPerTab) return true;
+    tabs_->setCurrentIndex(tab);
+    Button(tab * ButtonsPerTab + place)->setFocus(Qt::OtherFocusReason);
+    return true;
 }
 
 bool ClickTable::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::MouseButtonRelease) {
-        const auto& release = static_cast<const QMouseEvent&>(*event);
-        const auto at = std::find(buttons_.begin(), buttons_.end(), watched);
-        if (at != buttons_.end() && (*at)->rect().contains(release.position().toPoint()))
-            Q_EMIT MouseUp(static_cast<int>(at - buttons_.begin()), release.button());
-    }
+    if (event->type() != QEvent::MouseButtonRelease && event->type() != QEvent::KeyPress) return false;
+    const int index = IndexOf(watched);
+    if (index < 0) return false;
+    if (event->type() == QEvent::KeyPress) return KeyPressed(index, static_cast<const QKeyEvent&>(*event).key());
+    const auto& release = static_cast<const QMouseEvent&>(*event);
+    if (Button(index)->rect().contains(release.position().toPoint())) Q_EMIT MouseUp(index, release.button());
     return QWidget::eventFilter(watched, event);
 }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QTabWidget>
 #include <array>
 
+#include "masterdata/clicktable/CategoryTabs.h"
 #include "masterdata/clicktable/TouchButton.h"
 
 // The grid of touch buttons that till and set-up show: the tab strip SSTab1 with ten tabs, 32 buttons to a tab, the
@@ -24,8 +24,10 @@ public:
     TouchButton* Button(int index) const;
     // Every button free, without caption and picture.
     void Clear();
-    // For a screen where nobody scans: the Tab key reaches tabs and buttons, the arrow keys move among them.
+    // For a screen where nobody scans: the Tab key reaches tabs and buttons. The arrow keys move among these.
     void LetKeysIn();
+    // The focus goes to the first button of the tab in front that has something on it.
+    void TakeFocus();
 
 Q_SIGNALS:
     void Clicked(int index);
@@ -34,8 +36,14 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QTabWidget* tabs_;
+    void LayOut(int columns);
+    bool KeyPressed(int index, int key);
+    int IndexOf(const QObject* button) const;
+
+    CategoryTabs* tabs_;
+    int columns_ = 0;
     std::array<TouchButton*, ButtonCount> buttons_{};
 };

@@ -18,7 +18,7 @@ public:
     void Clear();
 
     QSize sizeHint() const override { return {96, 66}; }
-    QSize minimumSizeHint() const override { return {60, 44}; }
+    QSize minimumSizeHint() const override { return {40, 24}; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
