@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "forms/Frame.h"
+#include "screens/Faults.h"
 #include "screens/Picture.h"
 
 using namespace Qt::StringLiterals;
@@ -33,8 +34,11 @@ void Album::Add(QWidget& window, const QString& name) {
     screens_ << window.objectName();
     if (const auto* frame = qobject_cast<forms::Frame*>(&window); frame && frame->ActiveChild())
         screens_ << frame->ActiveChild()->objectName();
+    const QImage picture = PictureOf(window);
+    for (const QString& fault : FaultsOf(window))
+        if (!faults_.contains(fault)) faults_ << fault;
     const QString path = u"%1/%2.png"_s.arg(folder_, name);
-    if (!SavePicture(PictureOf(window), path)) GiveUp(u"The picture %1 can't be written."_s.arg(path));
+    if (!SavePicture(picture, path)) GiveUp(u"The picture %1 can't be written."_s.arg(path));
 }
 
 QStringList Album::MissingScreens() const {

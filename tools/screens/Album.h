@@ -20,11 +20,14 @@ public:
     qsizetype Count() const { return names_.size(); }
     // The screens of the program, by class, that are on no picture.
     QStringList MissingScreens() const;
+    // What its user could not read or reach on them, each once.
+    const QStringList& Faults() const { return faults_; }
 
 private:
     QString folder_;
     QSet<QString> names_;
     QSet<QString> screens_;
+    QStringList faults_;
 };
 
 }  // namespace screens

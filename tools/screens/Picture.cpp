@@ -15,14 +15,13 @@
 #include "screens/Palette.h"
 
 using namespace Qt::StringLiterals;
-using forms::Tokens::LabelSize;
-using forms::Tokens::Margin;
 
 namespace screens {
 
 namespace {
 
 constexpr int BarHeight = 34;
+constexpr int BarMargin = 12;
 constexpr int Smallest = 100;  // the compression, in per cent
 
 // A clock on a screen goes on each second of the real time, whenever that comes.
@@ -50,15 +49,15 @@ void DrawOpenMenu(QPixmap& picture, const QWidget& window) {
 QPixmap WithTitle(const QPixmap& content, const QString& title) {
     QPixmap picture(content.width() + 2, content.height() + BarHeight + 1);
     QPainter painter(&picture);
-    painter.fillRect(picture.rect(), forms::Tokens::TabBehind);
-    painter.setPen(forms::Tokens::Edge);
+    painter.fillRect(picture.rect(), forms::TheTokens().TabBehind);
+    painter.setPen(forms::TheTokens().Edge);
     painter.drawRect(picture.rect().adjusted(0, 0, -1, -1));
     QFont bold = QApplication::font();
-    bold.setPixelSize(LabelSize);
+    bold.setPixelSize(forms::TheTokens().LabelSize);
     bold.setBold(true);
     painter.setFont(bold);
-    painter.setPen(forms::Tokens::Ink);
-    const QRect bar(Margin, 0, picture.width() - 2 * Margin, BarHeight);
+    painter.setPen(forms::TheTokens().Ink);
+    const QRect bar(BarMargin, 0, picture.width() - 2 * BarMargin, BarHeight);
     painter.drawText(bar, Qt::AlignVCenter | Qt::AlignLeft, title);
     painter.drawPixmap(1, BarHeight, content);
     return picture;

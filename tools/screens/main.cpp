@@ -22,6 +22,7 @@ namespace {
 struct Arguments {
     std::string folder;
     std::pair<int, int> size{1366, 768};
+    std::string scale;
 };
 
 // As a shop sets its register that has a fiscal printer and writes customers on invoices.
@@ -38,9 +39,10 @@ int TakePictures(const QString& folder, const QString& shop) {
     screens::TakeTour([&](QWidget& window, const QString& name) { album.Add(window, name); });
     const QStringList missing = album.MissingScreens();
     for (const QString& screen : missing) std::fprintf(stderr, "No picture shows %s.\n", qPrintable(screen));
-    if (missing.isEmpty())
-        std::printf("%lld pictures in %s\n", static_cast<long long>(album.Count()), qPrintable(folder));
-    return missing.isEmpty() ? 0 : 1;
+    for (const QString& fault : album.Faults()) std::fprintf(stderr, "%s.\n", qPrintable(fault));
+    const bool isWell = missing.isEmpty() && album.Faults().isEmpty();
+    if (isWell) std::printf("%lld pictures in %s\n", static_cast<long long>(album.Count()), qPrintable(folder));
+    return isWell ? 0 : 1;
 }
 
 int Run(int argc, char* argv[]) {
@@ -49,15 +51,19 @@ int Run(int argc, char* argv[]) {
     app.add_option("FOLDER", arguments.folder, "Takes the pictures; it is made when it is missing")->required();
     app.add_option("--size", arguments.size, "The till's screen, 1366x768 when nothing is said")
         ->delimiter('x')
-        ->check(CLI::Range(640, 4096))
+        ->check(CLI::Range(480, 4096))
         ->type_name("WIDTHxHEIGHT");
+    app.add_option("--scale", arguments.scale, "How many dots of the screen make a pixel, 1 when nothing is said")
+        ->check(CLI::Range(1.0, 4.0))
+        ->type_name("FACTOR");
     CLI11_PARSE(app, argc, argv);
+    if (!arguments.scale.empty()) qputenv("QT_SCALE_FACTOR", QByteArray::fromStdString(arguments.scale));
 
     drivers::HushPlatform();
     const QTemporaryDir temporary;
     drivers::UseTillScreen(temporary.path(), {arguments.size.first, arguments.size.second});
     QApplication application(argc, argv);
-    PrepareApplication(application);
+    PrepareApplication();
     QApplication::setCursorFlashTime(0);  // the caret always shows
     return TakePictures(QString::fromLocal8Bit(arguments.folder), temporary.filePath(u"shop"_s));
 }
