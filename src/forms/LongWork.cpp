@@ -9,6 +9,7 @@
 #include <QWindow>
 
 #include "forms/Program.h"
+#include "forms/Sound.h"
 
 using namespace Qt::StringLiterals;
 
@@ -182,11 +183,18 @@ bool LongWork::IsOverNotice(const QPointerEvent& event) const {
     return notice_->rect().contains(notice_->mapFromGlobal(event.points().first().globalPosition()).toPoint());
 }
 
+void LongWork::SwallowKey(const QKeyEvent& key) {
+    if (key.key() == Qt::Key_Escape) left_ = true;
+    if (!scan_.IsEndedBy(key)) return scan_.Add(key);
+    scan_.Forget();
+    Beep();
+}
+
 bool LongWork::eventFilter(QObject* watched, QEvent* event) {
     const auto type = event->type();
     const bool isOurs = innermost == this && QApplication::activeModalWidget() == modal_;
     if (!IsInput(type) || !isOurs || IsForNotice(watched)) return false;
-    if (type == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) left_ = true;
+    if (type == QEvent::KeyPress) SwallowKey(static_cast<QKeyEvent&>(*event));
     // A window hands on what is meant for the notice, and what ends a press that it has handed on. A press elsewhere
     // would move the focus before a control sees it.
     if (watched->isWindowType() && event->isPointerEvent()) {

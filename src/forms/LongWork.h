@@ -4,14 +4,17 @@
 #include <QObject>
 #include <QPointer>
 
+#include "forms/ScanBurst.h"
+
 class QPointerEvent;
 
 namespace forms {
 
 // Something that a screen does takes long, or has to wait for something: after half a second of work, after one second
 // of waiting, a notice says so, and the user can leave it by Esc or by the notice's button. While the notice stands
-// every other key (a scanner's too) and touch is swallowed, those that came shortly before it among them: an Esc typed
-// too early still leaves. Work that ends earlier leaves the keys to whom they were typed for.
+// every other key and touch is swallowed, those that came shortly before it among them: an Esc typed too early still
+// leaves, and a scanner's code that is lost so is beeped at. Work that ends earlier leaves the keys to whom they were
+// typed for.
 class LongWork : public QObject {
     Q_OBJECT
 
@@ -40,6 +43,7 @@ private:
     void PlaceNotice();
     bool IsForNotice(const QObject* watched) const;
     bool IsOverNotice(const QPointerEvent& event) const;
+    void SwallowKey(const QKeyEvent& key);
 
     QPointer<QWidget> form_;
     QString text_;
@@ -51,6 +55,7 @@ private:
     LongWork* outer_;
     QElapsedTimer sinceBegin_;
     QElapsedTimer sinceLook_;
+    ScanBurst scan_;
     bool hasCursor_ = false;
     bool isLooking_ = false;
     bool left_ = false;

@@ -6,6 +6,7 @@
 
 #include "forms/FocusReturn.h"
 #include "forms/Program.h"
+#include "forms/ScanGuard.h"
 
 namespace forms {
 
@@ -41,6 +42,7 @@ int Show(const QString& text, const QString& title, Icon icon, QMessageBox::Stan
     box->setStandardButtons(buttons);
     box->setDefaultButton(preset);
     box->setEscapeButton(escape);
+    new ScanGuard(box);
     const int answer = box->exec();
     delete box;
     if (ProgramIsEnding()) throw ProgramEnds{};

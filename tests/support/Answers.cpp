@@ -71,6 +71,7 @@ void AnswerBox(QMessageBox& box) {
     EXPECT_EQ(box.windowTitle().toStdString(), expected.title.value_or(box.windowTitle()).toStdString());
     EXPECT_EQ(box.icon(), expected.icon.value_or(box.icon())) << Words(expected);
     if (!expected.keys.isEmpty()) return Keys(expected.keys);
+    if (expected.script) return expected.script(box);
     if (QAbstractButton* button = box.button(expected.button)) return button->click();
     ADD_FAILURE() << Words(expected) << " has no such button";
     box.reject();
@@ -139,6 +140,11 @@ Boxes& Boxes::WithIcon(QMessageBox::Icon icon) {
 
 Boxes& Boxes::Typing(const QString& keys) {
     queue.back().keys = keys;
+    return *this;
+}
+
+Boxes& Boxes::Doing(std::function<void(QMessageBox&)> script) {
+    queue.back().script = [script = std::move(script)](QWidget& box) { script(static_cast<QMessageBox&>(box)); };
     return *this;
 }
 

@@ -27,6 +27,8 @@ public:
     Boxes& WithIcon(QMessageBox::Icon icon);
     // It is answered by these keys instead of its button.
     Boxes& Typing(const QString& keys);
+    // Or by this script, which has to close it.
+    Boxes& Doing(std::function<void(QMessageBox&)> script);
 
     // A modal form of this class: the script runs inside its loop and has to close it.
     Boxes& ExpectForm(const QString& className, std::function<void(QWidget&)> script);
