@@ -11,6 +11,7 @@
 #include "core/frmLogin.h"
 #include "core/mdiORVA.h"
 #include "forms/MsgBox.h"
+#include "forms/Sound.h"
 #include "forms/Theme.h"
 #include "sales/frmORVAtouch.h"
 
@@ -26,6 +27,7 @@ void TakeInstallation() {
     } catch (const values::Error& error) {
         refused = {error.Description()};
     }
+    forms::SetSound(TheInstallation.sound);
     forms::UseContrast(TheInstallation.contrast);
     forms::FitTypeTo(QGuiApplication::primaryScreen()->availableSize());
     if (!refused.isEmpty()) forms::Inform(refused.join(u'\n'), u"VELTON"_s);

@@ -5,6 +5,7 @@
 #include <optional>
 #include <vector>
 
+#include "forms/Dimmed.h"
 #include "forms/FocusReturn.h"
 #include "forms/Form.h"
 
@@ -62,6 +63,7 @@ struct Form::Behaviours : QObject {
     QPointer<QWidget> pressedControl;
 
     std::optional<FocusReturn> cameFrom;
+    std::optional<Dimmed> below;
     QPointer<QEventLoop> modalLoop;
     bool unloading = false;
     bool sized = false;  // for its first showing

@@ -40,7 +40,7 @@ Tokens Dark() {
     tokens.Faint = Rgb(0x6E7B86);
     tokens.Accent = Rgb(0x5FD0B4);
     tokens.AccentDark = Rgb(0x7CF0C2);
-    tokens.OnAccent = Rgb(0x10181E);
+    tokens.OnAccent = tokens.OnDanger = Rgb(0x10181E);
     tokens.Danger = tokens.DangerLine = Rgb(0xFF8A8A);
     tokens.DangerPale = Rgb(0x3A2227);
     tokens.Night = Rgb(0x05090C);

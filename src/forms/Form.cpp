@@ -158,6 +158,7 @@ void Form::Leave() {
     loadedForms.removeOne(this);
     if (frontForm == this) frontForm = nullptr;
     behaviours_->focused = nullptr;
+    behaviours_->below.reset();
     hide();
     Q_EMIT Unloaded();
     if (!qobject_cast<Frame*>(window())) return;
@@ -211,6 +212,7 @@ void Form::Present() {
         winId();
         if (below && below != this) windowHandle()->setTransientParent(below->windowHandle());
         CentreOver(this, below);
+        if (isModal() && below != this) behaviours_->below.emplace(below);
     }
     show();
     raise();

@@ -4,6 +4,7 @@
 #include <QMessageBox>
 #include <QPointer>
 
+#include "forms/Dimmed.h"
 #include "forms/FocusReturn.h"
 #include "forms/Program.h"
 #include "forms/ScanGuard.h"
@@ -33,6 +34,7 @@ int Show(const QString& text, const QString& title, Icon icon, QMessageBox::Stan
          QMessageBox::StandardButton preset, QMessageBox::StandardButton escape) {
     if (ProgramIsEnding()) throw ProgramEnds{};
     const FocusReturn focus;
+    const Dimmed below(QApplication::activeWindow());
     // A handler inside the box's loop may delete the window it belongs to, and the box with it.
     const QPointer<QMessageBox> box = new QMessageBox(QApplication::activeWindow());
     box->setTextFormat(Qt::PlainText);

@@ -44,7 +44,8 @@ protected:
 
 void MakeScrollable(QWidget* panel) {
     auto* area = new PanelArea(panel);
-    auto* content = new QWidget;
+    // Within the window all the time, so that the walk of the Tab key stays.
+    auto* content = new QWidget(area);
     content->setAutoFillBackground(false);
     QLayout* layout = panel->layout();
     content->setLayout(layout);

@@ -100,6 +100,7 @@ QHash<QString, QString> Names(const Tokens& tokens) {
         {u"accentDark"_s, tokens.AccentDark.name()},
         {u"onAccent"_s, tokens.OnAccent.name()},
         {u"danger"_s, tokens.Danger.name()},
+        {u"onDanger"_s, tokens.OnDanger.name()},
         {u"dangerLine"_s, tokens.DangerLine.name()},
         {u"dangerPale"_s, tokens.DangerPale.name()},
         {u"night"_s, tokens.Night.name()},
@@ -147,6 +148,7 @@ QHash<QString, QString> Names(const Tokens& tokens) {
         {u"calendarWidth"_s, Pixels(7 * tokens.DaySize)},
         {u"calendarHeight"_s, Pixels(8 * tokens.DaySize)},
         {u"tightHeading"_s, Pixels(tokens.HeadingHeight * 2 / 3)},
+        {u"rowHeight"_s, Pixels(tokens.RowHeight)},
         {u"scrollBarWidth"_s, Pixels(tokens.ScrollBarWidth)},
     };
 }

@@ -8,7 +8,8 @@ namespace forms {
 // by the property "role" in their .ui files:
 //   buttons   main (save, new, add), post (the big one of the sales screen), danger (deletes, cancels)
 //   boxes     entry (20 px entry field), plain (a strong text that looks like a label), plainAccent (the same in
-//             accent), strip (the line of information), pale (light grey until it has had the focus)
+//             accent), strip (the line of information; stripDanger, stripAdded: for a moment), pale (light grey until
+//             it has had the focus)
 //   lists     stale (pale: of something that is over)
 //   labels    heading, muted, strong (18 px), figure (18 px, for numbers), accent, picture (a dotted frame for one)
 //   frames    panel (paper, border, corners), night (the panel of the total), strip (the line of information)

@@ -47,7 +47,7 @@ QComboBox QAbstractItemView {
     background: @paper; border: 1px solid @edge; outline: none;
     selection-background-color: @chosenRow; selection-color: @ink;
 }
-QComboBox QAbstractItemView::item { min-height: @fieldHeight; padding: 0 8px; }
+QComboBox QAbstractItemView::item { min-height: @rowHeight; padding: 0 8px; }
 )";
 
 constexpr auto buttons = R"(
@@ -119,6 +119,12 @@ QFrame[role="strip"] { background: @strip; border: 1px solid @stripLine; border-
 QFrame[role="strip"] QLineEdit, QLabel[role="strip"], QLineEdit[role="strip"] { font-size: @textSize; }
 QLabel[role="strip"], QLineEdit[role="strip"], QLineEdit[role="strip"]:read-only {
     background: @strip; border: 1px solid @stripLine; border-radius: @corner; padding: 0 12px;
+}
+QLineEdit[role="stripDanger"], QLineEdit[role="stripDanger"]:read-only {
+    background: @danger; color: @onDanger; border: 1px solid @danger; border-radius: @corner; padding: 0 12px;
+}
+QLineEdit[role="stripAdded"], QLineEdit[role="stripAdded"]:read-only {
+    background: @strip; color: @accent; font-weight: bold; border: 1px solid @accent; border-radius: @corner; padding: 0 12px;
 }
 QLabel[role="picture"] { color: @muted; border: 1px dotted @edge; border-radius: @corner; font-size: @labelSize; }
 QGroupBox {

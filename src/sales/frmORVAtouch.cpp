@@ -39,6 +39,7 @@ const auto RunningTotalPattern = u"###,###,##0.00"_s;
 frmORVAtouch::frmORVAtouch() {
     ui.setupUi(this);
     boxes_ = LineBoxes(ui);
+    display_ = new forms::Flash(ui.txtPosDisplay);
     SetLineColumns(*ui.lv1, LinesOf::Sale);
     SetRecapColumns(*ui.lvPorez);
 
@@ -102,6 +103,16 @@ void frmORVAtouch::Form_Load() {
     LoadClickTable(this);
     ShowCustomer(TheSettings.Kupac);
     cmdNew_Click();
+}
+
+// Ctrl+Tab leads to the touch table and back; the walk of the Tab key leaves it out, for a scanner types on.
+bool frmORVAtouch::Form_KeyDown(QKeyEvent& key) {
+    if (key.key() != Qt::Key_Tab || key.modifiers() != Qt::ControlModifier) return Form::Form_KeyDown(key);
+    if (ui.clickTable->isAncestorOf(focusWidget()))
+        ui.txtProdCode->setFocus();
+    else
+        ui.clickTable->TakeFocus();
+    return true;
 }
 
 void frmORVAtouch::ShowCustomer(bool visible) {
@@ -270,7 +281,7 @@ void frmORVAtouch::Command2_Click(int index) {
     if (code.isEmpty()) return;
     ShowAnew(code);
     if (ui.txtDescription->text().isEmpty()) {
-        forms::Tell(u"Product has meanwhile been deleted or does not exist."_s);
+        Refuse(u"Product has meanwhile been deleted or does not exist."_s, {}, forms::Icon::None);
         ui.txtProdCode->clear();
         return;
     }

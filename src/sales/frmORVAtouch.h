@@ -1,7 +1,9 @@
 #pragma once
 
+#include "forms/Flash.h"
 #include "forms/Form.h"
 #include "forms/LongWork.h"
+#include "forms/MsgBox.h"
 #include "masterdata/products/LineBoxes.h"
 #include "receipts/InvoiceText.h"
 #include "sales/SalesLayout.h"
@@ -29,6 +31,7 @@ public:
 
 protected:
     void Form_Load() override;
+    bool Form_KeyDown(QKeyEvent& key) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
@@ -63,6 +66,7 @@ private:
     void txtQuantity_Enter();
     void txtDescription_Change();
     void cmdF2izaberi_Click();
+    void Refuse(const QString& text, const QString& title, forms::Icon icon = forms::Icon::Information);
     void SetQuantity(const QString& text);
     void ShowAnew(const QString& code);
     void ToggleAddButton();
@@ -92,6 +96,7 @@ private:
     Ui::frmORVAtouch ui;
     SalesLayout layout_{ui};
     LineBoxes boxes_;
+    forms::Flash* display_ = nullptr;
 
     qint32 RacunBroj_ = 0;
     qint16 SalesPeriodID_ = 0;

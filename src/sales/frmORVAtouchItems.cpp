@@ -4,7 +4,7 @@
 #include "core/Settings.h"
 #include "core/mdiORVA.h"
 #include "forms/Controls.h"
-#include "forms/MsgBox.h"
+#include "forms/Sound.h"
 #include "masterdata/products/frmArtikli.h"
 #include "sales/frmORVAtouch.h"
 #include "values/LineAmount.h"
@@ -22,6 +22,14 @@ const auto PostingBarcode = u"9999999999994"_s;
 const auto Pieces = u"pcs"_s;
 
 }  // namespace
+
+// Heard and seen without a look at the box, also after it has been answered.
+void frmORVAtouch::Refuse(const QString& text, const QString& title, forms::Icon icon) {
+    forms::Beep();
+    display_->Show(u"stripDanger"_s);
+    forms::Tell(text, icon, title);
+    display_->Show(u"stripDanger"_s);
+}
 
 // Amount and tax follow from the price and the rate that stand there now, also when the quantity stays what it was.
 void frmORVAtouch::SetQuantity(const QString& text) {
@@ -54,7 +62,7 @@ void frmORVAtouch::txtProdCode_LostFocus() {
 
 void frmORVAtouch::CheckProductFound() {
     if (ui.txtProdCode->text().isEmpty() || !ui.txtDescription->text().isEmpty()) return;
-    forms::Inform(UnknownProduct, mdiORVA::Window().Caption());
+    Refuse(UnknownProduct, mdiORVA::Window().Caption());
     ui.txtProdCode->clear();
 }
 
@@ -68,7 +76,7 @@ void frmORVAtouch::txtProdCode_Enter() {
     if (code.isEmpty()) return;
     auto product = LineBoxes::Find(code);
     if (product.AtEOF()) {
-        forms::Inform(UnknownProduct, u"Product with this ID-barcode does not exist"_s);
+        Refuse(UnknownProduct, u"Product with this ID-barcode does not exist"_s);
         ui.txtProdCode->setFocus();
         forms::SelectAll(ui.txtProdCode);
         return;
@@ -100,7 +108,7 @@ void frmORVAtouch::txtQuantity_Change() {
             (this->*step)();
         } catch (const values::Error& error) {
             if (error.Number() != values::Overflow) continue;
-            forms::Inform(u"Illogical quantity. "_s, u"CHANGE QUANTITY"_s);
+            Refuse(u"Illogical quantity. "_s, u"CHANGE QUANTITY"_s);
             ui.txtQuantity->setText(u"0"_s);
             ui.txtQuantity->clear();
             ui.txtQuantity->setCursorPosition(0);

@@ -48,6 +48,7 @@ void frmORVAtouch::AddLine() {
     ui.lv1->BringIntoView(row);
     ui.txtPosDisplay->setText(ui.lv1->Text(row, Quantity) + u" x "_s + ui.txtDescription->text() + u"   "_s +
                               ui.lv1->Text(row, UnitPrice) + u" = "_s + ui.lv1->Text(row, Amount));
+    display_->Show(u"stripAdded"_s);
     boxes_.StartAnew();
     RecomputeInvoice();
 }
@@ -65,6 +66,7 @@ void frmORVAtouch::MergeInto(int row) {
     ui.lv1->SetText(row, TaxAmount, Format(merged.tax, u"0.00"));
     ui.txtPosDisplay->setText(ui.lv1->Text(row, Quantity) + u" x "_s + ui.txtDescription->text() + u"   "_s +
                               ui.txtUnitPrice->text() + u" = "_s + ui.lv1->Text(row, Amount));
+    display_->Show(u"stripAdded"_s);
     boxes_.StartAnew();
     RecomputeInvoice();
 }

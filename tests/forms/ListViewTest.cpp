@@ -159,7 +159,7 @@ TEST_F(ListViewTest, ColumnsShareTheWidth) {
     EXPECT_EQ(header->sectionSize(0), 100);
 
     list.Add({u"1"_s});
-    EXPECT_EQ(list.visualRect(list.model()->index(0, 0)).height(), 34);
+    EXPECT_EQ(list.visualRect(list.model()->index(0, 0)).height(), 40);
     EXPECT_FALSE(header->sectionsClickable());
 }
 

@@ -67,11 +67,11 @@ TEST_F(LookTest, WhatIsTouchedIsHighEnoughAndRowsCanBeToldApart) {
     EXPECT_GE(form.cmdSave->height(), 44);
     EXPECT_EQ(calendar->height(), 36);
     const QImage rows = form.lv1->viewport()->grab().toImage();
-    EXPECT_EQ(rows.pixelColor(2, 34 + 17).name(), u"#cfe7e3"_s) << "the chosen row";
-    EXPECT_EQ(rows.pixelColor(2, 3 * 34 + 17).name(), u"#f6f8f9"_s) << "every second row";
+    EXPECT_EQ(rows.pixelColor(2, 40 + 20).name(), u"#cfe7e3"_s) << "the chosen row";
+    EXPECT_EQ(rows.pixelColor(2, 3 * 40 + 20).name(), u"#f6f8f9"_s) << "every second row";
     unit->showPopup();
     drivers::Settle();
-    EXPECT_GE(unit->view()->visualRect(unit->model()->index(0, 0)).height(), 34);
+    EXPECT_GE(unit->view()->visualRect(unit->model()->index(0, 0)).height(), 40);
     unit->hidePopup();
 }
 
