@@ -20,8 +20,13 @@ Flash::Flash(QWidget* control) : QObject(control), control_(control), own_(contr
 }
 
 void Flash::Show(const QString& role) {
-    SetRole(control_, role);
+    Hold(role);
     over_.start();
+}
+
+void Flash::Hold(const QString& role) {
+    over_.stop();
+    SetRole(control_, role);
 }
 
 }  // namespace forms

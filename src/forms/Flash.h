@@ -15,6 +15,8 @@ public:
 
     // The control has this role (Theme.h) for a second, and its own again.
     void Show(const QString& role);
+    // The same until Show() is called.
+    void Hold(const QString& role);
 
 private:
     QWidget* control_;

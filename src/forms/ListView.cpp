@@ -24,6 +24,7 @@ constexpr int narrowestFlexibleColumn = 60;
 constexpr int betweenLooks = 15;  // milliseconds, while rows are coming in
 // What the style leaves free on both sides of a cell's text.
 constexpr int cellPadding = 22;
+constexpr int roundingRoom = 4;
 
 // To paint a heading is to ask whether all rows of its column are chosen.
 class Headings : public QHeaderView {
@@ -323,7 +324,7 @@ int ListView::WidthOf(int column) const {
     if (facts.align & Qt::AlignRight) return qMax(designed, needed);
     if (!facts.shrinks) return designed;
     const int heading = header()->fontMetrics().horizontalAdvance(facts.heading) + cellPadding;
-    return qMin(designed, qMax(needed, heading));
+    return qMin(designed, qMax(needed + roundingRoom, heading));
 }
 
 // A hidden first column would not do as the current cell: the view could not scroll to it.

@@ -128,6 +128,12 @@ void frmORVAtouch::resizeEvent(QResizeEvent* event) {
     layout_.Arrange();
 }
 
+// Only now do the parts of a form that nobody saw before have their sizes.
+void frmORVAtouch::showEvent(QShowEvent* event) {
+    Form::showEvent(event);
+    layout_.Arrange();
+}
+
 // The open period goes on, with the total that its row holds; after a closed one, or none, a new one begins.
 void frmORVAtouch::FindPeriod() {
     auto rs = MainStore().OpenRecordset(LastPeriodQuery);

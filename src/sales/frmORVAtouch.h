@@ -33,6 +33,7 @@ protected:
     void Form_Load() override;
     bool Form_KeyDown(QKeyEvent& key) override;
     void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     // The period and the numbers (frmORVAtouch.cpp).

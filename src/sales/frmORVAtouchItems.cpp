@@ -26,7 +26,7 @@ const auto Pieces = u"pcs"_s;
 // Heard and seen without a look at the box, also after it has been answered.
 void frmORVAtouch::Refuse(const QString& text, const QString& title, forms::Icon icon) {
     forms::Beep();
-    display_->Show(u"stripDanger"_s);
+    display_->Hold(u"stripDanger"_s);
     forms::Tell(text, icon, title);
     display_->Show(u"stripDanger"_s);
 }

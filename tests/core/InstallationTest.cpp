@@ -1,0 +1,46 @@
+#include "core/Installation.h"
+
+#include <QDir>
+#include <QFile>
+
+#include "output/Folder.h"
+#include "support/ScreenTest.h"
+#include "values/FileError.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class InstallationTest : public drivers::ScreenTest {
+protected:
+    InstallationTest() { output::SetProgramFolder(folder.path()); }
+    ~InstallationTest() override { TheInstallation = {}; }
+
+    QStringList Read(const QByteArray& text) {
+        QFile file(folder.filePath(u"velton.ini"_s));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+        file.close();
+        return ReadInstallation();
+    }
+};
+
+TEST_F(InstallationTest, AMissingKeyIsAsDeliveredAndAWrongValueIsToldWithItsLine) {
+    EXPECT_TRUE(ReadInstallation().isEmpty()) << "without the file";
+    EXPECT_TRUE(TheInstallation.sound);
+
+    EXPECT_TRUE(Read("[till]\nsound = NO\r\ncontrast=high\n").isEmpty());
+    EXPECT_FALSE(TheInstallation.sound);
+    EXPECT_EQ(TheInstallation.contrast, forms::Contrast::High);
+
+    EXPECT_EQ(Read("; how this till is\r\n[till]\r\n\r\nsound=perhaps\r\ncontrast=dark\r\n"),
+              QStringList{u"velton.ini, line 4: sound can't be \"perhaps\", only yes or no."_s});
+    EXPECT_TRUE(TheInstallation.sound) << "as if the key were missing";
+    EXPECT_EQ(TheInstallation.contrast, forms::Contrast::Dark);
+
+    QFile::remove(folder.filePath(u"velton.ini"_s));
+    QDir(folder.path()).mkdir(u"velton.ini"_s);
+    EXPECT_THROW(ReadInstallation(), values::FileError);
+}
+
+}  // namespace
