@@ -41,7 +41,7 @@ QString Wrapped(const QString& name, const QFontMetrics& metrics, int width, int
         if (line == lines || metrics.horizontalAdvance(rest) + ElideRoom <= width)
             return result + metrics.elidedText(rest, Qt::ElideRight, width);
         qsizetype end = rest.size();
-        while (end > 0 && metrics.horizontalAdvance(rest.left(end)) > width) {
+        while (end > 0 && metrics.horizontalAdvance(rest.left(end)) + ElideRoom > width) {
             const qsizetype blank = rest.lastIndexOf(u' ', end - 1);
             end = blank > 0 ? blank : 0;
         }
