@@ -49,7 +49,7 @@ bool HasListOrText(const QWidget& form) {
 
 // As designed, in the step of type in use; lists and long texts take the room that there is.
 QSize FirstSize(const QWidget& form, QSize room) {
-    const QSize designed(Scaled(form.width()), Scaled(form.height()));
+    const QSize designed = QSize(Scaled(form.width()), Scaled(form.height())).expandedTo(form.sizeHint());
     if (!HasListOrText(form)) return designed;
     return designed.expandedTo((designed * LargestList).boundedTo(room));
 }

@@ -267,6 +267,11 @@ void ListView::SetRowHeight(int pixels) {
     if (isVisible()) scheduleDelayedItemsLayout();
 }
 
+void ListView::MakeTight() {
+    setProperty("tight", true);
+    rows_->MakeTight();
+}
+
 void ListView::SetEmptyText(const QString& text) {
     emptyText_ = text;
     viewport()->update();

@@ -57,8 +57,10 @@ public:
     void StopComingIn();
     // Gives each column its width.
     void LayOutColumns();
-    // Of every row, in the step of type in use; without it as the look has it.
+    // Of every row; without it as the look has it.
     void SetRowHeight(int pixels);
+    // Low rows below a low heading, for few rows that nobody chooses.
+    void MakeTight();
     // What an empty list says in the place of its rows.
     void SetEmptyText(const QString& text);
     // Many rows at once: between Begin and End nothing is repainted.

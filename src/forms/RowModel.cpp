@@ -207,8 +207,13 @@ QVariant RowModel::data(const QModelIndex& index, int role) const {
     }
     if (role == Qt::TextAlignmentRole) return headerData(index.column(), Qt::Horizontal, role);
     // From here and not from the style sheet, which a list that is filled before it is shown does not have yet.
-    if (role == Qt::SizeHintRole) return QSize(0, rowHeight_ ? rowHeight_ : TheTokens().RowHeight);
+    if (role == Qt::SizeHintRole) return QSize(0, RowHeight());
     return {};
+}
+
+int RowModel::RowHeight() const {
+    if (rowHeight_) return rowHeight_;
+    return isTight_ ? TheTokens().TightRowHeight : TheTokens().RowHeight;
 }
 
 QVariant RowModel::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -25,6 +25,7 @@ public:
 
     void SetColumns(const std::vector<ListColumn>& columns);
     void SetRowHeight(int pixels) { rowHeight_ = pixels; }
+    void MakeTight() { isTight_ = true; }
 
     int Count();
     // Has so many rows on hand where there are as many, whoever asks.
@@ -87,6 +88,7 @@ private:
         qsizetype length = 0;
     };
 
+    int RowHeight() const;
     size_t Width() const { return headings_.size(); }
     size_t PlaceOf(int row, int column) const;
     bool HasCell(int row, int column);
@@ -111,6 +113,7 @@ private:
     std::unique_ptr<RowSource> source_;
     std::unordered_map<size_t, QString> written_;
     int rowHeight_ = 0;  // 0: as the look has it
+    bool isTight_ = false;
     int published_ = 0;
     int fills_ = 0;
     int viewAsks_ = 0;

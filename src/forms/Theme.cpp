@@ -36,11 +36,11 @@ struct Look {
 };
 Look look;
 
-constexpr int Tokens::*Measures[] = {&Tokens::TextSize,      &Tokens::LabelSize,      &Tokens::PlainAccentSize,
-                                     &Tokens::StrongSize,    &Tokens::FieldHeight,    &Tokens::EntryHeight,
-                                     &Tokens::ButtonHeight,  &Tokens::TabHeight,      &Tokens::RowHeight,
-                                     &Tokens::HeadingHeight, &Tokens::ScrollBarWidth, &Tokens::DaySize,
-                                     &Tokens::TickSize};
+constexpr int Tokens::*Measures[] = {&Tokens::TextSize,       &Tokens::LabelSize,     &Tokens::PlainAccentSize,
+                                     &Tokens::StrongSize,     &Tokens::FieldHeight,   &Tokens::EntryHeight,
+                                     &Tokens::ButtonHeight,   &Tokens::TabHeight,     &Tokens::RowHeight,
+                                     &Tokens::TightRowHeight, &Tokens::HeadingHeight, &Tokens::ScrollBarWidth,
+                                     &Tokens::DaySize,        &Tokens::TickSize};
 
 Tokens Enlarged(Tokens tokens) {
     for (const auto measure : Measures) tokens.*measure = Scaled(tokens.*measure);
@@ -147,7 +147,7 @@ QHash<QString, QString> Names(const Tokens& tokens) {
         // Seven days, and six weeks with the names of the days and the bar of the month.
         {u"calendarWidth"_s, Pixels(7 * tokens.DaySize)},
         {u"calendarHeight"_s, Pixels(8 * tokens.DaySize)},
-        {u"tightHeading"_s, Pixels(tokens.HeadingHeight * 2 / 3)},
+        {u"tightHeading"_s, Pixels(tokens.TightRowHeight - 2)},
         {u"rowHeight"_s, Pixels(tokens.RowHeight)},
         {u"scrollBarWidth"_s, Pixels(tokens.ScrollBarWidth)},
     };

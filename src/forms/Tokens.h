@@ -54,6 +54,7 @@ struct Tokens {
     int ButtonHeight = 44;
     int TabHeight = 42;
     int RowHeight = 40;
+    int TightRowHeight = 26;
     int HeadingHeight = 38;
     int ScrollBarWidth = 40;
     int DaySize = 40;

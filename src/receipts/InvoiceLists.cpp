@@ -26,6 +26,7 @@ void SetLineColumns(forms::ListView& lines, LinesOf screen) {
 }
 
 void SetRecapColumns(forms::ListView& recap) {
+    recap.MakeTight();
     recap.SetColumns({{u"TaxID"_s, Qt::AlignLeft, -1},
                       {{}, Qt::AlignLeft, 0},
                       {u"Rate"_s, Qt::AlignRight, 60},

@@ -10,7 +10,6 @@ namespace {
 constexpr int LinesInView = 6;
 constexpr int FingerHeight = 44;
 constexpr int LowestRow = 28;
-constexpr int TaxRow = 26;
 constexpr int LowHead = 34;
 constexpr int HeadHeight = 46;
 constexpr int SumsHeight = 112;
@@ -24,7 +23,6 @@ void SalesLayout::Arrange() {
         Use(arrangement);
         if (HasRoomForLines()) break;
     }
-    ui_.lvPorez->SetRowHeight(forms::Scaled(TaxRow));
     ui_.lv1->SetRowHeight(qBound(forms::Scaled(LowestRow), RowHeight(LinesInView), forms::Scaled(FingerHeight)));
 }
 
