@@ -8,8 +8,10 @@
 #include "app/Screens.h"
 #include "core/Installation.h"
 #include "core/PrinterWait.h"
+#include "core/Settings.h"
 #include "core/frmLogin.h"
 #include "core/mdiORVA.h"
+#include "forms/Keypad.h"
 #include "forms/MsgBox.h"
 #include "forms/Sound.h"
 #include "forms/Theme.h"
@@ -60,6 +62,7 @@ void PrepareApplication() {
 
 bool StartProgram() {
     ShowWaitsOfOutput();
+    forms::UseKeypad([] { return TheSettings.POSMonitor == u"2"; });
     forms::Run(
         [] {
             TakeInstallation();

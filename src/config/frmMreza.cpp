@@ -12,6 +12,7 @@ frmMreza::frmMreza() {
     FunctionKeys({{Qt::Key_F5, ui.cmdOK}});
     EnterMovesOn();
     HighlightOnFocus({ui.txtServerName, ui.txtKasa});
+    Keypad({ui.txtKasa});
     On(ui.cmdOK, &frmMreza::cmdOK_Click);
     TieToolBar(ui.Tlbr1, {{ui.save, ui.cmdOK}, {ui.help, ui.cmdHelp}, {ui.close, ui.cmdCancel}});
     SpreadToolBar(ui.Tlbr1);

@@ -22,6 +22,7 @@ frmOptions::frmOptions(int tab) {
     HighlightOnFocus({ui.txtCurrency, ui.txtTrakaRacunaFile, ui.txtFiskalniFile, ui.txtMjestoProdaje, ui.txtRacun,
                       ui.txtFooter, ui.txtServerName, ui.txtKasa});
     NumericKeys({ui.txtRacun});
+    Keypad({ui.txtKasa});
 
     printerZaRacun_ = {
         &Settings::PrinterZaRacun,

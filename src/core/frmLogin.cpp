@@ -43,6 +43,7 @@ frmLogin::frmLogin(std::function<void()> loggedIn)
     timer3_->setObjectName(u"Timer3"_s);
 
     HighlightOnFocus({ui.txtUserName, ui.txtPassword});
+    Keypad({ui.txtUserName}, forms::KeypadKeys::Text);
     EnterMovesOn({ui.txtUserName});
     ControlKeys(ui.txtPassword, {{Qt::Key_Return, Guarded(&frmLogin::cmdOK_Click)}});
     On(ui.cmdOK, &frmLogin::cmdOK_Click);

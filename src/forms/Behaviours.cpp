@@ -63,6 +63,11 @@ bool FilterNumeric(QWidget* box, const QString& also, QKeyEvent& key) {
     return true;
 }
 
+const Form* FormOf(const QWidget* control) {
+    while (control && !qobject_cast<const Form*>(control)) control = control->parentWidget();
+    return static_cast<const Form*>(control);
+}
+
 QLineEdit* LineEditOf(QWidget* box) {
     if (auto* line = qobject_cast<QLineEdit*>(box)) return line;
     if (auto* combo = qobject_cast<QComboBox*>(box)) return combo->lineEdit();
@@ -245,6 +250,28 @@ void Form::Behaviours::MouseReleased(QWidget* watched, Control& control, const Q
         if (handler.button == event.button()) handler.run();
 }
 
+std::optional<KeypadWish> Form::Behaviours::KeypadFor(const QWidget* box) const {
+    static const Control nothing;
+    const auto found = controls.find(box);
+    const Control& told = found == controls.end() ? nothing : found->second;
+    const QString also = told.numericAnd.value_or(QString());
+    if (told.keypad) return KeypadWish{*told.keypad, also, told.keypadOffers};
+    if (told.numericAnd) return KeypadWish{KeypadKeys::Number, also, told.keypadOffers};
+    const auto* line = qobject_cast<const QLineEdit*>(box);
+    if (line && line->echoMode() == QLineEdit::Password) return KeypadWish{KeypadKeys::Text, {}, {}};
+    return std::nullopt;
+}
+
+std::optional<KeypadWish> Form::KeypadWishOf(const QWidget* box) {
+    const Form* form = FormOf(box);
+    return form ? form->behaviours_->KeypadFor(box) : std::nullopt;
+}
+
+QList<QWidget*> Form::SparedByKeypad(const QWidget* box) {
+    const Form* form = FormOf(box);
+    return form ? form->behaviours_->sparedByKeypad : QList<QWidget*>();
+}
+
 // --- Told by the screens.
 
 void Form::FunctionKeys(std::initializer_list<KeyBinding> keys) {
@@ -273,6 +300,18 @@ void Form::HighlightOnFocus(std::initializer_list<QWidget*> boxes, OnFocus what)
 
 void Form::NumericKeys(std::initializer_list<QLineEdit*> boxes, const QString& also) {
     for (QLineEdit* box : boxes) behaviours_->For(box).numericAnd = also;
+}
+
+void Form::Keypad(std::initializer_list<QWidget*> boxes, KeypadKeys keys) {
+    for (QWidget* box : boxes) behaviours_->For(box).keypad = keys;
+}
+
+void Form::KeypadOffers(QLineEdit* box, std::function<QStringList()> offers) {
+    behaviours_->For(box).keypadOffers = std::move(offers);
+}
+
+void Form::KeypadSpares(std::initializer_list<QWidget*> controls) {
+    behaviours_->sparedByKeypad.append(controls);
 }
 
 void Form::EnterMovesOn(std::initializer_list<QWidget*> boxes) {

@@ -39,11 +39,14 @@ struct Form::Behaviours : QObject {
         bool keysNeedRows = false;
         bool enterMovesOn = false;
         std::optional<QString> numericAnd;
+        std::optional<KeypadKeys> keypad;
+        std::function<QStringList()> keypadOffers;
         std::optional<OnFocus> highlight;
         bool clickedInto = false;
         std::vector<std::function<void()>> lostFocus;
         std::vector<MouseHandler> mouse;
     };
+    std::optional<KeypadWish> KeypadFor(const QWidget* box) const;
     // Watches a control from its first behaviour on.
     Control& For(QWidget* control);
 
@@ -52,6 +55,7 @@ struct Form::Behaviours : QObject {
     bool enterMovesOn = false;
     std::map<const QObject*, Control> controls;
     QPointer<QWidget> focused;
+    QList<QWidget*> sparedByKeypad;
 
     // A mouse button, or a finger, that came down on a control.
     struct Pressed {

@@ -9,7 +9,9 @@
 #include <functional>
 #include <initializer_list>
 #include <memory>
+#include <optional>
 
+#include "forms/Keypad.h"
 #include "forms/ListView.h"
 #include "forms/Program.h"
 
@@ -75,6 +77,12 @@ protected:
     // Enter moves on as the Tab key does: in the boxes given, or anywhere on the form (but not on buttons' clicks).
     void EnterMovesOn(std::initializer_list<QWidget*> boxes);
     void EnterMovesOn();
+    // A tap brings the keypad (forms/Keypad.h); boxes under NumericKeys and for passwords have it without being told.
+    void Keypad(std::initializer_list<QWidget*> boxes, KeypadKeys keys = KeypadKeys::Number);
+    // Texts that the keypad of a box offers as a whole.
+    void KeypadOffers(QLineEdit* box, std::function<QStringList()> offers);
+    // What the keypad must not cover, wherever its box is.
+    void KeypadSpares(std::initializer_list<QWidget*> controls);
     // Figures that take a smaller type when they would not fit their box.
     void ShrinkFigures(std::initializer_list<QLineEdit*> boxes);
     // A store error that nobody traps ends the process on this screen.
@@ -140,9 +148,14 @@ Q_SIGNALS:
 
 private:
     friend class KeyDispatcher;
+    friend class KeypadHost;
     template <typename T, typename... Arguments>
     friend T* Open(Arguments&&... arguments);
     friend void DropLoadedForms();
+
+    // What a box of whichever form asks for, and what the form around it spares.
+    static std::optional<KeypadWish> KeypadWishOf(const QWidget* box);
+    static QList<QWidget*> SparedByKeypad(const QWidget* box);
 
     void WatchFocus(QWidget* control, std::function<void()> lost);
     void WatchMouse(QWidget* control, Qt::MouseButton button, std::function<void()> handler);

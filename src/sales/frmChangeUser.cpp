@@ -21,6 +21,7 @@ frmChangeUser::frmChangeUser() {
     ui.txtUserName->setCompleter(nullptr);
     HighlightOnFocus({ui.txtUserName, ui.txtPassword});
     FunctionKeys({{Qt::Key_Escape, ui.cmdCancel}, {Qt::Key_F12, ui.cmdCancel}});
+    Keypad({ui.txtUserName}, forms::KeypadKeys::Text);
     EnterMovesOn({ui.txtUserName});
     ControlKeys(ui.txtPassword, {{Qt::Key_Return, Guarded(&frmChangeUser::cmdOK_Click)}});
     On(ui.cmdOK, &frmChangeUser::cmdOK_Click);

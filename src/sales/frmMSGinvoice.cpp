@@ -4,6 +4,7 @@
 #include "core/mdiORVA.h"
 #include "forms/Controls.h"
 #include "forms/MsgBox.h"
+#include "values/CashSums.h"
 #include "values/Format.h"
 #include "values/Numbers.h"
 
@@ -17,6 +18,8 @@ frmMSGinvoice::frmMSGinvoice() {
     HighlightOnFocus({ui.txtCash});
     ShrinkFigures({ui.txtTotal, ui.txtChange});
     NumericKeys({ui.txtCash});
+    KeypadSpares({ui.txtTotal, ui.txtChange, ui.cmdOK});
+    KeypadOffers(ui.txtCash, [this] { return LikelyCash(); });
     ControlKeys(ui.txtCash, {{Qt::Key_Return, Guarded(&frmMSGinvoice::txtCash_Enter)}});
     On(ui.cmdOK, &frmMSGinvoice::cmdOK_Click);
 }
@@ -34,6 +37,14 @@ void frmMSGinvoice::txtCash_Enter() {
     ui.txtCash->setFocus();
     forms::SelectAll(ui.txtCash);
     ui.txtChange->clear();
+}
+
+QStringList frmMSGinvoice::LikelyCash() const {
+    if (!values::IsNumeric(ui.txtTotal->text())) return {};
+    const values::Money total = CMoney(ui.txtTotal->text());
+    QStringList texts;
+    for (const values::Money sum : values::CashSums(total)) texts << Format(sum, sum == total ? u"0.00" : u"0");
+    return texts;
 }
 
 void frmMSGinvoice::cmdOK_Click() {

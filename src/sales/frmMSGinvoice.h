@@ -16,6 +16,8 @@ protected:
 private:
     void txtCash_Enter();
     void cmdOK_Click();
+    // What the keypad offers to be touched instead of typed.
+    QStringList LikelyCash() const;
 
     Ui::frmMSGinvoice ui;
 };

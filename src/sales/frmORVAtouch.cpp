@@ -56,6 +56,9 @@ frmORVAtouch::frmORVAtouch() {
     HighlightOnFocus({ui.txtProdCode, ui.txtQuantity, ui.txtKupac, ui.txtIB});
     ShrinkFigures({ui.txtQuantity, ui.txtUnitPrice, ui.txtPrice, ui.txtTotalAmount});
     NumericKeys({ui.txtQuantity}, u"-"_s);
+    Keypad({ui.txtProdCode, ui.txtIB}, forms::KeypadKeys::Code);
+    Keypad({ui.txtKupac}, forms::KeypadKeys::Text);
+    KeypadSpares({ui.txtTotalAmount});
     EnterMovesOn({ui.lv1, ui.txtKupac, ui.txtIB});
     ControlKeys(ui.txtProdCode, {{Qt::Key_Return, Guarded(&frmORVAtouch::txtProdCode_Enter)}});
     ControlKeys(ui.txtQuantity, {{Qt::Key_Return, Guarded(&frmORVAtouch::txtQuantity_Enter)}});

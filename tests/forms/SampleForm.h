@@ -56,6 +56,9 @@ public:
     using Form::EnterMovesOn;
     using Form::FunctionKeys;
     using Form::HighlightOnFocus;
+    using Form::Keypad;
+    using Form::KeypadOffers;
+    using Form::KeypadSpares;
     using Form::ListKeys;
     using Form::NumericKeys;
     using Form::StoreErrorsEndProgram;

@@ -2,6 +2,7 @@
 #include "support/ErrorOf.h"
 #include "support/UnderLocale.h"
 #include "support/ValueOf.h"
+#include "values/CashSums.h"
 #include "values/DateText.h"
 #include "values/Format.h"
 #include "values/LineAmount.h"
@@ -90,6 +91,12 @@ MergedLine Merged(const QStringList& at, double percent) {
     return MergeLines(MoneyOf(at[1]) - one, one, MoneyOf(at[0]).ToDouble(), percent);
 }
 
+QString LikelySums(const QStringList& at) {
+    QStringList texts;
+    for (const Money sum : CashSums(MoneyOf(at[0]))) texts << NumberText(sum);
+    return texts.join(u' ');
+}
+
 QString Product(const QStringList& at) {
     const Money product = MoneyOf(at[0]) * MoneyOf(at[1]);
     EXPECT_EQ(MoneyOf(at[1]) * MoneyOf(at[0]), product);
@@ -132,6 +139,7 @@ const QMap<QString, drivers::Function> Functions{
          return Shown(Merged({at[0], u"1"_s}, at[1].toDouble()).tax);
      }},
     {u"Price without tax"_s, [](At at) { return Shown(PriceWithoutTax(MoneyOf(at[0]), at[1].toDouble())); }},
+    {u"Cash sums"_s, LikelySums},
     {u"Cut quantity"_s, [](At at) { return NumberText(CutQuantity(MoneyOf(at[0]))); }},
     {u"Conversions"_s, [](At at) { return Conversions(ValueOf(at[0])); }},
     {u"ToDate"_s, [](At at) { return DateText(ValueOf(at[0]).ToDate()); }},

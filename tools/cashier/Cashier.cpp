@@ -10,6 +10,7 @@
 #include "core/mdiORVA.h"
 #include "forms/Controls.h"
 #include "forms/Form.h"
+#include "forms/Keypad.h"
 #include "forms/ListView.h"
 #include "masterdata/clicktable/ClickTable.h"
 #include "player/Keys.h"
@@ -109,6 +110,12 @@ void Cashier::Press(const QString& keys) {
 
 void Cashier::Click(const QString& screen, const QString& control) {
     drivers::Click(forms::Control(Screen(screen), control));
+}
+
+void Cashier::TapKey(const QString& key) {
+    drivers::Settle();
+    if (!forms::ShownKeypad()) GiveUp(u"There is no keypad for %1."_s.arg(key));
+    drivers::Click(forms::Control(forms::ShownKeypad(), key));
 }
 
 void Cashier::Fill(const QString& screen, const QString& box, const QString& keys) {

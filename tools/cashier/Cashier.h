@@ -35,6 +35,8 @@ public:
     void Press(const QString& keys);
     // A button or another control of a loaded screen.
     void Click(const QString& screen, const QString& control);
+    // A key of the keypad, by its name.
+    void TapKey(const QString& key);
     // Goes to a box of a loaded screen and types over what it holds.
     void Fill(const QString& screen, const QString& box, const QString& keys);
     // F5: posts the invoice and answers the change dialog.

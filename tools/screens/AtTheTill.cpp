@@ -22,11 +22,25 @@ const std::vector<Sale> NoonOfKasir{
 
 const auto Sales = u"frmORVAtouch"_s;
 
+void PayByTouch(Cashier& cashier) {
+    cashier.Click(u"frmMSGinvoice"_s, u"txtCash"_s);
+    cashier.TapKey(u"key5"_s);
+    cashier.TapKey(u"key0"_s);
+    cashier.TakePicture(u"keypad-change"_s);
+    cashier.TapKey(u"keyEnter"_s);
+    cashier.TakePicture(u"change"_s);
+    cashier.Press(u"{Enter}"_s);
+}
+
 }  // namespace
 
 void Tour::OpenTheShop() {
     clock.SetTo(QDateTime(QDate(2026, 11, 24), QTime(7, 52)));
     cashier.Start();
+    cashier.Click(u"frmLogin"_s, u"txtUserName"_s);
+    cashier.TapKey(u"keyv"_s);
+    cashier.TakePicture(u"keypad-login"_s);
+    cashier.Fill(u"frmLogin"_s, u"txtUserName"_s, u"{Backspace}"_s);
     cashier.LogIn(u"voditelj"_s, u"1234"_s, u"login"_s);
     cashier.TakePicture(u"sales-empty"_s);
     cashier.Press(u"{Alt+s}"_s);
@@ -48,7 +62,9 @@ void Tour::Sell() {
     cashier.PressAndAnswer(u"{Enter}{Enter}"_s);
     cashier.Press(u"0.35"_s);
     cashier.TakePicture(u"quantity"_s);
-    cashier.Press(u"{Enter}"_s);
+    cashier.Click(Sales, u"txtQuantity"_s);
+    cashier.TakePicture(u"keypad-quantity"_s);
+    cashier.TapKey(u"keyEnter"_s);
     cashier.Answer(u"Product with this ID-barcode does not exist."_s, true, u"message"_s);
     cashier.PressAndAnswer(u"3850101999999{Enter}"_s);
     cashier.Press(u"{Del}"_s);
@@ -59,7 +75,8 @@ void Tour::Sell() {
     cashier.TakePicture(u"sales"_s);
     cashier.Answer(u"Do you want cancel the invoice?"_s, false, u"cancel"_s);
     cashier.PressAndAnswer(u"{Esc}"_s);
-    cashier.Post(u"50"_s, u"change"_s);
+    cashier.Within(u"frmMSGinvoice"_s, [&cashier = cashier] { PayByTouch(cashier); });
+    cashier.PressAndAnswer(u"{F5}"_s);
 
     ChangeCashier(cashier, u"kasir"_s);
     screens::Sell(*this, NoonOfKasir);

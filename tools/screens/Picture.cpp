@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <QTimerEvent>
 
+#include "forms/Keypad.h"
 #include "forms/Tokens.h"
 #include "player/Keys.h"
 #include "screens/Palette.h"
@@ -46,6 +47,19 @@ void DrawOpenMenu(QPixmap& picture, const QWidget& window) {
     }
 }
 
+// So is the keypad, which lies beside a small dialog. `corner` is where the picture begins on the screen.
+QPixmap WithKeypad(const QPixmap& picture, QPoint corner) {
+    QWidget* keypad = forms::ShownKeypad();
+    if (!keypad) return picture;
+    const QRect whole = picture.rect().united(QRect(keypad->pos() - corner, keypad->size()));
+    QPixmap both(whole.size());
+    both.fill(forms::Tokens::Line);
+    QPainter painter(&both);
+    painter.drawPixmap(-whole.topLeft(), picture);
+    painter.drawPixmap(keypad->pos() - corner - whole.topLeft(), keypad->grab());
+    return both;
+}
+
 QPixmap WithTitle(const QPixmap& content, const QString& title) {
     QPixmap picture(content.width() + 2, content.height() + BarHeight + 1);
     QPainter painter(&picture);
@@ -69,9 +83,15 @@ QImage PictureOf(QWidget& window) {
     BringClocksUpToDate(window);
     LayOutTexts(window);
     if (window.isMaximized()) window.resize(window.screen()->size());  // to the edges, without a frame
+    drivers::Settle();
     QPixmap picture = window.grab();
     DrawOpenMenu(picture, window);
-    if (!qobject_cast<QMainWindow*>(&window)) picture = WithTitle(picture, window.windowTitle());
+    QPoint corner = window.mapToGlobal(QPoint(0, 0));
+    if (!qobject_cast<QMainWindow*>(&window)) {
+        picture = WithTitle(picture, window.windowTitle());
+        corner -= QPoint(1, BarHeight);
+    }
+    picture = WithKeypad(picture, corner);
     return picture.toImage().convertToFormat(QImage::Format_RGB32);
 }
 

@@ -13,6 +13,7 @@ CustomerEntry::CustomerEntry(const Words& words) {
     ui.lblIdent->setText(words.ident);
     for (const auto& [field, box] : Fields()) HighlightOnFocus({box});
     NumericKeys({ui.txtRabatMarza});
+    Keypad({ui.txtProdCode, ui.txtIB, ui.txtTelefon, ui.txtFax, ui.txtZiroRacun}, forms::KeypadKeys::Code);
     OnLostFocus(ui.txtRabatMarza, &CustomerEntry::txtRabatMarza_LostFocus);
     SaveHelpAndClose(ui.cmdUpdate, ui.cmdHelp, ui.cmdClose, {Qt::Key_Escape, Qt::Key_F12});
     On(ui.cmdUpdate, &CustomerEntry::cmdUpdate_Click);

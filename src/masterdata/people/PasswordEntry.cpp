@@ -7,6 +7,7 @@
 using namespace Qt::StringLiterals;
 
 void PasswordEntry::EnterPassword(QLineEdit* password, QLineEdit* again, QCheckBox* unmask) {
+    Keypad({password, again}, forms::KeypadKeys::Text);
     password_ = password;
     again_ = again;
     unmask_ = unmask;

@@ -15,6 +15,8 @@ UserEntry::UserEntry(const QString& name, const QString& title) {
     ui.setupUi(this);
     setWindowTitle(title);
     HighlightOnFocus({ui.txtUserID, ui.txtUserName});
+    Keypad({ui.txtUserID}, forms::KeypadKeys::Code);
+    Keypad({ui.txtUserName}, forms::KeypadKeys::Text);
     EnterPassword(ui.txtPassword, ui.txtReTypePassword, ui.chkUnmaskPassword);
     SaveHelpAndClose(ui.cmdAdd, ui.cmdHelp, ui.cmdClose);
     FunctionKeys({{Qt::Key_Escape, Guarded(&UserEntry::ClearUserFields)}});

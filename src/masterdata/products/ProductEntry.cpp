@@ -53,6 +53,7 @@ ProductEntry::ProductEntry(const Words& words) : words_(words) {
     SaveHelpAndClose(ui.cmdSave, ui.cmdHelp, ui.cmdClose);
     HighlightOnFocus({ui.txtProdCode, ui.txtDescription, ui.txtQuantity});
     NumericKeys({ui.txtQuantity});
+    Keypad({ui.txtProdCode}, forms::KeypadKeys::Code);
     for (QLineEdit* price : Prices()) {
         HighlightOnFocus({price});
         NumericKeys({price});

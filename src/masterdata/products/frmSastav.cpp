@@ -39,6 +39,7 @@ frmSastav::frmSastav() {
     HighlightOnFocus({ui.txtProdCode}, forms::OnFocus::KeepCaret);
     HighlightOnFocus({ui.txtQuantity});
     NumericKeys({ui.txtQuantity});
+    Keypad({ui.txtProdCode}, forms::KeypadKeys::Code);
     ShrinkFigures({ui.txtUnitPrice, ui.txtPrice});
     EnterMovesOn({ui.txtProdCode, ui.lv1});
     ControlKeys(ui.txtQuantity, {{Qt::Key_Return, Guarded(&frmSastav::txtQuantity_Enter)}});

@@ -15,6 +15,7 @@ const auto CompanyQuery = u"SELECT * FROM Company"_s;
 frmFirma::frmFirma() {
     ui.setupUi(this);
     HighlightOnFocus({ui.txtAdresa, ui.txtTel, ui.txtZiro});
+    Keypad({ui.txtTel, ui.txtZiro}, forms::KeypadKeys::Code);
     SaveHelpAndClose(ui.cmdSacuvaj, ui.cmdHelp, ui.cmdClose, {Qt::Key_Escape, Qt::Key_F12});
     On(ui.cmdSacuvaj, &frmFirma::cmdSacuvaj_Click);
 }
