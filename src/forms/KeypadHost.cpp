@@ -7,12 +7,12 @@
 
 #include "forms/Behaviours.h"
 #include "forms/KeypadPlace.h"
+#include "forms/Swipe.h"
 
 namespace forms {
 
 namespace {
 
-constexpr qreal Nearby = 16;      // pixels that a finger may slide in a tap
 constexpr int LongestTap = 1000;  // milliseconds
 
 // The box that a line edit is, or is a part of. The arrow of a combo box is no line edit.
@@ -76,7 +76,7 @@ void KeypadHost::MousePressed(QWidget* receiver, const QMouseEvent& event) {
 void KeypadHost::MouseReleased(QWidget* receiver, const QMouseEvent& event) {
     const QPointer<QWidget> box = std::exchange(pressed_, nullptr);
     if (!box || box != BoxOf(receiver) || sincePress_.elapsed() > LongestTap) return;
-    if ((event.globalPosition() - pressedAt_).manhattanLength() > Nearby || !wanted_()) return;
+    if (!IsTap(pressedAt_, event.globalPosition()) || !wanted_()) return;
     const auto show = [this, box] {
         if (!box || BoxOf(QApplication::focusWidget()) != box) return;
         if (const auto wish = Form::KeypadWishOf(box)) ShowAt(box, *wish);

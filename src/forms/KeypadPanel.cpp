@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QTouchEvent>
 
+#include "forms/Theme.h"
 #include "forms/Tokens.h"
 #include "values/Locale.h"
 
@@ -33,7 +34,7 @@ QIcon Picture(Sign sign) {
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(Tokens::Ink, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(TheTokens().Ink, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     switch (sign) {
         case Sign::Back:
             painter.drawPolygon(QPolygonF({{2, 12}, {8, 5}, {22, 5}, {22, 19}, {8, 19}}));
@@ -93,12 +94,12 @@ bool KeypadKey::event(QEvent* event) {
 KeypadPanel::KeypadPanel(QWidget* window, const KeypadWish& wish, QSize screen)
     : QWidget(window, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus),
       wish_(wish),
-      isRoomy_(screen.height() >= RoomyHeight) {
+      isRoomy_(screen.height() >= Scaled(RoomyHeight)) {
     setObjectName(u"keypad"_s);
     setAttribute(Qt::WA_ShowWithoutActivating);
     setFocusPolicy(Qt::NoFocus);
     QPalette night = palette();
-    night.setColor(QPalette::Window, Tokens::Night);  // behind the corners
+    night.setColor(QPalette::Window, TheTokens().Night);  // behind the corners
     setPalette(night);
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -120,8 +121,9 @@ void KeypadPanel::Build(bool letters) {
     grid_->setSpacing(Gap);
     letters ? AddLetters() : AddNumbers();
     const QSize key = letters ? (isRoomy_ ? RoomyLetterKey : LetterKey) : (isRoomy_ ? RoomyNumberKey : NumberKey);
-    for (int column = 0; column < grid_->columnCount(); ++column) grid_->setColumnMinimumWidth(column, key.width());
-    for (int row = 0; row < grid_->rowCount(); ++row) grid_->setRowMinimumHeight(row, key.height());
+    for (int column = 0; column < grid_->columnCount(); ++column)
+        grid_->setColumnMinimumWidth(column, Scaled(key.width()));
+    for (int row = 0; row < grid_->rowCount(); ++row) grid_->setRowMinimumHeight(row, Scaled(key.height()));
     layout()->addWidget(frame_);
     frame_->show();
 }
@@ -171,7 +173,7 @@ KeypadKey* KeypadPanel::Add(const QString& name, const QString& caption, QRect c
     auto* key = new KeypadKey(name);
     key->setText(caption);
     QFont font = key->font();
-    font.setPixelSize(caption.size() > 1 && caption.at(0).isLetter() ? WordSize : Tokens::EntrySize);
+    font.setPixelSize(caption.size() > 1 && caption.at(0).isLetter() ? Scaled(WordSize) : TheTokens().EntrySizes[0]);
     key->setFont(font);
     grid_->addWidget(key, cell.y(), cell.x(), cell.height(), cell.width());
     return key;

@@ -53,7 +53,7 @@ QPixmap WithKeypad(const QPixmap& picture, QPoint corner) {
     if (!keypad) return picture;
     const QRect whole = picture.rect().united(QRect(keypad->pos() - corner, keypad->size()));
     QPixmap both(whole.size());
-    both.fill(forms::Tokens::Line);
+    both.fill(forms::TheTokens().Line);
     QPainter painter(&both);
     painter.drawPixmap(-whole.topLeft(), picture);
     painter.drawPixmap(keypad->pos() - corner - whole.topLeft(), keypad->grab());
