@@ -314,6 +314,14 @@ void ListView::LayOutColumns() {
         header()->resizeSection(column, WidthOf(column));
         rest -= header()->sectionSize(column);
     }
+    // Numbers are whole, so codes give way before a bar would have to come.
+    const int least = Scaled(narrowestFlexibleColumn) * static_cast<int>(flexible.size());
+    for (int column = 0; column < static_cast<int>(columns_.size()) && rest < least; ++column) {
+        if (!columns_[static_cast<size_t>(column)].shrinks) continue;
+        const int width = header()->sectionSize(column);
+        header()->resizeSection(column, qMax(Scaled(narrowestFlexibleColumn), width - (least - rest)));
+        rest += width - header()->sectionSize(column);
+    }
     for (size_t i = 0; i < flexible.size(); ++i) {
         const int share = rest / static_cast<int>(flexible.size() - i);
         header()->resizeSection(flexible[i], qMax(share, Scaled(narrowestFlexibleColumn)));

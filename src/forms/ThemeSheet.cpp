@@ -195,7 +195,7 @@ QTabBar[fit="2"] { font-size: @tabFit2; }
 QTabBar[fit]::tab { min-width: 0; padding: 0 2px; }
 QTabBar::tab:selected { background: @paper; border-bottom-color: @paper; font-weight: bold; }
 QTabBar::tab:hover:!selected { background: @hover; }
-QTabBar::tab:focus { color: @accent; }
+QTabBar::tab:focus { color: @accent; border: 2px solid @accent; }
 QTabBar::tab:disabled { color: @faint; }
 )";
 

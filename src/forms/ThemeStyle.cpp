@@ -87,9 +87,7 @@ void DrawTickBox(QPainter& painter, const QStyleOption& option, bool round) {
 }
 
 void DrawFocusRing(QPainter& painter, const QStyleOption& option) {
-    QColor ring = TheTokens().Accent;
-    ring.setAlpha(160);
-    painter.setPen(QPen(ring, 1, Qt::DotLine));
+    painter.setPen(QPen(TheTokens().Accent, 1));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
 }

@@ -56,7 +56,7 @@ struct Tokens {
     int RowHeight = 40;
     int TightRowHeight = 26;
     int HeadingHeight = 38;
-    int ScrollBarWidth = 40;
+    int ScrollBarWidth = 44;
     int DaySize = 40;
     int Margin = 12;
     int Spacing = 8;

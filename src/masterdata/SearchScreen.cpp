@@ -1,7 +1,10 @@
 #include "masterdata/SearchScreen.h"
 
+using namespace Qt::StringLiterals;
+
 void SearchScreen::SearchWith(SearchBlock* block, forms::ListView* list) {
     block_ = block;
+    list->SetEmptyText(u"Type what you look for, or press F11 for all."_s);
     HighlightOnFocus({block->cboTemp}, forms::OnFocus::KeepCaret);
     EnterMovesOn({block->cboTemp, block->cboView});
     ControlKeys(block->cboTemp, {{Qt::Key_Down, [list] { list->setFocus(); }}});

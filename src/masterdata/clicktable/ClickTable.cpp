@@ -114,11 +114,15 @@ int ClickTable::IndexOf(const QObject* button) const {
     return at == buttons_.end() ? -1 : static_cast<int>(at - buttons_.begin());
 }
 
-// An arrow goes to the neighbour, PageUp and PageDown to the same place of another tab.
+// Enter is a touch, an arrow goes to the neighbour, PageUp and PageDown to the same place of another tab.
 bool ClickTable::KeyPressed(int index, int key) {
     int tab = index / ButtonsPerTab;
     int place = index % ButtonsPerTab;
     switch (key) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            Button(index)->click();
+            return true;
         case Qt::Key_Left:
             --place;
             break;
