@@ -10,6 +10,14 @@ int count = 0;
 
 }  // namespace
 
+// Later Qt asks for activateWindow() instead, which leaves it to the window system, and that takes its time.
+void MakeActiveAtOnce(QWidget* window) {
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    QApplication::setActiveWindow(window);
+    QT_WARNING_POP
+}
+
 FocusReturn::FocusReturn() : window_(QApplication::activeWindow()), control_(QApplication::focusWidget()) {
     ++count;
 }
@@ -21,8 +29,7 @@ int FocusReturn::Count() {
 void FocusReturn::GiveBack() const {
     if (!window_ || !window_->isVisible()) return;
     window_->activateWindow();
-    // At once, for what comes up next in the same handler; the window system takes its time.
-    QApplication::setActiveWindow(window_);
+    MakeActiveAtOnce(window_);
     if (!control_ || control_->window() != window_ || !control_->isVisible() || !control_->isEnabled()) return;
     const QWidget* wanted = window_->focusWidget();
     if (!wanted || wanted == control_) control_->setFocus(Qt::ActiveWindowFocusReason);

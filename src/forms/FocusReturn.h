@@ -21,4 +21,7 @@ private:
     QPointer<QWidget> control_;
 };
 
+// For what comes up next in the same handler.
+void MakeActiveAtOnce(QWidget* window);
+
 }  // namespace forms

@@ -218,7 +218,7 @@ void Form::Present() {
     raise();
     activateWindow();
     // A window that was in front when it was hidden, and has had no follower, is taken for active still.
-    if (QGuiApplication::focusWindow() == windowHandle()) QApplication::setActiveWindow(this);
+    if (QGuiApplication::focusWindow() == windowHandle()) MakeActiveAtOnce(this);
 }
 
 void Form::ShrinkFigures(std::initializer_list<QLineEdit*> boxes) {
