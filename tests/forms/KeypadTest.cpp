@@ -45,15 +45,16 @@ protected:
         QWindow* window = control->window()->windowHandle();
         const auto at = [&](QPoint point) { return control->mapTo(control->window(), point); };
         if (GetParam()) {
-            static QPointingDevice* screen = QTest::createTouchDevice();
-            QTest::touchEvent(window, screen).press(0, at(place), window);
-            QTest::touchEvent(window, screen).release(0, at(place + slide), window);
+            QTest::touchEvent(window, screen.get()).press(0, at(place), window);
+            QTest::touchEvent(window, screen.get()).release(0, at(place + slide), window);
         } else {
             QTest::mousePress(window, Qt::LeftButton, {}, at(place));
             QTest::mouseRelease(window, Qt::LeftButton, {}, at(place + slide));
         }
         Settle();
     }
+    const std::unique_ptr<QPointingDevice> screen{QTest::createTouchDevice()};
+
     static QWidget* Keypad() { return forms::ShownKeypad(); }
     void TapKeys(const QStringList& names) {
         for (const QString& name : names) {
@@ -173,11 +174,10 @@ TEST_P(KeypadTest, TwoThumbsTypeAtATime) {
     drivers::Click(form.txtAmount);
     QWindow* window = Keypad()->windowHandle();
     const auto at = [](QStringView key) { return drivers::Get<QWidget>(*Keypad(), key)->geometry().center(); };
-    QPointingDevice* screen = QTest::createTouchDevice();
-    QTest::touchEvent(window, screen).press(0, at(u"key1"), window);
-    QTest::touchEvent(window, screen).stationary(0).press(1, at(u"key3"), window);
-    QTest::touchEvent(window, screen).release(0, at(u"key1"), window).stationary(1);
-    QTest::touchEvent(window, screen).release(1, at(u"key3"), window);
+    QTest::touchEvent(window, screen.get()).press(0, at(u"key1"), window);
+    QTest::touchEvent(window, screen.get()).stationary(0).press(1, at(u"key3"), window);
+    QTest::touchEvent(window, screen.get()).release(0, at(u"key1"), window).stationary(1);
+    QTest::touchEvent(window, screen.get()).release(1, at(u"key3"), window);
     Settle();
     EXPECT_EQ(form.txtAmount->text(), u"13"_s);
 }

@@ -30,14 +30,15 @@ public:
 
 class TouchTest : public drivers::ScreenTest {
 protected:
+    const std::unique_ptr<QPointingDevice> screen{QTest::createTouchDevice()};
+
     // A finger that comes down at the first place, goes through the others, and stays at the last one before it leaves.
     void Finger(QWidget* viewport, std::initializer_list<QPoint> places, int stays = 0) {
-        static QPointingDevice* device = QTest::createTouchDevice();
         const QPoint last = *(places.end() - 1);
-        QTest::touchEvent(viewport, device).press(0, *places.begin(), viewport);
-        for (const QPoint& place : places) QTest::touchEvent(viewport, device).move(0, place, viewport);
+        QTest::touchEvent(viewport, screen.get()).press(0, *places.begin(), viewport);
+        for (const QPoint& place : places) QTest::touchEvent(viewport, screen.get()).move(0, place, viewport);
         if (stays) QTest::qWait(stays);
-        QTest::touchEvent(viewport, device).release(0, last, viewport);
+        QTest::touchEvent(viewport, screen.get()).release(0, last, viewport);
         drivers::Settle();
     }
 };
