@@ -1,5 +1,6 @@
 #include "core/Installation.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "output/Folder.h"
@@ -22,6 +23,8 @@ struct Key {
 };
 
 using forms::Contrast;
+
+constexpr int LongestShown = 48;
 
 const std::vector<Key> Keys = {
     {u"till",
@@ -47,7 +50,14 @@ QString Refusal(const Key& key, const values::IniFile::Value& value) {
     QStringList known;
     for (const Choice& choice : key.choices) known << QString::fromUtf16(choice.text);
     return u"velton.ini, line %1: %2 can't be \"%3\", only %4."_s.arg(value.line)
-        .arg(QString::fromUtf16(key.name), value.text, known.join(u" or "_s));
+        .arg(QString::fromUtf16(key.name), value.text.left(LongestShown), known.join(u" or "_s));
+}
+
+bool IsKnown(const values::IniFile::Key& key) {
+    return std::ranges::any_of(Keys, [&](const Key& known) {
+        return key.section.compare(QStringView(known.section), Qt::CaseInsensitive) == 0 &&
+               key.name.compare(QStringView(known.name), Qt::CaseInsensitive) == 0;
+    });
 }
 
 }  // namespace
@@ -56,6 +66,10 @@ QStringList ReadInstallation() {
     const auto ini = values::IniFile::Read(output::InProgramFolder(u"velton.ini"_s));
     QStringList refused;
     TheInstallation = {};
+    for (const auto& key : ini.Keys())
+        if (!IsKnown(key))
+            refused << u"velton.ini, line %1: there is no %2 in [%3]."_s.arg(key.line).arg(
+                key.name.left(LongestShown), key.section.left(LongestShown));
     for (const Key& key : Keys) {
         const auto value = ini.Find(QString::fromUtf16(key.section), QString::fromUtf16(key.name));
         if (value && !Take(key, value->text, TheInstallation)) refused << Refusal(key, *value);

@@ -1,12 +1,15 @@
 #include "forms/Behaviours.h"
 
 #include <QAbstractScrollArea>
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QStyle>
 #include <QTimer>
 
 #include "forms/Controls.h"
+#include "forms/LongWork.h"
+#include "forms/ScanBurst.h"
 #include "forms/Swipe.h"
 #include "values/Locale.h"
 
@@ -15,8 +18,6 @@ using namespace Qt::StringLiterals;
 namespace forms {
 
 namespace {
-
-constexpr int LongPress = 600;  // milliseconds
 
 bool IsEnter(int key) {
     return key == Qt::Key_Return || key == Qt::Key_Enter;
@@ -41,16 +42,9 @@ const KeyBinding* FindBinding(const std::vector<KeyBinding>& keys, const QKeyEve
     return nullptr;
 }
 
-// A key that would put a character into a box.
-bool Types(const QKeyEvent& key) {
-    if (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return false;
-    const QString text = key.text();
-    return !text.isEmpty() && text.at(0).isPrint();
-}
-
 // The key goes on, is dropped, or arrives as the decimal separator.
 bool FilterNumeric(QWidget* box, const QString& also, QKeyEvent& key) {
-    if (!Types(key)) return false;
+    if (!IsCharacter(key)) return false;
     const QString text = key.text();
     if (text.size() > 1) return true;
     const QChar typed = text.at(0);
@@ -220,8 +214,11 @@ void Form::Behaviours::MouseMoved(const QMouseEvent& event) {
     longPress->stop();
 }
 
-// A finger has no second button.
+// A finger has no second button. A box that came up meanwhile keeps the release to itself, and what is being stored must
+// not change under it.
 void Form::Behaviours::LongPressed() {
+    const bool isHeld = QGuiApplication::mouseButtons() & Qt::LeftButton;
+    if (!isHeld || !form.window()->isActiveWindow() || LongWork::IsUnderWay()) return pressed.reset();
     const auto found = pressedControl ? Find(pressedControl) : controls.end();
     if (!pressed || found == controls.end() || !pressedControl->isEnabled()) return;
     const auto handlers = found->second.mouse;

@@ -332,10 +332,10 @@ void ListView::LayOutColumns() {
 // A number that does not show all its digits is a wrong number.
 int ListView::WidthOf(int column) const {
     const ListColumn& facts = columns_[static_cast<size_t>(column)];
-    const int needed = fontMetrics().horizontalAdvance(QString(rows_->LongestText(column), u'0')) + cellPadding;
     const int designed = Scaled(facts.width);
+    if (!(facts.align & Qt::AlignRight) && !facts.shrinks) return designed;
+    const int needed = fontMetrics().horizontalAdvance(QString(rows_->LongestText(column), u'0')) + cellPadding;
     if (facts.align & Qt::AlignRight) return qMax(designed, needed);
-    if (!facts.shrinks) return designed;
     const int heading = header()->fontMetrics().horizontalAdvance(facts.heading) + cellPadding;
     return qMin(designed, qMax(needed + roundingRoom, heading));
 }

@@ -95,6 +95,10 @@ bool LongWork::GoesOn(const QString& waitsFor) {
     return GoesOn();
 }
 
+bool LongWork::IsUnderWay() {
+    return innermost != nullptr;
+}
+
 bool LongWork::GoesOn() {
     if (left_ || ProgramIsEnding()) return false;
     if (innermost != this) return innermost->GoesOn();

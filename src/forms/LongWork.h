@@ -32,6 +32,9 @@ public:
     // The same, when what is waited for may have changed.
     bool GoesOn(const QString& waitsFor);
 
+    // Whether there is one.
+    static bool IsUnderWay();
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -9,6 +9,8 @@ class QMouseEvent;
 
 namespace forms {
 
+// How long a finger stays that means the right button of a mouse, in milliseconds.
+inline constexpr int LongPress = 600;
 // Whether a finger, or a mouse, that came down at one place and left at the other has pressed there, and not drawn.
 bool IsTap(const QPointF& down, const QPointF& up);
 

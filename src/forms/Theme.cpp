@@ -27,7 +27,7 @@ struct Step {
     QSize room;
     double factor;
 };
-constexpr Step Steps[] = {{{0, 0}, 1.0}, {{1600, 800}, 1.25}, {{2400, 1260}, 1.75}};
+constexpr Step Steps[] = {{{0, 0}, 1.0}, {{1600, 880}, 1.25}, {{2400, 1260}, 1.75}};
 
 struct Look {
     Contrast contrast = Contrast::Usual;

@@ -25,6 +25,8 @@ void UseContrast(Contrast contrast);
 // Type, rows and what is measured with them come in three steps. Takes the step for a main window of this size, and
 // lays out anew what is on the screen when that is another one.
 void FitTypeTo(QSize room);
+// What a finger hits without looking twice, in pixels of the smallest step.
+inline constexpr int FingerHeight = 44;
 // What measures so many pixels in the smallest step.
 int Scaled(int pixels);
 

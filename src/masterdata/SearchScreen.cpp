@@ -4,10 +4,10 @@ using namespace Qt::StringLiterals;
 
 void SearchScreen::SearchWith(SearchBlock* block, forms::ListView* list) {
     block_ = block;
-    list->SetEmptyText(u"Type what you look for, or press F11 for all."_s);
     HighlightOnFocus({block->cboTemp}, forms::OnFocus::KeepCaret);
     EnterMovesOn({block->cboTemp, block->cboView});
     ControlKeys(block->cboTemp, {{Qt::Key_Down, [list] { list->setFocus(); }}});
+    list->SetEmptyText(u"Nothing is found."_s);
     OnChange(block->cboTemp, &SearchScreen::Search);
     On(block->Option1, &SearchScreen::Search);
     On(block->Option2, &SearchScreen::Search);

@@ -8,7 +8,6 @@
 namespace {
 
 constexpr int LinesInView = 6;
-constexpr int FingerHeight = 44;
 constexpr int LowestRow = 28;
 constexpr int LowHead = 34;
 constexpr int HeadHeight = 46;
@@ -23,12 +22,14 @@ void SalesLayout::Arrange() {
         Use(arrangement);
         if (HasRoomForLines()) break;
     }
-    ui_.lv1->SetRowHeight(qBound(forms::Scaled(LowestRow), RowHeight(LinesInView), forms::Scaled(FingerHeight)));
+    ui_.lv1->SetRowHeight(qBound(forms::Scaled(LowestRow), RowHeight(LinesInView), forms::Scaled(forms::FingerHeight)));
 }
 
 void SalesLayout::Use(Arrangement arrangement) {
-    if (arrangement != arrangement_) {
+    const int finger = forms::Scaled(forms::FingerHeight);
+    if (arrangement != arrangement_ || finger != finger_) {
         arrangement_ = arrangement;
+        finger_ = finger;
         const bool inOneRow = arrangement != Arrangement::Designed;
         const bool low = arrangement == Arrangement::Low;
         if (inOneRow)
@@ -62,7 +63,7 @@ void SalesLayout::Use(Arrangement arrangement) {
 }
 
 bool SalesLayout::HasRoomForLines() const {
-    return RowHeight(LinesInView) >= forms::Scaled(FingerHeight);
+    return RowHeight(LinesInView) >= forms::Scaled(forms::FingerHeight);
 }
 
 // What a row may measure at most when so many are to be seen.

@@ -21,4 +21,5 @@ private:
 
     Ui::frmORVAtouch& ui_;
     Arrangement arrangement_ = Arrangement::Designed;
+    int finger_ = 0;  // as it measured when the arrangement was made
 };

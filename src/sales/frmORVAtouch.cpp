@@ -6,6 +6,7 @@
 #include "core/mdiORVA.h"
 #include "forms/Controls.h"
 #include "forms/MsgBox.h"
+#include "forms/ScanBurst.h"
 #include "masterdata/clicktable/ClickTable.h"
 #include "masterdata/clicktable/Module1.h"
 #include "output/Folder.h"
@@ -108,10 +109,17 @@ void frmORVAtouch::Form_Load() {
     cmdNew_Click();
 }
 
-// Ctrl+Tab leads to the touch table and back; the walk of the Tab key leaves it out, for a scanner types on.
+// Ctrl+Tab leads to the touch table and back; the walk of the Tab key leaves it out, for a scanner types on. What it
+// types goes where codes belong, wherever the focus is.
 bool frmORVAtouch::Form_KeyDown(QKeyEvent& key) {
+    const bool isAtTable = ui.clickTable->isAncestorOf(focusWidget());
+    if (isAtTable && forms::IsCharacter(key) && key.key() != Qt::Key_Space) {
+        ui.txtProdCode->setFocus();
+        QCoreApplication::sendEvent(ui.txtProdCode, &key);
+        return true;
+    }
     if (key.key() != Qt::Key_Tab || key.modifiers() != Qt::ControlModifier) return Form::Form_KeyDown(key);
-    if (ui.clickTable->isAncestorOf(focusWidget()))
+    if (isAtTable)
         ui.txtProdCode->setFocus();
     else
         ui.clickTable->TakeFocus();
@@ -123,12 +131,23 @@ void frmORVAtouch::ShowCustomer(bool visible) {
     ui.lblKupac->setVisible(visible);
     ui.txtKupac->setVisible(visible);
     ui.txtIB->setVisible(visible);
-    layout_.Arrange();
+    if (isVisible()) layout_.Arrange();
 }
 
 void frmORVAtouch::resizeEvent(QResizeEvent* event) {
     Form::resizeEvent(event);
-    layout_.Arrange();
+    if (isVisible()) layout_.Arrange();
+}
+
+// Another step of type: its sheet is in force only when this has ended.
+void frmORVAtouch::changeEvent(QEvent* event) {
+    Form::changeEvent(event);
+    if (event->type() != QEvent::StyleChange || !IsLoaded()) return;
+    const auto follow = [this] {
+        if (isVisible()) layout_.Arrange();
+        txtUserFullName_Change();
+    };
+    QMetaObject::invokeMethod(this, follow, Qt::QueuedConnection);
 }
 
 // Only now do the parts of a form that nobody saw before have their sizes.

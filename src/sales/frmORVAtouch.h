@@ -32,6 +32,7 @@ public:
 protected:
     void Form_Load() override;
     bool Form_KeyDown(QKeyEvent& key) override;
+    void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
 

@@ -51,7 +51,9 @@ IniFile IniFile::Read(const QString& path) {
         // A head that is not closed is that of a section which nobody asks for.
         if (line.startsWith(u'[')) section = line;
         const qsizetype equals = line.indexOf(u'=');
-        if (equals > 0) ini.entries_[NameOf(section, line.first(equals))] = {line.sliced(equals + 1).trimmed(), number};
+        if (equals <= 0) continue;
+        ini.keys_.append({section.trimmed(), line.first(equals).trimmed(), number});
+        ini.entries_[NameOf(section, line.first(equals))] = {line.sliced(equals + 1).trimmed(), number};
     }
     return ini;
 }

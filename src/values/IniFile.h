@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHash>
+#include <QList>
 #include <QString>
 #include <optional>
 
@@ -23,11 +24,19 @@ public:
     // What stands at a key, and where. Sections and keys go in any case; of two equal keys the later one counts.
     std::optional<Value> Find(const QString& section, const QString& key) const;
     std::optional<QString> Entry(const QString& section, const QString& key) const;
+    struct Key {
+        QString section;
+        QString name;
+        int line = 0;
+    };
+    // What there is, in the order of the lines.
+    const QList<Key>& Keys() const { return keys_; }
     // Whether there is nothing but words and the heads of sections.
     bool IsSilent() const { return isSilent_; }
 
 private:
     bool isSilent_ = true;
+    QList<Key> keys_;
     QHash<QString, Value> entries_;  // by "section]key" in small letters
 };
 

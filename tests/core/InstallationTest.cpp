@@ -37,6 +37,7 @@ TEST_F(InstallationTest, AMissingKeyIsAsDeliveredAndAWrongValueIsToldWithItsLine
               QStringList{u"velton.ini, line 4: sound can't be \"perhaps\", only yes or no."_s});
     EXPECT_TRUE(TheInstallation.sound) << "as if the key were missing";
     EXPECT_EQ(TheInstallation.contrast, forms::Contrast::Dark);
+    EXPECT_EQ(Read("[till]\ncontrst=dark\n"), QStringList{u"velton.ini, line 2: there is no contrst in [till]."_s});
 
     QFile::remove(folder.filePath(u"velton.ini"_s));
     QDir(folder.path()).mkdir(u"velton.ini"_s);

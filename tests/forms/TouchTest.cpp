@@ -1,8 +1,10 @@
+#include <QDeadlineTimer>
 #include <QScrollBar>
 #include <QTest>
 #include <QVBoxLayout>
 
 #include "forms/Form.h"
+#include "forms/LongWork.h"
 #include "player/Keys.h"
 #include "support/ScreenTest.h"
 
@@ -64,6 +66,22 @@ TEST_F(TouchTest, ASwipeScrollsATapPressesAndALongPressIsTheRightButton) {
     Finger(rows, {third + QPoint(0, 40)}, 800);
     EXPECT_EQ(form.pressedRight, QList<int>{4});
     EXPECT_EQ(form.pressed.size(), 1) << "the finger that leaves presses no second time";
+}
+
+// What is being stored must not change under it.
+TEST_F(TouchTest, AFingerThatStaysDoesNothingWhileSomethingIsStored) {
+    ListForm form;
+    form.Show();
+    drivers::Settle();
+    QWidget* rows = form.list->viewport();
+    QTest::touchEvent(rows, screen.get()).press(0, rows->rect().center(), rows);
+    {
+        forms::LongWork wait(u"The store is busy."_s, &form);
+        for (const QDeadlineTimer busy(1600); !busy.hasExpired();) wait.GoesOn();
+    }
+    QTest::touchEvent(rows, screen.get()).release(0, rows->rect().center(), rows);
+    drivers::Settle();
+    EXPECT_TRUE(form.pressedRight.isEmpty());
 }
 
 }  // namespace

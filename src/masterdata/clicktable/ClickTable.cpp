@@ -2,10 +2,12 @@
 
 #include <QGridLayout>
 #include <QKeyEvent>
+#include <QMetaMethod>
 #include <QMouseEvent>
 #include <QTabBar>
 #include <QVBoxLayout>
 
+#include "forms/Swipe.h"
 #include "forms/Theme.h"
 #include "values/Error.h"
 
@@ -15,7 +17,6 @@ namespace {
 
 constexpr int FewestColumns = 4;
 constexpr int MostColumns = 6;
-constexpr int FingerHeight = 44;
 constexpr int PageMargin = 6;
 constexpr int Gap = 5;
 
@@ -51,6 +52,13 @@ ClickTable::ClickTable(QWidget* parent) : QWidget(parent), tabs_(new CategoryTab
         SetTabCaption(tab, QString::number(tab + 1));
     }
     LayOut(FewestColumns);
+    longPress_.setSingleShot(true);
+    longPress_.setInterval(forms::LongPress);
+    longPress_.callOnTimeout(this, &ClickTable::LongPressed);
+    connect(tabs_, &QTabWidget::currentChanged, this, [this] {
+        // Not on the page itself, where no key does anything.
+        if (tabs_->currentWidget() == window()->focusWidget()) TakeFocus();
+    });
 }
 
 void ClickTable::LayOut(int columns) {
@@ -73,7 +81,7 @@ void ClickTable::resizeEvent(QResizeEvent* event) {
     const int room = height() - tabs_->tabBar()->sizeHint().height() - 2 * PageMargin;
     const auto heightOf = [room](int columns) { return (room + Gap) / RowsFor(columns) - Gap; };
     int columns = FewestColumns;
-    while (columns < MostColumns && heightOf(columns) < forms::Scaled(FingerHeight)) ++columns;
+    while (columns < MostColumns && heightOf(columns) < forms::Scaled(forms::FingerHeight)) ++columns;
     LayOut(columns);
 }
 
@@ -114,6 +122,30 @@ int ClickTable::IndexOf(const QObject* button) const {
     return at == buttons_.end() ? -1 : static_cast<int>(at - buttons_.begin());
 }
 
+// True for the release of a finger that has been told of before.
+bool ClickTable::MouseEvent(int index, const QMouseEvent& event) {
+    if (event.type() == QEvent::MouseButtonPress) {
+        pressed_ = index;
+        if (event.button() == Qt::LeftButton) longPress_.start();
+        return false;
+    }
+    longPress_.stop();
+    const bool isOver = Button(index)->rect().contains(event.position().toPoint());
+    if (std::exchange(pressed_, -1) < 0) {
+        Button(index)->setDown(false);
+        return true;
+    }
+    if (isOver) Q_EMIT MouseUp(index, event.button());
+    return false;
+}
+
+// Where nobody asks for the right button a long press is a slow touch.
+void ClickTable::LongPressed() {
+    const bool isAsked = isSignalConnected(QMetaMethod::fromSignal(&ClickTable::MouseUp));
+    if (pressed_ < 0 || !isAsked || !Button(pressed_)->isDown()) return;
+    Q_EMIT MouseUp(std::exchange(pressed_, -1), Qt::RightButton);
+}
+
 // Enter is a touch, an arrow goes to the neighbour, PageUp and PageDown to the same place of another tab.
 bool ClickTable::KeyPressed(int index, int key) {
     int tab = index / ButtonsPerTab;
@@ -151,11 +183,17 @@ bool ClickTable::KeyPressed(int index, int key) {
 }
 
 bool ClickTable::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::MouseButtonRelease && event->type() != QEvent::KeyPress) return false;
+    switch (event->type()) {
+        case QEvent::KeyPress:
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+            break;
+        default:
+            return false;
+    }
     const int index = IndexOf(watched);
     if (index < 0) return false;
     if (event->type() == QEvent::KeyPress) return KeyPressed(index, static_cast<const QKeyEvent&>(*event).key());
-    const auto& release = static_cast<const QMouseEvent&>(*event);
-    if (Button(index)->rect().contains(release.position().toPoint())) Q_EMIT MouseUp(index, release.button());
+    if (MouseEvent(index, static_cast<const QMouseEvent&>(*event))) return true;
     return QWidget::eventFilter(watched, event);
 }

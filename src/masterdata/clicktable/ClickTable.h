@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTimer>
 #include <array>
 
 #include "masterdata/clicktable/CategoryTabs.h"
@@ -31,7 +32,7 @@ public:
 
 Q_SIGNALS:
     void Clicked(int index);
-    // A mouse button was released over a touch button.
+    // A mouse button was released over a touch button; a finger that stays counts as the right one.
     void MouseUp(int index, Qt::MouseButton button);
 
 protected:
@@ -41,9 +42,13 @@ protected:
 private:
     void LayOut(int columns);
     bool KeyPressed(int index, int key);
+    bool MouseEvent(int index, const QMouseEvent& event);
+    void LongPressed();
     int IndexOf(const QObject* button) const;
 
     CategoryTabs* tabs_;
     int columns_ = 0;
+    QTimer longPress_;
+    int pressed_ = -1;  // the button that a finger is on
     std::array<TouchButton*, ButtonCount> buttons_{};
 };

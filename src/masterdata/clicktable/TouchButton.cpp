@@ -118,7 +118,8 @@ void TouchButton::PaintFace(QPainter& painter) const {
         nameFont.setPixelSize(forms::Scaled(sizes->nameSize));
         nameArea = face.adjusted(0, 0, 0, price.isEmpty() ? 0 : -forms::Scaled(sizes->priceHeight));
         const QFontMetrics metrics(nameFont);
-        shown = Wrapped(name, metrics, nameArea.width(), qMax(1, (nameArea.height() + 2 * LineMargin) / metrics.lineSpacing()));
+        shown = Wrapped(name, metrics, nameArea.width(),
+                        qMax(1, (nameArea.height() + 2 * LineMargin) / metrics.lineSpacing()));
         if (!shown.contains(Ellipsis)) break;
     }
     painter.setFont(nameFont);

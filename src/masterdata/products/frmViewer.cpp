@@ -41,7 +41,8 @@ void frmViewer::Form_Load() {
     auto products = MainStore().OpenListing(base_);
     auto options = OptionsStore().OpenRecordset(OptionsQuery);
     const values::Value atOnce = options[u"PrikaziOdmah"];
-    if (!atOnce.IsNull() && atOnce.ToBool()) FillViewerGrid(std::move(products));
+    if (!atOnce.IsNull() && atOnce.ToBool()) return FillViewerGrid(std::move(products));
+    ui.lv1->SetEmptyText(u"Type what you look for, or press F11 for all."_s);
 }
 
 void frmViewer::ShowRows(const QString& query) {
@@ -54,6 +55,7 @@ void frmViewer::cmdRefresh_Click() {
 }
 
 void frmViewer::FillViewerGrid(store::Listing products) {
+    ui.lv1->SetEmptyText(u"Nothing is found."_s);
     FillList(*ui.lv1, std::move(products), Cells);
 }
 
