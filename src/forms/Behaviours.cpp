@@ -214,8 +214,8 @@ void Form::Behaviours::MouseMoved(const QMouseEvent& event) {
     longPress->stop();
 }
 
-// A finger has no second button. A box that came up meanwhile keeps the release to itself, and what is being stored must
-// not change under it.
+// A finger has no second button. A box that came up meanwhile keeps the release to itself, and what is being stored
+// must not change under it.
 void Form::Behaviours::LongPressed() {
     const bool isHeld = QGuiApplication::mouseButtons() & Qt::LeftButton;
     if (!isHeld || !form.window()->isActiveWindow() || LongWork::IsUnderWay()) return pressed.reset();
