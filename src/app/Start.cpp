@@ -2,7 +2,6 @@
 
 #include <sys/stat.h>
 
-#include <QScreen>
 #include <csignal>
 
 #include "app/Screens.h"
@@ -31,7 +30,6 @@ void TakeInstallation() {
     }
     forms::SetSound(TheInstallation.sound);
     forms::UseContrast(TheInstallation.contrast);
-    forms::FitTypeTo(QGuiApplication::primaryScreen()->availableSize());
     if (!refused.isEmpty()) forms::Inform(refused.join(u'\n'), u"VELTON"_s);
 }
 

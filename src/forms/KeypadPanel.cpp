@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QTouchEvent>
 
+#include "forms/Pictures.h"
 #include "forms/Theme.h"
 #include "forms/Tokens.h"
 #include "values/Locale.h"
@@ -28,28 +29,23 @@ enum class Sign { Back, Close, Capitals };
 
 // Strokes within a square of 24.
 QIcon Picture(Sign sign) {
-    constexpr qreal density = 2;
-    QPixmap pixmap(QSize(PictureSize, PictureSize) * density);
-    pixmap.setDevicePixelRatio(density);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(TheTokens().Ink, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    switch (sign) {
-        case Sign::Back:
-            painter.drawPolygon(QPolygonF({{2, 12}, {8, 5}, {22, 5}, {22, 19}, {8, 19}}));
-            painter.drawLine(QPointF(11, 9), QPointF(17, 15));
-            painter.drawLine(QPointF(17, 9), QPointF(11, 15));
-            break;
-        case Sign::Close:
-            painter.drawLine(QPointF(6, 6), QPointF(18, 18));
-            painter.drawLine(QPointF(18, 6), QPointF(6, 18));
-            break;
-        case Sign::Capitals:
-            painter.drawPolygon(QPolygonF({{12, 3}, {21, 12}, {16, 12}, {16, 20}, {8, 20}, {8, 12}, {3, 12}}));
-            break;
-    }
-    return pixmap;
+    return Drawn(PictureSize, [sign](QPainter& painter) {
+        painter.setPen(QPen(TheTokens().Ink, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        switch (sign) {
+            case Sign::Back:
+                painter.drawPolygon(QPolygonF({{2, 12}, {8, 5}, {22, 5}, {22, 19}, {8, 19}}));
+                painter.drawLine(QPointF(11, 9), QPointF(17, 15));
+                painter.drawLine(QPointF(17, 9), QPointF(11, 15));
+                break;
+            case Sign::Close:
+                painter.drawLine(QPointF(6, 6), QPointF(18, 18));
+                painter.drawLine(QPointF(18, 6), QPointF(6, 18));
+                break;
+            case Sign::Capitals:
+                painter.drawPolygon(QPolygonF({{12, 3}, {21, 12}, {16, 12}, {16, 20}, {8, 20}, {8, 12}, {3, 12}}));
+                break;
+        }
+    });
 }
 
 }  // namespace

@@ -96,4 +96,15 @@ QIcon PictureIcon(const QString& path) {
     return Reader(path).IsLight() ? QIcon(new LateIcon(path)) : QIcon();
 }
 
+QPixmap Drawn(int size, const std::function<void(QPainter&)>& draw) {
+    constexpr qreal density = 2;
+    QPixmap pixmap(QSize(size, size) * density);
+    pixmap.setDevicePixelRatio(density);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    draw(painter);
+    return pixmap;
+}
+
 }  // namespace forms

@@ -46,9 +46,7 @@ void MakeScrollable(QWidget* panel) {
     auto* area = new PanelArea(panel);
     // Within the window all the time, so that the walk of the Tab key stays.
     auto* content = new QWidget(area);
-    content->setAutoFillBackground(false);
-    QLayout* layout = panel->layout();
-    content->setLayout(layout);
+    content->setLayout(panel->layout());
     area->setWidget(content);
     content->setAutoFillBackground(false);  // as the area would have it otherwise
     auto* around = new QVBoxLayout(panel);

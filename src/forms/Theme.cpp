@@ -4,6 +4,7 @@
 #include <QFontDatabase>
 #include <QHash>
 #include <QPalette>
+#include <QScreen>
 #include <algorithm>
 #include <cmath>
 
@@ -41,6 +42,13 @@ constexpr int Tokens::*Measures[] = {&Tokens::TextSize,       &Tokens::LabelSize
                                      &Tokens::ButtonHeight,   &Tokens::TabHeight,     &Tokens::RowHeight,
                                      &Tokens::TightRowHeight, &Tokens::HeadingHeight, &Tokens::ScrollBarWidth,
                                      &Tokens::DaySize,        &Tokens::TickSize};
+
+double FactorFor(QSize room) {
+    double factor = Steps[0].factor;
+    for (const Step& step : Steps)
+        if (room.width() >= step.room.width() && room.height() >= step.room.height()) factor = step.factor;
+    return factor;
+}
 
 Tokens Enlarged(Tokens tokens) {
     for (const auto measure : Measures) tokens.*measure = Scaled(tokens.*measure);
@@ -186,6 +194,7 @@ int Scaled(int pixels) {
 }
 
 void InstallTheme() {
+    look.factor = FactorFor(QGuiApplication::primaryScreen()->availableSize());
     QApplication::setStyle(new ThemeStyle);
     Install();
 }
@@ -197,9 +206,7 @@ void UseContrast(Contrast contrast) {
 }
 
 void FitTypeTo(QSize room) {
-    double factor = look.factor;
-    for (const Step& step : Steps)
-        if (room.width() >= step.room.width() && room.height() >= step.room.height()) factor = step.factor;
+    const double factor = FactorFor(room);
     if (factor == look.factor) return;
     look.factor = factor;
     // The sheet has the last word on what both of them measure, now as when a form is first shown.

@@ -18,6 +18,7 @@ namespace forms {
 //   any button may be "tight" (property, true): less room beside its caption, for rows of many; a list may too: a low
 //   heading, for few rows that nobody chooses
 // Read-only boxes are grey of themselves; a box under HighlightOnFocus turns yellow with an ink border.
+// Type begins in the step for the screen.
 void InstallTheme();
 enum class Contrast { Usual, High, Dark };
 void UseContrast(Contrast contrast);

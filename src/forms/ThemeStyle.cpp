@@ -9,6 +9,7 @@
 #include <QWidget>
 #include <functional>
 
+#include "forms/Pictures.h"
 #include "forms/Theme.h"
 #include "forms/Tokens.h"
 
@@ -90,18 +91,6 @@ void DrawFocusRing(QPainter& painter, const QStyleOption& option) {
     painter.setPen(QPen(TheTokens().Accent, 1));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
-}
-
-// A picture of so many pixels each way, sharp on dense screens too.
-QPixmap Drawn(int size, const std::function<void(QPainter&)>& draw) {
-    constexpr qreal density = 2;
-    QPixmap pixmap(QSize(size, size) * density);
-    pixmap.setDevicePixelRatio(density);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    draw(painter);
-    return pixmap;
 }
 
 // A disc with a sign: what a message box is about.

@@ -15,6 +15,9 @@ namespace store {
 class Burst;
 }
 
+// Goods in this unit are counted, all others weighed or measured.
+inline const QString PiecesUnit = QStringLiteral("pcs");
+
 // The sales screen: the invoice from opening to posting. The invoice in progress lives in these controls alone; the
 // state of the screen is the caption of cmdNew.
 class frmORVAtouch : public forms::Form {

@@ -19,7 +19,6 @@ namespace {
 const auto UnknownProduct = u"Product with this ID-barcode does not exist."_s;
 // Printed on a card at the till: posts the invoice without touching the keyboard.
 const auto PostingBarcode = u"9999999999994"_s;
-const auto Pieces = u"pcs"_s;
 
 }  // namespace
 
@@ -83,7 +82,7 @@ void frmORVAtouch::txtProdCode_Enter() {
     }
     boxes_.Show(product);
     SetQuantity(u"1"_s);
-    if (ui.txtUnit->text() == Pieces) return cmdAddItem_Click();
+    if (ui.txtUnit->text() == PiecesUnit) return cmdAddItem_Click();
     ui.txtQuantity->setCursorPosition(0);
     ui.txtQuantity->setFocus();
 }

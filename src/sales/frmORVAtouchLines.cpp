@@ -16,12 +16,6 @@ using values::Money;
 
 using enum InvoiceText::Item::Column;
 
-namespace {
-
-const auto Pieces = u"pcs"_s;
-
-}  // namespace
-
 void frmORVAtouch::cmdAddItem_Click() {
     const int row = boxes_.RowIn(*ui.lv1);
     if (row < 0)
@@ -91,7 +85,7 @@ void frmORVAtouch::ShowCount() {
     const int lines = ui.lv1->Count();
     double pieces = 0;
     for (int row = 0; row < lines; ++row) {
-        const bool isCounted = ui.lv1->Text(row, Unit) == Pieces;
+        const bool isCounted = ui.lv1->Text(row, Unit) == PiecesUnit;
         pieces += isCounted ? CDouble(ui.lv1->Text(row, Quantity)) : 1;
     }
     ui.lblCount->setText(lines == 0 ? QString() : u"Lines: %1   Pieces: %2"_s.arg(lines).arg(Format(pieces, u"")));

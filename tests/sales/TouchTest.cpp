@@ -88,4 +88,16 @@ TEST_F(TouchTest, ATillWithoutATouchMonitorHasNoKeypad) {
     EXPECT_FALSE(forms::ShownKeypad());
 }
 
+// To the toolkit two fast touches are a click and a double click.
+TEST_F(TouchTest, TwoFastTouchesOfAProductAreTwoPieces) {
+    Run(u"UPDATE Products SET Tab = 1 WHERE ProdCode = '100'"_s);
+    LogIn(u"kasir"_s);
+    auto* button = Get<QWidget>(Sales(), u"Command2_1");
+    const QPoint middle = button->rect().center();
+    drivers::ClickAt(button, middle, Qt::LeftButton);
+    drivers::ClickAgainAt(button, middle);
+    drivers::Settle();
+    EXPECT_EQ(Shown(u"lblCount"), u"Lines: 1   Pieces: 2");
+}
+
 }  // namespace

@@ -1,6 +1,5 @@
 #include "masterdata/clicktable/CategoryTabs.h"
 
-#include <QEvent>
 #include <QTabBar>
 #include <algorithm>
 #include <numeric>

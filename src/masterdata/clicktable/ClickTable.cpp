@@ -124,14 +124,16 @@ int ClickTable::IndexOf(const QObject* button) const {
 
 // True for the release of a finger that has been told of before.
 bool ClickTable::MouseEvent(int index, const QMouseEvent& event) {
-    if (event.type() == QEvent::MouseButtonPress) {
+    if (event.type() != QEvent::MouseButtonRelease) {
         pressed_ = index;
+        isSpent_ = false;
         if (event.button() == Qt::LeftButton) longPress_.start();
         return false;
     }
     longPress_.stop();
     const bool isOver = Button(index)->rect().contains(event.position().toPoint());
-    if (std::exchange(pressed_, -1) < 0) {
+    pressed_ = -1;
+    if (std::exchange(isSpent_, false)) {
         Button(index)->setDown(false);
         return true;
     }
@@ -143,7 +145,8 @@ bool ClickTable::MouseEvent(int index, const QMouseEvent& event) {
 void ClickTable::LongPressed() {
     const bool isAsked = isSignalConnected(QMetaMethod::fromSignal(&ClickTable::MouseUp));
     if (pressed_ < 0 || !isAsked || !Button(pressed_)->isDown()) return;
-    Q_EMIT MouseUp(std::exchange(pressed_, -1), Qt::RightButton);
+    isSpent_ = true;
+    Q_EMIT MouseUp(pressed_, Qt::RightButton);
 }
 
 // Enter is a touch, an arrow goes to the neighbour, PageUp and PageDown to the same place of another tab.
@@ -186,6 +189,7 @@ bool ClickTable::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
         case QEvent::KeyPress:
         case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:  // the second of two fast touches
         case QEvent::MouseButtonRelease:
             break;
         default:

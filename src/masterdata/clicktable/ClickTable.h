@@ -49,6 +49,7 @@ private:
     CategoryTabs* tabs_;
     int columns_ = 0;
     QTimer longPress_;
-    int pressed_ = -1;  // the button that a finger is on
+    int pressed_ = -1;      // the button that a finger is on
+    bool isSpent_ = false;  // it was told as a long press
     std::array<TouchButton*, ButtonCount> buttons_{};
 };
