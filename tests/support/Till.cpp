@@ -51,7 +51,7 @@ std::unique_ptr<store::Database> OpenMain(const QTemporaryDir& folder) {
 }  // namespace
 
 TillTest::TillTest() {
-    delivery::MakeProgramFolder(folder.path(), false);
+    delivery::MakeProgramFolder(folder.path());
     output::SetProgramFolder(folder.path());
     values::SetClock([] { return QDateTime(QDate(2026, 11, 24), QTime(10, 42, 7)); });
     AddGoods();
