@@ -186,7 +186,7 @@ Shop::Shop(const QString& dataFolder, ShopSize size)
 }
 
 void Shop::Make(const QString& folder) const {
-    delivery::MakeProgramFolder(folder, false);
+    delivery::MakeProgramFolder(folder);
     const auto options = store::Database::Open(store::OptionsPlace(folder), store::OptionsSchema());
     options->Execute(u"UPDATE Options SET Kusur = False"_s);  // no dialog waits for an answer
     const auto main = store::Database::Open(store::MainPlace(folder), store::MainSchema());
@@ -208,7 +208,7 @@ std::vector<QString> Shop::RandomCodes(int count) const {
 
 void Shop::CopyTo(const QString& folder) const {
     QDir(folder).removeRecursively();
-    delivery::MakeProgramFolder(folder, false);
+    delivery::MakeProgramFolder(folder);
     for (const QString& name : {u"/ORVA.pos"_s, u"/opt.pos"_s}) {
         QFile::remove(folder + name);
         MustSucceed(QFile::copy(folder_ + name, folder + name), u"cannot copy the store to "_s + folder);

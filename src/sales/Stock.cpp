@@ -33,7 +33,7 @@ void Decrease(store::Recordset& product, Money amount, const WaitForStore& wait)
         try {
             product.Update();
         } catch (const store::StoreError& error) {
-            if (error.NeverHeals()) throw;
+            if (error.ForbidsRetry()) throw;
             failure = error;
         } catch (const values::Error& error) {
             failure = error;

@@ -118,6 +118,21 @@ int CompareFolded(QByteArrayView a, QByteArrayView b) {
     return static_cast<int>(!a.empty()) - static_cast<int>(!b.empty());
 }
 
+QByteArray FoldedText(QByteArrayView text) {
+    QByteArray folded;
+    folded.reserve(text.size());
+    while (!text.empty()) {
+        if (IsAscii(text[0])) {
+            folded += static_cast<char>(FoldAscii(text[0]));
+            text = text.sliced(1);
+        } else {
+            const char32_t letter = FoldCase(TakeCodePoint(text));
+            folded += QString::fromUcs4(&letter, 1).toUtf8();
+        }
+    }
+    return folded;
+}
+
 bool SameText(const QString& a, const QString& b) {
     return CompareFolded(a.toUtf8(), b.toUtf8()) == 0;
 }

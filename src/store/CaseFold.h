@@ -10,6 +10,9 @@ namespace store {
 char32_t FoldCase(char32_t codePoint);
 int CompareFolded(QByteArrayView a, QByteArrayView b);  // below 0, 0 or above 0
 
+// A text with every character folded.
+QByteArray FoldedText(QByteArrayView text);
+
 // Whether two texts are one to the stores.
 bool SameText(const QString& a, const QString& b);
 

@@ -1,7 +1,9 @@
 #include "store/Database.h"
 
+#include "store/Creation.h"
 #include "store/ListingImpl.h"
 #include "store/RecordsetImpl.h"
+#include "store/postgres/OpenServer.h"
 #include "store/sqlite/OpenSqlite.h"
 
 using namespace Qt::StringLiterals;
@@ -26,11 +28,13 @@ Database::Database(std::unique_ptr<Engine> engine, const Schema& schema)
 Database::~Database() = default;
 
 std::unique_ptr<Database> Database::Open(const Place& place, const Schema& schema) {
-    return std::unique_ptr<Database>(new Database(sqlite::OpenFile(place.Path(), schema), schema));
+    auto engine = place.IsServer() ? postgres::OpenSchema(place, schema) : sqlite::OpenFile(place.Path(), schema);
+    return std::unique_ptr<Database>(new Database(std::move(engine), schema));
 }
 
 std::unique_ptr<Database> Database::Create(const Place& place, const Schema& schema) {
-    return std::unique_ptr<Database>(new Database(sqlite::CreateFile(place.Path(), schema), schema));
+    Creation(place, schema).Finish();
+    return Open(place, schema);
 }
 
 dialect::Query Database::Internals::CompileSelect(const QString& query) {
@@ -94,6 +98,15 @@ QStringList Database::CheckIntegrity() {
 
 QStringList Database::MissingIndexes() {
     return engine_->MissingIndexes(internals_->schema);
+}
+
+void Database::AddAllOf(Database& other) {
+    AddAllOf(*other.engine_);
+}
+
+void Database::AddAllOf(Engine& other) {
+    other.ReadStore(internals_->schema,
+                    [this](const Table& table, const Engine::StoredRows& rows) { engine_->AddRows(table, rows); });
 }
 
 void Database::BackupTo(const QString& path) {

@@ -16,13 +16,15 @@ namespace dialect {
 struct Query;
 }
 
-// One open store. Several processes may hold one store open at once; each writes one commit an Update. When its files
-// are deleted, moved or replaced while it is open, the next write and every later one throws FilesLost, and what was
-// stored until then is saved as a store of its own beside it (ORVA-saved-YYYYMMDD-hhmmss.pos).
+// One open store, in a file or on a server. Several processes may hold one store open at once; each writes one commit
+// an Update. When the files of one are deleted, moved or replaced while it is open, the next write and every later one
+// throws FilesLost, and what was stored until then is saved as a store of its own beside it
+// (ORVA-saved-YYYYMMDD-hhmmss.pos).
 class Database {
 public:
     // Opens an existing store for shared reading and writing, carrying an older one forward to the schema's version.
-    // 3024 missing, 3343 foreign, damaged, empty or newer, 3356 held exclusively, 3027 not writable.
+    // 3024 missing, 3343 foreign, damaged, empty or newer, 3356 held exclusively, 3027 not writable; ServerLost where a
+    // server cannot be reached.
     static std::unique_ptr<Database> Open(const Place& place, const Schema& schema);
     // Makes a new, empty store; where one lies already that is refused (3204).
     static std::unique_ptr<Database> Create(const Place& place, const Schema& schema);
@@ -61,8 +63,12 @@ public:
     QStringList CheckIntegrity();
     // The indexes of the schema that the store lacks, as Table.Column+Column.
     QStringList MissingIndexes();
-    // A consistent copy while others write; the file must not exist. It is opened again and checked.
+    // A consistent copy in a file while others write; the file must not exist. It is opened again and checked.
     void BackupTo(const QString& path);
+    // Adds all rows of another store, as it is at one moment, with their identities. This one is empty and has an open
+    // batch.
+    void AddAllOf(Database& other);
+    void AddAllOf(Engine& other);
     // How the engine would run a query text, one line a step; for tests.
     QString ExplainPlan(const QString& query);
 
@@ -71,6 +77,7 @@ private:
     Listing ListingOf(dialect::Query query);
     Database(std::unique_ptr<Engine> engine, const Schema& schema);
     friend class Recordset;
+    friend class Creation;
     friend class Burst;
     friend class Watch;
     friend class Patience;

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "store/RowBlock.h"
+#include "store/Schema.h"
 #include "store/dialect/Plan.h"
 
 namespace store {
@@ -30,9 +31,10 @@ using BeginWait = std::function<std::function<bool()>()>;
 //
 // Commits. A write outside of a batch is one commit, a batch is one. When a call returns, its commit is seen by every
 // call that begins later, on any connection, and is on the disk; within a burst it is on the disk when the burst ends
-// at the latest. The commits of a connection keep their order: nobody sees one without those before it, and neither
-// does whoever reads the disk after a power cut. Every read is of one moment, of which it sees all commits; it sees
-// what its own connection wrote in an open batch too. No read transaction outlives its call.
+// at the latest. Where the reply to a write gets lost on the way, it throws ServerLost, and nobody knows. The commits
+// of a connection keep their order: nobody sees one without those before it, and neither does whoever reads the disk
+// after a power cut. Every read is of one moment, of which it sees all commits; it sees what its own connection wrote
+// in an open batch too. No read transaction outlives its call.
 //
 // Errors. Failures are StoreErrors, and a write that fails has written nothing. In a batch it alone is undone: what the
 // batch wrote before stays, and it goes on. But a refusal of the disk (3026, 3043), a write that the user left (3059)
@@ -41,7 +43,8 @@ using BeginWait = std::function<std::function<bool()>()>;
 // Rows that are current. What was read after Now() was asked for is what a read would give still, for as long as
 // StillAt() says yes to its stamp: nobody has committed and this connection has written nothing since. No commit that
 // was acknowledged before the question is missed, whoever made it; the answer may be no without a cause, which costs a
-// reading. Cursors ask it before every field, so it must cost next to nothing.
+// reading. Cursors ask it before every field, so it must cost next to nothing; an engine that would have to ask
+// somebody else says no and knows of no commits.
 //
 // Order. Nulls come before all values, after them when descending. Texts are ordered and are equal by CaseFold.h, in
 // indexes and groups too. Rows of one table without ORDER BY come by identity, as they were added: reports and receipts
@@ -105,8 +108,21 @@ public:
     // Another connection to the same store, for another thread; null when there is none to be had.
     virtual std::unique_ptr<Engine> OpenBeside() = 0;
 
+    // Whether StillAt can say so here at all. Where it cannot, a row is current until its cursor moves.
+    virtual bool KnowsOfCommits() const = 0;
     virtual Stamp Now() = 0;
     virtual bool StillAt(Stamp stamp) = 0;
+
+    // All rows of the tables of a schema, of one moment, by identity and in blocks; a table without rows comes once.
+    // With each comes the highest identity that was ever given in its table.
+    struct StoredRows {
+        std::vector<qint64> keys;
+        RowBlock rows;  // all columns of the table
+        qint64 lastKey = 0;
+    };
+    virtual void ReadStore(const Schema& schema, const std::function<void(const Table&, const StoredRows&)>& take) = 0;
+    // Adds rows that another store gave, with their identities. Within a batch.
+    virtual void AddRows(const Table& table, const StoredRows& rows) = 0;
 
     virtual QStringList CheckIntegrity() = 0;
     virtual QStringList MissingIndexes(const Schema& schema) = 0;

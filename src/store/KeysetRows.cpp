@@ -21,6 +21,7 @@ KeysetRows::KeysetRows(Engine& engine, const dialect::Query& query)
     if (!isInRowOrder_) {
         stamp_ = engine_.Now();
         engine_.ReadKeyset(query_, OpeningRows, base_, window_);
+        isJustRead_ = true;
         return;
     }
     upTo_ = engine_.LastRow(*query_.plan->table);
@@ -125,6 +126,7 @@ void KeysetRows::LearnMore() {
     stamp_ = engine_.Now();
     windowStart_ = static_cast<Place>(known);
     engine_.ReadAfter(query_, after, upTo_, readAhead_, base_, window_);
+    isJustRead_ = true;
     isComplete_ = static_cast<int>(base_.size() - known) < readAhead_;
     readAhead_ = std::min(readAhead_ * 2, LongestReadAhead);
 }
@@ -142,7 +144,7 @@ bool KeysetRows::InWindow(Place place) const {
 }
 
 CursorRows::Data KeysetRows::Load(Place place) {
-    const bool isCurrent = engine_.StillAt(stamp_);
+    const bool isCurrent = std::exchange(isJustRead_, false) || engine_.StillAt(stamp_);
     confirmed_ = Stamp::Unknown;
     if (!isCurrent || !InWindow(place)) {
         // While others commit between the moves, rows read ahead would be read in vain.

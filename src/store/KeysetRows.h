@@ -59,6 +59,7 @@ private:
     Place windowStart_ = 0;
     Stamp stamp_ = Stamp::Unknown;      // when the window was read
     Stamp confirmed_ = Stamp::Unknown;  // when the last loaded row was found to be there still
+    bool isJustRead_ = false;           // the window, by the move that is under way
     int readAhead_;
 };
 

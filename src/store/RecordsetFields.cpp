@@ -41,7 +41,7 @@ const CursorRows::Data& Recordset::Impl::Current() {
     if (data.rows == nullptr) {
         CurrentRow();
         data = rows->Load(place);
-    } else if (keyset != nullptr && !keyset->StillThere()) {
+    } else if (keyset != nullptr && engine.KnowsOfCommits() && !keyset->StillThere()) {
         data = keyset->Confirm(place);
     }
     if (data.rows->Gone(data.index)) ThrowDeleted();

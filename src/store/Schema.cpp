@@ -142,6 +142,11 @@ Table Options() {
 
 }  // namespace
 
+QString IndexName(const QString& table, const Index& index) {
+    const QString kind = index.unique ? u"Key"_s : index.overVal ? u"Val"_s : u"By"_s;
+    return table + kind + index.columns.join(QString());
+}
+
 int Table::Find(QStringView column) const {
     for (int i = 0; i < columns.size(); ++i)
         if (columns[i].name.compare(column, Qt::CaseInsensitive) == 0) return i;

@@ -32,6 +32,9 @@ struct Index {
     bool overVal = false;
 };
 
+// What an index is called in every store.
+QString IndexName(const QString& table, const Index& index);
+
 struct Table {
     QString name;
     QList<Column> columns;

@@ -38,8 +38,8 @@ enum ErrorNumber : int {
 class StoreError : public values::Error {
 public:
     using values::Error::Error;
-    // Trying again is in vain, for as long as the store stays open.
-    virtual bool NeverHeals() const { return false; }
+    // Whoever would try again until it goes well must not: it is in vain, or wrong.
+    virtual bool ForbidsRetry() const { return false; }
 };
 
 // The files of an open store were deleted, moved away or replaced. What the connection had stored is saved beside the
@@ -47,7 +47,15 @@ public:
 class FilesLost : public StoreError {
 public:
     explicit FilesLost(QString description) : StoreError(DiskError, std::move(description)) {}
-    bool NeverHeals() const override { return true; }
+    bool ForbidsRetry() const override { return true; }
+};
+
+// The server of a store cannot be reached or was lost on the way; the next call tries to reach it again. A write that
+// was under way may have been stored or not, and nobody knows.
+class ServerLost : public StoreError {
+public:
+    explicit ServerLost(QString description) : StoreError(DiskError, std::move(description)) {}
+    bool ForbidsRetry() const override { return true; }
 };
 
 // A place in a query text, in UTF-16 units from its start.

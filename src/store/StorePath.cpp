@@ -26,22 +26,32 @@ values::IniFile ReadIni(const QString& path) {
     }
 }
 
-// A file that says something, but no path, is an error: a register must not sell into another store than its own for a
-// slip.
-QString PathInIni(const QString& iniFile) {
-    const auto ini = ReadIni(iniFile);
-    const auto path = ini.Entry(u"main"_s, u"path"_s);
-    if (!path && !ini.IsSilent())
+QString EntryOf(const values::IniFile& ini, const QString& key) {
+    return Unquoted(ini.Entry(u"main"_s, key).value_or(QString()));
+}
+
+// An ini that says something, but not where the store lies, is an error, and so is one that says it twice: a register
+// must not sell into another store than its own for a slip.
+void RequireOneEntry(const values::IniFile& ini, const QString& iniFile) {
+    const bool hasPath = ini.Entry(u"main"_s, u"path"_s).has_value();
+    const bool hasUrl = ini.Entry(u"main"_s, u"url"_s).has_value();
+    if (hasPath && hasUrl)
         throw StoreError(IniNotReadable,
-                         u"Cannot read %1: it has no line path=... in a section [main]."_s.arg(iniFile));
-    return Unquoted(path.value_or(QString())).replace(u'\\', u'/');
+                         u"Cannot use %1: it names a path and a url, but only one store."_s.arg(iniFile));
+    if (!hasPath && !hasUrl && !ini.IsSilent())
+        throw StoreError(IniNotReadable,
+                         u"Cannot read %1: it has no line path=... or url=... in a section [main]."_s.arg(iniFile));
 }
 
 }  // namespace
 
 Place MainPlace(const QString& programFolder) {
     const QDir folder(programFolder);
-    const QString path = PathInIni(folder.filePath(u"store.ini"_s));
+    const QString iniFile = folder.filePath(u"store.ini"_s);
+    const values::IniFile ini = ReadIni(iniFile);
+    RequireOneEntry(ini, iniFile);
+    if (const QString url = EntryOf(ini, u"url"_s); !url.isEmpty()) return Place::Server(url);
+    const QString path = EntryOf(ini, u"path"_s).replace(u'\\', u'/');
     if (path.isEmpty()) return folder.filePath(MainFile);
     const QString target = folder.filePath(path);
     return QFileInfo(target).isDir() ? QDir(target).filePath(MainFile) : target;

@@ -8,10 +8,10 @@ namespace store {
 inline constexpr QLatin1StringView MainFile("ORVA.pos");
 inline constexpr QLatin1StringView OptionsFile("opt.pos");
 
-// Where the stores of a program's folder lie: both in it, but for a main store that store.ini points to by the key
-// `path` of its section [main]: a folder with an ORVA.pos or a file, relative to the program's folder or absolute,
-// taken as it stands but for blanks and quotes around it and backslashes, which separate folders. A store.ini that
-// cannot be read throws 3051, so that a register never falls back to a store of its own.
+// Where the stores of a program's folder lie: both in it, but for a main store that store.ini points to in its section
+// [main]. The key `path` is a folder with an ORVA.pos or a file, relative to the program's folder or absolute, taken as
+// it stands but for blanks and quotes around it and backslashes, which separate folders. The key `url` is the address
+// of a server. A store.ini that cannot be read throws 3051, so that a register never falls back to a store of its own.
 Place MainPlace(const QString& programFolder);
 Place OptionsPlace(const QString& programFolder);
 

@@ -105,7 +105,7 @@ TEST_F(CrashTest, EightRegistersSellOneProductAndTheStockIsExact) {
     for (int number = 0; number < registers; ++number) {
         folders.push_back(std::make_unique<QTemporaryDir>());
         const QString own = folders.back()->path();
-        delivery::MakeProgramFolder(own, false);
+        delivery::MakeProgramFolder(own);
         for (const QString& store : {u"/ORVA.pos"_s, u"/opt.pos"_s}) ASSERT_TRUE(QFile::remove(own + store));
         ASSERT_TRUE(QFile::copy(Path(u"opt.pos"_s), own + u"/opt.pos"_s));
         QFile ini(own + u"/store.ini"_s);

@@ -275,7 +275,7 @@ TEST_F(LostFilesTest, ALostStoreTakesNoMoreAndIsSavedBesideItsPlace) {
             try {
                 write();
             } catch (const StoreError& error) {
-                EXPECT_TRUE(error.NeverHeals() && error.Number() == DiskError);
+                EXPECT_TRUE(error.ForbidsRetry() && error.Number() == DiskError);
                 EXPECT_TRUE(error.Description().contains(u"ORVA-saved-"_s)) << error.what();
                 return true;
             }

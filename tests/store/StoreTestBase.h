@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "store/Database.h"
 #include "support/ErrorOf.h"
@@ -32,7 +33,7 @@ protected:
 
     QString PathOf(const QString& name) const { return folder_.filePath(name); }
     QString StorePath() const { return PathOf(u"ORVA.pos"_s); }
-    std::unique_ptr<Database> OpenAgain() const { return Database::Open(StorePath(), MainSchema()); }
+    std::unique_ptr<Database> OpenAgain() const { return Database::Open(place_, MainSchema()); }
 
     void AddProducts(int first, int last) {
         Database::Batch batch(*store);
@@ -86,8 +87,16 @@ protected:
     }
     QStringList Column(const QString& query) { return Column(*store, query); }
 
+    static Place MakePlace(const QString& path) {
+        static int n = 0;
+        const QString url = qEnvironmentVariable("VELTON_URL");
+        if (url.isEmpty()) return path;
+        return Place::Server(url + u"&schema=s%1_%2"_s.arg(getpid()).arg(++n));
+    }
+
     QTemporaryDir folder_{FolderTemplate()};
-    std::unique_ptr<Database> store = Database::Create(StorePath(), MainSchema());
+    const Place place_ = MakePlace(StorePath());
+    std::unique_ptr<Database> store = Database::Create(place_, MainSchema());
 };
 
 }  // namespace store::test

@@ -74,7 +74,7 @@ QStringList LinesOf(const QByteArray& output, const QString& before) {
 
 class ToolTest : public testing::TestWithParam<Talk> {
 protected:
-    ToolTest() { delivery::MakeProgramFolder(folder_.filePath(u"shop"_s), false); }
+    ToolTest() { delivery::MakeProgramFolder(folder_.filePath(u"shop"_s)); }
 
     QString Answer(const QString& command) const {
         QProcess process;
@@ -137,7 +137,7 @@ INSTANTIATE_TEST_SUITE_P(Tool, ToolTest, testing::ValuesIn(Talks()),
 
 TEST(StoreFiles, AStoreThatSomebodyHoldsForHimselfIsToldSo) {
     const QTemporaryDir folder(FolderTemplate());
-    delivery::MakeProgramFolder(folder.path(), false);
+    delivery::MakeProgramFolder(folder.path());
     const auto database = store::Database::Open(folder.filePath(u"ORVA.pos"_s), store::MainSchema());
     const store::Database::Batch held(*database);
     QProcess tool;

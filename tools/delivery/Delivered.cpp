@@ -35,6 +35,14 @@ void AddTax(store::Database& main, const QString& id, const QString& name, int p
            {{u"TaxID", id}, {u"Name", name}, {u"Percent", Money::FromWhole(percent)}, {u"Del", isProtected}});
 }
 
+Fields DeliveredOptions() {
+    Fields options;
+    for (const auto& column : store::OptionsColumns()) options.append({column.name, column.delivered});
+    return options;
+}
+
+}  // namespace
+
 void FillMain(store::Database& main) {
     AddUser(main, u"1"_s, u"admin"_s, u"3"_s, true);
     AddUser(main, u"2"_s, u"kasir"_s, u"1"_s, false);
@@ -48,21 +56,8 @@ void FillMain(store::Database& main) {
     AddRow(main, u"Company"_s, {{u"Adresa", u""_s}, {u"Tel", u""_s}, {u"Ziro", u""_s}});
 }
 
-Fields DeliveredOptions() {
-    Fields options;
-    for (const auto& column : store::OptionsColumns()) options.append({column.name, column.delivered});
-    return options;
-}
-
-}  // namespace
-
-void FillDelivered(store::Database& main, store::Database& options) {
-    store::Database::Batch mainBatch(main);
-    FillMain(main);
-    mainBatch.Commit();
-    store::Database::Batch optionsBatch(options);
+void FillOptions(store::Database& options) {
     AddRow(options, u"Options"_s, DeliveredOptions());
-    optionsBatch.Commit();
 }
 
 }  // namespace delivery

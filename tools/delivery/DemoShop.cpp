@@ -19,7 +19,6 @@ void LoadDemoTable(store::Database& main, const QString& table) {
 }  // namespace
 
 void FillDemo(store::Database& main, store::Database& options) {
-    store::Database::Batch batch(main);
     // The delivered tabs give way to named ones.
     main.Execute(u"DELETE * FROM TabControl"_s);
     for (const QString& table : {u"TabControl"_s, u"Users"_s, u"Custumer"_s, u"Products"_s, u"ProductsCon"_s})
@@ -30,7 +29,6 @@ void FillDemo(store::Database& main, store::Database& options) {
     company[u"Tel"] = u"033 555 100"_s;
     company[u"Ziro"] = u"1990000000000012"_s;
     company.Update();
-    batch.Commit();
 
     auto settings = options.OpenRecordset(u"SELECT * FROM Options"_s);
     settings.Edit();

@@ -8,6 +8,7 @@
 #include <filesystem>
 
 #include "delivery/Delivery.h"
+#include "store/Creation.h"
 #include "store/StorePath.h"
 #include "values/FileError.h"
 
@@ -19,6 +20,7 @@ namespace {
 
 const auto Program = u"velton"_s;
 constexpr auto OwnerAlone = QFile::ReadOwner | QFile::WriteOwner;
+const auto StoreIni = u"store.ini"_s;
 const auto PortsIni = "[ports]\nlpt1=file:lpt1.prn\nlpt2=file:lpt2.prn\n"_ba;
 
 // Brings finished files into a folder and, unless Keep was called, takes them and the folders it made away again.
@@ -126,18 +128,34 @@ void RefuseStores(const QString& folder) {
                                         u"The folder '%1' holds a store already: %2"_s.arg(folder, name + rest));
 }
 
-void MakeStores(const QString& folder, bool withDemo) {
-    const auto main = store::Database::Create(store::MainPlace(folder), store::MainSchema());
-    const auto options = store::Database::Create(store::OptionsPlace(folder), store::OptionsSchema());
-    FillDelivered(*main, *options);
-    if (withDemo) FillDemo(*main, *options);
-}
-
 void WriteFile(const QString& path, const QByteArray& content) {
     QDir().mkpath(QFileInfo(path).absolutePath());
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly, OwnerAlone) || file.write(content) != content.size() || !file.flush())
         throw values::FileError(file, u"write '%1'"_s.arg(path));
+}
+
+// A register that joins the store of a server finds all rows there.
+bool Joins(const store::Place& main, bool withDemo) {
+    if (!main.IsServer() || withDemo) return false;
+    try {
+        store::Database::Open(main, store::MainSchema());
+        return true;
+    } catch (const store::StoreError& error) {
+        if (error.Number() != store::FileNotFound) throw;
+        return false;
+    }
+}
+
+void MakeStores(const QString& folder, const store::Place& mainPlace, bool withDemo) {
+    store::Creation options(store::OptionsPlace(folder), store::OptionsSchema());
+    FillOptions(options.Store());
+    if (Joins(mainPlace, withDemo)) return options.Finish();
+    store::Creation main(mainPlace, store::MainSchema());
+    FillMain(main.Store());
+    if (withDemo) FillDemo(main.Store(), options.Store());
+    options.Finish();
+    main.Finish();
 }
 
 // Pictures and help texts, as they lie in this program.
@@ -168,25 +186,33 @@ void CopyProgram(const QString& from, const QString& folder) {
 
 }  // namespace
 
-void MakeProgramFolder(const QString& folder, bool withDemo, const QString& programPath) {
+void MakeProgramFolder(const QString& folder, const Register& what) {
     const QString target = QDir::cleanPath(QDir().absoluteFilePath(folder));
     RefuseStores(target);
-    const bool withProgram = !programPath.isEmpty();
-    if (withProgram && !QFileInfo(programPath).isFile())
-        throw values::FileError(values::FileMissing, u"The program is missing: '%1'"_s.arg(programPath));
+    const bool withProgram = !what.program.isEmpty();
+    if (withProgram && !QFileInfo(what.program).isFile())
+        throw values::FileError(values::FileMissing, u"The program is missing: '%1'"_s.arg(what.program));
 
     Placing placing(target);
     // Put in place only when all of it is there.
     const Workshop workshop(target);
-    MakeStores(workshop.Path(), withDemo);
-    const QStringList supplies = WriteSupplies(workshop.Path());
-    if (withProgram) CopyProgram(programPath, workshop.Path());
+    const store::Place main =
+        what.server.isEmpty() ? store::MainPlace(workshop.Path()) : store::Place::Server(what.server);
+    QStringList supplies = WriteSupplies(workshop.Path());
+    if (main.IsServer()) {
+        if (placing.Has(StoreIni))
+            throw values::FileError(store::FileExists, u"The folder '%1' has a store.ini already."_s.arg(target));
+        WriteFile(workshop.FilePath(StoreIni), "[main]\nurl=" + what.server.toUtf8() + '\n');
+        supplies += StoreIni;
+    }
+    if (withProgram) CopyProgram(what.program, workshop.Path());
+    MakeStores(workshop.Path(), main, what.withDemo);
 
     for (const QString& name : supplies)
         if (!placing.Has(name)) placing.Move(workshop.FilePath(name), name);
     if (withProgram) placing.Replace(workshop.FilePath(Program), Program);
     placing.Move(workshop.FilePath(store::OptionsFile), store::OptionsFile);
-    placing.Move(workshop.FilePath(store::MainFile), store::MainFile);
+    if (!main.IsServer()) placing.Move(workshop.FilePath(store::MainFile), store::MainFile);
     placing.Keep();
 }
 

@@ -49,7 +49,7 @@ QString TextFile(const QString& path) {
 
 void Play(const QString& path) {
     ClearFolder(path);
-    delivery::MakeProgramFolder(path, true);
+    delivery::MakeProgramFolder(path, {.withDemo = true});
     SwitchOnFiscalRecords(path);
     output::SetProgramFolder(path);
     const QString pictures = QDir(path).filePath(u"screens"_s);

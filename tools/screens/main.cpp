@@ -27,7 +27,7 @@ struct Arguments {
 
 // As a shop sets its register that has a fiscal printer and writes customers on invoices.
 void MakeShop(const QString& path) {
-    delivery::MakeProgramFolder(path, true);
+    delivery::MakeProgramFolder(path, {.withDemo = true});
     const auto options = store::Database::Open(store::OptionsPlace(path), store::OptionsSchema());
     options->Execute(u"UPDATE Options SET FiskalniRacunDA = '1', Kupac = True"_s);
     output::SetProgramFolder(path);

@@ -10,7 +10,8 @@ namespace tool {
 
 enum class Which { Main, Options };
 
-void New(const QString& folder, bool withDemo);
+// `server`: the address of the main store, which is in the folder where it is empty.
+void New(const QString& folder, bool withDemo, const QString& server);
 void Sql(const QString& folder, const QString& text, Which which);
 // `fields` are texts of the form FIELD=VALUE.
 void Insert(const QString& folder, const QString& table, const QStringList& fields, Which which);

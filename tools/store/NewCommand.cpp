@@ -7,8 +7,10 @@ using namespace Qt::StringLiterals;
 
 namespace tool {
 
-void New(const QString& folder, bool withDemo) {
-    delivery::MakeProgramFolder(folder, withDemo, QCoreApplication::applicationDirPath() + u"/velton"_s);
+void New(const QString& folder, bool withDemo, const QString& server) {
+    delivery::MakeProgramFolder(
+        folder,
+        {.withDemo = withDemo, .server = server, .program = QCoreApplication::applicationDirPath() + u"/velton"_s});
 }
 
 }  // namespace tool

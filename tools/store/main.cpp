@@ -29,7 +29,7 @@ int Report(int number, const QString& description) {
 
 // What the command line gave, in bytes.
 struct Arguments {
-    std::string folder, table, file, text;
+    std::string folder, table, file, text, server;
     std::vector<std::string> fields;
     bool withDemo = false;
     bool options = false;
@@ -56,7 +56,8 @@ CLI::App* AddCall(CLI::App& app, Arguments& arguments, const char* name, const c
 void AddCalls(CLI::App& app, Arguments& a) {
     CLI::App* call = AddCall(app, a, "new", "Makes a program folder: program, stores, pictures, help, ports.ini");
     call->add_flag("--demo", a.withDemo, "With the demo shop");
-    call->callback([&a] { tool::New(Text(a.folder), a.withDemo); });
+    call->add_option("--server", a.server, "The main store lies on a server: postgresql://USER@HOST/DATABASE");
+    call->callback([&a] { tool::New(Text(a.folder), a.withDemo, Text(a.server)); });
 
     call =
         AddCall(app, a, "sql", "Runs one query text; rows are printed as tab-separated lines under the column names");

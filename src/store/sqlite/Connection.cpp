@@ -79,6 +79,15 @@ void Connection::Transaction::Commit() {
     open_ = false;
 }
 
+Connection::Moment::Moment(Connection& connection)
+    : connection_(connection), open_(sqlite3_get_autocommit(connection.Handle()) != 0) {
+    if (open_) connection_.Run("BEGIN");
+}
+
+Connection::Moment::~Moment() {
+    if (open_) sqlite3_exec(connection_.Handle(), "COMMIT", nullptr, nullptr, nullptr);
+}
+
 void Connection::UseMemory(int kilobytes) noexcept {
     const std::string sql = "PRAGMA cache_size = -" + std::to_string(kilobytes);
     sqlite3_exec(Handle(), sql.c_str(), nullptr, nullptr, nullptr);

@@ -71,6 +71,19 @@ public:
         bool open_ = true;
     };
 
+    // Several reads of one moment; within a transaction they are so anyway.
+    class Moment {
+    public:
+        explicit Moment(Connection& connection);
+        ~Moment();
+        Moment(const Moment&) = delete;
+        Moment& operator=(const Moment&) = delete;
+
+    private:
+        Connection& connection_;
+        const bool open_;
+    };
+
 private:
     bool IsLeft();
     static int WaitForOthers(void* self, int tries);

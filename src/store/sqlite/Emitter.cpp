@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "store/SqlText.h"
 #include "store/dialect/Complaint.h"
 #include "store/sqlite/ExprEmitter.h"
-#include "store/sqlite/SqlText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -27,26 +27,21 @@ public:
     Pieces Whole() {
         const Table* table = statement_.table;
         pieces_.from = table ? Quoted(table->name) : From(*statement_.from);
-        for (const BoundPtr& column : statement_.columns) Add(pieces_.columns, exprs_.Value(*column));
+        for (const BoundPtr& column : statement_.columns) AppendTo(pieces_.columns, exprs_.Value(*column));
         for (const BoundAssignment& assignment : statement_.set) {
             const QString& column = table->columns[assignment.column].name;
-            Add(pieces_.set, Quoted(column) + " = " + exprs_.Value(*assignment.value));
+            AppendTo(pieces_.set, Quoted(column) + " = " + exprs_.Value(*assignment.value));
         }
         if (statement_.where) pieces_.where = exprs_.Condition(*statement_.where);
-        for (const BoundPtr& expr : statement_.group) Add(pieces_.group, exprs_.Key(*expr));
+        for (const BoundPtr& expr : statement_.group) AppendTo(pieces_.group, exprs_.Key(*expr));
         if (statement_.having) pieces_.having = exprs_.Condition(*statement_.having);
         for (const BoundSorting& sorting : statement_.order) {
-            Add(pieces_.order, exprs_.Key(*sorting.expr) + (sorting.descending ? " DESC" : ""));
+            AppendTo(pieces_.order, exprs_.Key(*sorting.expr) + (sorting.descending ? " DESC" : ""));
         }
         return std::move(pieces_);
     }
 
 private:
-    static void Add(std::string& list, const std::string& piece) {
-        if (!list.empty()) list += ", ";
-        list += piece;
-    }
-
     static bool IsTable(const BoundSource& source) { return !source.first; }
     static bool IsInner(const BoundSource& source) {
         return IsTable(source) || (!source.left && IsInner(*source.first) && IsInner(*source.second));

@@ -4,7 +4,6 @@
 
 #include <QFileInfo>
 
-#include "store/sqlite/Disk.h"
 #include "store/sqlite/SqliteEngine.h"
 #include "store/sqlite/SqliteError.h"
 #include "store/sqlite/SqliteSchema.h"
@@ -108,17 +107,14 @@ std::unique_ptr<Engine> OpenFile(const QString& path, const Schema& schema) {
     }
 }
 
-std::unique_ptr<Engine> CreateFile(const QString& path, const Schema& schema) {
-    NewFile file(path);
+void BuildFile(const QString& file, const QString& path, const Schema& schema) {
     try {
-        Connection connection(file.Path(), true, OpeningPatience);
+        Connection connection(file, true, OpeningPatience);
         SetUp(connection, path);
         BuildSchema(connection, schema);
     } catch (const SqliteError& error) {
         ThrowCode(error.Code(), error.Message(), u"making %1"_s.arg(path));
     }
-    file.Finish();
-    return OpenFile(path, schema);
 }
 
 }  // namespace store::sqlite

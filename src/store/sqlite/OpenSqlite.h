@@ -6,8 +6,9 @@
 
 namespace store::sqlite {
 
-// Opens or makes the file of a store; the errors are those of Database::Open and Database::Create.
+// Opens the file of a store; the errors are those of Database::Open.
 std::unique_ptr<Engine> OpenFile(const QString& path, const Schema& schema);
-std::unique_ptr<Engine> CreateFile(const QString& path, const Schema& schema);
+// Makes an empty file a store without rows; errors tell of `path`, where it is to lie.
+void BuildFile(const QString& file, const QString& path, const Schema& schema);
 
 }  // namespace store::sqlite

@@ -1,6 +1,7 @@
 #include "store/sqlite/QuerySql.h"
 
-#include "store/sqlite/SqlText.h"
+#include "store/SqlText.h"
+#include "store/sqlite/Parameter.h"
 
 namespace store::sqlite {
 

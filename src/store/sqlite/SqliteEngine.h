@@ -48,8 +48,12 @@ public:
 
     std::unique_ptr<Engine> OpenBeside() override;
 
+    bool KnowsOfCommits() const override { return true; }
     Stamp Now() override;
     bool StillAt(Stamp stamp) override;
+
+    void ReadStore(const Schema& schema, const std::function<void(const Table&, const StoredRows&)>& take) override;
+    void AddRows(const Table& table, const StoredRows& rows) override;
 
     QStringList CheckIntegrity() override;
     QStringList MissingIndexes(const Schema& schema) override;

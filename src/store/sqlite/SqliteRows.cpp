@@ -1,31 +1,13 @@
 #include <sqlite3.h>
 
+#include "store/sqlite/Parameter.h"
 #include "store/sqlite/PreparedPlan.h"
-#include "store/sqlite/SqlText.h"
 
 using namespace Qt::StringLiterals;
 
 namespace store::sqlite {
 
 namespace {
-
-// Several reads of one moment.
-class ReadTransaction {
-public:
-    ReadTransaction(Connection& connection, bool wanted)
-        : connection_(connection), open_(wanted && sqlite3_get_autocommit(connection.Handle()) != 0) {
-        if (open_) connection_.Run("BEGIN");
-    }
-    ~ReadTransaction() {
-        if (open_) sqlite3_exec(connection_.Handle(), "COMMIT", nullptr, nullptr, nullptr);
-    }
-    ReadTransaction(const ReadTransaction&) = delete;
-    ReadTransaction& operator=(const ReadTransaction&) = delete;
-
-private:
-    Connection& connection_;
-    bool open_;
-};
 
 int OutputColumns(const dialect::Query& query) {
     return static_cast<int>(query.plan->output.size());
@@ -61,7 +43,7 @@ void SqliteEngine::ReadAll(const dialect::Query& query, RowBlock& rows) {
 // Of what is kept with the plan only the SQL, since its statements belong to another connection when a thread reads.
 void SqliteEngine::ReadInBlocks(const dialect::Query& query, int rowsEach,
                                 const std::function<void(RowBlock&&)>& take) {
-    const ReadTransaction moment(*connection_, true);
+    const Connection::Moment moment(*connection_);
     connection_->Run("SELECT 1 FROM sqlite_schema LIMIT 1");
     take({});
     Statement statement(Handle(), SelectSql(PreparedOf(query).sql, false));
@@ -164,7 +146,8 @@ void SqliteEngine::ReadEach(const dialect::Query& query, std::span<const qint64>
     Prepared& prepared = PreparedOf(query);
     Statement& statement =
         prepared.Get(prepared.oneRow, [&] { return RowsSql(prepared.sql, "rowid = " + Parameter(literals + 1)); });
-    const ReadTransaction transaction(*connection_, keys.size() > 1);
+    std::optional<Connection::Moment> transaction;
+    if (keys.size() > 1) transaction.emplace(*connection_);
     statement.BindAll(query.values);
     for (const qint64 key : keys) {
         const StatementUse use(statement);

@@ -2,8 +2,8 @@
 
 #include "store/Conversion.h"
 #include "store/Migrations.h"
+#include "store/SqlText.h"
 #include "store/sqlite/Connection.h"
-#include "store/sqlite/SqlText.h"
 #include "store/sqlite/Statement.h"
 
 using namespace Qt::StringLiterals;
@@ -61,11 +61,6 @@ std::string TableSql(const Table& table) {
         columns += ColumnSql(column);
     }
     return "CREATE TABLE " + Quoted(table.name) + " (" + columns + ") STRICT";
-}
-
-QString IndexName(const QString& table, const Index& index) {
-    const QString kind = index.unique ? u"Key"_s : index.overVal ? u"Val"_s : u"By"_s;
-    return table + kind + index.columns.join(QString());
 }
 
 std::string IndexSql(const QString& table, const Index& index) {

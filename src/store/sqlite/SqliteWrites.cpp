@@ -1,7 +1,7 @@
 #include <sqlite3.h>
 
+#include "store/SqlText.h"
 #include "store/sqlite/PreparedPlan.h"
-#include "store/sqlite/SqlText.h"
 
 namespace store::sqlite {
 

@@ -29,7 +29,7 @@ void Statement::Bind(int parameter, qint64 integer) {
 }
 
 void Statement::BindAll(const QList<dialect::BoundValue>& values) {
-    const int used = std::min(static_cast<int>(values.size()), sqlite3_bind_parameter_count(statement_));
+    const int used = std::min(static_cast<int>(values.size()), Parameters());
     for (int i = 0; i < used; ++i) Bind(i + 1, values[i]);
 }
 

@@ -38,6 +38,7 @@ public:
     qint64 Integer(int column) const { return sqlite3_column_int64(statement_, column); }
     bool IsNull(int column) const { return sqlite3_column_type(statement_, column) == SQLITE_NULL; }
     QString Text(int column) const;
+    int Parameters() const { return sqlite3_bind_parameter_count(statement_); }
     int Columns() const { return sqlite3_column_count(statement_); }
     // The current row from a column on is added to a block of Columns() - first columns.
     void AppendRow(RowBlock& rows, int first) const;

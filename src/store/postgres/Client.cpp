@@ -1,0 +1,178 @@
+#include "store/postgres/Client.h"
+
+#include <poll.h>
+
+#include <thread>
+
+#include "store/postgres/ServerError.h"
+
+using namespace Qt::StringLiterals;
+
+namespace store::postgres {
+
+namespace {
+
+constexpr int BetweenQuestions = 5;       // milliseconds
+constexpr int LongestStop = 2'000;        // that a server takes to drop a statement
+constexpr size_t MostStatements = 2'000;  // kept on the server
+
+// A server that is gone is to be noticed within seconds; an address may say otherwise, since what stands behind counts.
+PGconn* Connect(const Place& place) {
+    const QByteArray address = place.Address().toUtf8();
+    static const char* const names[] = {"connect_timeout",           "keepalives_idle",
+                                        "keepalives_interval",       "keepalives_count",
+                                        "tcp_user_timeout",          "target_session_attrs",
+                                        "fallback_application_name", "dbname",
+                                        "client_encoding",           nullptr};
+    const char* const values[] = {"3", "4", "2", "3", "8000", "any", "velton", address.constData(), "UTF8", nullptr};
+    return PQconnectdbParams(names, values, 1);
+}
+
+void CheckAddress(const Place& place) {
+    char* why = nullptr;
+    PQconninfoOption* options = PQconninfoParse(place.Address().toUtf8().constData(), &why);
+    PQfreemem(why);
+    if (options == nullptr)
+        throw StoreError(IniNotReadable, u"The address of the server %1 cannot be read."_s.arg(place.Shown()));
+    PQconninfoFree(options);
+}
+
+}  // namespace
+
+Client::Client(const Place& place) : server_(place.Shown()) {
+    CheckAddress(place);
+    connection_.reset(Connect(place));
+    if (PQstatus(connection_.get()) != CONNECTION_OK)
+        throw ServerLost(u"The server of the store %1 cannot be reached: %2."_s.arg(
+            server_, OneSentence(PQerrorMessage(connection_.get()))));
+    PQsetNoticeProcessor(
+        connection_.get(), [](void*, const char*) {}, nullptr);
+    PQsetnonblocking(connection_.get(), 1);
+    PQenterPipelineMode(connection_.get());
+}
+
+Client::~Client() = default;
+
+bool Client::IsAlive() {
+    pollfd socket{PQsocket(connection_.get()), POLLIN, 0};
+    while (PQstatus(connection_.get()) == CONNECTION_OK && poll(&socket, 1, 0) > 0)
+        if (PQconsumeInput(connection_.get()) == 0) return false;
+    return PQstatus(connection_.get()) == CONNECTION_OK;
+}
+
+Answer Client::Make(const Trip& trip) {
+    awaited_.clear();
+    stoppedAt_.reset();
+    askedAt_ = 0;
+    sinceSent_.start();
+    if (names_.size() > MostStatements) {
+        static const std::string forget = "DEALLOCATE ALL";
+        names_.clear();
+        Send({forget, {}}, false);
+    }
+    for (size_t i = 0; i < trip.commands.size(); ++i) Send(trip.commands[i], i == trip.main);
+    if (PQpipelineSync(connection_.get()) == 0) ThrowLost();
+    try {
+        return Collect(trip);
+    } catch (const StoreError&) {
+        throw;
+    } catch (...) {
+        connection_.reset();  // with answers on their way that nobody waits for
+        throw;
+    }
+}
+
+// A statement that the server does not have ready goes ahead of its first use.
+void Client::Send(const Command& command, bool isMain) {
+    const auto [known, isNew] = names_.try_emplace(command.Sql());
+    const auto& [sql, name] = *known;
+    if (isNew) {
+        known->second = 'v' + std::to_string(++lastName_);
+        if (PQsendPrepare(connection_.get(), name.c_str(), sql.c_str(), 0, nullptr) == 0) ThrowLost();
+        awaited_.push_back({.prepares = &sql});
+    }
+    const auto values = command.Bound().Pointers();
+    if (PQsendQueryPrepared(connection_.get(), name.c_str(), command.Bound().Count(), values.data(), nullptr, nullptr,
+                            0) == 0)
+        ThrowLost();
+    awaited_.push_back({.isMain = isMain});
+}
+
+Answer Client::Collect(const Trip& trip) {
+    Answer wanted, refused;
+    for (const Awaited& awaited : awaited_) CollectOne(trip, awaited, wanted, refused);
+    Next(trip);  // that the trip is over
+    if (!refused) return wanted;
+    if (TellsOfTheEnd(refused.Get())) ThrowLost();
+    if (stoppedAt_ && IsCancelled(refused.Get())) throw Left{};
+    ThrowRefused(refused.Get());
+}
+
+void Client::CollectOne(const Trip& trip, const Awaited& awaited, Answer& wanted, Answer& refused) {
+    bool isDone = true;
+    if (awaited.isMain && trip.takeRow) PQsetSingleRowMode(connection_.get());
+    while (Answer answer = Next(trip)) {
+        switch (PQresultStatus(answer.Get())) {
+            case PGRES_SINGLE_TUPLE:
+                trip.takeRow(answer);
+                break;
+            case PGRES_FATAL_ERROR:
+                if (!refused) refused = std::move(answer);
+                isDone = false;
+                break;
+            case PGRES_PIPELINE_ABORTED:
+                isDone = false;
+                break;
+            default:
+                if (awaited.isMain) wanted = std::move(answer);
+        }
+    }
+    if (awaited.prepares != nullptr && !isDone) names_.erase(*awaited.prepares);
+}
+
+Answer Client::Next(const Trip& trip) {
+    WaitForAnswer(trip);
+    Answer answer(PQgetResult(connection_.get()));
+    if (PQstatus(connection_.get()) != CONNECTION_OK) ThrowLost();
+    return answer;
+}
+
+void Client::WaitForAnswer(const Trip& trip) {
+    while (true) {
+        const int unsent = PQflush(connection_.get());
+        if (unsent < 0) ThrowLost();
+        AskWhetherToGoOn(trip);
+        if (unsent == 0 && PQisBusy(connection_.get()) == 0) return;
+        const short wanted = unsent > 0 ? POLLIN | POLLOUT : POLLIN;
+        pollfd socket{PQsocket(connection_.get()), wanted, 0};
+        if (poll(&socket, 1, BetweenQuestions) > 0 && PQconsumeInput(connection_.get()) == 0) ThrowLost();
+    }
+}
+
+void Client::AskWhetherToGoOn(const Trip& trip) {
+    const qint64 now = sinceSent_.elapsed();
+    if (stoppedAt_ && now - *stoppedAt_ > LongestStop) ThrowLost();
+    if (stoppedAt_ || !trip.goesOn || now < askedAt_ + BetweenQuestions) return;
+    askedAt_ = now;
+    if (!trip.goesOn(static_cast<int>(now))) Stop();
+}
+
+// Asking the server to stop means to connect once more, and to a server that is silent that takes its time.
+void Client::Stop() {
+    stoppedAt_ = sinceSent_.elapsed();
+    std::thread([stop = PQgetCancel(connection_.get())] {
+        char why[256];
+        PQcancel(stop, why, sizeof why);
+        PQfreeCancel(stop);
+    }).detach();
+}
+
+void Client::ThrowLost() {
+    const QString why = OneSentence(PQerrorMessage(connection_.get()));
+    connection_.reset();
+    names_.clear();
+    throw ServerLost(why.isEmpty() ? u"The server of the store %1 does not answer."_s.arg(server_)
+                                   : u"The server of the store %1 was lost: %2."_s.arg(server_, why));
+}
+
+}  // namespace store::postgres

@@ -1,0 +1,266 @@
+#include "store/postgres/Connection.h"
+
+#include "store/SqlText.h"
+#include "store/postgres/ServerError.h"
+
+using namespace Qt::StringLiterals;
+
+namespace store::postgres {
+
+namespace {
+
+const Arguments None;
+
+// So long after a trip began, in milliseconds, its slowness is somebody's wait.
+constexpr int WriteWaitsAfter = 30;
+constexpr int ReadWaitsAfter = 250;
+
+const std::string BeginSql = "BEGIN";
+const std::string CommitSql = "COMMIT";
+const std::string RollbackSql = "ROLLBACK";
+const std::string MarkSql = "SAVEPOINT velton";
+const std::string UnmarkSql = "RELEASE SAVEPOINT velton";
+const std::string BackToMarkSql = "ROLLBACK TO SAVEPOINT velton";
+const std::string RelaxSql = "SET synchronous_commit = off";
+// A setval is always written to the log, and so its commit takes all before it to the disk.
+const std::string FlushSql = "SELECT setval('velton_burst', 1)";
+
+// The same for every program that works on a shop: FNV-1a of its schema's and a table's name.
+std::string LockKey(const QString& name) {
+    quint32 hash = 2166136261u;
+    for (const char byte : name.toUtf8()) hash = (hash ^ static_cast<unsigned char>(byte)) * 16777619u;
+    return std::to_string(static_cast<qint32>(hash));
+}
+
+std::string LockSql(const QString& schema, Connection::Right right, const Table* table) {
+    using Right = Connection::Right;
+    const std::string shared = right == Right::ToWriteMany ? "" : "_shared";
+    std::string sql = "SELECT pg_advisory_xact_lock" + shared + "(" + LockKey(schema) + ", 0)";
+    if (right == Right::ToAdd) sql += ", pg_advisory_xact_lock(" + LockKey(schema) + ", " + LockKey(table->name) + ")";
+    return sql;
+}
+
+}  // namespace
+
+Connection::Connection(Place place) : place_(std::move(place)) {
+    Connect();
+}
+
+void Connection::Connect() {
+    client_.reset();
+    auto client = std::make_unique<Client>(place_);
+    const std::string path = "SET search_path TO " + Quoted(place_.SchemaName());
+    static const std::string isolation = "SET default_transaction_isolation = 'read committed'";
+    static const std::string noCompiling = "SET jit = off";  // costs more than these statements take
+    static const std::string durability =
+        "SELECT set_config('synchronous_commit', CASE current_setting('synchronous_commit') WHEN 'off' THEN 'on' ELSE "
+        "current_setting('synchronous_commit') END, false)";
+    const Answer answer = client->Make({{{path, None}, {isolation, None}, {noCompiling, None}, {durability, None}}, 3});
+    durably_ = "SET synchronous_commit = " + answer.At(0, 0).toByteArray().toStdString();
+    client_ = std::move(client);
+    if (!patience_.empty()) client_->Make({{{patience_, None}}});
+    if (greet_) greet_();
+}
+
+void Connection::SetPatience(int milliseconds) {
+    patience_ = "SET lock_timeout = " + std::to_string(milliseconds);
+    Read(patience_);
+}
+
+// Nothing must go on as if what was begun with a lost connection were there.
+void Connection::RequireConnection() {
+    if (!batchIsLost_ && !burstIsLost_ && client_) {
+        if (client_->IsAlive()) return;
+        Lose();
+    }
+    if (batchIsLost_) ThrowLost(u"many changes were being stored; none of them is"_s);
+    if (burstIsLost_) ThrowLost(u"a sale was being stored; how much of it is, is not known"_s);
+    Connect();
+}
+
+void Connection::Lose() {
+    client_.reset();
+    batchIsLost_ = inTransaction_;
+    burstIsLost_ = hasRelaxed_;
+    inTransaction_ = isRelaxed_ = false;
+}
+
+void Connection::ThrowLost(const QString& what) const {
+    throw ServerLost(u"The server of the store %1 was lost while %2."_s.arg(place_.Shown(), what));
+}
+
+Client::GoesOn Connection::Questions(Kind kind) {
+    if (working_) return [this](int) { return working_(); };
+    if (!beginWait_) return {};
+    const int after = kind == Kind::Write ? WriteWaitsAfter : ReadWaitsAfter;
+    return [this, after, goesOn = std::function<bool()>()](int milliseconds) mutable {
+        if (milliseconds < after) return true;
+        if (!goesOn) goesOn = beginWait_();
+        return !goesOn || goesOn();
+    };
+}
+
+void Connection::ThrowLeft(Kind kind) const {
+    if (working_ || kind == Kind::Read) throw StoreError(Cancelled, u"The work was left."_s);
+    throw StoreError(StoreLocked, u"The store is locked by another user, and the wait for it was left."_s);
+}
+
+Answer Connection::Make(Kind kind, const std::vector<Command>& commands, size_t main, const Client::TakeRow& takeRow) {
+    try {
+        return client_->Make({commands, main, Questions(kind), takeRow});
+    } catch (const Client::Left&) {
+        ThrowLeft(kind);
+    } catch (const ServerLost& error) {
+        const bool isOpen = kind == Kind::Write && !inTransaction_;
+        Lose();
+        if (!isOpen) throw;
+        throw ServerLost(error.Description() + u" Whether the last change is stored is not known."_s);
+    }
+}
+
+// The server gives up a whole transaction at its first error, unless there is a mark to go back to.
+Answer Connection::MakeInBatch(Kind kind, const std::vector<Command>& commands, const Client::TakeRow& takeRow) {
+    std::vector<Command> marked = {{MarkSql, None}};
+    marked.insert(marked.end(), commands.begin(), commands.end());
+    marked.emplace_back(UnmarkSql, None);
+    try {
+        return Make(kind, marked, commands.size(), takeRow);
+    } catch (const StoreError& error) {
+        const bool undoesAll = error.Number() == DiskFull || error.Number() == DiskError ||
+                               (kind == Kind::Write && error.Number() == Cancelled);
+        if (inTransaction_) undoesAll ? Rollback() : BackToMark();
+        throw;
+    }
+}
+
+void Connection::BackToMark() noexcept {
+    try {
+        client_->Make({{{BackToMarkSql, None}}});
+    } catch (...) {
+        Rollback();
+    }
+}
+
+// A read can be asked again where nothing hangs on what was before.
+Answer Connection::Read(const std::string& sql, const Arguments& arguments, const Client::TakeRow& takeRow) {
+    RequireConnection();
+    if (inTransaction_) return MakeInBatch(Kind::Read, {{sql, arguments}}, takeRow);
+    bool hasRows = false;
+    const auto noteRow = [&](const Answer& row) {
+        hasRows = true;
+        takeRow(row);
+    };
+    const auto once = [&] {
+        return Make(Kind::Read, {{sql, arguments}}, 0, takeRow ? Client::TakeRow(noteRow) : Client::TakeRow());
+    };
+    try {
+        return once();
+    } catch (const ServerLost&) {
+        if (hasRows) throw;
+    }
+    RequireConnection();
+    return once();
+}
+
+Answer Connection::Write(Right right, const Table* table, const std::string& sql, const Arguments& arguments) {
+    RequireConnection();
+    if (inTransaction_) return MakeInBatch(Kind::Write, {{sql, arguments}});
+    return MakeAlone(right, table, {sql, arguments});
+}
+
+void Connection::WriteAll(const std::vector<Command>& commands) {
+    RequireConnection();
+    if (!inTransaction_) throw StoreError(NotSupported, u"No batch is open."_s);
+    MakeInBatch(Kind::Write, commands);
+}
+
+void Connection::ReadTogether(const std::function<void()>& work) {
+    if (inTransaction_) return work();
+    static const std::string begin = "BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY";
+    RequireConnection();
+    Make(Kind::Read, {{begin, None}}, 0);
+    inTransaction_ = true;
+    try {
+        work();
+    } catch (...) {
+        Rollback();
+        throw;
+    }
+    Rollback();
+}
+
+Answer Connection::MakeAlone(Right right, const Table* table, const Command& command) {
+    std::string& lock = locks_[{right, table}];
+    if (lock.empty()) lock = LockSql(place_.SchemaName(), right, table);
+    std::vector<Command> all;
+    const bool relaxes = bursts_ > 0 && !isRelaxed_;
+    if (relaxes) all.emplace_back(RelaxSql, None);
+    all.emplace_back(lock, None);
+    all.push_back(command);
+    Answer answer = Make(Kind::Write, all, all.size() - 1);
+    if (relaxes) isRelaxed_ = true;
+    hasRelaxed_ = isRelaxed_;
+    return answer;
+}
+
+void Connection::Begin() {
+    if (inTransaction_) throw StoreError(NotSupported, u"A batch is open already."_s);
+    RequireConnection();
+    const std::string lock = LockSql(place_.SchemaName(), Right::ToWriteMany, nullptr);
+    try {
+        Make(Kind::Write, {{BeginSql, None}, {lock, None}}, 1);
+        inTransaction_ = true;
+    } catch (const StoreError&) {
+        if (client_) Rollback();
+        throw;
+    }
+}
+
+void Connection::Commit() {
+    if (std::exchange(batchIsLost_, false)) ThrowLost(u"many changes were being stored; none of them is"_s);
+    if (!inTransaction_) throw StoreError(NotSupported, u"No batch is open."_s);
+    inTransaction_ = false;  // so that a loss on the way is told as what it is
+    try {
+        Make(Kind::Write, {{CommitSql, None}}, 0);
+    } catch (const ServerLost&) {
+        throw;
+    } catch (const StoreError&) {
+        Rollback();
+        throw;
+    }
+    hasRelaxed_ = isRelaxed_;
+    if (bursts_ == 0) EndRelaxed();
+}
+
+void Connection::Rollback() noexcept {
+    batchIsLost_ = inTransaction_ = false;
+    if (!client_) return;
+    try {
+        client_->Make({{{RollbackSql, None}}});
+    } catch (...) {
+        Lose();
+    }
+}
+
+void Connection::EndBurst() {
+    if (--bursts_ > 0 || inTransaction_) return;
+    if (std::exchange(burstIsLost_, false)) {
+        hasRelaxed_ = false;
+        ThrowLost(u"a sale was being stored; how much of it is, is not known"_s);
+    }
+    EndRelaxed();
+}
+
+void Connection::EndRelaxed() {
+    if (!isRelaxed_) return;
+    try {
+        Make(Kind::Write, {{durably_, None}, {FlushSql, None}}, 1);
+    } catch (...) {
+        client_.reset();  // the next one begins with the server's own setting
+        isRelaxed_ = hasRelaxed_ = burstIsLost_ = false;
+        throw;
+    }
+    isRelaxed_ = hasRelaxed_ = false;
+}
+
+}  // namespace store::postgres

@@ -1,0 +1,70 @@
+#include "store/SqlText.h"
+#include "store/postgres/PostgresEngine.h"
+
+namespace store::postgres {
+
+namespace {
+
+constexpr int RowsEach = 512;
+
+std::string AddSql(const Table& table) {
+    std::string names = Quoted(KeyColumn(table)), values = "$1::bigint";
+    for (int parameter = 1; const Column& column : table.columns) {
+        if (column.selfNumbering) continue;
+        AppendTo(names, Quoted(column.name));
+        AppendTo(values, '$' + std::to_string(++parameter) + "::" + TypeSql(column.type));
+    }
+    return "INSERT INTO " + Quoted(table.name) + " (" + names + ") VALUES (" + values + ")";
+}
+
+std::string SequenceSql(const Table& table) {
+    return "pg_get_serial_sequence('" + Quoted(table.name) + "', '" + KeyColumn(table).toStdString() + "')";
+}
+
+}  // namespace
+
+void PostgresEngine::ReadStore(const Schema& schema, const std::function<void(const Table&, const StoredRows&)>& take) {
+    connection_->ReadTogether([&] {
+        for (const Table& table : schema.tables) {
+            const std::string key = Quoted(KeyColumn(table));
+            std::string columns = key;
+            for (const Column& column : table.columns) AppendTo(columns, Quoted(column.name));
+            StoredRows block;
+            const auto begin = [&] {
+                block.keys.clear();
+                block.rows.Clear(static_cast<int>(table.columns.size()));
+            };
+            begin();
+            block.lastKey =
+                connection_->Read("SELECT pg_sequence_last_value(" + SequenceSql(table) + ")").Integer(0, 0);
+            connection_->Read("SELECT " + columns + " FROM " + Quoted(table.name) + " ORDER BY " + key, {},
+                              [&](const Answer& row) {
+                                  block.keys.push_back(row.Integer(0, 0));
+                                  row.AppendRow(block.rows, 0, 1);
+                                  if (block.rows.Rows() < RowsEach) return;
+                                  take(table, block);
+                                  begin();
+                              });
+            take(table, block);
+        }
+    });
+}
+
+void PostgresEngine::AddRows(const Table& table, const StoredRows& rows) {
+    const std::string sql = AddSql(table);
+    std::vector<Arguments> bound;
+    bound.reserve(rows.keys.size());
+    for (int row = 0; row < rows.rows.Rows(); ++row) {
+        Arguments& arguments = bound.emplace_back(rows.keys[static_cast<size_t>(row)]);
+        for (int column = 0; column < table.columns.size(); ++column)
+            if (!table.columns[column].selfNumbering) arguments.Add(rows.rows.ValueAt(row, column));
+    }
+    std::vector<Command> commands;
+    for (const Arguments& arguments : bound) commands.emplace_back(sql, arguments);
+    const std::string sequence = "SELECT setval(" + SequenceSql(table) + ", $1::bigint)";
+    const Arguments last(rows.lastKey);
+    if (rows.lastKey > 0) commands.emplace_back(sequence, last);
+    if (!commands.empty()) connection_->WriteAll(commands);
+}
+
+}  // namespace store::postgres

@@ -1,0 +1,82 @@
+#include "store/SqlText.h"
+#include "store/postgres/PostgresEngine.h"
+
+namespace store::postgres {
+
+namespace {
+
+using Right = Connection::Right;
+
+std::string Parameter(int number, const Column& column) {
+    return '$' + std::to_string(number) + "::" + TypeSql(column.type);
+}
+
+// A number that was given by hand counts as used.
+std::string InsertSql(const Table& table, std::span<const FieldChange> fields) {
+    const std::string key = Quoted(KeyColumn(table));
+    std::string names, values, numbered;
+    for (int parameter = 0; const FieldChange& field : fields) {
+        const Column& column = table.columns[field.column];
+        AppendTo(names, Quoted(column.name));
+        AppendTo(values, Parameter(++parameter, column));
+        if (!column.selfNumbering) continue;
+        const std::string sequence =
+            "pg_get_serial_sequence('" + Quoted(table.name) + "', '" + column.name.toStdString() + "')";
+        numbered = " FROM (SELECT setval(" + sequence + ", greatest(" + Parameter(parameter, column) +
+                   ", COALESCE(pg_sequence_last_value(" + sequence + "), 1)))) AS numbered";
+    }
+    const std::string row = fields.empty() ? " DEFAULT VALUES" : " (" + names + ") SELECT " + values + numbered;
+    return "INSERT INTO " + Quoted(table.name) + row + " RETURNING " + key;
+}
+
+std::string ChangeSql(const Table& table, std::span<const FieldChange> fields, std::span<const FieldChange> expected) {
+    std::string set;
+    int parameter = 0;
+    for (const FieldChange& field : fields) {
+        const Column& column = table.columns[field.column];
+        AppendTo(set, Quoted(column.name) + " = " + Parameter(++parameter, column));
+    }
+    std::string sql = "UPDATE " + Quoted(table.name) + " SET " + set + " WHERE " + Quoted(KeyColumn(table)) + " = $" +
+                      std::to_string(++parameter) + "::bigint";
+    for (const FieldChange& field : expected) {
+        const Column& column = table.columns[field.column];
+        sql += " AND " + Quoted(column.name) + " IS NOT DISTINCT FROM " + Parameter(++parameter, column);
+    }
+    return sql;
+}
+
+}  // namespace
+
+// A null where a column numbers itself asks for the next number.
+qint64 PostgresEngine::Insert(const Table& table, std::span<const FieldChange> fields) {
+    std::vector<FieldChange> given;
+    std::ranges::copy_if(fields, std::back_inserter(given), [&table](const FieldChange& field) {
+        return !table.columns[field.column].selfNumbering || !std::holds_alternative<std::monostate>(field.value);
+    });
+    Arguments arguments;
+    for (const FieldChange& field : given) arguments.Add(field.value);
+    return connection_->Write(Right::ToAdd, &table, InsertSql(table, given), arguments).Integer(0, 0);
+}
+
+bool PostgresEngine::Change(const Table& table, qint64 row, std::span<const FieldChange> fields,
+                            std::span<const FieldChange> expected) {
+    Arguments arguments;
+    for (const FieldChange& field : fields) arguments.Add(field.value);
+    arguments.Add(row);
+    for (const FieldChange& field : expected) arguments.Add(field.value);
+    return connection_->Write(Right::ToWriteOne, nullptr, ChangeSql(table, fields, expected), arguments).Affected() > 0;
+}
+
+bool PostgresEngine::Remove(const Table& table, qint64 row) {
+    const std::string sql =
+        "DELETE FROM " + Quoted(table.name) + " WHERE " + Quoted(KeyColumn(table)) + " = $1::bigint";
+    return connection_->Write(Right::ToWriteOne, nullptr, sql, Arguments(row)).Affected() > 0;
+}
+
+qint64 PostgresEngine::Execute(const dialect::Query& action) {
+    const ServerQuery& prepared = PreparedOf(action);
+    return connection_->Write(Right::ToWriteMany, nullptr, prepared.whole, Bound(action, prepared.slots.size()))
+        .Affected();
+}
+
+}  // namespace store::postgres

@@ -1,0 +1,88 @@
+#include <sqlite3.h>
+
+#include "store/SqlText.h"
+#include "store/sqlite/Parameter.h"
+#include "store/sqlite/PreparedPlan.h"
+
+namespace store::sqlite {
+
+namespace {
+
+constexpr int RowsEach = 512;
+
+std::string ColumnNames(const Table& table) {
+    std::string names;
+    for (const Column& column : table.columns) AppendTo(names, Quoted(column.name));
+    return names;
+}
+
+// A column that numbers itself is the identity, which goes ahead of them all.
+std::string AddSql(const Table& table) {
+    std::string names = "rowid", values = Parameter(1);
+    for (int parameter = 1; const Column& column : table.columns) {
+        ++parameter;
+        if (column.selfNumbering) continue;
+        AppendTo(names, Quoted(column.name));
+        AppendTo(values, Parameter(parameter));
+    }
+    return "INSERT INTO " + Quoted(table.name) + " (" + names + ") VALUES (" + values + ")";
+}
+
+qint64 LastKeyOf(sqlite3* connection, const Table& table) {
+    Statement statement(connection, "SELECT seq FROM sqlite_sequence WHERE name = ?1");
+    const dialect::BoundValue name = table.name.toUtf8();
+    statement.Bind(1, name);
+    return statement.Step() ? statement.Integer(0) : 0;
+}
+
+void SetLastKey(sqlite3* connection, const Table& table, qint64 last) {
+    for (const char* sql : {"INSERT INTO sqlite_sequence (name, seq) SELECT ?1, 0 "
+                            "WHERE NOT EXISTS (SELECT 1 FROM sqlite_sequence WHERE name = ?1)",
+                            "UPDATE sqlite_sequence SET seq = max(seq, ?2) WHERE name = ?1"}) {
+        Statement statement(connection, sql);
+        const dialect::BoundValue name = table.name.toUtf8();
+        statement.Bind(1, name);
+        if (statement.Parameters() > 1) statement.Bind(2, last);
+        statement.Step();
+    }
+}
+
+}  // namespace
+
+void SqliteEngine::ReadStore(const Schema& schema, const std::function<void(const Table&, const StoredRows&)>& take) {
+    const Connection::Moment moment(*connection_);
+    for (const Table& table : schema.tables) {
+        const qint64 lastKey = LastKeyOf(Handle(), table);
+        Statement statement(Handle(),
+                            "SELECT rowid, " + ColumnNames(table) + " FROM " + Quoted(table.name) + " ORDER BY rowid");
+        bool isLast = false;
+        while (!isLast) {
+            StoredRows block;
+            block.lastKey = lastKey;
+            block.rows.Clear(static_cast<int>(table.columns.size()));
+            while (!isLast && block.rows.Rows() < RowsEach) {
+                isLast = !statement.Step();
+                if (isLast) break;
+                block.keys.push_back(statement.Integer(0));
+                statement.AppendRow(block.rows, 1);
+            }
+            take(table, block);
+        }
+    }
+}
+
+void SqliteEngine::AddRows(const Table& table, const StoredRows& rows) {
+    Statement statement(Handle(), AddSql(table));
+    for (int row = 0; row < rows.rows.Rows(); ++row) {
+        const StatementUse use(statement);
+        statement.Bind(1, rows.keys[static_cast<size_t>(row)]);
+        std::vector<dialect::BoundValue> values;
+        for (int column = 0; column < table.columns.size(); ++column) values.push_back(rows.rows.ValueAt(row, column));
+        for (int column = 0; column < table.columns.size(); ++column)
+            if (!table.columns[column].selfNumbering) statement.Bind(column + 2, values[static_cast<size_t>(column)]);
+        Write(statement);
+    }
+    SetLastKey(Handle(), table, rows.lastKey);
+}
+
+}  // namespace store::sqlite
