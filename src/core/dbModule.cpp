@@ -20,9 +20,10 @@ const auto LastGrupniQuery = u"SELECT Max(Grupni) AS zadnji FROM Sales"_s;
 std::unique_ptr<store::Database> mainStore;
 std::unique_ptr<store::Patience> mainPatience;
 std::unique_ptr<store::Database> optionsStore;
+bool isMainOnServer = false;
 
 std::function<bool()> BeginWait() {
-    const auto notice = std::make_shared<forms::LongWork>(WaitsForOtherRegister);
+    const auto notice = std::make_shared<forms::LongWork>(WaitsForMainStore());
     return [notice] { return notice->GoesOn(); };
 }
 
@@ -39,7 +40,14 @@ void OpenOptionsStore() {
 
 void OpenMainStore() {
     mainPatience.reset();
-    mainStore = store::Database::Open(store::MainPlace(output::ProgramFolder()), store::MainSchema());
+    const store::Place place = store::MainPlace(output::ProgramFolder());
+    isMainOnServer = place.IsServer();
+    mainStore = store::Database::Open(place, store::MainSchema());
+}
+
+QString WaitsForMainStore() {
+    return isMainOnServer ? u"Waiting for the server of the store, or for another register that is writing there."_s
+                          : u"Waiting for another register, which is writing to the store."_s;
 }
 
 void ShowWaitsOfMainStore() {

@@ -9,10 +9,10 @@
 
 void OpenOptionsStore();
 void OpenMainStore();
-// From now on a screen that writes says when it waits for another register, and the user can leave the wait (3218).
+// From now on a screen says when it waits for the main store, and the user can leave the wait (3218, 3059).
 void ShowWaitsOfMainStore();
-// What a screen says while another register holds the main store.
-const auto WaitsForOtherRegister = QStringLiteral("Waiting for another register, which is writing to the store.");
+// What it says then: that another register holds the store, or that the server does not answer.
+QString WaitsForMainStore();
 // The open stores; before they are opened a store error.
 store::Database& OptionsStore();
 store::Database& MainStore();

@@ -63,6 +63,7 @@ void frmLogin::Form_Load() {
             forms::EndProgram();
         }
         forms::Inform(forms::ErrorText(error), Caption());
+        isWithoutServer_ = dynamic_cast<const store::ServerLost*>(&error) != nullptr;
     }
 }
 
@@ -76,6 +77,10 @@ void frmLogin::StartUp() {
     rsOptions_ = OptionsStore().OpenRecordset(OptionsQuery);
     rsOptions_.MoveFirst();
     ReadSettings(rsOptions_);
+    OpenShop();
+}
+
+void frmLogin::OpenShop() {
     OpenMainStore();
     ShowWaitsOfMainStore();
     rsUsers_ = MainStore().OpenRecordset(UsersQuery);
@@ -106,6 +111,7 @@ void frmLogin::Timer1_Timer() {
 
 void frmLogin::cmdOK_Click() {
     const QString name = ui.txtUserName->currentText();
+    if (isWithoutServer_) TryServerAgain();
     rsUsers_ = MainStore().OpenRecordset(UsersQuery);
     rsUsers_.FindFirst(UserCriteria.arg(name));
     // One answer for both, so that nobody learns which of the two was wrong.
@@ -127,6 +133,14 @@ void frmLogin::cmdOK_Click() {
     main.ApplyAccessLevel(rsUsers_[u"AccLevel"].TextOrEmpty());
     done_ = true;
     Unload();
+}
+
+// What the start could not do; the user need not start the program again when the server is back.
+void frmLogin::TryServerAgain() {
+    const QString name = ui.txtUserName->currentText();
+    OpenShop();
+    isWithoutServer_ = false;
+    ui.txtUserName->setCurrentText(name);
 }
 
 void frmLogin::WriteLoginRow(store::Recordset& user) {

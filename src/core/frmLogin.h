@@ -26,6 +26,8 @@ private:
     void Timer1_Timer();
 
     void StartUp();
+    void OpenShop();
+    void TryServerAgain();
     void ProposeLoginNumber();
     void WriteLoginRow(store::Recordset& user);
     void StartSession(store::Recordset& user);
@@ -38,7 +40,8 @@ private:
     store::Recordset rsUsers_;
     store::Recordset rsLogin_;
     qint16 nextLogin_ = 0;
-    int countdown_ = 0;  // the limit that the frame's caption promises; nothing counts it down
-    bool done_ = false;  // cancelled or logged in: nothing else closes the window
+    int countdown_ = 0;             // the limit that the frame's caption promises; nothing counts it down
+    bool isWithoutServer_ = false;  // the start ended for it
+    bool done_ = false;             // cancelled or logged in: nothing else closes the window
     std::function<void()> loggedIn_;
 };

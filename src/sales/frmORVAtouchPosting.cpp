@@ -22,7 +22,7 @@ void frmORVAtouch::PostInvoice() {
     RacunOrNo = Next(RacunOrNo);
     RaiseRunningTotal();
     {
-        forms::LongWork wait(WaitsForOtherRegister, this);
+        forms::LongWork wait(WaitsForMainStore(), this);
         const store::Patience patience(MainStore(), [&wait] { return [&wait] { return wait.GoesOn(); }; });
         // All of it is on the disk before the paper moves.
         store::Burst burst(MainStore());
@@ -85,6 +85,11 @@ void frmORVAtouch::StoreLinesAndPeriod(store::Burst& burst, forms::LongWork& wai
         burst.End();
     } catch (const store::FilesLost&) {
         throw;
+    } catch (const store::ServerLost& error) {
+        throw values::Error(error.Number(),
+                            error.Description() +
+                                u"\nInvoice %1 may be stored whole, in part or not at all: look it up before you post "
+                                u"it again."_s.arg(ui.txtInvoiceNumber->text()));
     } catch (const values::Error& error) {
         const QString stays =
             u"Invoice %1 is stored with %2 of its %3 lines. These stay, and so does the stock taken off."_s;

@@ -100,6 +100,14 @@ QStringList Database::MissingIndexes() {
     return engine_->MissingIndexes(internals_->schema);
 }
 
+void Database::TakeAlone() {
+    engine_->TakeAlone();
+}
+
+QString Database::Retire() {
+    return engine_->Retire();
+}
+
 void Database::AddAllOf(Database& other) {
     AddAllOf(*other.engine_);
 }

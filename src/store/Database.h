@@ -63,6 +63,11 @@ public:
     QStringList CheckIntegrity();
     // The indexes of the schema that the store lacks, as Table.Column+Column.
     QStringList MissingIndexes();
+    // The store for this program alone, so that it can leave its place; 3218 when another has it open. Retire puts it
+    // aside, under the name that it gives.
+    void TakeAlone();
+    QString Retire();
+
     // A consistent copy in a file while others write; the file must not exist. It is opened again and checked.
     void BackupTo(const QString& path);
     // Adds all rows of another store, as it is at one moment, with their identities. This one is empty and has an open

@@ -124,6 +124,13 @@ public:
     // Adds rows that another store gave, with their identities. Within a batch.
     virtual void AddRows(const Table& table, const StoredRows& rows) = 0;
 
+    // Begins a batch in which the store is this connection's alone: others cannot even open it. 3218 when one has it
+    // open, where that is to be known.
+    virtual void TakeAlone() = 0;
+    // The store leaves its place for good and is kept beside it, under the name that this gives. Ends what TakeAlone
+    // began.
+    virtual QString Retire() = 0;
+
     virtual QStringList CheckIntegrity() = 0;
     virtual QStringList MissingIndexes(const Schema& schema) = 0;
     virtual void BackupTo(const QString& path) = 0;

@@ -18,6 +18,8 @@ void Insert(const QString& folder, const QString& table, const QStringList& fiel
 void Load(const QString& folder, const QString& table, const QString& file);
 void Check(const QString& folder);
 void Backup(const QString& folder, const QString& file);
+// To a server, or into the folder where the address is empty.
+void Move(const QString& folder, const QString& address);
 
 // The store of a program's folder, the main one where store.ini says.
 std::unique_ptr<store::Database> OpenStore(const QString& folder, Which which);

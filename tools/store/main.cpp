@@ -33,6 +33,7 @@ struct Arguments {
     std::vector<std::string> fields;
     bool withDemo = false;
     bool options = false;
+    bool toFile = false;
 
     tool::Which Store() const { return options ? tool::Which::Options : tool::Which::Main; }
 };
@@ -82,6 +83,13 @@ void AddCalls(CLI::App& app, Arguments& a) {
     call = AddCall(app, a, "backup", "Copies the main store while registers work");
     call->add_option("FILE", a.file, "The copy, a file that does not exist yet")->required();
     call->callback([&a] { tool::Backup(Text(a.folder), Text(a.file)); });
+
+    call = AddCall(app, a, "move", "Moves the main store to a server or back, while no till runs");
+    CLI::Option_group* where = call->add_option_group("where");
+    where->add_option("--to", a.server, "The server: postgresql://USER@HOST/DATABASE");
+    where->add_flag("--to-file", a.toFile, "Into the folder");
+    where->require_option(1);
+    call->callback([&a] { tool::Move(Text(a.folder), Text(a.server)); });
 }
 
 int Run(int argc, char** argv) {

@@ -1,5 +1,8 @@
 #include "store/SqlText.h"
 #include "store/postgres/PostgresEngine.h"
+#include "values/Clock.h"
+
+using namespace Qt::StringLiterals;
 
 namespace store::postgres {
 
@@ -65,6 +68,22 @@ void PostgresEngine::AddRows(const Table& table, const StoredRows& rows) {
     const Arguments last(rows.lastKey);
     if (rows.lastKey > 0) commands.emplace_back(sequence, last);
     if (!commands.empty()) connection_->WriteAll(commands);
+}
+
+// The right to write many keeps others from opening the store, too.
+void PostgresEngine::TakeAlone() {
+    Begin();
+}
+
+QString PostgresEngine::Retire() {
+    constexpr int longestName = 63;
+    const QString& schema = connection_->At().SchemaName();
+    const QString ending = values::Now().toString(u"'_moved_'yyyyMMdd_HHmmss"_s);
+    const QString name = schema.first(qMin(schema.size(), longestName - ending.size())) + ending;
+    connection_->Write(Connection::Right::ToWriteMany, nullptr,
+                       "ALTER SCHEMA " + Quoted(schema) + " RENAME TO " + Quoted(name), {});
+    Commit();
+    return u"schema %1"_s.arg(name);
 }
 
 }  // namespace store::postgres

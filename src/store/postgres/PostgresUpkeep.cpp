@@ -48,8 +48,7 @@ void PostgresEngine::BackupTo(const QString& path) {
 // The indexes that it can follow, as it would in a large store: of small tables it reads all rows.
 QString PostgresEngine::Explain(const dialect::Query& query) {
     const ServerQuery& prepared = PreparedOf(query);
-    for (const char* way : {"seqscan", "bitmapscan"})
-        connection_->Read(std::string("SET enable_") + way + " = off");
+    for (const char* way : {"seqscan", "bitmapscan"}) connection_->Read(std::string("SET enable_") + way + " = off");
     const Answer answer =
         connection_->Read("EXPLAIN (COSTS off) " + prepared.whole, Bound(query, prepared.slots.size()));
     for (const char* way : {"seqscan", "bitmapscan"}) connection_->Read(std::string("RESET enable_") + way);

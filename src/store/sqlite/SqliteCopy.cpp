@@ -1,8 +1,15 @@
 #include <sqlite3.h>
 
+#include <QFile>
+#include <QFileInfo>
+
 #include "store/SqlText.h"
+#include "store/StoreError.h"
 #include "store/sqlite/Parameter.h"
 #include "store/sqlite/PreparedPlan.h"
+#include "values/Clock.h"
+
+using namespace Qt::StringLiterals;
 
 namespace store::sqlite {
 
@@ -83,6 +90,29 @@ void SqliteEngine::AddRows(const Table& table, const StoredRows& rows) {
         Write(statement);
     }
     SetLastKey(Handle(), table, rows.lastKey);
+}
+
+// Without a log the store is one file; the engine gives it up only where nobody else has the store open.
+void SqliteEngine::TakeAlone() {
+    RequireOwnFiles();
+    connection_->Run("PRAGMA locking_mode = EXCLUSIVE");
+    if (connection_->Text("PRAGMA journal_mode = DELETE") != u"delete") {
+        connection_->Run("PRAGMA locking_mode = NORMAL");
+        throw StoreError(StoreLocked, u"Another program has the store %1 open."_s.arg(files_.StorePath()));
+    }
+    connection_->Run("BEGIN EXCLUSIVE");
+}
+
+QString SqliteEngine::Retire() {
+    const QFileInfo store(files_.StorePath());
+    const QString name = u"%1/%2-moved-%3.%4"_s.arg(store.absolutePath(), store.completeBaseName(),
+                                                    values::Now().toString(u"yyyyMMdd-HHmmss"_s), store.suffix());
+    // The engine would look for files that are gone.
+    isLost_ = true;
+    if (!QFile::rename(store.filePath(), name))
+        throw StoreError(DiskError, u"The store %1 cannot be renamed."_s.arg(store.filePath()));
+    sqlite3_exec(Handle(), "ROLLBACK", nullptr, nullptr, nullptr);
+    return name;
 }
 
 }  // namespace store::sqlite
