@@ -3,9 +3,9 @@
 
 #include <QDir>
 #include <QFile>
-#include <random>
 
 #include "store/DialectFuzz.h"
+#include "store/DialectTexts.h"
 #include "store/sqlite/QuerySql.h"
 #include "support/CaseText.h"
 #include "support/UnderLocale.h"
@@ -17,16 +17,9 @@
 using namespace Qt::StringLiterals;
 using namespace store;
 using namespace store::dialect;
+using namespace store::test;
 
 namespace {
-
-const QString Folder = QStringLiteral(TEST_DATA "/dialect/");
-
-QString Contents(const QString& path) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-    return QString::fromUtf8(file.readAll());
-}
 
 QString Word(Type type) {
     static const QStringList words = {u"null"_s,     u"text"_s,   u"whole"_s, u"money"_s, u"decimal"_s,
@@ -101,7 +94,7 @@ protected:
 
 std::vector<std::string> Topics() {
     std::vector<std::string> topics;
-    for (const QFileInfo& file : QDir(Folder).entryInfoList({u"*.txt"_s}, QDir::Files))
+    for (const QFileInfo& file : QDir(DialectFolder).entryInfoList({u"*.txt"_s}, QDir::Files))
         if (file.baseName() != u"system_queries") topics.push_back(file.baseName().toStdString());
     return topics;
 }
@@ -118,8 +111,8 @@ protected:
 };
 
 TEST_P(GoldenTest, GivesForEachTextWhatItsFileSays) {
-    const QString path = Folder + QString::fromStdString(GetParam()) + u".txt"_s;
-    QStringList cases = Contents(path).chopped(1).split(u"\n====\n"_s);
+    const QString path = DialectFolder + QString::fromStdString(GetParam()) + u".txt"_s;
+    QStringList cases = ContentsOf(path).chopped(1).split(u"\n====\n"_s);
     for (QString& one : cases) {
         const QString lines = u'\n' + one, text = lines.section(u"\n--\n"_s, 0, 0).mid(1);
         const QString outcome = Outcome(text).trimmed();
@@ -178,54 +171,6 @@ TEST_F(DialectTest, TextsKeepEveryCharacter) {
     EXPECT_NE(Values(u"SELECT * FROM Tax WHERE Name = '"_s + QChar(0xD83D) + u"'"_s), u"");
     EXPECT_THROW(Values(u"SELECT "_s + QChar(0xDE00) + u" FROM Tax"_s), QueryError);
 }
-
-// Changes a text as careless joining of pieces and values would: cuts, doubled pieces, foreign pieces, strange signs.
-class Mutator {
-public:
-    Mutator() {
-        for (const QString& name : QDir(Folder + u"corpus"_s).entryList(QDir::Files))
-            corpus_ += Contents(Folder + u"corpus/"_s + name);
-        pieces_ << QString(QChar(0xD800)) << QString(QChar(0)) << u"\n"_s;
-    }
-    const QStringList& Corpus() const { return corpus_; }
-    QString Next() {
-        QString text = Any(corpus_);
-        for (int changes = Below(4); changes >= 0; --changes) Change(text);
-        return text;
-    }
-
-private:
-    int Below(qsizetype bound) { return std::uniform_int_distribution<int>(0, static_cast<int>(bound) - 1)(random_); }
-    QString Any(const QStringList& list) { return list[Below(list.size())]; }
-
-    void Change(QString& text) {
-        const int place = Below(text.size() + 1);
-        switch (Below(5)) {
-            case 0:
-                text.remove(place, 1 + Below(8));
-                break;
-            case 1:
-                text.insert(place, Any(pieces_));
-                break;
-            case 2:
-                text.insert(place, text.mid(Below(text.size() + 1), 1 + Below(30)));
-                break;
-            case 3:
-                text.replace(place, 1 + Below(6), Any(pieces_));
-                break;
-            default:
-                text = text.first(place) + Any(corpus_).mid(place);
-                break;
-        }
-    }
-
-    QStringList corpus_;
-    QStringList pieces_ =
-        u"(~)~'~\"~[~]~#~#01-31-2024#~NOT ~-~ OR ~ AND ~ * ~ & ~ + 1.5 ~/ 2~ = ~ IS NULL~ IN (1,2)~ LIKE "
-        "~Null~True~Qty~Unit~Sum(Qty)~Val(Unit)~ AS x ~x~, ~;~ BETWEEN 1 AND 2 "
-        "~99999999999999999999~0.123456~š"_s.split(u'~');
-    std::mt19937 random_{20'240'325};
-};
 
 TEST_F(DialectTest, TextsThatAreCarelesslyJoinedShowNoFault) {
     Mutator mutator;

@@ -3,33 +3,21 @@
 #include <algorithm>
 
 #include "store/SqlText.h"
+#include "store/postgres/FileOrder.h"
 
 using namespace Qt::StringLiterals;
 
 namespace store::postgres {
 
-using dialect::Aliased;
 using dialect::BoundAssignment;
 using dialect::BoundSorting;
 using dialect::BoundSource;
-using dialect::Op;
 using dialect::Plan;
-using Form = BoundExpr::Form;
 
 namespace {
 
 std::string Clause(const char* keyword, const std::string& text) {
     return text.empty() ? text : keyword + text;
-}
-
-bool HasIndexOver(const Table& table, const QString& column, bool overVal) {
-    return std::ranges::any_of(
-        table.indexes, [&](const Index& index) { return index.columns.front() == column && index.overVal == overVal; });
-}
-
-bool NamesColumns(const BoundExpr& expr) {
-    return expr.form == Form::Column ||
-           std::ranges::any_of(expr.args, [](const BoundPtr& arg) { return NamesColumns(*arg); });
 }
 
 class Emitter {
@@ -122,62 +110,13 @@ private:
             for (const BoundPtr& group : plan_.group) AppendTo(order, exprs_.Key(*group) + " NULLS FIRST");
             return order;
         }
-        const Walk walk = plan_.table ? WalkOfTheFile() : Walk::OverTable;
-        if (walk == Walk::OverStretch) AppendTo(order, exprs_.Key(*stretch_) + " NULLS FIRST");
-        for (size_t i = 0; i < plan_.tables.size(); ++i)
-            AppendTo(order, KeySql(i) + (walk == Walk::Backwards ? " DESC" : ""));
+        const FileOrder file = plan_.table ? OrderOfTheFile(plan_) : FileOrder();
+        if (file.first != nullptr) AppendTo(order, exprs_.Key(*file.first) + " NULLS FIRST");
+        for (size_t i = 0; i < plan_.tables.size(); ++i) AppendTo(order, KeySql(i) + (file.isBackwards ? " DESC" : ""));
         return order;
     }
 
-    // How the file goes over its rows, which decides about those that are equal: by identity, but for an index of which
-    // a condition asks for a stretch or some values, or which is followed backwards.
-    enum class Walk { OverTable, OverStretch, Backwards };
-
-    Walk WalkOfTheFile() {
-        std::vector<const BoundExpr*> conditions;
-        if (plan_.where) AddConditions(*plan_.where, conditions);
-        for (const BoundExpr* condition : conditions) {
-            for (size_t side = 0; side < 2 && side < condition->args.size(); ++side) {
-                const BoundExpr* term = Indexed(*condition, side);
-                if (term == nullptr) continue;
-                if (condition->op == Op::Equal && condition->form == Form::Binary) return Walk::OverTable;
-                if (stretch_ == nullptr) stretch_ = term;
-            }
-        }
-        if (stretch_ != nullptr) return Walk::OverStretch;
-        const bool isBackwards = plan_.order.size() == 1 && plan_.order.front().descending;
-        return isBackwards && Indexed(*plan_.order.front().expr) ? Walk::Backwards : Walk::OverTable;
-    }
-
-    static void AddConditions(const BoundExpr& where, std::vector<const BoundExpr*>& conditions) {
-        if (where.form == Form::Binary && where.op == Op::And)
-            for (const BoundPtr& arg : where.args) AddConditions(*arg, conditions);
-        else
-            conditions.push_back(&where);
-    }
-
-    // One side of a comparison, when an index stands over it and the others are known beforehand.
-    const BoundExpr* Indexed(const BoundExpr& condition, size_t side) const {
-        const bool compares = condition.form == Form::Binary && dialect::IsCondition(condition) &&
-                              condition.op != Op::NotEqual && condition.op != Op::Or && condition.op != Op::And;
-        const bool lists = (condition.form == Form::Between || condition.form == Form::In) && !condition.negated;
-        if (!compares && !(lists && side == 0)) return nullptr;
-        for (size_t i = 0; i < condition.args.size(); ++i)
-            if (i != side && NamesColumns(*condition.args[i])) return nullptr;
-
-        return Indexed(*condition.args[side]);
-    }
-
-    const BoundExpr* Indexed(const BoundExpr& expr) const {
-        const BoundExpr& term = Aliased(expr);
-        const bool overVal = term.form == Form::Val && term.args.front()->form == Form::Column;
-        if (!overVal && term.form != Form::Column) return nullptr;
-        const BoundExpr& column = overVal ? *term.args.front() : term;
-        return HasIndexOver(*plan_.table, plan_.table->columns[column.column].name, overVal) ? &term : nullptr;
-    }
-
     const Plan& plan_;
-    const BoundExpr* stretch_ = nullptr;
     ServerQuery query_;
     ExprEmitter exprs_{plan_.tables};
 };
