@@ -13,7 +13,7 @@ namespace store::postgres {
 namespace {
 
 constexpr int BetweenQuestions = 5;       // milliseconds
-constexpr int LongestStop = 2'000;        // that a server takes to drop a statement
+constexpr int LongestStop = 1'000;        // that a server takes to drop a statement
 constexpr size_t MostStatements = 2'000;  // kept on the server
 
 // A server that is gone is to be noticed within seconds; an address may say otherwise, since what stands behind counts.
@@ -75,6 +75,9 @@ Answer Client::Make(const Trip& trip) {
     try {
         return Collect(trip);
     } catch (const StoreError&) {
+        throw;
+    } catch (const Left& left) {
+        if (left.isLost) connection_.reset();
         throw;
     } catch (...) {
         connection_.reset();  // with answers on their way that nobody waits for
@@ -151,7 +154,7 @@ void Client::WaitForAnswer(const Trip& trip) {
 
 void Client::AskWhetherToGoOn(const Trip& trip) {
     const qint64 now = sinceSent_.elapsed();
-    if (stoppedAt_ && now - *stoppedAt_ > LongestStop) ThrowLost();
+    if (stoppedAt_ && now - *stoppedAt_ > LongestStop) throw Left{.isLost = true};
     if (stoppedAt_ || !trip.goesOn || now < askedAt_ + BetweenQuestions) return;
     askedAt_ = now;
     if (!trip.goesOn(static_cast<int>(now))) Stop();

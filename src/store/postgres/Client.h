@@ -57,7 +57,9 @@ public:
     // `goesOn` said no.
     Answer Make(const Trip& trip);
 
-    struct Left {};
+    struct Left {
+        bool isLost = false;  // the server did not even hear of it, and the connection is given up
+    };
 
 private:
     // What is awaited from the server next, in order.

@@ -108,8 +108,11 @@ void Connection::ThrowLeft(Kind kind) const {
 Answer Connection::Make(Kind kind, const std::vector<Command>& commands, size_t main, const Client::TakeRow& takeRow) {
     try {
         return client_->Make({commands, main, Questions(kind), takeRow});
-    } catch (const Client::Left&) {
-        ThrowLeft(kind);
+    } catch (const Client::Left& left) {
+        const bool isOpen = left.isLost && kind == Kind::Write && !inTransaction_;
+        if (left.isLost) Lose();
+        if (!isOpen) ThrowLeft(kind);
+        ThrowLost(u"the last change was being stored; whether it is, is not known"_s);
     } catch (const ServerLost& error) {
         const bool isOpen = kind == Kind::Write && !inTransaction_;
         Lose();
