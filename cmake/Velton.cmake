@@ -79,10 +79,11 @@ endfunction()
 set(VELTON_TEST_ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=en_US.UTF-8;\
 LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/cmake/leaks.txt:print_suppressions=0")
 
-# velton_test(NAME LINK targets... SOURCES files... [PLAIN]): one test program a room, run off-screen; a plain one knows no
-# screens.
+# velton_test(NAME LINK targets... SOURCES files... [PLAIN] [BOTH_ENGINES] [FILES_ALONE tests...]): one test program a
+# room, run off-screen; a plain one knows no screens. With BOTH_ENGINES it runs a second time with its main stores on a
+# server, but for the tests that are about files.
 function(velton_test name)
-    cmake_parse_arguments(TEST "PLAIN" "" "LINK;SOURCES;ENVIRONMENT" ${ARGN})
+    cmake_parse_arguments(TEST "PLAIN;BOTH_ENGINES" "" "LINK;SOURCES;ENVIRONMENT;FILES_ALONE" ${ARGN})
     add_executable(test_${name} ${TEST_SOURCES})
     target_link_libraries(test_${name} PRIVATE velton_strict ${TEST_LINK} GTest::gmock)
     target_include_directories(test_${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
@@ -97,4 +98,10 @@ function(velton_test name)
     add_test(NAME ${name} COMMAND test_${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 600
         ENVIRONMENT "${VELTON_TEST_ENVIRONMENT};${TEST_ENVIRONMENT}")
+    if(TEST_BOTH_ENGINES)
+        list(JOIN TEST_FILES_ALONE ":" left_out)
+        add_test(NAME ${name}-on-server COMMAND test_${name} --gtest_filter=-${left_out})
+        set_tests_properties(${name}-on-server PROPERTIES TIMEOUT 600
+            ENVIRONMENT "${VELTON_TEST_ENVIRONMENT};${TEST_ENVIRONMENT};VELTON_TESTS_ON=server")
+    endif()
 endfunction()

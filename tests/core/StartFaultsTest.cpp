@@ -1,7 +1,5 @@
 #include <QProcess>
 
-#include <SQLiteCpp/SQLiteCpp.h>
-
 #include "support/Till.h"
 
 using namespace Qt::StringLiterals;
@@ -32,9 +30,8 @@ TEST_F(StartFaultsTest, RefusesASecondInstanceInTheFolder) {
 }
 
 TEST_F(StartFaultsTest, EndsWhenTheStoreIsHeldExclusively) {
-    SQLite::Database holder(Path(u"ORVA.pos"_s).toStdString(), SQLite::OPEN_READWRITE);
-    holder.exec("PRAGMA locking_mode = EXCLUSIVE");
-    holder.exec("BEGIN EXCLUSIVE");
+    const auto holder = OpenMain();
+    const store::Database::Batch held(*holder);
     Boxes boxes;
     boxes.Expect(u"Program VELTON already run."_s).WithIcon(QMessageBox::NoIcon);
     ShowLogin();

@@ -5,6 +5,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include "support/Engines.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -19,7 +21,9 @@ TEST(DemoDay, LeavesTheReceiptsReportAndPicturesItAlwaysLeaves) {
     const QTemporaryDir folder;
     const QString shop = folder.filePath(u"shop"_s);
     QProcess demo;
-    demo.start(QStringLiteral(PROGRAMS "/velton-demo"), {shop});
+    QStringList arguments{shop};
+    if (drivers::OnServer()) arguments << u"--server"_s << drivers::ServerForTest();
+    demo.start(QStringLiteral(PROGRAMS "/velton-demo"), arguments);
     ASSERT_TRUE(demo.waitForFinished(60000));
     EXPECT_EQ(demo.exitCode(), 0) << demo.readAllStandardError().toStdString();
     for (const QString& name : {u"/invoices.txt"_s, u"/lpt1.prn"_s, u"/fiscal.txt"_s, u"/Report.txt"_s})
@@ -28,7 +32,7 @@ TEST(DemoDay, LeavesTheReceiptsReportAndPicturesItAlwaysLeaves) {
 }
 
 TEST(DemoDay, LeavesForeignFoldersAndShopsAlone) {
-    for (const QString& name : {u"mine.txt"_s, u"ORVA.pos"_s}) {
+    for (const QString& name : {u"mine.txt"_s, u"opt.pos"_s}) {
         const QTemporaryDir folder;
         QFile mine(folder.filePath(name));
         ASSERT_TRUE(mine.open(QIODevice::WriteOnly));

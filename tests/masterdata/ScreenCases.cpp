@@ -24,7 +24,7 @@ forms::ListView& List(ScreenCase& at) {
 
 // Products with the codes FROM to TO behind those of the shop, of one name, at 1.00.
 void AddProducts(ScreenCase& at, const QString& rest, const Step&) {
-    const auto main = store::Database::Open(at.Path(u"ORVA.pos"_s), store::MainSchema());
+    const auto main = at.OpenMain();
     store::Database::Batch batch(*main);
     auto products = main->OpenRecordset(u"SELECT * FROM Products"_s);
     const QStringList words = rest.split(u' ');

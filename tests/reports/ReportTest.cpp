@@ -176,7 +176,7 @@ TEST_F(ReportTest, AReportReadsOneMomentWhileAnotherRegisterSells) {
     }
     forms::Form& form = ShowReport(u"frmZakljucakPregled"_s);
     std::jthread register2([this](const std::stop_token& stop) {
-        const auto main = store::Database::Open(Path(u"ORVA.pos"_s), store::MainSchema());
+        const auto main = OpenMain();
         const store::Burst burst(*main);
         auto sales = main->OpenRecordset(u"SELECT * FROM Sales WHERE DateGenerated = #12-01-2026#"_s);
         for (int amount = 1; !stop.stop_requested(); ++amount) {

@@ -4,6 +4,7 @@
 #include <csignal>
 
 #include "delivery/Delivery.h"
+#include "support/Engines.h"
 #include "support/Till.h"
 
 using namespace Qt::StringLiterals;
@@ -68,7 +69,7 @@ TEST_F(CrashTest, KillingWhilePostingLosesNothingAcknowledged) {
 TEST_F(CrashTest, KillingAnEndReportLeavesEachPeriodEitherOpenOrClosedAsAWhole) {
     constexpr int periods = 300;
     {
-        const auto main = store::Database::Open(Path(u"ORVA.pos"_s), store::MainSchema());
+        const auto main = OpenMain();
         store::Database::Batch batch(*main);
         auto sales = main->OpenRecordset(u"SELECT * FROM Sales"_s);
         for (int number = 1; number <= periods; ++number) {
@@ -110,7 +111,7 @@ TEST_F(CrashTest, EightRegistersSellOneProductAndTheStockIsExact) {
         ASSERT_TRUE(QFile::copy(Path(u"opt.pos"_s), own + u"/opt.pos"_s));
         QFile ini(own + u"/store.ini"_s);
         ASSERT_TRUE(ini.open(QIODevice::WriteOnly));
-        ini.write("[main]\npath=" + folder.path().toUtf8() + "\n");
+        ini.write(drivers::OnServer() ? File(u"store.ini"_s) : "[main]\npath=" + folder.path().toUtf8() + '\n');
         ini.close();
         workers.push_back(Start(Selling(own, invoices)));
     }

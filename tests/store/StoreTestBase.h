@@ -2,9 +2,9 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include "store/Database.h"
+#include "support/Engines.h"
 #include "support/ErrorOf.h"
 #include "support/TestFolder.h"
 #include "values/Locale.h"
@@ -87,15 +87,8 @@ protected:
     }
     QStringList Column(const QString& query) { return Column(*store, query); }
 
-    static Place MakePlace(const QString& path) {
-        static int n = 0;
-        const QString url = qEnvironmentVariable("VELTON_URL");
-        if (url.isEmpty()) return path;
-        return Place::Server(url + u"&schema=s%1_%2"_s.arg(getpid()).arg(++n));
-    }
-
     QTemporaryDir folder_{FolderTemplate()};
-    const Place place_ = MakePlace(StorePath());
+    const Place place_ = drivers::OnServer() ? Place::Server(drivers::ServerForTest()) : Place(StorePath());
     std::unique_ptr<Database> store = Database::Create(place_, MainSchema());
 };
 

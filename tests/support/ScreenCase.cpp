@@ -94,7 +94,7 @@ QStringList ScreenCase::ListRows(const QString& name) {
 std::unique_ptr<store::Database> ScreenCase::StoreOf(const QString& query) const {
     if (query.contains(u" Options"))
         return store::Database::Open(store::OptionsPlace(folder.path()), store::OptionsSchema());
-    return store::Database::Open(store::MainPlace(folder.path()), store::MainSchema());
+    return OpenMain();
 }
 
 bool ScreenCase::AddWords(const QMap<QString, Word>& words) {

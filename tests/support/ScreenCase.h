@@ -18,7 +18,8 @@ namespace drivers {
 //   run QUERY            an action query, on the store that has the table; another register acts like this, too
 //   load TABLE           the rows under it: names of fields, then a line a row, cells divided by |
 //   as USER; login USER; login (the screen alone); crash; restart (a crash, and the user of `as` again)
-//   locale NAME; clock DATE TIME; clipboard TEXT; write FILE | TEXT; remove FILE; folder NAME; engine SQL
+//   locale NAME; clock DATE TIME; clipboard TEXT; write FILE | TEXT; remove FILE; folder NAME
+//   engine SQL | SQL     behind the store's back, as its file and as its server take it
 // What is done:
 //   open ENTRY           of the menu; keys KEYS; go CONTROL (it gets the focus); close (by its window)
 //   type CONTROL KEYS    over what stands there
@@ -50,6 +51,7 @@ public:
     using TillTest::Crash;
     using TillTest::File;
     using TillTest::LogIn;
+    using TillTest::OpenMain;
     using TillTest::Path;
     using TillTest::Setting;
 

@@ -9,11 +9,10 @@
 #include <QTabWidget>
 #include <QToolBar>
 
-#include <SQLiteCpp/Database.h>
-
 #include "core/Settings.h"
 #include "forms/Program.h"
 #include "player/Input.h"
+#include "support/Engines.h"
 #include "support/ScreenCase.h"
 #include "upkeep/TableLoader.h"
 #include "values/Clock.h"
@@ -195,7 +194,7 @@ QMap<QString, ScreenCase::Word> ScreenCase::States() {
          [](ScreenCase& at, const QString& rest, const Step&) { EXPECT_TRUE(QDir().mkdir(at.Path(rest))); }},
         {u"engine"_s,
          [](ScreenCase& at, const QString& rest, const Step&) {
-             SQLite::Database(at.Path(u"ORVA.pos"_s).toStdString(), SQLite::OPEN_READWRITE).exec(rest.toStdString());
+             DoBehind(at.folder.path(), rest.section(u" | "_s, 0, 0), rest.section(u" | "_s, 1));
          }},
     };
 }

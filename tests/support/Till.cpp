@@ -10,6 +10,7 @@
 #include "forms/Program.h"
 #include "output/Folder.h"
 #include "store/StorePath.h"
+#include "support/Engines.h"
 #include "values/Clock.h"
 
 using namespace Qt::StringLiterals;
@@ -44,14 +45,10 @@ void AddPart(store::Recordset& recipe, const QString& product, const QString& pa
     recipe.Update();
 }
 
-std::unique_ptr<store::Database> OpenMain(const QTemporaryDir& folder) {
-    return store::Database::Open(store::MainPlace(folder.path()), store::MainSchema());
-}
-
 }  // namespace
 
 TillTest::TillTest() {
-    delivery::MakeProgramFolder(folder.path());
+    delivery::MakeProgramFolder(folder.path(), {.server = ServerForTest()});
     output::SetProgramFolder(folder.path());
     values::SetClock([] { return QDateTime(QDate(2026, 11, 24), QTime(10, 42, 7)); });
     AddGoods();
@@ -64,7 +61,7 @@ TillTest::~TillTest() {
 }
 
 void TillTest::AddGoods() {
-    const auto main = OpenMain(folder);
+    const auto main = OpenMain();
     auto products = main->OpenRecordset(u"SELECT * FROM Products"_s);
     for (const Goods& goods : ShopGoods) {
         products.AddNew();
@@ -120,12 +117,16 @@ forms::Form& TillTest::Login() const {
     return *form;
 }
 
+std::unique_ptr<store::Database> TillTest::OpenMain() const {
+    return store::Database::Open(store::MainPlace(folder.path()), store::MainSchema());
+}
+
 QStringList TillTest::Rows(const QString& query) const {
-    return RowsOf(*OpenMain(folder), query);
+    return RowsOf(*OpenMain(), query);
 }
 
 void TillTest::Run(const QString& query) const {
-    OpenMain(folder)->Execute(query);
+    OpenMain()->Execute(query);
 }
 
 QByteArray TillTest::File(const QString& name) const {

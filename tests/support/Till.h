@@ -34,7 +34,8 @@ protected:
     forms::Form& Login() const;
     QString Shown(QStringView control) const { return Box(Sales(), control); }
 
-    // On the main store.
+    // The main store, by another handle than the program's.
+    std::unique_ptr<store::Database> OpenMain() const;
     QStringList Rows(const QString& query) const;
     void Run(const QString& query) const;
     QString Path(const QString& name) const { return folder.filePath(name); }

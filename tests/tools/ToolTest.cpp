@@ -1,4 +1,3 @@
-#include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
@@ -8,8 +7,9 @@
 #include <QRegularExpression>
 
 #include "delivery/Delivery.h"
-#include "store/Database.h"
+#include "store/StorePath.h"
 #include "support/CaseText.h"
+#include "support/Engines.h"
 #include "support/TestFolder.h"
 #include "support/ValueOf.h"
 #include "upkeep/ValueText.h"
@@ -61,7 +61,7 @@ insert() { tool insert shop "$@"; }
 check() { tool check shop; }
 bytes() { printf "$2" | tr '|' '\t' > rows.tsv; tool load shop "$1" rows.tsv; }
 load() { bytes "$1" "$2\n"; }
-raw() { "$SQLITE" --sqlite shop/ORVA.pos "$1"; }
+raw() { "$STRANGER" shop "$1" "$2"; }
 beside() { cp "$TOOL" velton-store; echo 'the program' > velton; }
 )"_s;
 
@@ -74,14 +74,16 @@ QStringList LinesOf(const QByteArray& output, const QString& before) {
 
 class ToolTest : public testing::TestWithParam<Talk> {
 protected:
-    ToolTest() { delivery::MakeProgramFolder(folder_.filePath(u"shop"_s)); }
+    ToolTest() {
+        delivery::MakeProgramFolder(folder_.filePath(u"shop"_s), {.server = drivers::ServerForTest()});
+    }
 
     QString Answer(const QString& command) const {
         QProcess process;
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
         environment.insert(u"TOOL"_s, QStringLiteral(PROGRAMS "/velton-store"));
-        environment.insert(u"SQLITE"_s, QCoreApplication::applicationFilePath());
+        environment.insert(u"STRANGER"_s, QCoreApplication::applicationFilePath());
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(folder_.path());
         process.start(u"bash"_s, {u"-c"_s, Shell + GetParam().shell + command}, QIODevice::ReadOnly);
@@ -137,8 +139,8 @@ INSTANTIATE_TEST_SUITE_P(Tool, ToolTest, testing::ValuesIn(Talks()),
 
 TEST(StoreFiles, AStoreThatSomebodyHoldsForHimselfIsToldSo) {
     const QTemporaryDir folder(FolderTemplate());
-    delivery::MakeProgramFolder(folder.path());
-    const auto database = store::Database::Open(folder.filePath(u"ORVA.pos"_s), store::MainSchema());
+    delivery::MakeProgramFolder(folder.path(), {.server = drivers::ServerForTest()});
+    const auto database = store::Database::Open(store::MainPlace(folder.path()), store::MainSchema());
     const store::Database::Batch held(*database);
     QProcess tool;
     tool.start(QStringLiteral(PROGRAMS "/velton-store"), {u"insert"_s, folder.path(), u"Unit"_s, u"Abr=x"_s});
@@ -172,10 +174,10 @@ TEST(ValueText, TextsThatNoFileOfCasesHoldsAreKeptOrRefused) {
         EXPECT_THROW(upkeep::ReadValue(bytes, store::Type::Text), store::StoreError) << bytes;
 }
 
-// With "--sqlite FILE TEXT" it is the stranger who works on a store behind its back.
+// With "FOLDER TEXT TEXT" it is the stranger who works on a store behind its back.
 int main(int argc, char** argv) {
-    if (argc == 4 && QByteArrayView(argv[1]) == "--sqlite") {
-        SQLite::Database(argv[2], SQLite::OPEN_READWRITE).exec(argv[3]);
+    if (argc == 4) {
+        drivers::DoBehind(QString::fromUtf8(argv[1]), QString::fromUtf8(argv[2]), QString::fromUtf8(argv[3]));
         return 0;
     }
     testing::InitGoogleTest(&argc, argv);

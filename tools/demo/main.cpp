@@ -1,4 +1,4 @@
-// velton-demo [FOLDER]: plays a working day of the demo shop through the real screens, off-screen, in FOLDER (by
+// velton-demo [FOLDER] [--server ADDRESS]: plays a working day of the demo shop through the real screens, off-screen, in FOLDER (by
 // default demo-day here, made anew), and prints the receipts and the day's figures that it leaves there.
 
 #include <CLI/CLI.hpp>
@@ -23,11 +23,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // A folder that an earlier day left, pictures and all; a shop that somebody works in has none and is not ours to
-// delete.
+// delete. What it left on a server stays in any case.
 void ClearFolder(const QString& path) {
     QDir folder(path);
     if (!folder.exists()) return;
-    if (!folder.isEmpty() && !(folder.exists(u"ORVA.pos"_s) && folder.exists(u"screens"_s)))
+    if (!folder.isEmpty() && !(folder.exists(store::OptionsFile) && folder.exists(u"screens"_s)))
         throw std::runtime_error("The folder " + path.toStdString() + " holds something else than an earlier day.");
     if (!folder.removeRecursively())
         throw std::runtime_error("The folder " + path.toStdString() + " can't be cleared.");
@@ -47,9 +47,9 @@ QString TextFile(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? output::FromCodePage(file.readAll()).remove(u'\r') : QString();
 }
 
-void Play(const QString& path) {
+void Play(const QString& path, const QString& server) {
     ClearFolder(path);
-    delivery::MakeProgramFolder(path, {.withDemo = true});
+    delivery::MakeProgramFolder(path, {.withDemo = true, .server = server});
     SwitchOnFiscalRecords(path);
     output::SetProgramFolder(path);
     const QString pictures = QDir(path).filePath(u"screens"_s);
@@ -66,6 +66,8 @@ int Run(int argc, char* argv[]) {
                  "velton-demo");
     app.add_option("FOLDER", folder, "Takes the shop; one that an earlier day left is made anew")
         ->capture_default_str();
+    std::string server;
+    app.add_option("--server", server, "The address of the server that takes the main store; none may lie there yet");
     CLI11_PARSE(app, argc, argv);
 
     drivers::HushPlatform();
@@ -73,7 +75,7 @@ int Run(int argc, char* argv[]) {
     drivers::UseTillScreen(screen.path());
     QApplication application(argc, argv);
     PrepareApplication();
-    Play(QString::fromLocal8Bit(folder));
+    Play(QString::fromLocal8Bit(folder), QString::fromLocal8Bit(server));
     return 0;
 }
 
