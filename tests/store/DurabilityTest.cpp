@@ -228,7 +228,8 @@ TEST_F(DurabilityTest, ADiskThatTakesNoMoreLosesNothingThatWasStored) {
 }
 
 TEST_F(DurabilityTest, ABackupReplacesNoFileAndLeavesNoneWhenItFails) {
-    EXPECT_EQ(ErrorOf([&] { store->BackupTo(StorePath()); }), FileExists);
+    store->BackupTo(PathOf(u"first.pos"_s));
+    EXPECT_EQ(ErrorOf([&] { store->BackupTo(PathOf(u"first.pos"_s)); }), FileExists);
     EXPECT_NE(ErrorOf([&] { store->BackupTo(PathOf(u"nowhere/copy.pos"_s)); }), 0);
     Database::Batch batch(*store);
     EXPECT_EQ(ErrorOf([&] { store->BackupTo(PathOf(u"copy.pos"_s)); }), NotSupported);

@@ -54,16 +54,17 @@ TEST(LikePatternTest, FindsWhatATrialOfEveryRunFinds) {
 using TextTest = StoreTest;
 
 TEST_F(TextTest, GivesBackEveryTextAsItWasWritten) {
-    const QStringList texts = {u""_s,
-                               u" "_s,
-                               u"it's 'quoted'"_s,
-                               u"100% \\ \"x\" ; -- no comment"_s,
-                               QString(u"nul\0inside"_s.constData(), 10),
-                               u"кириллица"_s,
-                               u"שלום עולם \u200Fمرحبا"_s,
-                               u"😀👩‍👩‍👧 smile"_s,
-                               u"line\r\nbreak\ttab"_s,
-                               QString(100000, u'č')};
+    QStringList texts = {u""_s,
+                         u" "_s,
+                         u"it's 'quoted'"_s,
+                         u"100% \\ \"x\" ; -- no comment"_s,
+                         u"кириллица"_s,
+                         u"שלום עולם \u200Fمرحبا"_s,
+                         u"😀👩‍👩‍👧 smile"_s,
+                         u"line\r\nbreak\ttab"_s,
+                         QString(100000, u'č')};
+    // A server takes no zero character.
+    if (!drivers::OnServer()) texts += QString(u"nul\0inside"_s.constData(), 10);
     auto company = store->OpenRecordset(u"SELECT * FROM Company"_s);
     for (const QString& text : texts) {
         company.AddNew();

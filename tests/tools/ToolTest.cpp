@@ -61,7 +61,7 @@ insert() { tool insert shop "$@"; }
 check() { tool check shop; }
 bytes() { printf "$2" | tr '|' '\t' > rows.tsv; tool load shop "$1" rows.tsv; }
 load() { bytes "$1" "$2\n"; }
-raw() { "$STRANGER" shop "$1" "$2"; }
+raw() { "$STRANGER" shop "$1" "${2-$1}"; }
 beside() { cp "$TOOL" velton-store; echo 'the program' > velton; }
 )"_s;
 
