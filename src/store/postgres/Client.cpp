@@ -19,13 +19,24 @@ constexpr size_t MostStatements = 2'000;  // kept on the server
 // A server that is gone is to be noticed within seconds; an address may say otherwise, since what stands behind counts.
 PGconn* Connect(const Place& place) {
     const QByteArray address = place.Address().toUtf8();
+    // Of several servers the one that takes changes is meant, whichever that is today.
+    const bool areSeveral = place.Address().section(u'?', 0, 0).contains(u',');
     static const char* const names[] = {"connect_timeout",           "keepalives_idle",
                                         "keepalives_interval",       "keepalives_count",
                                         "tcp_user_timeout",          "target_session_attrs",
                                         "fallback_application_name", "dbname",
                                         "client_encoding",           nullptr};
-    const char* const values[] = {"3", "4", "2", "3", "8000", "any", "velton", address.constData(), "UTF8", nullptr};
+    const char* const values[] = {
+        "3", "4", "2", "3", "8000", areSeveral ? "read-write" : "any", "velton", address.constData(), "UTF8", nullptr};
     return PQconnectdbParams(names, values, 1);
+}
+
+QString WhyNotConnected(PGconn* connection) {
+    if (PQconnectionNeedsPassword(connection) != 0) return u"it asks for a password, and ~/.pgpass has none for it"_s;
+    // A line a server, the last of them tried last; hints are indented.
+    QStringList lines = QString::fromUtf8(PQerrorMessage(connection)).split(u'\n', Qt::SkipEmptyParts);
+    lines.removeIf([](const QString& line) { return line.startsWith(u'\t'); });
+    return OneSentence(lines.isEmpty() ? QString() : lines.last());
 }
 
 void CheckAddress(const Place& place) {
@@ -43,8 +54,8 @@ Client::Client(const Place& place) : server_(place.Shown()) {
     CheckAddress(place);
     connection_.reset(Connect(place));
     if (PQstatus(connection_.get()) != CONNECTION_OK)
-        throw ServerLost(u"The server of the store %1 cannot be reached: %2."_s.arg(
-            server_, OneSentence(PQerrorMessage(connection_.get()))));
+        throw ServerLost(
+            u"The server of the store %1 cannot be reached: %2."_s.arg(server_, WhyNotConnected(connection_.get())));
     PQsetNoticeProcessor(
         connection_.get(), [](void*, const char*) {}, nullptr);
     PQsetnonblocking(connection_.get(), 1);
@@ -171,7 +182,7 @@ void Client::Stop() {
 }
 
 void Client::ThrowLost() {
-    const QString why = OneSentence(PQerrorMessage(connection_.get()));
+    const QString why = OneSentence(QString::fromUtf8(PQerrorMessage(connection_.get())));
     connection_.reset();
     names_.clear();
     throw ServerLost(why.isEmpty() ? u"The server of the store %1 does not answer."_s.arg(server_)

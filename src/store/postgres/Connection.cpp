@@ -214,7 +214,7 @@ void Connection::Begin() {
         Make(Kind::Write, {{BeginSql, None}, {lock, None}}, 1);
         inTransaction_ = true;
     } catch (const StoreError&) {
-        if (client_) Rollback();
+        SendRollback();
         throw;
     }
 }
@@ -228,7 +228,7 @@ void Connection::Commit() {
     } catch (const ServerLost&) {
         throw;
     } catch (const StoreError&) {
-        Rollback();
+        SendRollback();
         throw;
     }
     hasRelaxed_ = isRelaxed_;
@@ -236,7 +236,11 @@ void Connection::Commit() {
 }
 
 void Connection::Rollback() noexcept {
-    batchIsLost_ = inTransaction_ = false;
+    batchIsLost_ = false;
+    if (std::exchange(inTransaction_, false)) SendRollback();
+}
+
+void Connection::SendRollback() noexcept {
     if (!client_) return;
     try {
         client_->Make({{{RollbackSql, None}}});

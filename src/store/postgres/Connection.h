@@ -53,6 +53,7 @@ private:
     Answer MakeInBatch(Kind kind, const std::vector<Command>& commands, const Client::TakeRow& takeRow = {});
     Answer MakeAlone(Right right, const Table* table, const Command& command);
     void BackToMark() noexcept;
+    void SendRollback() noexcept;
     Client::GoesOn Questions(Kind kind);
     void EndRelaxed();
     [[noreturn]] void ThrowLeft(Kind kind) const;

@@ -56,8 +56,8 @@ QString Words(int number) {
 
 }  // namespace
 
-QString OneSentence(const char* message) {
-    QString sentence = QString::fromUtf8(message).section(u'\n', 0, 0).trimmed();
+QString OneSentence(const QString& message) {
+    QString sentence = message.section(u'\n', 0, 0).trimmed();
     while (sentence.endsWith(u'.')) sentence.chop(1);
     return sentence;
 }
@@ -74,7 +74,7 @@ bool IsCancelled(const PGresult* result) {
 void ThrowRefused(const PGresult* result) {
     const QByteArray code = CodeOf(result);
     const int number = NumberOf(code);
-    const QString message = OneSentence(PQresultErrorField(result, PG_DIAG_MESSAGE_PRIMARY));
+    const QString message = OneSentence(QString::fromUtf8(PQresultErrorField(result, PG_DIAG_MESSAGE_PRIMARY)));
     throw RefusedStatement(number, u"%1 (%2)."_s.arg(Words(number), message), code);
 }
 

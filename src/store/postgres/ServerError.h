@@ -24,6 +24,6 @@ bool TellsOfTheEnd(const PGresult* result);
 bool IsCancelled(const PGresult* result);
 
 // The server's or the library's own words, as one sentence.
-QString OneSentence(const char* message);
+QString OneSentence(const QString& message);
 
 }  // namespace store::postgres
