@@ -204,8 +204,7 @@ void frmTrenutnoStanjeKasa::SSTab1_Click() {
 }
 
 void frmTrenutnoStanjeKasa::LoadAmountList() {
-    rsList_ = MainStore().OpenRecordset(queryHead_ + queryWhere_ + queryGroup_ + queryOrder_);
-    FillList();
+    FillList(MainStore().OpenSnapshot(queryHead_ + queryWhere_ + queryGroup_ + queryOrder_));
     ui.txtTotalAmount->setText(SumOfColumn(FirstAmount));
     if (ui.lblTipPregleda->text() != u"1") return;
     const QDateTime now = values::Now();
@@ -218,11 +217,11 @@ void frmTrenutnoStanjeKasa::LoadInvoiceList() {
     ui.txtPDV->setText(SumOfColumn(FirstAmount + 1));
 }
 
-void frmTrenutnoStanjeKasa::FillList() {
+void frmTrenutnoStanjeKasa::FillList(store::Recordset rows) {
     ui.lv1->Clear();
     ui.lv1->BeginFill();
     const auto end = qScopeGuard([this] { ui.lv1->EndFill(); });
-    for (auto& row : rsList_) {
+    for (auto& row : rows) {
         QStringList cells;
         for (int column = 0; column < Columns; ++column) cells << Cell(row, column);
         ui.lv1->Add(cells);

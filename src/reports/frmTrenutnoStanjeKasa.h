@@ -22,7 +22,7 @@ public:
     // The same, and sums the taxes too.
     void LoadInvoiceList();
     // The rows of the query that ran last.
-    void FillList();
+    void FillList(store::Recordset rows);
 
 protected:
     void Form_Load() override;
@@ -51,7 +51,6 @@ private:
     void PrintList(const QString& columnHead, const PrintFields& item);
 
     Ui::frmTrenutnoStanjeKasa ui;
-    store::Recordset rsList_;
     QString queryHead_;
     QString queryWhere_;
     QString queryGroup_;

@@ -21,22 +21,13 @@ QByteArray HeaderLine(const store::Recordset& rows) {
     return line + '\n';
 }
 
-QByteArray RowLine(store::Recordset& rows) {
+QByteArray RowLine(const store::Listing& rows, qint64 row, int columns) {
     QByteArray line;
-    for (int i = 0; i < rows.FieldCount(); ++i) {
+    for (int i = 0; i < columns; ++i) {
         if (i > 0) line += '\t';
-        line += upkeep::WriteValue(rows[i].Get());
+        line += upkeep::WriteValue(rows.At(row, i));
     }
     return line + '\n';
-}
-
-// A row that a register deleted since the cursor was opened is none any more.
-void WriteRow(store::Recordset& row, Output& output) {
-    try {
-        output.Write(RowLine(row));
-    } catch (const store::StoreError& error) {
-        if (error.Number() != store::RowDeleted) throw;
-    }
 }
 
 }  // namespace
@@ -47,10 +38,13 @@ void Sql(const QString& folder, const QString& text, Which which) {
         database->Execute(text);
         return;
     }
-    auto rows = database->OpenRecordset(text);
+    auto cursor = database->OpenRecordset(text);
     Output output;
-    output.Write(HeaderLine(rows));
-    for (auto& row : rows) WriteRow(row, output);
+    output.Write(HeaderLine(cursor));
+    // In the order of the cursor, but not read one by one, which takes a server long.
+    auto rows = cursor.ListNow();
+    const qint64 count = rows.WaitFor(1);  // all are here at once
+    for (qint64 row = 0; row < count; ++row) output.Write(RowLine(rows, row, cursor.FieldCount()));
     output.Finish();
 }
 

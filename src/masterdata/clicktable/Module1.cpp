@@ -22,14 +22,14 @@ ClickTable& TableOf(const forms::Form* form) {
 
 void LoadTabCaptions(const forms::Form* form) {
     ClickTable& table = TableOf(form);
-    auto rs = MainStore().OpenRecordset(TabsQuery);
+    auto rs = MainStore().OpenSnapshot(TabsQuery);
     for (int tab = 0; !rs.AtEOF(); rs.MoveNext(), ++tab) table.SetTabCaption(tab, rs[1].TextOrEmpty());
     table.Tabs()->setCurrentIndex(0);
 }
 
 void LoadClickTable(const forms::Form* form) {
     ClickTable& table = TableOf(form);
-    auto rs = MainStore().OpenRecordset(PlacedQuery);
+    auto rs = MainStore().OpenSnapshot(PlacedQuery);
     for (auto& product : rs) {
         TouchButton* button = table.Button(values::CInt16(product[u"Tab"].Double()));
         button->SetCaption(TrimNull(product[u"ProdDescription"]) + u" = "_s + product[u"UnitPrice"].TextOrEmpty());

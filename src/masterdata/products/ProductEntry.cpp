@@ -30,7 +30,7 @@ const auto NoPicture = u"Thumbnail (icon)"_s;
 // Nothing is chosen at first.
 void FillChoices(QComboBox* list, const QString& query, QStringView field) {
     const QSignalBlocker quiet(list);
-    auto rs = MainStore().OpenRecordset(query);
+    auto rs = MainStore().OpenSnapshot(query);
     for (auto& row : rs) list->addItem(row[field].TextOrEmpty());
     list->setCurrentIndex(-1);
 }
