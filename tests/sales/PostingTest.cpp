@@ -80,9 +80,8 @@ TEST_F(PostingTest, AStockThatCannotBeWrittenIsWaitedForUntilItCanOrTheCashierLe
     };
     refuse();
     {
-        const AtNotice notice([this] {
-            drivers::DoBehind(folder.path(), u"DROP TRIGGER stop"_s, u"DROP FUNCTION stop CASCADE"_s);
-        });
+        const AtNotice notice(
+            [this] { drivers::DoBehind(folder.path(), u"DROP TRIGGER stop"_s, u"DROP FUNCTION stop CASCADE"_s); });
         Keys(u"100{Enter}300{Enter}{F5}");
         EXPECT_TRUE(notice.Said().startsWith(u"The stock of Novine can't be written yet."_s))
             << notice.Said().toStdString();

@@ -28,7 +28,8 @@ void DoBehind(const QString& programFolder, const QString& onFile, const QString
         return;
     }
     const std::unique_ptr<PGconn, void (*)(PGconn*)> server(PQconnectdb(place.Address().toUtf8()), PQfinish);
-    const QString sql = u"SET client_min_messages = warning; SET search_path = %1; %2"_s.arg(place.SchemaName(), onServer);
+    const QString sql =
+        u"SET client_min_messages = warning; SET search_path = %1; %2"_s.arg(place.SchemaName(), onServer);
     const std::unique_ptr<PGresult, void (*)(PGresult*)> result(PQexec(server.get(), sql.toUtf8()), PQclear);
     if (PQresultStatus(result.get()) != PGRES_COMMAND_OK) throw std::runtime_error(PQerrorMessage(server.get()));
 }

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-// On which of the engines the tests of a process have their main stores: in files, or with VELTON_TESTS_ON=server on the
-// server that they share.
+// On which of the engines the tests of a process have their main stores: in files, or with VELTON_TESTS_ON=server on
+// the server that they share.
 namespace drivers {
 
 bool OnServer();

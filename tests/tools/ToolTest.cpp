@@ -74,9 +74,7 @@ QStringList LinesOf(const QByteArray& output, const QString& before) {
 
 class ToolTest : public testing::TestWithParam<Talk> {
 protected:
-    ToolTest() {
-        delivery::MakeProgramFolder(folder_.filePath(u"shop"_s), {.server = drivers::ServerForTest()});
-    }
+    ToolTest() { delivery::MakeProgramFolder(folder_.filePath(u"shop"_s), {.server = drivers::ServerForTest()}); }
 
     QString Answer(const QString& command) const {
         QProcess process;

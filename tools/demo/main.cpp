@@ -1,5 +1,5 @@
-// velton-demo [FOLDER] [--server ADDRESS]: plays a working day of the demo shop through the real screens, off-screen, in FOLDER (by
-// default demo-day here, made anew), and prints the receipts and the day's figures that it leaves there.
+// velton-demo [FOLDER] [--server ADDRESS]: plays a working day of the demo shop through the real screens, off-screen,
+// in FOLDER (by default demo-day here, made anew), and prints the receipts and the day's figures that it leaves there.
 
 #include <CLI/CLI.hpp>
 
