@@ -81,7 +81,7 @@ LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/cmake/leaks.txt:print_suppressions
 
 # velton_test(NAME LINK targets... SOURCES files... [PLAIN] [BOTH_ENGINES] [FILES_ALONE tests...]): one test program a
 # room, run off-screen; a plain one knows no screens. With BOTH_ENGINES it runs a second time with its main stores on a
-# server, but for the tests that are about files.
+# server, but for the tests that are about files, or that would only say the same again.
 function(velton_test name)
     cmake_parse_arguments(TEST "PLAIN;BOTH_ENGINES" "" "LINK;SOURCES;ENVIRONMENT;FILES_ALONE" ${ARGN})
     add_executable(test_${name} ${TEST_SOURCES})
