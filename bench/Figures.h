@@ -2,6 +2,7 @@
 
 #include "bench/BusyTill.h"
 #include "bench/Harness.h"
+#include "bench/ServerShop.h"
 #include "bench/Shop.h"
 
 namespace bench {
@@ -27,6 +28,11 @@ Figure AllFoundFigure(const BusyTill& till, bool anywhere);
 // These two write to the till.
 Figure PlacementFigure(const BusyTill& till);
 Figure RecipeFigure(const BusyTill& till);
+// The store on a server. These write to it, but for the reading ones.
+Figure ServerLookupFigure(const ServerShop& shop);
+Figure ServerTaxReportFigure(const ServerShop& shop);
+Figure ServerOpeningFigure(const ServerShop& shop);
+Figure ServerPostingFigure(const ServerShop& shop);
 // Every report over a day, a month and all days of a shop.
 std::vector<Figure> ReportFigures(const LateShop& shop);
 

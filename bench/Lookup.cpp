@@ -1,5 +1,7 @@
 // One product by its code, as every scan at the till asks for it: a new query text each time, all fields read.
 
+#include "bench/Lookup.h"
+
 #include <QSqlQuery>
 
 #include "bench/Figures.h"
@@ -15,30 +17,6 @@ namespace {
 
 const auto Query = u"SELECT * FROM Products WHERE ProdCode = '%1'"_s;
 constexpr auto PreparedQuery = "SELECT * FROM Products WHERE ProdCode = ?";
-
-constexpr int CodeCount = 200'000;
-
-// Goes round and round a list of codes.
-class Codes {
-public:
-    explicit Codes(const Shop& shop) : codes_(shop.RandomCodes(CodeCount)) {}
-    const QString& Next() {
-        if (next_ == codes_.size()) next_ = 0;
-        return codes_[next_++];
-    }
-
-private:
-    std::vector<QString> codes_;
-    size_t next_ = 0;
-};
-
-Work Ours(const Shop& shop) {
-    std::shared_ptr<store::Database> main = store::Database::Open(shop.StorePath(), store::MainSchema());
-    return [main, codes = Codes(shop)]() mutable {
-        auto product = main->OpenRecordset(Query.arg(codes.Next()));
-        return ReadByName(product);
-    };
-}
 
 Work ByHand(const Shop& shop, qint64 (*read)(RawStatement&)) {
     const auto raw = std::make_shared<RawStore>(shop.StorePath());
@@ -66,9 +44,17 @@ Work ThroughQtSql(const Shop& shop) {
 
 }  // namespace
 
+Work LookUp(const store::Place& place, const Shop& shop) {
+    std::shared_ptr<store::Database> main = store::Database::Open(place, store::MainSchema());
+    return [main, codes = Codes(shop)]() mutable {
+        auto product = main->OpenRecordset(Query.arg(codes.Next()));
+        return ReadByName(product);
+    };
+}
+
 Figure LookupFigure(const Shop& shop) {
     return {.name = "lookup by code, fresh query text",
-            .ours = [&shop] { return Ours(shop); },
+            .ours = [&shop] { return LookUp(shop.StorePath(), shop); },
             .yardsticks = {{"raw SQLite, prepared, Qt values", [&shop] { return ByHand(shop, ReadAsQtValues); }, 2},
                            {"raw SQLite, prepared, bare columns", [&shop] { return ByHand(shop, ReadBare); }},
                            {"QSqlQuery, fresh text", [&shop] { return ThroughQtSql(shop); }, 1}},

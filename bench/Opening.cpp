@@ -1,5 +1,7 @@
 // A cursor on a whole table costs the same, however long the table is.
 
+#include "bench/Opening.h"
+
 #include "bench/Figures.h"
 #include "store/Database.h"
 
@@ -7,23 +9,19 @@ using namespace Qt::StringLiterals;
 
 namespace bench {
 
-namespace {
-
-Work Open(const Shop& shop) {
-    std::shared_ptr<store::Database> main = store::Database::Open(shop.StorePath(), store::MainSchema());
+Work OpenLines(const store::Place& place) {
+    std::shared_ptr<store::Database> main = store::Database::Open(place, store::MainSchema());
     return [main] {
         auto lines = main->OpenRecordset(u"SELECT * FROM SalesDetails"_s);
         return qint64{lines.AtEOF() ? 0 : 1};
     };
 }
 
-}  // namespace
-
 Figure OpeningFigure(const Shop& big, const Shop& small) {
     return {.name = "open a cursor on all invoice lines",
-            .ours = [&big] { return Open(big); },
+            .ours = [&big] { return OpenLines(big.StorePath()); },
             .yardsticks = {{"the same on " + std::to_string(small.Size().lines) + " lines",
-                            [&small] { return Open(small); }, 1.5}},
+                            [&small] { return OpenLines(small.StorePath()); }, 1.5}},
             .warmUp = 100};
 }
 

@@ -2,11 +2,10 @@
 // the period. Until the last is done they are in the log only; then the log is brought to the disk once.
 
 #include "bench/Figures.h"
+#include "bench/PostingTill.h"
 #include "bench/RawStore.h"
-#include "core/dbModule.h"
-#include "output/Folder.h"
-#include "sales/Stock.h"
 #include "store/StorePath.h"
+#include "values/Money.h"
 
 using namespace Qt::StringLiterals;
 using values::Money;
@@ -16,111 +15,15 @@ namespace bench {
 namespace {
 
 constexpr int LineCount = 20;
-constexpr int Commits = 1 + 2 * LineCount + 1;
 constexpr int PostingsEach = 50;
-constexpr int FirstNumber = 10'000'000;  // far above the invoices of the shop
 
-// Invoices to post, the same for every contestant.
-class Invoices {
-public:
-    explicit Invoices(const Shop& shop) : products_(shop.Products()) {}
-
-    int Number() const { return number_; }
-    void Next() { ++number_; }
-    const Goods& Line(int line) const {
-        return products_[static_cast<size_t>(number_ * LineCount + line) * 7919 % products_.size()];
-    }
-    qint64 Total() const {
-        qint64 total = 0;
-        for (int i = 0; i < LineCount; ++i) total += Line(i).price;
-        return total;
-    }
-
-private:
-    const std::vector<Goods>& products_;
-    int number_ = FirstNumber;
-};
-
-const QDate Day(2026, 1, 2);
-const QTime Noon(12, 0);
-
-// The till's cursors, open as long as the sales screen is.
-class TillStore {
-public:
-    explicit TillStore(const QString& folder) {
-        output::SetProgramFolder(folder);
-        OpenMainStore();
-        invoices_ = MainStore().OpenRecordset(u"SELECT * FROM Invoices"_s);
-        lines_ = MainStore().OpenRecordset(u"SELECT * FROM SalesDetails"_s);
-        period_ = MainStore().OpenRecordset(u"SELECT * FROM Sales WHERE SalesID = '1'"_s);
-    }
-    ~TillStore() {
-        for (auto* cursor : {&invoices_, &lines_, &period_}) cursor->Close();
-        CloseStores();
-    }
-    TillStore(const TillStore&) = delete;
-    TillStore& operator=(const TillStore&) = delete;
-
-    void Post(const Invoices& invoice) {
-        store::Burst burst(MainStore());
-        AddInvoice(invoice);
-        for (int i = 0; i < LineCount; ++i) AddLine(invoice.Number(), invoice.Line(i));
-        period_.Edit();
-        period_[u"TotalSales"] = Money::FromUnits(invoice.Total());
-        period_[u"DateStoped"] = Day;
-        period_[u"TimeStoped"] = Noon;
-        period_.Update();
-        burst.End();
-    }
-
-private:
-    void AddInvoice(const Invoices& invoice) {
-        invoices_.AddNew();
-        invoices_[u"Kas"] = 0;
-        invoices_[u"SalesID"] = u"1"_s;
-        invoices_[u"InvoiceID"] = QString::number(invoice.Number());
-        invoices_[u"OrNo"] = QString::number(invoice.Number());
-        invoices_[u"CashierID"] = u"2"_s;
-        invoices_[u"CashierName"] = u"kasir"_s;
-        invoices_[u"PaymentType"] = 0;
-        invoices_[u"DateSold"] = Day;
-        invoices_[u"TimeSold"] = Noon;
-        invoices_[u"CashAmount"] = Money::FromUnits(invoice.Total());
-        invoices_[u"TaxTotal"] = Money();
-        invoices_[u"CheckAmount"] = Money();
-        invoices_[u"CheckNo"] = Money();
-        invoices_[u"Bank"] = u" "_s;
-        invoices_[u"Kupac"] = u""_s;
-        invoices_[u"IB"] = u""_s;
-        invoices_.Update();
-    }
-
-    void AddLine(int number, const Goods& goods) {
-        lines_.AddNew();
-        lines_[u"Kas"] = 0;
-        lines_[u"InvoiceID"] = QString::number(number);
-        lines_[u"ProdCode"] = goods.code;
-        lines_[u"ProdDescription"] = goods.name;
-        lines_[u"UnitPrice"] = Money::FromUnits(goods.price);
-        lines_[u"QtySold"] = Money::FromWhole(1);
-        TakeOffStock(goods.code, Money::FromWhole(1), [](const values::Error&) {});
-        lines_[u"Amount"] = Money::FromUnits(goods.price);
-        lines_[u"TaxPercent"] = Money::FromUnits(goods.TaxPercent());
-        lines_[u"TaxAmount"] = Money::FromUnits(goods.TaxIn(goods.price));
-        lines_[u"Unit"] = goods.unit;
-        lines_[u"TaxID"] = goods.TaxID();
-        lines_.Update();
-    }
-
-    store::Recordset invoices_, lines_, period_;
-};
-
-Work Ours(const Shop& shop, const QString& till) {
-    const auto store = std::make_shared<TillStore>(till);
-    return [store, invoice = Invoices(shop)]() mutable {
+Work Ours(const Shop& shop, const QString& folder) {
+    Invoices invoice(shop.Products(), LineCount);
+    const auto till = std::make_shared<PostingTill>(folder, invoice.Period());
+    return [till, invoice]() mutable {
         invoice.Next();
-        store->Post(invoice);
-        return qint64{Commits};
+        till->Post(invoice);
+        return qint64{invoice.Commits()};
     };
 }
 
@@ -142,10 +45,10 @@ public:
 
     void Post(const Invoices& invoice) {
         AddInvoice(invoice);
-        for (int i = 0; i < LineCount; ++i) AddLine(invoice.Number(), invoice.Line(i));
+        for (int i = 0; i < LineCount; ++i) AddLine(invoice, invoice.Line(i));
         changePeriod_.Bind(1, invoice.Total());
-        changePeriod_.Bind(2, Day.toJulianDay());
-        changePeriod_.Bind(3, Noon.msecsSinceStartOfDay() / 1000);
+        changePeriod_.Bind(2, invoice.Day().toJulianDay());
+        changePeriod_.Bind(3, invoice.Time().msecsSinceStartOfDay() / 1000);
         Run(changePeriod_);
         raw_.SyncLog();
     }
@@ -159,16 +62,16 @@ private:
     }
 
     void AddInvoice(const Invoices& invoice) {
-        const QByteArray number = QByteArray::number(invoice.Number());
+        const QByteArray number = invoice.Number().toUtf8();
         addInvoice_.Bind(1, number);
-        addInvoice_.Bind(2, Day.toJulianDay());
-        addInvoice_.Bind(3, Noon.msecsSinceStartOfDay() / 1000);
+        addInvoice_.Bind(2, invoice.Day().toJulianDay());
+        addInvoice_.Bind(3, invoice.Time().msecsSinceStartOfDay() / 1000);
         addInvoice_.Bind(4, invoice.Total());
         Run(addInvoice_);
     }
 
-    void AddLine(int invoice, const Goods& goods) {
-        const QByteArray number = QByteArray::number(invoice);
+    void AddLine(const Invoices& invoice, const Goods& goods) {
+        const QByteArray number = invoice.Number().toUtf8();
         const QByteArray code = goods.code.toUtf8();
         const QByteArray name = goods.name.toUtf8();
         const QByteArray unit = goods.unit.toUtf8();
@@ -194,7 +97,7 @@ private:
 
 Work ByHand(const Shop& shop, const QString& till) {
     const auto store = std::make_shared<HandStore>(store::MainPlace(till).Path());
-    return [store, invoice = Invoices(shop)]() mutable {
+    return [store, invoice = Invoices(shop.Products(), LineCount)]() mutable {
         const qint64 before = store->ChangedRows();
         invoice.Next();
         store->Post(invoice);

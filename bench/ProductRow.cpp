@@ -48,6 +48,14 @@ qint64 ReadAsQtValues(RawStatement& row) {
     return digest;
 }
 
+qint64 ReadAsQtValues(const RawAnswer& answer, int firstColumn) {
+    qint64 digest = 0;
+    for (int column = 0; column < ProductColumns; ++column)
+        digest += IsText[column] ? DigestOf(answer.Text(0, firstColumn + column))
+                                 : answer.Integer(0, firstColumn + column);
+    return digest;
+}
+
 qint64 ReadBare(RawStatement& row) {
     qint64 digest = 0;
     for (int column = 0; column < ProductColumns; ++column)

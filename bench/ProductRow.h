@@ -2,6 +2,7 @@
 
 #include <QVariant>
 
+#include "bench/RawServer.h"
 #include "bench/RawStore.h"
 #include "store/Recordset.h"
 
@@ -15,6 +16,7 @@ constexpr int ProductColumns = 13;
 qint64 ReadByName(store::Recordset& row);
 // All columns as QString and qint64, as any Qt program would need them.
 qint64 ReadAsQtValues(RawStatement& row);
+qint64 ReadAsQtValues(const RawAnswer& answer, int firstColumn);
 // The columns where SQLite has them; nothing is copied.
 qint64 ReadBare(RawStatement& row);
 

@@ -1,5 +1,7 @@
 // The tax report by day over a period in which three of ten lines were sold, read to its end.
 
+#include "bench/TaxReport.h"
+
 #include "bench/Figures.h"
 #include "bench/RawStore.h"
 #include "store/Database.h"
@@ -24,21 +26,6 @@ constexpr auto HandQuery =
 const QDate From = Shop::DayAt(0.4);
 const QDate To = Shop::DayAt(0.7);
 
-Work Ours(const Shop& shop) {
-    std::shared_ptr<store::Database> main = store::Database::Open(shop.StorePath(), store::MainSchema());
-    return [main] {
-        qint64 digest = 0;
-        auto rows = main->OpenRecordset(Query.arg(From.toString(u"MM-dd-yyyy"), To.toString(u"MM-dd-yyyy")));
-        for (auto& row : rows) {
-            digest += row[u"TaxID"].Text()[0].unicode() + row[u"Name"].Text()[0].unicode();
-            digest += row[u"Percent"].Money().Units() + row[u"DateSold"].Get().ToDate().toJulianDay();
-            for (const QStringView sum : {u"Porez", u"IznosSaPorezom", u"IznosBezPoreza"})
-                digest += row[sum].Money().Units();
-        }
-        return digest;
-    };
-}
-
 Work ByHand(const Shop& shop) {
     const auto raw = std::make_shared<RawStore>(shop.StorePath());
     const auto statement = std::make_shared<RawStatement>(raw->Prepare(HandQuery));
@@ -57,9 +44,24 @@ Work ByHand(const Shop& shop) {
 
 }  // namespace
 
+Work ReadTaxReport(const store::Place& place, QDate from, QDate to) {
+    std::shared_ptr<store::Database> main = store::Database::Open(place, store::MainSchema());
+    return [main, from, to] {
+        qint64 digest = 0;
+        auto rows = main->OpenRecordset(Query.arg(from.toString(u"MM-dd-yyyy"), to.toString(u"MM-dd-yyyy")));
+        for (auto& row : rows) {
+            digest += row[u"TaxID"].Text()[0].unicode() + row[u"Name"].Text()[0].unicode();
+            digest += row[u"Percent"].Money().Units() + row[u"DateSold"].Get().ToDate().toJulianDay();
+            for (const QStringView sum : {u"Porez", u"IznosSaPorezom", u"IznosBezPoreza"})
+                digest += row[sum].Money().Units();
+        }
+        return digest;
+    };
+}
+
 Figure TaxReportFigure(const Shop& shop) {
     return {.name = "tax report by day, 3 of 10 lines",
-            .ours = [&shop] { return Ours(shop); },
+            .ours = [&shop] { return ReadTaxReport(shop.StorePath(), From, To); },
             .yardsticks = {{"the query by hand in raw SQLite", [&shop] { return ByHand(shop); }, 1.2}}};
 }
 

@@ -57,6 +57,7 @@ int Measure(const Job& job) {
     shop.CopyTo(till);
     const bench::BusyTill busy(shop, data + u"/busy"_s);
     const bench::BusyTill office(shop, data + u"/office"_s);
+    const bench::ServerShop server(shop, small, data + u"/server-till"_s);
     const bench::LateShop old(data, job.quick ? QuickShop : OldShop);
 
     std::vector figures{
@@ -78,6 +79,10 @@ int Measure(const Job& job) {
         bench::AllFoundFigure(busy, true),
         bench::PlacementFigure(office),
         bench::RecipeFigure(office),
+        bench::ServerLookupFigure(server),
+        bench::ServerTaxReportFigure(server),
+        bench::ServerOpeningFigure(server),
+        bench::ServerPostingFigure(server),
     };
     std::ranges::move(bench::ReportFigures(old), std::back_inserter(figures));
     bench::Register(figures, job.quick ? bench::Effort{2, 0.02, 10} : bench::Effort{15, 0.3, 5'000});

@@ -160,7 +160,9 @@ Server& Server::Running() {
     return *server;
 }
 
-Server::Server() : folder_(FolderTemplate(Room)) {
+Server::Server() : Server(FolderTemplate(Room)) {}
+
+Server::Server(const QString& folderTemplate) : folder_(folderTemplate) {
     RemoveFolderWithUs();
     MakeData();
     Start();

@@ -17,6 +17,8 @@ QString InUrl(const QString& text);
 class Server {
 public:
     Server();
+    // With its folder elsewhere, by a template as QTemporaryDir takes it.
+    explicit Server(const QString& folderTemplate);
     ~Server();
     Server(const Server&) = delete;
     Server& operator=(const Server&) = delete;
