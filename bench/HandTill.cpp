@@ -12,10 +12,8 @@ constexpr std::pair<const char*, const char*> Statements[] = {
     {"durably", "SET synchronous_commit = on"},
     {"flush", "SELECT setval('velton_burst', 1)"},
     {"lock", "SELECT pg_advisory_xact_lock_shared(695321261, 0)"},
-    {"lock_invoices",
-     "SELECT pg_advisory_xact_lock_shared(695321261, 0), pg_advisory_xact_lock(695321261, 442087417)"},
-    {"lock_lines",
-     "SELECT pg_advisory_xact_lock_shared(695321261, 0), pg_advisory_xact_lock(695321261, -1832656353)"},
+    {"lock_invoices", "SELECT pg_advisory_xact_lock_shared(695321261, 0), pg_advisory_xact_lock(695321261, 442087417)"},
+    {"lock_lines", "SELECT pg_advisory_xact_lock_shared(695321261, 0), pg_advisory_xact_lock(695321261, -1832656353)"},
     {"find_period", R"(SELECT "RowKey" FROM "Sales" WHERE ("SalesID_folded" = ($1::text COLLATE "C")))"},
     {"add_invoice",
      R"(INSERT INTO "Invoices" ("Kas", "SalesID", "InvoiceID", "OrNo", "CashierID", "CashierName", "PaymentType",
@@ -30,7 +28,7 @@ constexpr std::pair<const char*, const char*> Statements[] = {
     WHERE ("SIF_folded" = ($1::text COLLATE "C")) ORDER BY "RowKey")"},
     {"read_product",
      R"(SELECT "ID", "ID", "ProdCode", "ProdDescription", "Qty", "Unit", "UnitPrice", "UnitPricebezPDV", "VPUnitPrice",
-    "VPUnitPricebezPDV", "TaxID", "TaxPercent", "Pict", "Tab" FROM "Products" WHERE "ID" = ANY($1::bigint[]))"},
+    "VPUnitPricebezPDV", "TaxID", "TaxPercent", "Pict", "Tab" FROM "Products" WHERE "ID" = $1::bigint)"},
     {"change_product",
      R"(UPDATE "Products" SET "Qty" = $1::bigint WHERE "ID" = $2::bigint AND "ID" IS NOT DISTINCT FROM $3::bigint
     AND "ProdCode" IS NOT DISTINCT FROM $4::text AND "ProdDescription" IS NOT DISTINCT FROM $5::text
@@ -45,15 +43,11 @@ constexpr std::pair<const char*, const char*> Statements[] = {
     $7::bigint, $8::bigint, $9::bigint, $10::text, $11::text RETURNING "RowKey")"},
     {"read_period",
      R"(SELECT "RowKey", "SalesID", "Kas", "UserID", "DateGenerated", "TimeGenerated", "TotalSales", "DateStoped",
-    "TimeStoped", "Closed", "Payed", "Grupni" FROM "Sales" WHERE "RowKey" = ANY($1::bigint[]))"},
+    "TimeStoped", "Closed", "Payed", "Grupni" FROM "Sales" WHERE "RowKey" = $1::bigint)"},
     {"change_period",
      R"(UPDATE "Sales" SET "TotalSales" = $1::bigint, "DateStoped" = $2::bigint, "TimeStoped" = $3::bigint
     WHERE "RowKey" = $4::bigint)"},
 };
-
-QByteArray Array(const char* number) {
-    return QByteArray("{") + number + '}';
-}
 
 QByteArray DayOf(const Invoices& invoice) {
     return QByteArray::number(invoice.Day().toJulianDay());
@@ -101,13 +95,13 @@ qint64 HandTill::TakeOffStock(const Goods& goods) {
     const QByteArray code = goods.code.toUtf8();
     const RawAnswer found = raw_.Ask({"find_product", {code.constData()}});
     raw_.Ask({"find_parts", {code.constData()}});
-    const QByteArray row = Array(found.Bytes(0, 0));
-    const RawAnswer product = raw_.Ask({"read_product", {row.constData()}});
+    const char* row = found.Bytes(0, 0);
+    const RawAnswer product = raw_.Ask({"read_product", {row}});
     const QByteArray left = QByteArray::number(product.Integer(0, quantity) - values::Money::Scale);
-    std::vector<const char*> values = {left.constData(), product.Bytes(0, 0)};
+    std::vector<const char*> values = {left.constData(), row};
     for (int column = 1; column < columns; ++column) values.push_back(product.Bytes(0, column));
     const qint64 written = raw_.AskTogether({{"lock"}, {"change_product", values}}).Affected();
-    raw_.Ask({"read_product", {row.constData()}});
+    raw_.Ask({"read_product", {row}});
     return written;
 }
 
@@ -120,20 +114,17 @@ qint64 HandTill::AddLine(const Invoices& invoice, const Goods& goods) {
     return raw_
         .AskTogether({{"lock_lines"},
                       {"add_line",
-                       {"0", number.constData(), code.constData(), name.constData(), price.constData(),
-                        one.constData(), price.constData(), percent.constData(), tax.constData(), unit.constData(),
-                        taxId.constData()}}})
+                       {"0", number.constData(), code.constData(), name.constData(), price.constData(), one.constData(),
+                        price.constData(), percent.constData(), tax.constData(), unit.constData(), taxId.constData()}}})
         .Affected();
 }
 
 qint64 HandTill::ChangePeriod(const Invoices& invoice) {
-    const QByteArray row = Array(period_.constData());
-    raw_.Ask({"read_period", {row.constData()}});
+    raw_.Ask({"read_period", {period_.constData()}});
     const QByteArray day = DayOf(invoice), time = TimeOf(invoice), total = QByteArray::number(invoice.Total());
     return raw_
-        .AskTogether({{"lock"},
-                      {"change_period",
-                       {total.constData(), day.constData(), time.constData(), period_.constData()}}})
+        .AskTogether(
+            {{"lock"}, {"change_period", {total.constData(), day.constData(), time.constData(), period_.constData()}}})
         .Affected();
 }
 

@@ -51,8 +51,8 @@ qint64 ReadAsQtValues(RawStatement& row) {
 qint64 ReadAsQtValues(const RawAnswer& answer, int firstColumn) {
     qint64 digest = 0;
     for (int column = 0; column < ProductColumns; ++column)
-        digest += IsText[column] ? DigestOf(answer.Text(0, firstColumn + column))
-                                 : answer.Integer(0, firstColumn + column);
+        digest +=
+            IsText[column] ? DigestOf(answer.Text(0, firstColumn + column)) : answer.Integer(0, firstColumn + column);
     return digest;
 }
 

@@ -15,8 +15,8 @@ bool RawAnswer::IsGood() const {
 RawServer::RawServer(const QString& address) {
     const auto place = store::Place::Server(address);
     connection_.reset(PQconnectdb(place.Address().toUtf8().constData()));
-    for (const std::string& setting : {"SET search_path TO " + store::Quoted(place.SchemaName()),
-                                       std::string("SET jit = off")})
+    for (const std::string& setting :
+         {"SET search_path TO " + store::Quoted(place.SchemaName()), std::string("SET jit = off")})
         Execute(QByteArray::fromStdString(setting));
 }
 

@@ -49,9 +49,8 @@ Figure ServerTaxReportFigure(const ServerShop& shop) {
     return {
         .name = "server: tax report of a month",
         .ours = [&shop] { return ReadTaxReport(store::Place::Server(shop.Address()), From, To); },
-        .yardsticks = {
-            {"the same statement by hand in libpq", [&shop] { return ReportByHand(shop, SameReport); }, 1.2},
-            {"plain SQL on the same tables", [&shop] { return ReportByHand(shop, PlainReport); }}}};
+        .yardsticks = {{"the same statement by hand in libpq", [&shop] { return ReportByHand(shop, SameReport); }, 1.2},
+                       {"plain SQL on the same tables", [&shop] { return ReportByHand(shop, PlainReport); }}}};
 }
 
 Figure ServerOpeningFigure(const ServerShop& shop) {

@@ -33,8 +33,7 @@ void Copy(const Shop& shop, const QString& address) {
 }  // namespace
 
 // What the server would do by itself some time, it does before the clock runs.
-ServerShop::Copies::Copies(const Shop& itsBig, const Shop& itsSmall)
-    : server(QDir::tempPath() + u"/velton-XXXXXX"_s) {
+ServerShop::Copies::Copies(const Shop& itsBig, const Shop& itsSmall) : server(QDir::tempPath() + u"/velton-XXXXXX"_s) {
     server.Start(Settings);
     Copy(itsBig, server.Url(u"shops"_s));
     Copy(itsSmall, server.Url(u"shops"_s, u"small"_s));
