@@ -10,40 +10,69 @@ namespace store::postgres {
 
 namespace {
 
-QByteArray TextOf(auto number) {
+QByteArray NumberText(auto number) {
     char text[32];
     const auto end = std::to_chars(std::begin(text), std::end(text), number).ptr;
     return {text, end - text};
 }
 
+QByteArray Checked(QByteArray text) {
+    if (text.contains('\0'))
+        throw StoreError(ConversionFailed, u"A text with a zero character cannot lie on a server."_s);
+    return text.isNull() ? QByteArray("") : std::move(text);
+}
+
+// A null one for null.
+QByteArray TextOf(const dialect::BoundValue& value) {
+    if (const auto* text = std::get_if<QByteArray>(&value)) return Checked(*text);
+    if (const auto* integer = std::get_if<qint64>(&value)) return NumberText(*integer);
+    if (const auto* real = std::get_if<double>(&value)) return NumberText(*real);
+    return {};
+}
+
+void AppendQuoted(QByteArray& list, const QByteArray& text) {
+    list += '"';
+    for (const char byte : text) {
+        if (byte == '"' || byte == '\\') list += '\\';
+        list += byte;
+    }
+    list += '"';
+}
+
 }  // namespace
 
 void Arguments::Add(const dialect::BoundValue& value) {
-    if (const auto* text = std::get_if<QByteArray>(&value))
-        Add(*text);
-    else if (const auto* integer = std::get_if<qint64>(&value))
-        Add(*integer);
-    else if (const auto* real = std::get_if<double>(&value))
-        texts_.push_back(TextOf(*real));
-    else
-        texts_.emplace_back();
+    texts_.push_back(TextOf(value));
 }
 
 void Arguments::Add(qint64 number) {
-    texts_.push_back(TextOf(number));
+    texts_.push_back(NumberText(number));
 }
 
 void Arguments::Add(QByteArray text) {
-    if (text.contains('\0'))
-        throw StoreError(ConversionFailed, u"A text with a zero character cannot lie on a server."_s);
-    texts_.push_back(text.isNull() ? QByteArray("") : std::move(text));
+    texts_.push_back(Checked(std::move(text)));
 }
 
 void Arguments::Add(std::span<const qint64> numbers) {
     QByteArray list("{");
     for (const qint64 number : numbers) {
         if (list.size() > 1) list += ',';
-        list += TextOf(number);
+        list += NumberText(number);
+    }
+    texts_.push_back(list + '}');
+}
+
+void Arguments::Add(std::span<const dialect::BoundValue> values) {
+    QByteArray list("{");
+    for (const dialect::BoundValue& value : values) {
+        if (list.size() > 1) list += ',';
+        const QByteArray text = TextOf(value);
+        if (text.isNull())
+            list += "NULL";
+        else if (std::holds_alternative<QByteArray>(value))
+            AppendQuoted(list, text);
+        else
+            list += text;
     }
     texts_.push_back(list + '}');
 }

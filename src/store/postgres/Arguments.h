@@ -18,7 +18,9 @@ public:
     void Add(const dialect::BoundValue& value);
     void Add(qint64 number);
     void Add(QByteArray text);
-    void Add(std::span<const qint64> numbers);  // as one array
+    // As one array.
+    void Add(std::span<const qint64> numbers);
+    void Add(std::span<const dialect::BoundValue> values);
 
     int Count() const { return static_cast<int>(texts_.size()); }
     // As the client library takes them; they stay valid until the next Add.

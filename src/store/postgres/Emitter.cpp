@@ -85,9 +85,10 @@ private:
         const auto parameter = [this](size_t behind) {
             return '$' + std::to_string(query_.columnSlots + behind) + "::bigint";
         };
+        query_.one = head + from + " = " + parameter(1);
         query_.some = head + from + " = ANY(" + parameter(1) + "[])";
         query_.after = head + from + " > " + parameter(1) + " AND " + KeySql(0) + " <= " + parameter(2) + " ORDER BY " +
-                       KeySql(0) + " LIMIT " + parameter(3);
+                       KeySql(0) + " LIMIT ";
     }
 
     std::string From(const BoundSource& source) {

@@ -92,8 +92,8 @@ void PostgresEngine::ReadAfter(const dialect::Query& query, qint64 after, qint64
                                std::vector<qint64>& keys, RowBlock& rows) {
     const ServerQuery& prepared = PreparedOf(query);
     Arguments arguments = Bound(query, prepared.columnSlots);
-    for (const qint64 number : {after, upTo, qint64{limit}}) arguments.Add(number);
-    const Answer answer = connection_->Read(prepared.after, arguments);
+    for (const qint64 number : {after, upTo}) arguments.Add(number);
+    const Answer answer = connection_->Read(prepared.after + std::to_string(limit), arguments);
     rows.Clear(OutputColumns(query));
     AppendKeys(answer, keys);
     for (int row = 0; row < answer.Rows(); ++row) answer.AppendRow(rows, row, 1);
@@ -102,8 +102,9 @@ void PostgresEngine::ReadAfter(const dialect::Query& query, qint64 after, qint64
 void PostgresEngine::ReadRows(const dialect::Query& query, std::span<const qint64> keys, RowBlock& rows) {
     const ServerQuery& prepared = PreparedOf(query);
     Arguments arguments = Bound(query, prepared.columnSlots);
-    arguments.Add(keys);
-    const Answer answer = connection_->Read(prepared.some, arguments);
+    const bool isOne = keys.size() == 1;
+    isOne ? arguments.Add(keys.front()) : arguments.Add(keys);
+    const Answer answer = connection_->Read(isOne ? prepared.one : prepared.some, arguments);
     std::unordered_map<qint64, int> places;
     for (int row = 0; row < answer.Rows(); ++row) places.emplace(answer.Integer(row, 0), row);
     rows.Clear(OutputColumns(query));

@@ -32,7 +32,7 @@ QString Translated(char32_t below) {
 
 // Each letter of a text is looked for in the whole list, so most texts get a short one.
 QString FoldSql() {
-    constexpr char32_t latin = 0x250, cyrillic = 0x530, all = 0x20000;
+    constexpr char32_t latin = 0x180, cyrillic = 0x530, all = 0x20000;
     return uR"sql(
 CREATE FUNCTION velton_fold(t text) RETURNS text LANGUAGE plpgsql IMMUTABLE STRICT PARALLEL SAFE AS $velton$
 DECLARE
@@ -40,7 +40,7 @@ DECLARE
 BEGIN
     IF octet_length(folded) = char_length(folded) THEN
         RETURN folded;
-    ELSIF folded !~ '[^\u0001-\u024F]' THEN
+    ELSIF folded !~ '[^\u0001-\u017F]' THEN
         RETURN %1;
     ELSIF folded !~ '[^\u0001-\u052F]' THEN
         RETURN %2;
