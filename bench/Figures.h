@@ -33,12 +33,16 @@ Figure ServerLookupFigure(const ServerShop& shop);
 Figure ServerTaxReportFigure(const ServerShop& shop);
 Figure ServerOpeningFigure(const ServerShop& shop);
 Figure ServerPostingFigure(const ServerShop& shop);
+// Eight registers at once: the time of all of them divided by the invoices that came of it.
+Figure RegistersFigure(const ServerShop& shop, double seconds);
 // Every report over a day, a month and all days of a shop.
 std::vector<Figure> ReportFigures(const LateShop& shop);
 
 // Memory of the till in `till` after so many posted invoices, beside that of an empty window; prints its lines. False
 // when one of the programs failed.
 bool PrintMemory(const QString& till, int invoices);
+// What a server costs that is two milliseconds away; prints a line. False when it cannot be measured.
+bool PrintFarServer(const ServerShop& shop);
 // What the list of all invoices takes, and how it can be left; prints a line. False when the program failed.
 bool PrintAllInvoices(const LateShop& shop);
 

@@ -2,13 +2,11 @@
 
 #include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
 #include <cstdio>
-#include <stdexcept>
 
 #include "bench/RawServer.h"
+#include "delivery/Delivery.h"
 #include "store/Creation.h"
-#include "store/StorePath.h"
 
 using namespace Qt::StringLiterals;
 
@@ -59,11 +57,8 @@ QString ServerShop::SellingAddress() const {
 }
 
 QString ServerShop::FolderFor(const QString& address) const {
-    QDir().mkpath(folder_);
-    QFile ini(folder_ + u"/store.ini"_s);
-    const QByteArray text = "[main]\nurl=" + address.toUtf8() + '\n';
-    if (!ini.open(QIODevice::WriteOnly) || ini.write(text) != text.size())
-        throw std::runtime_error("cannot write " + ini.fileName().toStdString());
+    QDir(folder_).removeRecursively();
+    delivery::MakeProgramFolder(folder_, {.server = address});
     return folder_;
 }
 

@@ -21,7 +21,7 @@ public:
     QString Address() const;
     QString SmallAddress() const;
     QString SellingAddress() const;
-    // A program's folder whose main store is at this address.
+    // A new program's folder whose main store is at this address, where the last one was.
     QString FolderFor(const QString& address) const;
 
 private:

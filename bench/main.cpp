@@ -83,6 +83,7 @@ int Measure(const Job& job) {
         bench::ServerTaxReportFigure(server),
         bench::ServerOpeningFigure(server),
         bench::ServerPostingFigure(server),
+        bench::RegistersFigure(server, job.quick ? 0.2 : 3),
     };
     std::ranges::move(bench::ReportFigures(old), std::back_inserter(figures));
     bench::Register(figures, job.quick ? bench::Effort{2, 0.02, 10} : bench::Effort{15, 0.3, 5'000});
@@ -93,8 +94,10 @@ int Measure(const Job& job) {
     std::fflush(stdout);
     bench::TableReporter reporter(figures);
     if (benchmark::RunSpecifiedBenchmarks(&reporter) == 0) return 1;
-    const bool isWhole = benchmark::GetBenchmarkFilter().empty();
-    const bool weighed = !isWhole || (bench::PrintMemory(till, job.quick ? 5 : 100) && bench::PrintAllInvoices(old));
+    const std::string filter = benchmark::GetBenchmarkFilter();
+    bool weighed = !filter.empty() || (bench::PrintMemory(till, job.quick ? 5 : 100) && bench::PrintAllInvoices(old));
+    if (filter.empty() || filter.find("server") != std::string::npos)
+        weighed = bench::PrintFarServer(server) && weighed;
     PrintLoad("after");
     return weighed && reporter.Failures().empty() ? 0 : 1;
 }
