@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::chrono::milliseconds Distance{2};
 constexpr int LineCount = 20;
-constexpr int Rounds = 5;
+constexpr int Rounds = 3;
 constexpr double LongestPosting = 500;  // milliseconds
 constexpr int Patience = 60'000;        // milliseconds
 

@@ -33,8 +33,8 @@ Figure ServerLookupFigure(const ServerShop& shop);
 Figure ServerTaxReportFigure(const ServerShop& shop);
 Figure ServerOpeningFigure(const ServerShop& shop);
 Figure ServerPostingFigure(const ServerShop& shop);
-// Eight registers at once: the time of all of them divided by the invoices that came of it.
-Figure RegistersFigure(const ServerShop& shop, double seconds);
+// Several registers at once: the time divided by the invoices that all of them posted.
+Figure RegistersFigure(const ServerShop& shop, int count, double seconds);
 // Every report over a day, a month and all days of a shop.
 std::vector<Figure> ReportFigures(const LateShop& shop);
 

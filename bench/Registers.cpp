@@ -1,5 +1,5 @@
-// Eight registers of one shop that post at the same time, each a process, beside eight that are written by hand, and
-// beside commits of nothing but a row.
+// Registers of one shop that post at the same time, each a process, beside as many that are written by hand, and beside
+// commits of nothing but a row.
 
 #include <QCoreApplication>
 #include <QProcess>
@@ -13,7 +13,6 @@ namespace bench {
 
 namespace {
 
-constexpr int RegisterCount = 8;
 constexpr int Patience = 60'000;  // milliseconds
 
 class Process {
@@ -40,10 +39,10 @@ private:
 };
 
 // Gives the nanoseconds an invoice.
-Work AllAtOnce(const QString& who, const QString& place, int products, double seconds) {
+Work AllAtOnce(const QString& who, const QString& place, int count, int products, double seconds) {
     return [=] {
         std::vector<std::unique_ptr<Process>> registers;
-        for (int number = 0; number < RegisterCount; ++number)
+        for (int number = 0; number < count; ++number)
             registers.push_back(std::make_unique<Process>(who, place, number, products, seconds));
         for (const auto& one : registers) one->WaitUntilReady();
         for (const auto& one : registers) one->Begin();
@@ -55,21 +54,22 @@ Work AllAtOnce(const QString& who, const QString& place, int products, double se
 
 }  // namespace
 
-Figure RegistersFigure(const ServerShop& shop, double seconds) {
+Figure RegistersFigure(const ServerShop& shop, int count, double seconds) {
     const int products = shop.Big().Size().products;
-    const auto byHand = [&shop, products, seconds](const QString& who) {
-        return AllAtOnce(who, shop.SellingAddress(), products, seconds);
+    const auto byHand = [&shop, count, products, seconds](const QString& who) {
+        return AllAtOnce(who, shop.SellingAddress(), count, products, seconds);
     };
-    return {
-        .name = "server: 8 registers, an invoice of 5 lines",
-        .ours = [&shop, products,
-                 seconds] { return AllAtOnce(u"ours"_s, shop.FolderFor(shop.SellingAddress()), products, seconds); },
-        .yardsticks = {{"the same statements by hand in libpq", [byHand] { return byHand(u"hand"_s); }, 1.3},
-                       {"the commit of a single row", [byHand] { return byHand(u"rows"_s); }}},
-        .warmUp = 0,
-        .iterations = 1,
-        .repetitions = 5,
-        .timesItself = true};
+    return {.name = "server: " + std::to_string(count) + " registers, an invoice of 5 lines",
+            .ours =
+                [&shop, count, products, seconds] {
+                    return AllAtOnce(u"ours"_s, shop.FolderFor(shop.SellingAddress()), count, products, seconds);
+                },
+            .yardsticks = {{"the same statements by hand in libpq", [byHand] { return byHand(u"hand"_s); }, 1.3},
+                           {"the commit of a single row", [byHand] { return byHand(u"rows"_s); }}},
+            .warmUp = 0,
+            .iterations = 1,
+            .repetitions = 5,
+            .timesItself = true};
 }
 
 }  // namespace bench

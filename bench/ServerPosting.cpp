@@ -9,7 +9,7 @@ namespace bench {
 namespace {
 
 constexpr int LineCount = 20;
-constexpr int PostingsEach = 20;
+constexpr int PostingsEach = 10;
 
 Work Ours(const ServerShop& shop) {
     Invoices invoice(shop.Big().Products(), LineCount);
@@ -36,7 +36,7 @@ Figure ServerPostingFigure(const ServerShop& shop) {
     return {.name = "server: post 20 lines in a burst",
             .ours = [&shop] { return Ours(shop); },
             .yardsticks = {{"the same statements by hand in libpq", [&shop] { return ByHand(shop); }, 1.3}},
-            .warmUp = 10,
+            .warmUp = 5,
             .iterations = PostingsEach};
 }
 

@@ -1,12 +1,12 @@
 #include "bench/ServerShop.h"
 
-#include <QDir>
 #include <QElapsedTimer>
 #include <cstdio>
 
 #include "bench/RawServer.h"
 #include "delivery/Delivery.h"
 #include "store/Creation.h"
+#include "support/TestFolder.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,6 +16,7 @@ namespace {
 
 // Instead of the settings for tests.
 const std::vector<std::string> Settings = {"fsync=on", "shared_buffers=256MB", "max_wal_size=1GB", "min_wal_size=80MB"};
+constexpr qint64 Room = 512 << 20;
 
 void Copy(const Shop& shop, const QString& address) {
     QElapsedTimer time;
@@ -31,16 +32,17 @@ void Copy(const Shop& shop, const QString& address) {
 }  // namespace
 
 // What the server would do by itself some time, it does before the clock runs.
-ServerShop::Copies::Copies(const Shop& itsBig, const Shop& itsSmall) : server(QDir::tempPath() + u"/velton-XXXXXX"_s) {
-    server.Start(Settings);
-    Copy(itsBig, server.Url(u"shops"_s));
-    Copy(itsSmall, server.Url(u"shops"_s, u"small"_s));
+ServerShop::Copies::Copies(const Shop& big, const Shop& small, bool onDisk)
+    : server(onDisk ? QDir::tempPath() + u"/velton-XXXXXX"_s : FolderTemplate(Room)) {
+    if (onDisk) server.Start(Settings);
+    Copy(big, server.Url(u"shops"_s));
+    Copy(small, server.Url(u"shops"_s, u"small"_s));
     RawServer(server.Url(u"shops"_s)).Execute("VACUUM ANALYZE");
     RawServer(server.Url(u"postgres"_s)).Execute("CREATE DATABASE selling TEMPLATE shops STRATEGY file_copy");
 }
 
 const ServerShop::Copies& ServerShop::Filled() const {
-    if (!copies_) copies_.emplace(big_, small_);
+    if (!copies_) copies_.emplace(big_, small_, onDisk_);
     return *copies_;
 }
 

@@ -7,12 +7,12 @@
 
 namespace bench {
 
-// Shops on a server of our own, which brings commits to its disk as one is delivered to do. It is started and filled
-// when it is first asked for.
+// Shops on a server of our own, which brings commits to its disk as one is delivered to do; or one for tests, whose
+// figures tell nothing. It is started and filled when it is first asked for.
 class ServerShop {
 public:
-    ServerShop(const Shop& big, const Shop& small, QString folder)
-        : big_(big), small_(small), folder_(std::move(folder)) {}
+    ServerShop(const Shop& big, const Shop& small, QString folder, bool onDisk)
+        : big_(big), small_(small), folder_(std::move(folder)), onDisk_(onDisk) {}
 
     const Shop& Big() const { return big_; }
     const Shop& Small() const { return small_; }
@@ -26,7 +26,7 @@ public:
 
 private:
     struct Copies {
-        Copies(const Shop& itsBig, const Shop& itsSmall);
+        Copies(const Shop& big, const Shop& small, bool onDisk);
         drivers::Server server;
     };
     const Copies& Filled() const;
@@ -34,6 +34,7 @@ private:
     const Shop& big_;
     const Shop& small_;
     QString folder_;
+    bool onDisk_;
     mutable std::optional<Copies> copies_;
 };
 

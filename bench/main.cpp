@@ -57,7 +57,7 @@ int Measure(const Job& job) {
     shop.CopyTo(till);
     const bench::BusyTill busy(shop, data + u"/busy"_s);
     const bench::BusyTill office(shop, data + u"/office"_s);
-    const bench::ServerShop server(shop, small, data + u"/server-till"_s);
+    const bench::ServerShop server(shop, small, data + u"/server-till"_s, !job.quick);
     const bench::LateShop old(data, job.quick ? QuickShop : OldShop);
 
     std::vector figures{
@@ -83,7 +83,7 @@ int Measure(const Job& job) {
         bench::ServerTaxReportFigure(server),
         bench::ServerOpeningFigure(server),
         bench::ServerPostingFigure(server),
-        bench::RegistersFigure(server, job.quick ? 0.2 : 3),
+        bench::RegistersFigure(server, job.quick ? 2 : 8, job.quick ? 0.1 : 3),
     };
     std::ranges::move(bench::ReportFigures(old), std::back_inserter(figures));
     bench::Register(figures, job.quick ? bench::Effort{2, 0.02, 10} : bench::Effort{15, 0.3, 5'000});
@@ -96,8 +96,7 @@ int Measure(const Job& job) {
     if (benchmark::RunSpecifiedBenchmarks(&reporter) == 0) return 1;
     const std::string filter = benchmark::GetBenchmarkFilter();
     bool weighed = !filter.empty() || (bench::PrintMemory(till, job.quick ? 5 : 100) && bench::PrintAllInvoices(old));
-    if (filter.empty() || filter.find("server") != std::string::npos)
-        weighed = bench::PrintFarServer(server) && weighed;
+    if (filter.empty() || filter.starts_with("server")) weighed = bench::PrintFarServer(server) && weighed;
     PrintLoad("after");
     return weighed && reporter.Failures().empty() ? 0 : 1;
 }
