@@ -27,7 +27,11 @@ public:
             if (!process_.waitForReadyRead(Patience)) throw std::runtime_error("a register is not ready");
         process_.readLine();
     }
-    void Begin() { process_.write("go\n"); }
+    void Begin() {
+        process_.write("go\n");
+        // Else it is written when the end is waited for, one register after the other.
+        if (!process_.waitForBytesWritten(Patience)) throw std::runtime_error("a register does not listen");
+    }
     int Posted() {
         if (!process_.waitForFinished(Patience) || process_.exitCode() != 0)
             throw std::runtime_error("a register ended early");

@@ -59,6 +59,7 @@ QString ServerShop::SellingAddress() const {
 }
 
 QString ServerShop::FolderFor(const QString& address) const {
+    if (std::exchange(folderPointsTo_, address) == address) return folder_;
     QDir(folder_).removeRecursively();
     delivery::MakeProgramFolder(folder_, {.server = address});
     return folder_;

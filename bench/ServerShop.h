@@ -21,7 +21,7 @@ public:
     QString Address() const;
     QString SmallAddress() const;
     QString SellingAddress() const;
-    // A new program's folder whose main store is at this address, where the last one was.
+    // A program's folder whose main store is at this address; there is one at a time.
     QString FolderFor(const QString& address) const;
 
 private:
@@ -36,6 +36,7 @@ private:
     QString folder_;
     bool onDisk_;
     mutable std::optional<Copies> copies_;
+    mutable QString folderPointsTo_;
 };
 
 }  // namespace bench
