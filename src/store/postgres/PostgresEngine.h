@@ -58,12 +58,22 @@ public:
     QString Explain(const dialect::Query& query) override;
 
 private:
+    // A statement that writes: an INSERT of these columns; a change of them, which expects others to be as they were.
+    struct WriteShape {
+        enum class Kind { Insert, Change } kind;
+        const Table* table;
+        std::vector<int> columns;
+        std::vector<int> expected = {};
+        auto operator<=>(const WriteShape&) const = default;
+    };
+
     static const ServerQuery& PreparedOf(const dialect::Query& query);
     static Arguments Bound(const dialect::Query& query, size_t slots);
     Answer ReadWhole(const dialect::Query& query, const Client::TakeRow& takeRow = {});
 
     std::unique_ptr<Connection> connection_;
     const Schema schema_;
+    std::map<WriteShape, std::string> writes_;  // their texts
 };
 
 }  // namespace store::postgres

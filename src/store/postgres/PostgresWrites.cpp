@@ -7,6 +7,12 @@ namespace {
 
 using Right = Connection::Right;
 
+std::vector<int> ColumnsOf(std::span<const FieldChange> fields) {
+    std::vector<int> columns(fields.size());
+    std::ranges::transform(fields, columns.begin(), &FieldChange::column);
+    return columns;
+}
+
 std::string Parameter(int number, const Column& column) {
     return '$' + std::to_string(number) + "::" + TypeSql(column.type);
 }
@@ -55,7 +61,9 @@ qint64 PostgresEngine::Insert(const Table& table, std::span<const FieldChange> f
     });
     Arguments arguments;
     for (const FieldChange& field : given) arguments.Add(field.value);
-    return connection_->Write(Right::ToAdd, &table, InsertSql(table, given), arguments).Integer(0, 0);
+    std::string& sql = writes_[{WriteShape::Kind::Insert, &table, ColumnsOf(given)}];
+    if (sql.empty()) sql = InsertSql(table, given);
+    return connection_->Write(Right::ToAdd, &table, sql, arguments).Integer(0, 0);
 }
 
 bool PostgresEngine::Change(const Table& table, qint64 row, std::span<const FieldChange> fields,
@@ -64,7 +72,9 @@ bool PostgresEngine::Change(const Table& table, qint64 row, std::span<const Fiel
     for (const FieldChange& field : fields) arguments.Add(field.value);
     arguments.Add(row);
     for (const FieldChange& field : expected) arguments.Add(field.value);
-    return connection_->Write(Right::ToWriteOne, nullptr, ChangeSql(table, fields, expected), arguments).Affected() > 0;
+    std::string& sql = writes_[{WriteShape::Kind::Change, &table, ColumnsOf(fields), ColumnsOf(expected)}];
+    if (sql.empty()) sql = ChangeSql(table, fields, expected);
+    return connection_->Write(Right::ToWriteOne, nullptr, sql, arguments).Affected() > 0;
 }
 
 bool PostgresEngine::Remove(const Table& table, qint64 row) {
