@@ -48,10 +48,11 @@ using BeginWait = std::function<std::function<bool()>()>;
 //
 // Order. Nulls come before all values, after them when descending. Texts are ordered and are equal by CaseFold.h, in
 // indexes and groups too. Rows of one table without ORDER BY come by identity, as they were added: reports and receipts
-// rest on it. Only where a condition lets an engine find them by an index in pieces (a range of days, a list of values),
-// or an index holds the one column that is asked for, do they come by that column first. An ORDER BY keeps this order
-// among rows that it finds equal, unless it descends. Groups without ORDER BY come in the order of what they are grouped
-// by; which of several spellings stands for a group is open, and so is the order of a join without ORDER BY.
+// rest on it. Only where a condition lets an engine find them by an index in pieces (a range of days, a list of
+// values), or an index holds the one column that is asked for, do they come by that column first. An ORDER BY keeps
+// this order among rows that it finds equal, unless it descends. Groups without ORDER BY come in the order of what they
+// are grouped by; which of several spellings stands for a group is open, and so is the order of a join without ORDER
+// BY.
 class Engine {
 public:
     virtual ~Engine() = default;
