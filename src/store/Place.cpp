@@ -1,5 +1,6 @@
 #include "store/Place.h"
 
+#include <QRegularExpression>
 #include <QUrl>
 
 #include "store/StoreError.h"
@@ -21,15 +22,28 @@ bool BeginsAsAddress(const QString& text) {
                      u"The address of the server is not of the form postgresql://USER@HOST/DATABASE?schema=NAME."_s);
 }
 
-}  // namespace
-
-bool Place::IsServerAddress(const QString& text) {
-    return BeginsAsAddress(text);
+// A password would show in messages, in the list of processes and in copies of the ini.
+void RefusePassword(const QString& address) {
+    const QString authority = address.section(u"://"_s, 1).section(u'/', 0, 0).section(u'?', 0, 0);
+    const QString user = authority.contains(u'@') ? authority.section(u'@', 0, -2) : QString();
+    static const QRegularExpression hosts(u"^((\\[[0-9a-fA-F:.]+\\]|[^\\[\\]:,@]*)(:[0-9]+)?(,|$))*$"_s);
+    const bool hasPassword = user.contains(u':') || user.contains(u'@') || address.contains(u"password="_s);
+    if (hasPassword)
+        throw StoreError(IniNotReadable,
+                         u"A password does not belong into the address of the server; its place is ~/.pgpass."_s);
+    if (!hosts.match(authority.section(u'@', -1)).hasMatch()) ThrowNoAddress();
 }
 
-// The library's own words about a bad address may repeat a password.
+bool IsOwnSchema(const QString& name) {
+    constexpr int longestName = 63;
+    return !name.isEmpty() && name.toUtf8().size() <= longestName && name != u"public" && !name.startsWith(u"pg_");
+}
+
+}  // namespace
+
 Place Place::Server(const QString& address) {
-    if (!BeginsAsAddress(address) || address.contains(QChar::Null)) ThrowNoAddress();
+    if (!BeginsAsAddress(address) || address.contains(QChar::Null) || address.contains(u'\n')) ThrowNoAddress();
+    RefusePassword(address);
     Place place{QString()};
     place.schema_ = UsualSchema;
     place.address_ = address.section(u'?', 0, 0);
@@ -40,8 +54,7 @@ Place Place::Server(const QString& address) {
             continue;
         }
         place.schema_ = QUrl::fromPercentEncoding(parameter.section(u'=', 1).toUtf8());
-        constexpr int longestName = 63;
-        if (place.schema_.isEmpty() || place.schema_.toUtf8().size() > longestName) ThrowNoAddress();
+        if (!IsOwnSchema(place.schema_)) ThrowNoAddress();
     }
     if (!others.isEmpty()) place.address_ += u'?' + others.join(u'&');
     return place;

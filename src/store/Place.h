@@ -13,7 +13,6 @@ public:
     // `schema` is the store's own: each shop of a server has one, "velton" when it names none. 3051 when it is no such
     // address.
     static Place Server(const QString& address);
-    static bool IsServerAddress(const QString& text);
 
     bool IsServer() const { return !address_.isEmpty(); }
     const QString& Path() const { return path_; }        // of a file

@@ -12,30 +12,64 @@ namespace store::postgres {
 
 namespace {
 
-constexpr int BetweenQuestions = 5;       // milliseconds
+constexpr int BetweenQuestions = 5;  // milliseconds
+constexpr int LongestConnecting = 12'000;
 constexpr int LongestStop = 1'000;        // that a server takes to drop a statement
 constexpr size_t MostStatements = 2'000;  // kept on the server
 
+using Attempt = std::unique_ptr<PGconn, decltype(&PQfinish)>;
+
 // A server that is gone is to be noticed within seconds; an address may say otherwise, since what stands behind counts.
-PGconn* Connect(const Place& place) {
-    const QByteArray address = place.Address().toUtf8();
+Attempt Connect(const QByteArray& address) {
     // Of several servers the one that takes changes is meant, whichever that is today.
-    const bool areSeveral = place.Address().section(u'?', 0, 0).contains(u',');
-    static const char* const names[] = {"connect_timeout",           "keepalives_idle",
-                                        "keepalives_interval",       "keepalives_count",
-                                        "tcp_user_timeout",          "target_session_attrs",
-                                        "fallback_application_name", "dbname",
-                                        "client_encoding",           nullptr};
-    const char* const values[] = {
-        "3", "4", "2", "3", "8000", areSeveral ? "read-write" : "any", "velton", address.constData(), "UTF8", nullptr};
-    return PQconnectdbParams(names, values, 1);
+    const bool areSeveral = address.first(std::max<qsizetype>(address.indexOf('?'), 0)).contains(',') ||
+                            (!address.contains('?') && address.contains(','));
+    const std::pair<const char*, const char*> options[] = {
+        {"connect_timeout", "3"},
+        {"keepalives_idle", "4"},
+        {"keepalives_interval", "2"},
+        {"keepalives_count", "3"},
+        {"tcp_user_timeout", "8000"},
+        {"target_session_attrs", areSeveral ? "read-write" : "any"},
+        {"fallback_application_name", "velton"},
+        {"options", "-c client_min_messages=error"},  // the library would print the server's warnings
+        {"dbname", address.constData()},
+        {"client_encoding", "UTF8"},
+        {nullptr, nullptr}};
+    std::vector<const char*> names, values;
+    for (const auto& [name, value] : options) {
+        names.push_back(name);
+        values.push_back(value);
+    }
+    return {PQconnectdbParams(names.data(), values.data(), 1), &PQfinish};
+}
+
+// Names may be looked up for long and hosts be silent, so the attempt has a thread, which is left alone when nobody
+// waits for it any more.
+Attempt ConnectWithin(const Place& place, const Client::GoesOn& goesOn) {
+    std::promise<Attempt> promise;
+    std::future<Attempt> attempt = promise.get_future();
+    std::thread([address = place.Address().toUtf8(), promise = std::move(promise)]() mutable {
+        promise.set_value(Connect(address));
+    }).detach();
+    QElapsedTimer since;
+    since.start();
+    while (attempt.wait_for(std::chrono::milliseconds(BetweenQuestions)) != std::future_status::ready) {
+        const int waited = static_cast<int>(since.elapsed());
+        if (waited > LongestConnecting || (goesOn && !goesOn(waited))) return {nullptr, &PQfinish};
+    }
+    return attempt.get();
 }
 
 QString WhyNotConnected(PGconn* connection) {
+    if (connection == nullptr) return u"it does not answer"_s;
     if (PQconnectionNeedsPassword(connection) != 0) return u"it asks for a password, and ~/.pgpass has none for it"_s;
-    // A line a server, the last of them tried last; hints are indented.
+    // A line a server, the last of them tried last, and words that explain it.
     QStringList lines = QString::fromUtf8(PQerrorMessage(connection)).split(u'\n', Qt::SkipEmptyParts);
-    lines.removeIf([](const QString& line) { return line.startsWith(u'\t'); });
+    lines.removeIf([](const QString& line) {
+        return line.startsWith(u'\t') || line.startsWith(u"DETAIL:") || line.startsWith(u"HINT:") ||
+               line.startsWith(u"password retrieved");
+    });
     return OneSentence(lines.isEmpty() ? QString() : lines.last());
 }
 
@@ -50,14 +84,19 @@ void CheckAddress(const Place& place) {
 
 }  // namespace
 
-Client::Client(const Place& place) : server_(place.Shown()) {
+Client::Client(const Place& place, const GoesOn& goesOn) : server_(place.Shown()) {
     CheckAddress(place);
-    connection_.reset(Connect(place));
+    connection_.reset(ConnectWithin(place, goesOn).release());
     if (PQstatus(connection_.get()) != CONNECTION_OK)
         throw ServerLost(
             u"The server of the store %1 cannot be reached: %2."_s.arg(server_, WhyNotConnected(connection_.get())));
-    PQsetNoticeProcessor(
-        connection_.get(), [](void*, const char*) {}, nullptr);
+    PQsetNoticeReceiver(
+        connection_.get(),
+        [](void* self, const PGresult* notice) {
+            const QByteArrayView severity = PQresultErrorField(notice, PG_DIAG_SEVERITY_NONLOCALIZED);
+            if (severity == "WARNING") static_cast<Client*>(self)->wasWarned_ = true;
+        },
+        this);
     PQsetnonblocking(connection_.get(), 1);
     PQenterPipelineMode(connection_.get());
 }
@@ -72,7 +111,10 @@ bool Client::IsAlive() {
 }
 
 Answer Client::Make(const Trip& trip) {
+    AwaitStop();
     awaited_.clear();
+    wasWarned_ = false;
+    isUnderWay_ = true;
     stoppedAt_.reset();
     askedAt_ = 0;
     sinceSent_.start();
@@ -85,13 +127,8 @@ Answer Client::Make(const Trip& trip) {
     if (PQpipelineSync(connection_.get()) == 0) ThrowLost();
     try {
         return Collect(trip);
-    } catch (const StoreError&) {
-        throw;
-    } catch (const Left& left) {
-        if (left.isLost) connection_.reset();
-        throw;
     } catch (...) {
-        connection_.reset();  // with answers on their way that nobody waits for
+        if (isUnderWay_) connection_.reset();  // with answers on their way that nobody waits for
         throw;
     }
 }
@@ -116,6 +153,10 @@ Answer Client::Collect(const Trip& trip) {
     Answer wanted, refused;
     for (const Awaited& awaited : awaited_) CollectOne(trip, awaited, wanted, refused);
     Next(trip);  // that the trip is over
+    isUnderWay_ = false;
+    // Asked to stop waiting for a standby, the server warns and goes on.
+    if (!refused && stoppedAt_ && wasWarned_)
+        throw ServerLost(u"The server of the store %1 has not heard from its standby."_s.arg(server_));
     if (!refused) return wanted;
     if (TellsOfTheEnd(refused.Get())) ThrowLost();
     if (stoppedAt_ && IsCancelled(refused.Get())) throw Left{};
@@ -174,11 +215,22 @@ void Client::AskWhetherToGoOn(const Trip& trip) {
 // Asking the server to stop means to connect once more, and to a server that is silent that takes its time.
 void Client::Stop() {
     stoppedAt_ = sinceSent_.elapsed();
-    std::thread([stop = PQgetCancel(connection_.get())] {
+    std::promise<void> promise;
+    stop_ = promise.get_future();
+    std::thread([stop = PQgetCancel(connection_.get()), promise = std::move(promise)]() mutable {
         char why[256];
         PQcancel(stop, why, sizeof why);
         PQfreeCancel(stop);
+        promise.set_value();
     }).detach();
+}
+
+// A request to stop that comes late must not hit the next statement.
+void Client::AwaitStop() {
+    if (!stop_.valid()) return;
+    const bool isDone = stop_.wait_for(std::chrono::milliseconds(LongestStop)) == std::future_status::ready;
+    stop_ = {};
+    if (!isDone) ThrowLost();
 }
 
 void Client::ThrowLost() {

@@ -4,6 +4,7 @@
 
 #include <QElapsedTimer>
 #include <functional>
+#include <future>
 #include <memory>
 #include <optional>
 #include <string>
@@ -32,8 +33,11 @@ private:
 // can be left, and the statements of one trip go out together, so that they cost one way there and back.
 class Client {
 public:
-    // Connects, within seconds; ServerLost when that fails.
-    explicit Client(const Place& place);
+    // Asked every few milliseconds of a wait, with the time that it has taken; false leaves it.
+    using GoesOn = std::function<bool(int milliseconds)>;
+
+    // Connects, within seconds; ServerLost when that fails or `goesOn` says no.
+    Client(const Place& place, const GoesOn& goesOn);
     ~Client();
     Client(const Client&) = delete;
     Client& operator=(const Client&) = delete;
@@ -41,8 +45,6 @@ public:
     // Whether the other side still holds the connection, as far as can be told without asking it.
     bool IsAlive();
 
-    // Asked every few milliseconds of a wait, with the time that it has taken; false leaves it.
-    using GoesOn = std::function<bool(int milliseconds)>;
     // The rows of the main statement, each an answer of one row.
     using TakeRow = std::function<void(const Answer& row)>;
 
@@ -75,6 +77,7 @@ private:
     void WaitForAnswer(const Trip& trip);
     void AskWhetherToGoOn(const Trip& trip);
     void Stop();
+    void AwaitStop();
     [[noreturn]] void ThrowLost();
 
     struct Finish {
@@ -88,6 +91,9 @@ private:
     QElapsedTimer sinceSent_;
     qint64 askedAt_ = 0;               // in milliseconds since then
     std::optional<qint64> stoppedAt_;  // likewise
+    std::future<void> stop_;           // while the server is asked to stop
+    bool isUnderWay_ = false;          // a trip whose answers are not all here
+    bool wasWarned_ = false;           // on it
 };
 
 }  // namespace store::postgres

@@ -46,20 +46,27 @@ Connection::Connection(Place place) : place_(std::move(place)) {
     Connect();
 }
 
+// What a role or a server may have set otherwise. A till that vanished in a batch must not hold the others up for long:
+// its server notices within seconds on a network, and after a minute in any case.
 void Connection::Connect() {
     client_.reset();
-    auto client = std::make_unique<Client>(place_);
-    const std::string path = "SET search_path TO " + Quoted(place_.SchemaName());
-    static const std::string isolation = "SET default_transaction_isolation = 'read committed'";
-    static const std::string noCompiling = "SET jit = off";  // costs more than these statements take
-    static const std::string durability =
+    auto client = std::make_unique<Client>(place_, Questions(Kind::Read));
+    static const std::string settings =
         "SELECT set_config('synchronous_commit', CASE current_setting('synchronous_commit') WHEN 'off' THEN 'on' ELSE "
-        "current_setting('synchronous_commit') END, false)";
-    const Answer answer = client->Make({{{path, None}, {isolation, None}, {noCompiling, None}, {durability, None}}, 3});
+        "current_setting('synchronous_commit') END, false), set_config('search_path', $1, false), "
+        "set_config('default_transaction_isolation', 'read committed', false), "
+        "set_config('statement_timeout', '0', false), set_config('idle_in_transaction_session_timeout', '60s', false), "
+        "set_config('tcp_keepalives_idle', '4', false), set_config('tcp_keepalives_interval', '2', false), "
+        "set_config('tcp_keepalives_count', '3', false), set_config('tcp_user_timeout', '8s', false), "
+        "set_config('standard_conforming_strings', 'on', false), set_config('extra_float_digits', '1', false), "
+        "set_config('client_min_messages', 'warning', false), "
+        "set_config('jit', 'off', false)";  // compiling costs more than these statements take
+    Arguments path;
+    path.Add(QByteArray::fromStdString(Quoted(place_.SchemaName())));
+    const Answer answer = client->Make({{{settings, path}}});
     durably_ = "SET synchronous_commit = " + answer.At(0, 0).toByteArray().toStdString();
     client_ = std::move(client);
     if (!patience_.empty()) client_->Make({{{patience_, None}}});
-    if (greet_) greet_();
 }
 
 void Connection::SetPatience(int milliseconds) {
@@ -136,11 +143,13 @@ Answer Connection::MakeInBatch(Kind kind, const std::vector<Command>& commands, 
     }
 }
 
-void Connection::BackToMark() noexcept {
+// A batch that cannot go back is lost, whatever was refused.
+void Connection::BackToMark() {
     try {
         client_->Make({{{BackToMarkSql, None}}});
-    } catch (...) {
-        Rollback();
+    } catch (const StoreError&) {
+        Lose();
+        RequireConnection();
     }
 }
 

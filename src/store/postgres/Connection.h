@@ -20,8 +20,6 @@ public:
     explicit Connection(Place place);
 
     const Place& At() const { return place_; }
-    // Called with every new connection to the server.
-    void OnConnect(std::function<void()> greet) { greet_ = std::move(greet); }
 
     Answer Read(const std::string& sql, const Arguments& arguments = {}, const Client::TakeRow& takeRow = {});
     // One write, with its right for a table. In a batch it is undone alone when it fails.
@@ -52,7 +50,7 @@ private:
     Answer Make(Kind kind, const std::vector<Command>& commands, size_t main, const Client::TakeRow& takeRow = {});
     Answer MakeInBatch(Kind kind, const std::vector<Command>& commands, const Client::TakeRow& takeRow = {});
     Answer MakeAlone(Right right, const Table* table, const Command& command);
-    void BackToMark() noexcept;
+    void BackToMark();
     void SendRollback() noexcept;
     Client::GoesOn Questions(Kind kind);
     void EndRelaxed();
@@ -60,7 +58,6 @@ private:
     [[noreturn]] void ThrowLost(const QString& what) const;
 
     const Place place_;
-    std::function<void()> greet_;
     std::unique_ptr<Client> client_;
     std::string patience_;
     std::string durably_;  // how commits reach the disk by the server's own setting
