@@ -93,6 +93,7 @@ private:
     void PostInvoice();
     void RaiseRunningTotal();
     void StoreInvoice();
+    values::Error MayBeStored(const values::Error& lost) const;
     void StoreLine(int row, forms::LongWork& wait);
     void StoreLinesAndPeriod(store::Burst& burst, forms::LongWork& wait);
     void WaitForStock(int row, forms::LongWork& wait, const values::Error& why) const;

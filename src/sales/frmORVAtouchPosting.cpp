@@ -86,16 +86,26 @@ void frmORVAtouch::StoreLinesAndPeriod(store::Burst& burst, forms::LongWork& wai
     } catch (const store::FilesLost&) {
         throw;
     } catch (const store::ServerLost& error) {
-        throw values::Error(error.Number(),
-                            error.Description() +
-                                u"\nInvoice %1 may be stored whole, in part or not at all: look it up before you post "
-                                u"it again."_s.arg(ui.txtInvoiceNumber->text()));
+        throw MayBeStored(error);
     } catch (const values::Error& error) {
+        // What is stored until here is to stay, or else it must not be said.
+        try {
+            burst.End();
+        } catch (const store::ServerLost& lost) {
+            throw MayBeStored(lost);
+        } catch (const values::Error&) {
+            // It is told what came first.
+        }
         const QString stays =
             u"Invoice %1 is stored with %2 of its %3 lines. These stay, and so does the stock taken off."_s;
         throw values::Error(error.Number(), error.Description() + u'\n' +
                                                 stays.arg(ui.txtInvoiceNumber->text()).arg(stored).arg(lines));
     }
+}
+
+values::Error frmORVAtouch::MayBeStored(const values::Error& lost) const {
+    const auto words = u"Invoice %1 may be stored whole, in part or not at all: look it up before you post it again."_s;
+    return {lost.Number(), lost.Description() + u'\n' + words.arg(ui.txtInvoiceNumber->text())};
 }
 
 void frmORVAtouch::StoreLine(int row, forms::LongWork& wait) {

@@ -67,7 +67,11 @@ Listing Database::OpenListing(const QString& query) {
     auto& side = internals_->side;
     if (!side && !engine_->InTransaction())
         if (auto engine = engine_->OpenBeside()) side = std::make_shared<SideEngine>(std::move(engine));
-    if (side && !engine_->InTransaction()) return Listing(std::make_unique<Listing::Impl>(std::move(compiled), side));
+    if (side && !engine_->InTransaction()) {
+        const BeginWait begin = engine_->AskWhileWaiting({});
+        engine_->AskWhileWaiting(begin);
+        return Listing(std::make_unique<Listing::Impl>(std::move(compiled), side, begin));
+    }
     return ListingOf(std::move(compiled));
 }
 
@@ -104,8 +108,12 @@ void Database::TakeAlone() {
     engine_->TakeAlone();
 }
 
-QString Database::Retire() {
-    return engine_->Retire();
+QString Database::PrepareToRetire() {
+    return engine_->PrepareToRetire();
+}
+
+void Database::Retire() {
+    engine_->Retire();
 }
 
 void Database::AddAllOf(Database& other) {

@@ -64,9 +64,10 @@ public:
     // The indexes of the schema that the store lacks, as Table.Column+Column.
     QStringList MissingIndexes();
     // The store for this program alone, so that it can leave its place; 3218 when another has it open. Retire puts it
-    // aside, under the name that it gives.
+    // aside, under the name that PrepareToRetire gave.
     void TakeAlone();
-    QString Retire();
+    QString PrepareToRetire();
+    void Retire();
 
     // A consistent copy in a file while others write; the file must not exist. It is opened again and checked.
     void BackupTo(const QString& path);

@@ -129,9 +129,10 @@ public:
     // Begins a batch in which the store is this connection's alone: others cannot even open it. 3218 when one has it
     // open, where that is to be known.
     virtual void TakeAlone() = 0;
-    // The store leaves its place for good and is kept beside it, under the name that this gives. Ends what TakeAlone
-    // began.
-    virtual QString Retire() = 0;
+    // The store leaves its place for good and is kept beside it: the first gives the name that it will have, and throws
+    // when that cannot be; the second does it and ends what TakeAlone began.
+    virtual QString PrepareToRetire() = 0;
+    virtual void Retire() = 0;
 
     virtual QStringList CheckIntegrity() = 0;
     virtual QStringList MissingIndexes(const Schema& schema) = 0;

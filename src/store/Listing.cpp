@@ -17,8 +17,8 @@ SideEngine::SideEngine(std::unique_ptr<Engine> itsEngine) : engine(std::move(its
     engine->AskWhileWorking([this] { return !stop.stop_requested(); });
 }
 
-Listing::Impl::Impl(dialect::Query itsQuery, std::shared_ptr<SideEngine> itsSide)
-    : query(std::move(itsQuery)), side(std::move(itsSide)), rowsEach(RowsEach) {}
+Listing::Impl::Impl(dialect::Query itsQuery, std::shared_ptr<SideEngine> itsSide, BeginWait begin)
+    : query(std::move(itsQuery)), side(std::move(itsSide)), rowsEach(RowsEach), beginWait(std::move(begin)) {}
 
 Listing::Impl::Impl(dialect::Query itsQuery, RowBlock rows)
     : query(std::move(itsQuery)), rowsEach(std::numeric_limits<qint64>::max()), count(rows.Rows()), isWhole(true) {
@@ -60,6 +60,23 @@ void Listing::Impl::TakeIn() {
     if (failure) std::rethrow_exception(failure);
 }
 
+// A server may be silent, or hold what is asked for.
+void Listing::Impl::WaitForBegin(std::unique_lock<std::mutex>& lock) {
+    using namespace std::chrono_literals;
+    const auto begun = [this] { return hasBegun || hasEnded; };
+    if (!beginWait || handed.wait_for(lock, 250ms, begun)) return handed.wait(lock, begun);
+    const std::function<bool()> goesOn = beginWait();
+    while (goesOn && !handed.wait_for(lock, 5ms, begun)) {
+        lock.unlock();
+        const bool isWanted = goesOn();
+        lock.lock();
+        if (isWanted) continue;
+        thread.request_stop();
+        throw StoreError(Cancelled, u"The work was left."_s);
+    }
+    handed.wait(lock, begun);
+}
+
 Listing::Listing() = default;
 Listing::Listing(std::unique_ptr<Impl> impl) : impl_(std::move(impl)) {}
 Listing::Listing(Listing&&) noexcept = default;
@@ -84,7 +101,7 @@ qint64 Listing::WaitFor(qint64 rows, std::chrono::milliseconds atMost) {
     if (impl.isWhole || (rows > 0 && impl.count >= rows)) return impl.count;
     if (!impl.thread.joinable()) impl.thread = std::jthread([&impl](const std::stop_token& stop) { impl.Read(stop); });
     std::unique_lock lock(impl.handing);
-    impl.handed.wait(lock, [&impl] { return impl.hasBegun || impl.hasEnded; });
+    impl.WaitForBegin(lock);
     impl.handed.wait_for(lock, atMost, [&] { return impl.hasEnded || impl.count + impl.arrivedRows >= rows; });
     impl.TakeIn();
     return impl.count;

@@ -21,17 +21,20 @@ struct SideEngine {
 };
 
 struct Listing::Impl {
-    Impl(dialect::Query itsQuery, std::shared_ptr<SideEngine> itsSide);
+    // `begin` is called when the first rows are long in coming.
+    Impl(dialect::Query itsQuery, std::shared_ptr<SideEngine> itsSide, BeginWait begin);
     // All rows, which are here already.
     Impl(dialect::Query itsQuery, RowBlock rows);
 
     void Read(const std::stop_token& stop);
     void Hand(RowBlock&& block);
     void TakeIn();
+    void WaitForBegin(std::unique_lock<std::mutex>& lock);
 
     const dialect::Query query;
     const std::shared_ptr<SideEngine> side;
     const qint64 rowsEach;  // of every block but the last
+    const BeginWait beginWait;
 
     // The owner's.
     std::vector<RowBlock> blocks;

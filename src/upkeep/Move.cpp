@@ -42,33 +42,54 @@ void RequireSame(const Totals& before, const Totals& after) {
     throw store::StoreError(store::NotAStore, u"The copy of the store is not the same; nothing was changed."_s);
 }
 
-bool IsMainStore(const QString& line) {
-    const QString key = line.section(u'=', 0, 0).trimmed();
-    return line.contains(u'=') &&
-           (key.compare(u"path"_s, Qt::CaseInsensitive) == 0 || key.compare(u"url"_s, Qt::CaseInsensitive) == 0);
+bool IsPlace(const QByteArray& line) {
+    const QByteArray key = line.split('=').first().trimmed().toLower();
+    return line.contains('=') && (key == "path" || key == "url");
 }
 
-// Lines of words stay as they are.
-void PointTo(const QString& folder, const store::Place& target, const QString& address) {
-    const QString path = QDir(folder).filePath(u"store.ini"_s);
-    QStringList lines;
-    QFile before(path);
-    if (before.open(QIODevice::ReadOnly))
-        for (const QString& line : QString::fromUtf8(before.readAll()).split(u'\n'))
-            if (!IsMainStore(line) && line.trimmed().toLower() != u"[main]" && !line.trimmed().isEmpty())
-                lines += line.trimmed();
-    before.close();
-    if (target.IsServer()) lines = QStringList{u"[main]"_s, u"url="_s + address} + lines;
-    if (lines.isEmpty()) {
-        if (!before.remove()) throw values::FileError(before, u"remove '%1'"_s.arg(path));
-        return;
+// The ini with this line in its section [main] in the place of those that stand there; all else stays byte for byte.
+QByteArray WithPlace(const QByteArray& ini, const QByteArray& place) {
+    QByteArrayList lines;
+    bool isInMain = false, isSaid = false;
+    for (const QByteArray& line : ini.split('\n')) {
+        const QByteArray word = line.trimmed();
+        if (word.startsWith('[')) isInMain = word.toLower() == "[main]";
+        if (!isInMain || !IsPlace(line)) lines += line;
+        if (isInMain && !isSaid && (word.startsWith('[') || IsPlace(line))) {
+            lines += place;
+            isSaid = true;
+        }
     }
-    QSaveFile ini(path);
-    if (!ini.open(QIODevice::WriteOnly)) throw values::FileError(ini, u"write '%1'"_s.arg(path));
-    ini.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
-    ini.write(lines.join(u'\n').toUtf8() + '\n');
-    if (!ini.commit()) throw values::FileError(ini, u"write '%1'"_s.arg(path));
+    if (!isSaid) lines = QByteArrayList{"[main]", place} + lines;
+    return lines.join('\n');
 }
+
+// A store.ini that points elsewhere, made ready before anything else is done.
+class NewIni {
+public:
+    NewIni(const QString& folder, const QByteArray& place) : file_(QDir(folder).filePath(u"store.ini"_s)) {
+        QFile before(file_.fileName());
+        QByteArray text;
+        if (before.exists()) {
+            if (!before.open(QIODevice::ReadOnly))
+                throw values::FileError(before, u"read '%1'"_s.arg(before.fileName()));
+            text = before.readAll();
+        }
+        if (text.contains('\0'))
+            throw values::FileError(values::InvalidCall,
+                                    u"'%1' is not in UTF-8 and cannot be changed."_s.arg(file_.fileName()));
+        const QByteArray changed = WithPlace(text, place);
+        if (!file_.open(QIODevice::WriteOnly) || !file_.setPermissions(QFile::ReadOwner | QFile::WriteOwner) ||
+            file_.write(changed) != changed.size() || !file_.flush())
+            throw values::FileError(file_, u"write '%1'"_s.arg(file_.fileName()));
+    }
+    void PutInPlace() {
+        if (!file_.commit()) throw values::FileError(file_, u"write '%1'"_s.arg(file_.fileName()));
+    }
+
+private:
+    QSaveFile file_;
+};
 
 }  // namespace
 
@@ -81,12 +102,15 @@ Moved MoveMainStore(const QString& folder, const QString& address) {
     store::Creation creation(target, store::MainSchema());
     creation.Store().AddAllOf(*source);
     RequireSame(before, TotalsOf(creation.Store()));
+    NewIni ini(folder, target.IsServer() ? "url=" + address.toUtf8() : "path=" + QString(store::MainFile).toUtf8());
+    const QString keptAs = source->PrepareToRetire();
     creation.Finish();
-    PointTo(folder, target, address);
+    ini.PutInPlace();
+    source->Retire();
     return {.tables = static_cast<int>(before.tables.size()),
             .rows = before.rows,
             .days = static_cast<int>(before.days.size()),
-            .keptAs = source->Retire()};
+            .keptAs = keptAs};
 }
 
 }  // namespace upkeep

@@ -192,6 +192,11 @@ TEST_F(ServerLossTest, ASilentServerIsLeftWhenTheUserWants) {
     asked = 0;
     EXPECT_EQ(ErrorOf([&] { AddTax(*till, u"A"_s); }), Cancelled) << "the cursor's opening reads";
     cable.Freeze(false);
+    EXPECT_EQ(till->OpenListing(u"SELECT * FROM Tax"_s).WaitFor(1), 0);
+    cable.Freeze(true);
+    asked = 0;
+    EXPECT_EQ(ErrorOf([&] { till->OpenListing(u"SELECT * FROM Tax"_s).WaitFor(1); }), Cancelled);
+    cable.Freeze(false);
     auto taxes = till->OpenRecordset(u"SELECT * FROM Tax"_s);
     taxes.AddNew();
     taxes[u"TaxID"] = u"A"_s;

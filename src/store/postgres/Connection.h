@@ -7,6 +7,8 @@
 
 namespace store::postgres {
 
+constexpr int WorkingPatience = 4000;  // milliseconds
+
 // A connection to the schema of one shop that outlives the server's: when it was lost, the next call connects anew,
 // where nothing hangs on what was before. It keeps the rules of batches and bursts.
 //

@@ -129,6 +129,10 @@ QString KeyColumn(const Table& table) {
     return numbering == table.columns.end() ? u"RowKey"_s : numbering->name;
 }
 
+std::string SequenceSql(const Table& table) {
+    return "pg_get_serial_sequence('" + Quoted(table.name) + "', '" + KeyColumn(table).toStdString() + "')";
+}
+
 ServerQuery Emit(const Plan& plan) {
     return Emitter(plan).Whole();
 }

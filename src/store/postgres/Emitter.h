@@ -21,5 +21,7 @@ ServerQuery Emit(const dialect::Plan& plan);
 
 // The column of a table that holds its rows' identities.
 QString KeyColumn(const Table& table);
+// The sequence that gives them, as the server's functions take it.
+std::string SequenceSql(const Table& table);
 
 }  // namespace store::postgres

@@ -11,7 +11,6 @@ namespace store::postgres {
 namespace {
 
 constexpr int OpeningPatience = 1500;  // milliseconds
-constexpr int WorkingPatience = 4000;
 
 void CheckServer(Connection& connection) {
     static const std::string facts =
@@ -29,8 +28,16 @@ void CheckServer(Connection& connection) {
 }
 
 bool HoldsStore(Connection& connection) {
-    static const std::string sql = "SELECT to_regclass('velton_store') IS NOT NULL";
-    return connection.Read(sql).IsTrue(0, 0);
+    static const std::string sql =
+        "SELECT to_regclass('velton_store') IS NOT NULL, EXISTS (SELECT 1 FROM pg_namespace WHERE nspname = $1 AND NOT "
+        "has_schema_privilege(oid, 'USAGE'))";
+    Arguments name;
+    name.Add(connection.At().SchemaName().toUtf8());
+    const Answer answer = connection.Read(sql, name);
+    if (answer.IsTrue(0, 1))
+        throw StoreError(ReadOnly,
+                         u"The role has no right to use the schema of the store %1."_s.arg(connection.At().Shown()));
+    return answer.IsTrue(0, 0);
 }
 
 int CheckKind(Connection& connection, const Schema& schema) {
@@ -48,14 +55,19 @@ int CheckKind(Connection& connection, const Schema& schema) {
     return static_cast<int>(version);
 }
 
-void CheckRights(Connection& connection) {
+// A shop may keep tables of its own beside these.
+void CheckRights(Connection& connection, const Schema& schema) {
     static const std::string sql =
         "SELECT c.relname FROM pg_class c WHERE c.relnamespace = current_schema()::regnamespace AND "
-        "CASE c.relkind WHEN 'S' THEN NOT has_sequence_privilege(c.oid, 'USAGE') OR NOT has_sequence_privilege(c.oid, "
-        "'UPDATE') WHEN 'r' THEN NOT (has_table_privilege(c.oid, 'SELECT') AND has_table_privilege(c.oid, 'INSERT') "
-        "AND "
-        "has_table_privilege(c.oid, 'UPDATE') AND has_table_privilege(c.oid, 'DELETE')) ELSE false END";
-    const Answer answer = connection.Read(sql);
+        "(c.relname = ANY($1::text[]) AND NOT (has_table_privilege(c.oid, 'SELECT') AND "
+        "has_table_privilege(c.oid, 'INSERT') AND has_table_privilege(c.oid, 'UPDATE') AND "
+        "has_table_privilege(c.oid, 'DELETE')) OR c.relname = 'velton_burst' AND "
+        "NOT has_sequence_privilege(c.oid, 'UPDATE'))";
+    QByteArrayList names;
+    for (const Table& table : schema.tables) names += table.name.toUtf8();
+    Arguments tables;
+    tables.Add('{' + names.join(',') + '}');
+    const Answer answer = connection.Read(sql, tables);
     if (answer.Rows() > 0)
         throw StoreError(ReadOnly, u"The store %1 cannot be written to: the role has no right to %2."_s.arg(
                                        connection.At().Shown(), answer.Text(0, 0)));
@@ -105,7 +117,7 @@ std::unique_ptr<Engine> OpenSchema(const Place& place, const Schema& schema) {
     auto connection = Connected(place);
     if (!HoldsStore(*connection)) throw StoreError(FileNotFound, u"There is no store at %1."_s.arg(place.Shown()));
     CheckKind(*connection, schema);
-    CheckRights(*connection);
+    CheckRights(*connection, schema);
     CheckThatFree(*connection);
     Migrate(*connection, schema);
     CheckColumns(*connection, schema);

@@ -22,10 +22,6 @@ std::string AddSql(const Table& table) {
     return "INSERT INTO " + Quoted(table.name) + " (" + names + ") SELECT * FROM unnest(" + arrays + ")";
 }
 
-std::string SequenceSql(const Table& table) {
-    return "pg_get_serial_sequence('" + Quoted(table.name) + "', '" + KeyColumn(table).toStdString() + "')";
-}
-
 }  // namespace
 
 void PostgresEngine::ReadStore(const Schema& schema, const std::function<void(const Table&, const StoredRows&)>& take) {
@@ -65,13 +61,28 @@ void PostgresEngine::AddRows(const Table& table, const StoredRows& rows) {
         if (table.columns[column].selfNumbering) continue;
         for (int row = 0; row < rows.rows.Rows(); ++row)
             values[static_cast<size_t>(row)] = rows.rows.ValueAt(row, column);
-        arrays.Add(values);
+        try {
+            arrays.Add(values);
+        } catch (const StoreError& error) {
+            throw StoreError(error.Number(), u"%1.%2, rows from %3 on: %4"_s.arg(table.name, table.columns[column].name,
+                                                                                 QString::number(rows.keys.front()),
+                                                                                 error.Description()));
+        }
     }
     const Arguments last(rows.lastKey);
     std::vector<Command> commands;
     if (!rows.keys.empty()) commands.emplace_back(sql, arrays);
     if (rows.lastKey > 0) commands.emplace_back(sequence, last);
-    if (!commands.empty()) connection_->WriteAll(commands);
+    if (commands.empty()) return;
+    try {
+        connection_->WriteAll(commands);
+    } catch (const ServerLost&) {
+        throw;
+    } catch (const StoreError& error) {
+        throw StoreError(error.Number(), u"%1, rows from %2 on: %3"_s.arg(
+                                             table.name, QString::number(rows.keys.empty() ? 0 : rows.keys.front()),
+                                             error.Description()));
+    }
 }
 
 // The right to write many keeps others from opening the store, too.
@@ -79,15 +90,19 @@ void PostgresEngine::TakeAlone() {
     Begin();
 }
 
-QString PostgresEngine::Retire() {
-    constexpr int longestName = 63;
-    const QString& schema = connection_->At().SchemaName();
+QString PostgresEngine::PrepareToRetire() {
+    constexpr qsizetype longestName = 63;  // bytes
+    QString name = connection_->At().SchemaName();
     const QString ending = values::Now().toString(u"'_moved_'yyyyMMdd_HHmmss"_s);
-    const QString name = schema.first(qMin(schema.size(), longestName - ending.size())) + ending;
+    while (name.toUtf8().size() + ending.size() > longestName) name.chop(1);
+    name += ending;
     connection_->Write(Connection::Right::ToWriteMany, nullptr,
-                       "ALTER SCHEMA " + Quoted(schema) + " RENAME TO " + Quoted(name), {});
-    Commit();
+                       "ALTER SCHEMA " + Quoted(connection_->At().SchemaName()) + " RENAME TO " + Quoted(name), {});
     return u"schema %1"_s.arg(name);
+}
+
+void PostgresEngine::Retire() {
+    Commit();
 }
 
 }  // namespace store::postgres

@@ -50,7 +50,8 @@ public:
     void ReadStore(const Schema& schema, const std::function<void(const Table&, const StoredRows&)>& take) override;
     void AddRows(const Table& table, const StoredRows& rows) override;
     void TakeAlone() override;
-    QString Retire() override;
+    QString PrepareToRetire() override;
+    void Retire() override;
 
     QStringList CheckIntegrity() override;
     QStringList MissingIndexes(const Schema& schema) override;

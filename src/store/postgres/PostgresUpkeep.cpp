@@ -9,7 +9,9 @@ namespace store::postgres {
 
 std::unique_ptr<Engine> PostgresEngine::OpenBeside() {
     try {
-        return std::make_unique<PostgresEngine>(std::make_unique<Connection>(connection_->At()), schema_);
+        auto beside = std::make_unique<Connection>(connection_->At());
+        beside->SetPatience(WorkingPatience);
+        return std::make_unique<PostgresEngine>(std::move(beside), schema_);
     } catch (const StoreError&) {
         return nullptr;
     }
@@ -21,7 +23,11 @@ QStringList PostgresEngine::CheckIntegrity() {
     for (const Table& table : schema_.tables) {
         try {
             const std::string name = Quoted(table.name);
-            connection_->Read("SELECT max(length(t::text)) FROM " + name + " AS t");
+            const std::string key = Quoted(KeyColumn(table));
+            const Answer answer =
+                connection_->Read("SELECT max(length(t::text)), max(" + key + ") > pg_sequence_last_value(" +
+                                  SequenceSql(table) + ") FROM " + name + " AS t");
+            if (answer.IsTrue(0, 1)) faults += u"%1: the next number is taken already"_s.arg(table.name);
         } catch (const ServerLost&) {
             throw;
         } catch (const StoreError& error) {

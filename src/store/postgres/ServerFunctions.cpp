@@ -61,13 +61,13 @@ BEGIN
         RETURN 0;
     END IF;
     power := substring(ltrim(t, E' \t\r\n') from '^[+-]?[0-9]*(?:\.[0-9]*)?([Ee][+-]?[0-9]+)');
-    IF power IS NULL THEN
+    IF power IS NULL AND length(plain) < 300 THEN
         RETURN plain::double precision;
     END IF;
     BEGIN
-        RETURN (plain || power)::double precision;
+        RETURN (plain || COALESCE(power, ''))::double precision;
     EXCEPTION WHEN numeric_value_out_of_range THEN
-        IF power ~ '-' OR plain !~ '[1-9]' THEN
+        IF power ~ '-' OR plain ~ '^[+-]?0*(\.|$)' THEN
             RETURN 0;
         END IF;
         RAISE;

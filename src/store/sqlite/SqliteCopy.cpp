@@ -103,16 +103,20 @@ void SqliteEngine::TakeAlone() {
     connection_->Run("BEGIN EXCLUSIVE");
 }
 
-QString SqliteEngine::Retire() {
+QString SqliteEngine::PrepareToRetire() {
     const QFileInfo store(files_.StorePath());
-    const QString name = u"%1/%2-moved-%3.%4"_s.arg(store.absolutePath(), store.completeBaseName(),
-                                                    values::Now().toString(u"yyyyMMdd-HHmmss"_s), store.suffix());
-    // The engine would look for files that are gone.
-    isLost_ = true;
-    if (!QFile::rename(store.filePath(), name))
-        throw StoreError(DiskError, u"The store %1 cannot be renamed."_s.arg(store.filePath()));
+    if (!QFileInfo(store.absolutePath()).isWritable())
+        throw StoreError(ReadOnly, u"The store %1 cannot be renamed."_s.arg(store.filePath()));
+    retiresAs_ = u"%1/%2-moved-%3.%4"_s.arg(store.absolutePath(), store.completeBaseName(),
+                                            values::Now().toString(u"yyyyMMdd-HHmmss"_s), store.suffix());
+    return retiresAs_;
+}
+
+void SqliteEngine::Retire() {
+    isLost_ = true;  // the engine would look for files that are gone
+    if (!QFile::rename(files_.StorePath(), retiresAs_))
+        throw StoreError(DiskError, u"The store %1 cannot be renamed."_s.arg(files_.StorePath()));
     sqlite3_exec(Handle(), "ROLLBACK", nullptr, nullptr, nullptr);
-    return name;
 }
 
 }  // namespace store::sqlite

@@ -55,7 +55,8 @@ public:
     void ReadStore(const Schema& schema, const std::function<void(const Table&, const StoredRows&)>& take) override;
     void AddRows(const Table& table, const StoredRows& rows) override;
     void TakeAlone() override;
-    QString Retire() override;
+    QString PrepareToRetire() override;
+    void Retire() override;
 
     QStringList CheckIntegrity() override;
     QStringList MissingIndexes(const Schema& schema) override;
@@ -98,6 +99,7 @@ private:
     StoreFiles files_;
     bool isLost_ = false;
     QString savedAs_;
+    QString retiresAs_;
     QString whyNotSaved_;
     std::map<ShapeKey, Statement> statements_;
     quint64 writes_ = 0;
