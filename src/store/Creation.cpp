@@ -23,9 +23,7 @@ Creation::Creation(const Place& place, const Schema& schema) {
     store_->engine_->Begin();
 }
 
-Creation::~Creation() {
-    store_.reset();
-}
+Creation::~Creation() = default;
 
 void Creation::Finish() {
     store_->engine_->Commit();

@@ -55,6 +55,33 @@ QString LineWithCaret(QStringView text, Span span) {
 
 }  // namespace
 
+QString Refusal(int number) {
+    switch (number) {
+        case values::Overflow:
+            return u"Overflow"_s;
+        case StoreLocked:
+            return u"The store is locked by another user"_s;
+        case Cancelled:
+            return u"The work was left"_s;
+        case DuplicateKey:
+            return u"A row with this key exists already"_s;
+        case RelatedRows:
+            return u"Other rows of the store refer to this one"_s;
+        case ConversionFailed:
+            return u"A value does not fit the type of its column"_s;
+        case DiskFull:
+            return u"There is no room left on the disk"_s;
+        case NotAStore:
+            return u"The store is damaged"_s;
+        case ReadOnly:
+            return u"The store cannot be written to"_s;
+        case DiskError:
+            return u"The disk or the network refused the access"_s;
+        default:
+            return u"The store refused the operation"_s;
+    }
+}
+
 QueryError::QueryError(int number, Span span, QString message, QString queryText, QStringList near)
     : StoreError(number, std::move(message)), span_(span), queryText_(std::move(queryText)), near_(std::move(near)) {}
 

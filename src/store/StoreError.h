@@ -42,6 +42,9 @@ public:
     virtual bool ForbidsRetry() const { return false; }
 };
 
+// What an engine that refused a statement says of it, without a full stop.
+QString Refusal(int number);
+
 // The files of an open store were deleted, moved away or replaced. What the connection had stored is saved beside the
 // store when that is possible, and the description names the copy; nothing is written any more.
 class FilesLost : public StoreError {

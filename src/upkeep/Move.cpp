@@ -1,11 +1,10 @@
 #include "upkeep/Move.h"
 
 #include <QDir>
-#include <QSaveFile>
 
 #include "store/Creation.h"
 #include "store/StorePath.h"
-#include "values/FileError.h"
+#include "values/IniEdit.h"
 
 using namespace Qt::StringLiterals;
 
@@ -42,55 +41,6 @@ void RequireSame(const Totals& before, const Totals& after) {
     throw store::StoreError(store::NotAStore, u"The copy of the store is not the same; nothing was changed."_s);
 }
 
-bool IsPlace(const QByteArray& line) {
-    const QByteArray key = line.split('=').first().trimmed().toLower();
-    return line.contains('=') && (key == "path" || key == "url");
-}
-
-// The ini with this line in its section [main] in the place of those that stand there; all else stays byte for byte.
-QByteArray WithPlace(const QByteArray& ini, const QByteArray& place) {
-    QByteArrayList lines;
-    bool isInMain = false, isSaid = false;
-    for (const QByteArray& line : ini.split('\n')) {
-        const QByteArray word = line.trimmed();
-        if (word.startsWith('[')) isInMain = word.toLower() == "[main]";
-        if (!isInMain || !IsPlace(line)) lines += line;
-        if (isInMain && !isSaid && (word.startsWith('[') || IsPlace(line))) {
-            lines += place;
-            isSaid = true;
-        }
-    }
-    if (!isSaid) lines = QByteArrayList{"[main]", place} + lines;
-    return lines.join('\n');
-}
-
-// A store.ini that points elsewhere, made ready before anything else is done.
-class NewIni {
-public:
-    NewIni(const QString& folder, const QByteArray& place) : file_(QDir(folder).filePath(u"store.ini"_s)) {
-        QFile before(file_.fileName());
-        QByteArray text;
-        if (before.exists()) {
-            if (!before.open(QIODevice::ReadOnly))
-                throw values::FileError(before, u"read '%1'"_s.arg(before.fileName()));
-            text = before.readAll();
-        }
-        if (text.contains('\0'))
-            throw values::FileError(values::InvalidCall,
-                                    u"'%1' is not in UTF-8 and cannot be changed."_s.arg(file_.fileName()));
-        const QByteArray changed = WithPlace(text, place);
-        if (!file_.open(QIODevice::WriteOnly) || !file_.setPermissions(QFile::ReadOwner | QFile::WriteOwner) ||
-            file_.write(changed) != changed.size() || !file_.flush())
-            throw values::FileError(file_, u"write '%1'"_s.arg(file_.fileName()));
-    }
-    void PutInPlace() {
-        if (!file_.commit()) throw values::FileError(file_, u"write '%1'"_s.arg(file_.fileName()));
-    }
-
-private:
-    QSaveFile file_;
-};
-
 }  // namespace
 
 Moved MoveMainStore(const QString& folder, const QString& address) {
@@ -102,7 +52,11 @@ Moved MoveMainStore(const QString& folder, const QString& address) {
     store::Creation creation(target, store::MainSchema());
     creation.Store().AddAllOf(*source);
     RequireSame(before, TotalsOf(creation.Store()));
-    NewIni ini(folder, target.IsServer() ? "url=" + address.toUtf8() : "path=" + QString(store::MainFile).toUtf8());
+    values::IniEdit ini(QDir(folder).filePath(u"store.ini"_s));
+    const bool toServer = target.IsServer();
+    ini.Remove(u"main"_s, toServer ? u"path"_s : u"url"_s);
+    ini.Set(u"main"_s, toServer ? u"url"_s : u"path"_s, toServer ? address : QString(store::MainFile));
+    ini.Prepare();
     const QString keptAs = source->PrepareToRetire();
     creation.Finish();
     ini.PutInPlace();

@@ -2,6 +2,7 @@
 
 #include <poll.h>
 
+#include <QRegularExpression>
 #include <thread>
 
 #include "store/postgres/ServerError.h"
@@ -22,8 +23,9 @@ using Attempt = std::unique_ptr<PGconn, decltype(&PQfinish)>;
 // A server that is gone is to be noticed within seconds; an address may say otherwise, since what stands behind counts.
 Attempt Connect(const QByteArray& address) {
     // Of several servers the one that takes changes is meant, whichever that is today.
-    const bool areSeveral = address.first(std::max<qsizetype>(address.indexOf('?'), 0)).contains(',') ||
-                            (!address.contains('?') && address.contains(','));
+    static const QRegularExpression list(u"^[^?]*,|[?&]host(addr)?=[^&]*(,|%2C)"_s,
+                                         QRegularExpression::CaseInsensitiveOption);
+    const bool areSeveral = list.match(QString::fromUtf8(address)).hasMatch();
     const std::pair<const char*, const char*> options[] = {
         {"connect_timeout", "3"},
         {"keepalives_idle", "4"},

@@ -54,7 +54,7 @@ public:
         GoesOn goesOn = {};
         TakeRow takeRow = {};
     };
-    // Outside a transaction the statements of a trip stand or fall as one. RefusedStatement when one is refused, the
+    // Outside a transaction the statements of a trip stand or fall as one. A StoreError when one is refused, the
     // first of them; ServerLost when the connection ends on the way, of which nobody knows how far it came; Left when
     // `goesOn` said no.
     Answer Make(const Trip& trip);

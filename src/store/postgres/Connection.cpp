@@ -219,11 +219,11 @@ void Connection::Begin() {
     if (inTransaction_) throw StoreError(NotSupported, u"A batch is open already."_s);
     RequireConnection();
     const std::string lock = LockSql(place_.SchemaName(), Right::ToWriteMany, nullptr);
+    inTransaction_ = true;  // nothing can have been stored by what is lost from here on
     try {
         Make(Kind::Write, {{BeginSql, None}, {lock, None}}, 1);
-        inTransaction_ = true;
     } catch (const StoreError&) {
-        SendRollback();
+        Rollback();
         throw;
     }
 }
@@ -246,7 +246,13 @@ void Connection::Commit() {
 
 void Connection::Rollback() noexcept {
     batchIsLost_ = false;
-    if (std::exchange(inTransaction_, false)) SendRollback();
+    if (!std::exchange(inTransaction_, false)) return;
+    SendRollback();
+    try {
+        if (bursts_ == 0) EndRelaxed();
+    } catch (const StoreError&) {
+        return;  // the connection is given up, and the next one is durable from its beginning
+    }
 }
 
 void Connection::SendRollback() noexcept {

@@ -48,10 +48,8 @@ int CheckKind(Connection& connection, const Schema& schema) {
         throw StoreError(NotAStore, u"%1 is no store of this kind (%2)."_s.arg(where, schema.name));
     const qint64 version = answer.Integer(0, 1);
     if (version > schema.version)
-        throw StoreError(
-            NotAStore,
-            u"The store %1 is of version %2; this program knows versions up to %3."_s.arg(where).arg(version).arg(
-                schema.version));
+        throw StoreError(NotAStore, u"The store %1 is of version %2; this program knows versions up to %3."_s.arg(
+                                        where, QString::number(version), QString::number(schema.version)));
     return static_cast<int>(version);
 }
 

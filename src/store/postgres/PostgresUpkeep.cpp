@@ -54,10 +54,12 @@ void PostgresEngine::BackupTo(const QString& path) {
 // The indexes that it can follow, as it would in a large store: of small tables it reads all rows.
 QString PostgresEngine::Explain(const dialect::Query& query) {
     const ServerQuery& prepared = PreparedOf(query);
-    for (const char* way : {"seqscan", "bitmapscan"}) connection_->Read(std::string("SET enable_") + way + " = off");
-    const Answer answer =
-        connection_->Read("EXPLAIN (COSTS off) " + prepared.whole, Bound(query, prepared.slots.size()));
-    for (const char* way : {"seqscan", "bitmapscan"}) connection_->Read(std::string("RESET enable_") + way);
+    Answer answer;
+    connection_->ReadTogether([&] {
+        connection_->Read("SET LOCAL enable_seqscan = off");
+        connection_->Read("SET LOCAL enable_bitmapscan = off");
+        answer = connection_->Read("EXPLAIN (COSTS off) " + prepared.whole, Bound(query, prepared.slots.size()));
+    });
     QStringList steps;
     for (int row = 0; row < answer.Rows(); ++row) steps += answer.Text(row, 0).trimmed();
     return steps.join(u'\n');

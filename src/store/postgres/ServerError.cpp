@@ -19,8 +19,8 @@ int NumberOf(const QByteArray& code) {
         {"55P03", StoreLocked},      {"40", StoreLocked},      {"57014", Cancelled},
         {"53100", DiskFull},         {"53", DiskError},  // too many connections, out of memory
         {"58", DiskError},           {"42501", ReadOnly},      {"25006", ReadOnly},
-        {"XX00", NotAStore},         {"42P01", UnknownTable},  {"42703", UnknownField},
-        {"42", SyntaxError},         {"54001", SyntaxError},
+        {"XX00", NotAStore},         {"42703", NotAStore},     {"42", SyntaxError},
+        {"54001", SyntaxError},
     };
     for (const auto& [beginning, number] : numbers)
         if (code.startsWith(beginning)) return number;
@@ -28,30 +28,9 @@ int NumberOf(const QByteArray& code) {
 }
 
 QString Words(int number) {
-    switch (number) {
-        case DuplicateKey:
-            return u"A row with this key exists already"_s;
-        case RelatedRows:
-            return u"Other rows of the store refer to this one"_s;
-        case values::Overflow:
-            return u"Overflow"_s;
-        case ConversionFailed:
-            return u"A value does not fit the type of its column"_s;
-        case StoreLocked:
-            return u"The store is locked by another user"_s;
-        case Cancelled:
-            return u"The work was left"_s;
-        case DiskFull:
-            return u"There is no room left on the server's disk"_s;
-        case DiskError:
-            return u"The server refused the access"_s;
-        case ReadOnly:
-            return u"The store cannot be written to"_s;
-        case NotAStore:
-            return u"The store is damaged"_s;
-        default:
-            return u"The store refused the operation"_s;
-    }
+    if (number == DiskFull) return u"There is no room left on the server's disk"_s;
+    if (number == DiskError) return u"The server refused the access"_s;
+    return Refusal(number);
 }
 
 }  // namespace
@@ -73,9 +52,13 @@ bool IsCancelled(const PGresult* result) {
 
 void ThrowRefused(const PGresult* result) {
     const QByteArray code = CodeOf(result);
-    const int number = NumberOf(code);
     const QString message = OneSentence(QString::fromUtf8(PQresultErrorField(result, PG_DIAG_MESSAGE_PRIMARY)));
-    throw RefusedStatement(number, u"%1 (%2)."_s.arg(Words(number), message), code);
+    // The names of a statement are checked before, so its tables went while it was open.
+    if (code == "42P01")
+        throw FilesLost(
+            u"The store was moved away on the server, with all that was stored until then (%1)."_s.arg(message));
+    const int number = NumberOf(code);
+    throw StoreError(number, u"%1 (%2)."_s.arg(Words(number), message));
 }
 
 }  // namespace store::postgres

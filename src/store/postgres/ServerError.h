@@ -6,18 +6,8 @@
 
 namespace store::postgres {
 
-// A statement that the server refused, with the error's code of five characters (SQLSTATE).
-class RefusedStatement : public StoreError {
-public:
-    RefusedStatement(int number, QString description, QByteArray code)
-        : StoreError(number, std::move(description)), code_(std::move(code)) {}
-    const QByteArray& Code() const { return code_; }
-
-private:
-    QByteArray code_;
-};
-
-// Throws what a failed answer stands for.
+// Throws what a statement stands for that the server refused, by its code of five characters (SQLSTATE): a StoreError,
+// FilesLost when the tables are gone.
 [[noreturn]] void ThrowRefused(const PGresult* result);
 // Whether it tells that the connection is at its end, or the server.
 bool TellsOfTheEnd(const PGresult* result);

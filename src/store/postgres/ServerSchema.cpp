@@ -59,6 +59,13 @@ std::string VersionSql(int version) {
     return "UPDATE velton_store SET version = " + std::to_string(version);
 }
 
+QSet<QString> NamesOf(Connection& connection, const std::string& sql) {
+    const Answer answer = connection.Read(sql);
+    QSet<QString> names;
+    for (int row = 0; row < answer.Rows(); ++row) names.insert(answer.Text(row, 0));
+    return names;
+}
+
 }  // namespace
 
 std::vector<std::string> SchemaSql(const Schema& schema, const QString& name) {
@@ -94,9 +101,7 @@ QStringList MissingColumns(Connection& connection, const Schema& schema) {
     static const std::string columns =
         "SELECT c.relname || '.' || a.attname FROM pg_attribute a JOIN pg_class c ON c.oid = a.attrelid "
         "WHERE c.relnamespace = current_schema()::regnamespace AND a.attnum > 0 AND NOT a.attisdropped";
-    const Answer answer = connection.Read(columns);
-    QSet<QString> present;
-    for (int row = 0; row < answer.Rows(); ++row) present.insert(answer.Text(row, 0));
+    const QSet<QString> present = NamesOf(connection, columns);
     QStringList missing;
     for (const Table& table : schema.tables)
         for (const Column& column : table.columns)
@@ -108,9 +113,7 @@ QStringList MissingIndexes(Connection& connection, const Schema& schema) {
     static const std::string indexes =
         "SELECT c.relname FROM pg_index i JOIN pg_class c ON c.oid = i.indexrelid "
         "WHERE c.relnamespace = current_schema()::regnamespace AND i.indisvalid";
-    const Answer answer = connection.Read(indexes);
-    QSet<QString> present;
-    for (int row = 0; row < answer.Rows(); ++row) present.insert(answer.Text(row, 0));
+    const QSet<QString> present = NamesOf(connection, indexes);
     QStringList missing;
     for (const Table& table : schema.tables)
         for (const Index& index : table.indexes)

@@ -57,33 +57,6 @@ int NumberOf(int extendedCode, const QString& message) {
     }
 }
 
-QString Words(int number) {
-    switch (number) {
-        case values::Overflow:
-            return u"Overflow"_s;
-        case StoreLocked:
-            return u"The store is locked by another user"_s;
-        case Cancelled:
-            return u"The work was left"_s;
-        case DuplicateKey:
-            return u"A row with this key exists already"_s;
-        case RelatedRows:
-            return u"Other rows of the store refer to this one"_s;
-        case ConversionFailed:
-            return u"A value does not fit the type of its column"_s;
-        case DiskFull:
-            return u"There is no room left on the disk"_s;
-        case NotAStore:
-            return u"The store is damaged"_s;
-        case ReadOnly:
-            return u"The store cannot be written to"_s;
-        case DiskError:
-            return u"The disk or the network refused the access"_s;
-        default:
-            return u"The store refused the operation"_s;
-    }
-}
-
 // A full disk, where the engine only speaks of a refused access, as it does of the files that it makes for itself.
 int CodeWithoutRoom(sqlite3* connection, int extendedCode) {
     const int system = sqlite3_system_errno(connection);
@@ -95,7 +68,7 @@ int CodeWithoutRoom(sqlite3* connection, int extendedCode) {
 
 void ThrowCode(int extendedCode, const QString& message, const QString& doing) {
     const int number = NumberOf(extendedCode, message);
-    throw SqliteError(number, u"%1, %2 (%3)."_s.arg(Words(number), doing, message), extendedCode, message);
+    throw SqliteError(number, u"%1, %2 (%3)."_s.arg(Refusal(number), doing, message), extendedCode, message);
 }
 
 void ThrowLast(sqlite3* connection, const QString& doing) {
