@@ -19,7 +19,8 @@ struct Choice {
 struct Key {
     const char16_t* section;
     const char16_t* name;
-    std::vector<Choice> choices;
+    std::vector<Choice> choices;  // none: any text goes
+    QString& (*text)(Installation& installation) = nullptr;
 };
 
 using forms::Contrast;
@@ -27,6 +28,10 @@ using forms::Contrast;
 constexpr int LongestShown = 48;
 
 const std::vector<Key> Keys = {
+    {u"heading", u"name", {}, [](Installation& i) -> QString& { return i.heading.NazivFirme; }},
+    {u"heading", u"address", {}, [](Installation& i) -> QString& { return i.heading.Adresa; }},
+    {u"heading", u"ident", {}, [](Installation& i) -> QString& { return i.heading.JIB; }},
+    {u"heading", u"phone", {}, [](Installation& i) -> QString& { return i.heading.Tel; }},
     {u"till",
      u"sound",
      {{u"yes", [](Installation& i) { i.sound = true; }}, {u"no", [](Installation& i) { i.sound = false; }}}},
@@ -38,6 +43,10 @@ const std::vector<Key> Keys = {
 };
 
 bool Take(const Key& key, const QString& text, Installation& installation) {
+    if (key.text != nullptr) {
+        key.text(installation) = text;
+        return true;
+    }
     for (const Choice& choice : key.choices) {
         if (text.compare(QStringView(choice.text), Qt::CaseInsensitive) != 0) continue;
         choice.set(installation);

@@ -2,11 +2,13 @@
 
 #include <QStringList>
 
+#include "core/Settings.h"
 #include "forms/Theme.h"
 
 // What velton.ini in the program's folder adds to this installation. Without the file, or a key, the till is as
 // delivered.
 struct Installation {
+    Heading heading = BuiltInHeading();                 // [heading] name, address, ident, phone
     bool sound = true;                                  // [till] sound = yes | no
     forms::Contrast contrast = forms::Contrast::Usual;  // [till] contrast = usual | high | dark
 };

@@ -1,5 +1,6 @@
 #include "core/frmLogin.h"
 
+#include "core/Installation.h"
 #include "core/InstanceLock.h"
 #include "core/Session.h"
 #include "core/Settings.h"
@@ -87,7 +88,7 @@ void frmLogin::OpenShop() {
     rsLogin_ = MainStore().OpenRecordset(LoginQuery);
     FillUserList();
     Timer1_Timer();
-    static_cast<Heading&>(TheSettings) = BuiltInHeading();
+    static_cast<Heading&>(TheSettings) = TheInstallation.heading;
     ProposeLoginNumber();
     countdown_ = Countdown;
 }

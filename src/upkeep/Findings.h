@@ -19,6 +19,7 @@ public:
     // Each note as "kind: case, case and 7 more".
     QStringList NoteLines() const;
     const QStringList& FactLines() const { return facts_; }
+    const QStringList& DamageLines() const { return damage_; }
     // Throws when there is damage, under the number of the first.
     void ThrowDamage() const;
     bool IsSound() const { return damage_.isEmpty(); }

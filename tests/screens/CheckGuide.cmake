@@ -1,8 +1,8 @@
 # cmake -D PROGRAM=velton-screens -D FOLDER=folder -D ROOT=source -P CheckGuide.cmake: takes the pictures of all screens
-# into FOLDER, and holds the user guide against them and against the sources of the screens.
+# into FOLDER, and holds the guides against them and against the sources of the screens.
 cmake_minimum_required(VERSION 3.25)
 
-set(GUIDE ${ROOT}/docs/user-guide.md)
+set(GUIDES ${ROOT}/docs/user-guide.md ${ROOT}/docs/owner-guide.md)
 # Buttons of the toolkit's own boxes.
 set(FOREIGN_CAPTIONS "Yes" "No")
 
@@ -13,7 +13,11 @@ if(failed)
 endif()
 file(GLOB taken RELATIVE ${FOLDER} ${FOLDER}/*.png)
 file(GLOB kept RELATIVE ${ROOT}/docs/screens ${ROOT}/docs/screens/*.png)
-file(READ ${GUIDE} guide)
+set(guide "")
+foreach(file ${GUIDES})
+    file(READ ${file} text)
+    string(APPEND guide "${text}")
+endforeach()
 string(REPLACE ";" "," guide "${guide}")
 
 string(REGEX MATCHALL "\\]\\(screens/[^)]+\\)" links "${guide}")
@@ -28,8 +32,8 @@ function(report words these those)
         message(SEND_ERROR "${words}: ${names}")
     endif()
 endfunction()
-report("The guide shows pictures that nobody takes" shown taken)
-report("The guide leaves out" taken shown)
+report("The guides show pictures that nobody takes" shown taken)
+report("The guides leave out" taken shown)
 report("docs/screens lacks (run docs/make-screens.sh)" taken kept)
 report("docs/screens keeps old pictures (run docs/make-screens.sh)" kept taken)
 

@@ -3,7 +3,7 @@
 #include <QDir>
 #include <stdexcept>
 
-#include "forms/Frame.h"
+#include "forms/Form.h"
 #include "screens/Faults.h"
 #include "screens/Picture.h"
 
@@ -32,8 +32,8 @@ void Album::Add(QWidget& window, const QString& name) {
     if (names_.contains(name)) GiveUp(u"Two pictures have the name %1."_s.arg(name));
     names_ << name;
     screens_ << window.objectName();
-    if (const auto* frame = qobject_cast<forms::Frame*>(&window); frame && frame->ActiveChild())
-        screens_ << frame->ActiveChild()->objectName();
+    for (const auto* form : window.findChildren<forms::Form*>())
+        if (form->isVisible()) screens_ << form->objectName();
     const QImage picture = PictureOf(window);
     for (const QString& fault : FaultsOf(window))
         if (!faults_.contains(fault)) faults_ << fault;

@@ -11,6 +11,7 @@
 #include "output/Folder.h"
 #include "player/Offscreen.h"
 #include "screens/Album.h"
+#include "screens/Manager.h"
 #include "screens/Tour.h"
 #include "store/Database.h"
 #include "store/StorePath.h"
@@ -36,7 +37,9 @@ void MakeShop(const QString& path) {
 int TakePictures(const QString& folder, const QString& shop) {
     MakeShop(shop);
     screens::Album album(folder);
-    screens::TakeTour([&](QWidget& window, const QString& name) { album.Add(window, name); });
+    const auto camera = [&](QWidget& window, const QString& name) { album.Add(window, name); };
+    screens::TakeTour(camera);
+    screens::LookAtManager(shop, camera);
     const QStringList missing = album.MissingScreens();
     for (const QString& screen : missing) std::fprintf(stderr, "No picture shows %s.\n", qPrintable(screen));
     for (const QString& fault : album.Faults()) std::fprintf(stderr, "%s.\n", qPrintable(fault));

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "manager/Page.h"
+#include "ui_HealthPage.h"
+
+namespace manager {
+
+// What a look over the shop finds, in words.
+class HealthPage : public Page {
+    Q_OBJECT
+
+public:
+    explicit HealthPage(QWidget* parent);
+
+    Ui::HealthPage ui;
+
+protected:
+    void Form_Load() override;
+
+private:
+    void cmdLook_Click();
+};
+
+}  // namespace manager

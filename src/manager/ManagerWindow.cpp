@@ -1,0 +1,64 @@
+#include "manager/ManagerWindow.h"
+
+#include <QItemSelectionModel>
+#include <QShortcut>
+
+#include "core/Installation.h"
+#include "output/Folder.h"
+
+using namespace Qt::StringLiterals;
+
+namespace manager {
+
+ManagerWindow::ManagerWindow() {
+    ui.setupUi(this);
+    setWindowFlags(Qt::Window);
+    ui.lstPages->SetColumns({{u""_s, Qt::AlignLeft, -1}});
+    connect(ui.lstPages->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            Guarded(&ManagerWindow::lstPages_Chosen));
+    for (const auto& [key, step] : {std::pair{Qt::Key_PageDown, 1}, std::pair{Qt::Key_PageUp, -1}})
+        connect(new QShortcut(QKeyCombination(Qt::ControlModifier, key), this), &QShortcut::activated, this,
+                [this, step = step] {
+                    ui.lstPages->Select(qBound(0, ui.lstPages->Selected() + step, ui.lstPages->Count() - 1));
+                });
+}
+
+void ManagerWindow::Form_Load() {
+    for (const PageEntry& entry : entries_) ui.lstPages->Add({entry.name});
+    ui.lstPages->Select(0);
+    TellOfShop();
+}
+
+void ManagerWindow::lstPages_Chosen() {
+    if (const int chosen = ui.lstPages->Selected(); chosen >= 0) BringUp(static_cast<size_t>(chosen));
+}
+
+void ManagerWindow::BringUp(size_t number) {
+    Page*& page = pages_[number];
+    if (page == nullptr) {
+        page = entries_[number].make(ui.stkPages);
+        ui.stkPages->addWidget(page);
+        connect(page, &Page::ShopChanged, this, Guarded(&ManagerWindow::TellOfShop));
+        page->Load();
+    }
+    ui.lblPage->setText(page->Name());
+    ui.stkPages->setCurrentWidget(page);
+}
+
+void ManagerWindow::ShowPage(const QString& className) {
+    for (size_t number = 0; number < entries_.size(); ++number)
+        if (entries_[number].className == className) ui.lstPages->Select(static_cast<int>(number));
+}
+
+// A page that is in the middle of something may want to stay.
+bool ManagerWindow::Form_Unload() {
+    for (Page* page : pages_)
+        if (page != nullptr && !page->Unload()) return false;
+    return true;
+}
+
+void ManagerWindow::TellOfShop() {
+    ui.lblStatus->setText(tr("%1   –   %2").arg(TheInstallation.heading.NazivFirme, output::ProgramFolder()));
+}
+
+}  // namespace manager

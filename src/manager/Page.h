@@ -1,0 +1,24 @@
+#pragma once
+
+#include "forms/Form.h"
+
+namespace manager {
+
+// A page of the manager's window: a form within it, which is made when its name is first chosen and keeps what was done
+// in it. Form_Activate, each time it comes to the front, is where it looks at the shop anew.
+class Page : public forms::Form {
+    Q_OBJECT
+
+public:
+    // What stands beside other pages' names, and above the page.
+    virtual QString Name() const { return Caption(); }
+
+Q_SIGNALS:
+    // What the window tells below its pages may be another now: the last backup, the shop's name.
+    void ShopChanged();
+
+protected:
+    using forms::Form::Form;
+};
+
+}  // namespace manager

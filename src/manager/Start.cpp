@@ -1,0 +1,78 @@
+#include "manager/Start.h"
+
+#include <sys/stat.h>
+
+#include <QApplication>
+#include <csignal>
+
+#include "core/Installation.h"
+#include "core/Settings.h"
+#include "core/dbModule.h"
+#include "forms/MsgBox.h"
+#include "forms/Theme.h"
+#include "manager/ManagerLogin.h"
+#include "manager/ManagerWindow.h"
+#include "output/Folder.h"
+#include "values/Locale.h"
+
+using namespace Qt::StringLiterals;
+
+namespace manager {
+
+namespace {
+
+const auto Title = u"VELTON Manager"_s;
+
+// The password that every shop is delivered with.
+const auto DeliveredUserQuery = u"SELECT UserID FROM Users WHERE AccLevel = '3' AND Password = '1234'"_s;
+const auto OwnersQuery = u"SELECT UserID FROM Users WHERE AccLevel = '3'"_s;
+const auto InvoicesQuery = u"SELECT InvoiceID FROM Invoices"_s;
+
+bool IsAsDelivered() {
+    return MainStore().OpenRecordset(DeliveredUserQuery).RecordCount() == 1 &&
+           MainStore().OpenRecordset(OwnersQuery).RecordCount() == 1 &&
+           MainStore().OpenRecordset(InvoicesQuery).AtEOF();
+}
+
+void OpenShop() {
+    const QStringList refused = ReadInstallation();
+    forms::UseContrast(TheInstallation.contrast);
+    if (!refused.isEmpty()) forms::Inform(refused.join(u'\n'), Title);
+    OpenOptionsStore();
+    auto options = OptionsStore().OpenRecordset(u"SELECT * FROM Options"_s);
+    options.MoveFirst();
+    ReadSettings(options);
+    OpenMainStore();
+    ShowWaitsOfMainStore();
+}
+
+void ShowWindow() {
+    auto* window = forms::Open<ManagerWindow>();
+    QObject::connect(window, &forms::Form::Unloaded, [] { forms::Run([] { forms::EndProgram(); }, Title); });
+    window->Show();
+}
+
+}  // namespace
+
+void PrepareManager() {
+    ::umask(077);  // a shop's files belong to its user alone
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+    QApplication::setApplicationName(Title);
+    QApplication::setApplicationVersion(QStringLiteral(VELTON_VERSION));
+    forms::InstallTheme();
+}
+
+bool StartManager(const QString& folder) {
+    output::SetProgramFolder(folder);
+    forms::Run(
+        [] {
+            OpenShop();
+            if (IsAsDelivered()) return ShowWindow();
+            forms::Open<ManagerLogin>(ShowWindow)->Show();
+        },
+        Title, true);
+    return !forms::ProgramIsEnding() && !forms::LoadedForms().isEmpty();
+}
+
+}  // namespace manager
