@@ -80,7 +80,8 @@ QString ScreenCase::Shown(const QString& what) {
 forms::ListView& ScreenCase::List(const QString& name) {
     if (!name.isEmpty()) return Of<forms::ListView>(name);
     auto* list = Form().findChild<forms::ListView*>(u"lv1"_s);
-    if (!list) list = Form().findChild<forms::ListView*>();
+    for (auto* other : Form().findChildren<forms::ListView*>())
+        if (!list && other->isVisible()) list = other;
     if (!list) throw std::runtime_error("the form has no list");
     return *list;
 }

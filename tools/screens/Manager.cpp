@@ -1,5 +1,8 @@
 #include "screens/Manager.h"
 
+#include <QTabWidget>
+
+#include "cashier/DayClock.h"
 #include "cashier/Restart.h"
 #include "manager/ManagerLogin.h"
 #include "manager/ManagerWindow.h"
@@ -17,10 +20,21 @@ QString PictureOfPage(const QString& className) {
     return u"manager-"_s + className.chopped(4).toLower();
 }
 
+void ShowSteps(manager::ManagerWindow& window, const Cashier::Camera& camera) {
+    auto* steps = window.findChild<QTabWidget*>(u"tabSteps"_s);
+    for (const QString& picture : {u"taxes"_s, u"password"_s, u"users"_s, u"register"_s}) {
+        steps->setCurrentIndex(steps->currentIndex() + 1);
+        drivers::Settle();
+        camera(window, u"manager-setup-"_s + picture);
+    }
+    steps->setCurrentIndex(0);
+}
+
 }  // namespace
 
 void LookAtManager(const QString& shop, const Cashier::Camera& camera) {
     drivers::ForgetProgram();
+    const DayClock clock(QDateTime(QDate(2026, 11, 25), QTime(8, 10)));
     manager::StartManager(shop);
     drivers::Settle();
     auto& login = dynamic_cast<manager::ManagerLogin&>(*forms::FindForm(u"ManagerLogin"));
@@ -34,6 +48,7 @@ void LookAtManager(const QString& shop, const Cashier::Camera& camera) {
         window.ShowPage(entry.className);
         drivers::Settle();
         camera(window, PictureOfPage(entry.className));
+        if (entry.className == u"SetupPage") ShowSteps(window, camera);
     }
     drivers::ForgetProgram();
 }
