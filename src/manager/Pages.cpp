@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include "manager/HealthPage.h"
+#include "manager/printers/PrintersPage.h"
 #include "manager/setup/SetupPage.h"
 
 using namespace Qt::StringLiterals;
@@ -24,6 +25,7 @@ QString Named(const char* name) {
 
 std::vector<PageEntry> AllPages() {
     return {
+        {u"PrintersPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Printers")), Make<PrintersPage>},
         {u"SetupPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Set-up")), Make<SetupPage>},
         {u"HealthPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Health")), Make<HealthPage>},
     };
