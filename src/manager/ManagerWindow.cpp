@@ -21,6 +21,7 @@ ManagerWindow::ManagerWindow() {
                 [this, step = step] {
                     ui.lstPages->Select(qBound(0, ui.lstPages->Selected() + step, ui.lstPages->Count() - 1));
                 });
+    connect(new QShortcut(QKeySequence::Quit, this), &QShortcut::activated, this, &QWidget::close);
 }
 
 void ManagerWindow::Form_Load() {
