@@ -47,10 +47,11 @@ void OpenShop() {
     ShowWaitsOfMainStore();
 }
 
-void ShowWindow() {
+ManagerWindow* ShowWindow() {
     auto* window = forms::Open<ManagerWindow>();
     QObject::connect(window, &forms::Form::Unloaded, [] { forms::Run([] { forms::EndProgram(); }, Title); });
     window->Show();
+    return window;
 }
 
 }  // namespace
@@ -70,8 +71,8 @@ bool StartManager(const QString& folder) {
     forms::Run(
         [] {
             OpenShop();
-            if (IsAsDelivered()) return ShowWindow();
-            forms::Open<ManagerLogin>(ShowWindow)->Show();
+            if (IsAsDelivered()) return ShowWindow()->ShowPage(u"SetupPage"_s);
+            forms::Open<ManagerLogin>([] { ShowWindow(); })->Show();
         },
         Title, true);
     return !forms::ProgramIsEnding() && !forms::LoadedForms().isEmpty();
