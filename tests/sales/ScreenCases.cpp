@@ -1,10 +1,11 @@
-#include "support/ScreenCase.h"
-
 #include <QDir>
 #include <QTabWidget>
 
 #include "core/Session.h"
 #include "core/mdiORVA.h"
+#include "support/Engines.h"
+#include "support/ScreenCase.h"
+#include "support/Server.h"
 
 using drivers::Get;
 using drivers::ScreenCase;
@@ -40,6 +41,16 @@ namespace {
          const auto* tabs = Get<QTabWidget>(at.Form(), u"SSTab1");
          EXPECT_EQ(tabs->tabToolTip(0) + u" | "_s + tabs->tabText(1), rest);
      }},
+    // `on-server` leaves a case to the run whose main store is there; `server stops`, `server starts`.
+    {u"on-server"_s,
+     [](ScreenCase&, const QString&, const Step&) {
+         if (!drivers::OnServer()) GTEST_SKIP() << "the main store is a file";
+     }},
+    {u"server"_s,
+     [](ScreenCase&, const QString& rest, const Step&) {
+         auto& server = drivers::Server::Running();
+         rest == u"stops" ? server.Kill() : server.Start();
+     }},
     // The lines of invoices in the copy that was made of a store.
     {u"saved"_s,
      [](ScreenCase& at, const QString& rest, const Step&) {
@@ -53,4 +64,4 @@ namespace {
 
 }  // namespace
 
-INSTANTIATE_SCREEN_CASES(Sales, u"cashier"_s, u"invoice"_s, u"item-entry"_s);
+INSTANTIATE_SCREEN_CASES(Sales, u"cashier"_s, u"invoice"_s, u"item-entry"_s, u"server"_s);

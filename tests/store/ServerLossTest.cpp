@@ -106,6 +106,17 @@ TEST_F(ServerLossTest, ABurstDoesNotGoOnAsIfItsCommitsWereThere) {
     burst.End();
 }
 
+TEST_F(ServerLossTest, AShopThatWasMovedAwayIsToldToBeGone) {
+    AddTax(*store, u"A"_s);
+    const auto mover = Open(address_);
+    mover->TakeAlone();
+    EXPECT_EQ(ErrorOf([&] { Open(address_); }), HeldExclusively);
+    EXPECT_TRUE(mover->PrepareToRetire().contains(u"_moved_"));
+    mover->Retire();
+    EXPECT_THROW(AddTax(*store, u"B"_s), FilesLost);
+    EXPECT_EQ(ErrorOf([&] { Open(address_); }), FileNotFound);
+}
+
 TEST_F(ServerLossTest, PostingsThatWereAcknowledgedSurviveKills) {
     Database::Batch batch(*store);
     auto products = store->OpenRecordset(u"SELECT * FROM Products"_s);

@@ -19,7 +19,7 @@ TEST_P(ScreenCase, Holds) {
 void ScreenCase::Play(const Step& block) {
     for (const Step& step : block.inner) {
         // A case that has failed goes no further, but every form that is open closes.
-        if (HasFailure()) return;
+        if (HasFailure() || IsSkipped()) return;
         PlayStep(step);
     }
 }

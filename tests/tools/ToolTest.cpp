@@ -10,6 +10,7 @@
 #include "store/StorePath.h"
 #include "support/CaseText.h"
 #include "support/Engines.h"
+#include "support/Server.h"
 #include "support/TestFolder.h"
 #include "support/ValueOf.h"
 #include "upkeep/ValueText.h"
@@ -22,6 +23,7 @@ namespace {
 // and "> " behind it; the lines below are the answer: the output, then the error output behind "! ". The exit code is 1
 // where an error's number is told and 0 elsewhere, or the last line says "exit N". In an answer "|" is a tab, "~" an
 // empty line, "..." any text, and as a line any lines. What stands before the first case is defined in all of them.
+// $SERVER is the address of a shop on a server that nobody has used.
 struct Talk {
     QString name, file, shell;
     std::vector<std::pair<int, QString>> lines;
@@ -34,7 +36,7 @@ void PrintTo(const Talk& talk, std::ostream* out) {
 std::vector<Talk> Talks() {
     std::vector<Talk> talks;
     for (const auto& topic :
-         {u"backup"_s, u"check"_s, u"delivery"_s, u"files"_s, u"insert"_s, u"load"_s, u"new"_s, u"sql"_s}) {
+         {u"backup"_s, u"check"_s, u"delivery"_s, u"files"_s, u"insert"_s, u"load"_s, u"move"_s, u"new"_s, u"sql"_s}) {
         QFile file(QStringLiteral(TEST_DATA "/tools/%1.txt").arg(topic));
         EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << topic.toStdString();
         QString shell;
@@ -81,6 +83,7 @@ protected:
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
         environment.insert(u"TOOL"_s, QStringLiteral(PROGRAMS "/velton-store"));
+        environment.insert(u"SERVER"_s, server_);
         environment.insert(u"STRANGER"_s, QCoreApplication::applicationFilePath());
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(folder_.path());
@@ -107,7 +110,13 @@ protected:
             << expected.join(u'\n').toStdString();
     }
 
+    static bool AsksForServer() {
+        return std::ranges::any_of(GetParam().lines, [](const auto& line) { return line.second.contains(u"$SERVER"); });
+    }
+
     const QTemporaryDir folder_{FolderTemplate()};
+    // Of a shop on a server that nobody has used.
+    const QString server_ = AsksForServer() ? drivers::Server::Running().NewShop() : QString();
 };
 
 }  // namespace
