@@ -4,6 +4,7 @@
 
 #include <csignal>
 
+#include "app/Backups.h"
 #include "app/Screens.h"
 #include "core/Installation.h"
 #include "core/PrinterWait.h"
@@ -43,6 +44,9 @@ void ShowSalesScreen() {
     main.showMaximized();
     main.raise();
     main.activateWindow();
+    // Once the login has done all that it does.
+    QMetaObject::invokeMethod(
+        &main, [] { forms::Run(LookAfterBackups, u"VELTON"_s); }, Qt::QueuedConnection);
 }
 
 }  // namespace

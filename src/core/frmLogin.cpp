@@ -1,7 +1,7 @@
 #include "core/frmLogin.h"
 
 #include "core/Installation.h"
-#include "core/InstanceLock.h"
+#include "values/InstanceLock.h"
 #include "core/Session.h"
 #include "core/Settings.h"
 #include "core/UserList.h"

@@ -19,6 +19,7 @@ namespace drivers {
 //   load TABLE           the rows under it: names of fields, then a line a row, cells divided by |
 //   as USER; login USER; login (the screen alone); crash; restart (a crash, and the user of `as` again)
 //   locale NAME; clock DATE TIME; clipboard TEXT; write FILE | TEXT; remove FILE; folder NAME
+//   program COMMAND      what the till's own program does where it is started once more
 //   engine SQL | SQL     behind the store's back, as its file and as its server take it
 // What is done:
 //   open ENTRY           of the menu; keys KEYS; go CONTROL (it gets the focus); close (by its window)
@@ -37,6 +38,7 @@ namespace drivers {
 //   list, row N CELLS, codes CODE | CODE, count N     the list, the cells of a row joined by |; list NAME
 //   rows QUERY           with the rows under it
 //   runs FIELD=TEXT      settings in force
+//   comes NAME           a file, within some seconds
 //   file NAME=TEXT       and the other signs of `see`; nofile NAME; copied FILE | OTHER | END (the other and this)
 class ScreenCase : public TillTest, public testing::WithParamInterface<CaseText> {
 public:

@@ -7,6 +7,7 @@
 #include <QRegularExpression>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTest>
 #include <QToolBar>
 
 #include "core/Settings.h"
@@ -192,6 +193,13 @@ QMap<QString, ScreenCase::Word> ScreenCase::States() {
          [](ScreenCase& at, const QString& rest, const Step&) { EXPECT_TRUE(QFile::remove(at.Path(rest))); }},
         {u"folder"_s,
          [](ScreenCase& at, const QString& rest, const Step&) { EXPECT_TRUE(QDir().mkdir(at.Path(rest))); }},
+        {u"program"_s,
+         [](ScreenCase& at, const QString& rest, const Step&) {
+             QFile script(at.Path(u"velton"_s));
+             EXPECT_TRUE(script.open(QIODevice::WriteOnly));
+             script.write("#!/bin/sh\ncd " + at.Path({}).toUtf8() + " && " + rest.toUtf8() + '\n');
+             script.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+         }},
         {u"engine"_s,
          [](ScreenCase& at, const QString& rest, const Step&) {
              DoBehind(at.folder.path(), rest.section(u" | "_s, 0, 0), rest.section(u" | "_s, 1));
@@ -283,6 +291,10 @@ QMap<QString, ScreenCase::Word> ScreenCase::Checks() {
                          const Step&) { EXPECT_TRUE(forms::FindForm(rest)) << rest.toStdString(); }},
         {u"unloaded"_s, [](ScreenCase&, const QString& rest,
                            const Step&) { EXPECT_FALSE(forms::FindForm(rest)) << rest.toStdString(); }},
+        {u"comes"_s,
+         [](ScreenCase& at, const QString& rest, const Step&) {
+             EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(at.Path(rest)); }, 10'000)) << rest.toStdString();
+         }},
         {u"ended"_s,
          [](ScreenCase&, const QString& rest, const Step&) {
              EXPECT_TRUE(forms::ProgramIsEnding());

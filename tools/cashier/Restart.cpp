@@ -1,6 +1,6 @@
 #include "cashier/Restart.h"
 
-#include "core/InstanceLock.h"
+#include "values/InstanceLock.h"
 #include "core/Session.h"
 #include "core/Settings.h"
 #include "core/dbModule.h"

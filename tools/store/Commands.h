@@ -17,7 +17,12 @@ void Sql(const QString& folder, const QString& text, Which which);
 void Insert(const QString& folder, const QString& table, const QStringList& fields, Which which);
 void Load(const QString& folder, const QString& table, const QString& file);
 void Check(const QString& folder);
+// The main store alone, as a file.
 void Backup(const QString& folder, const QString& file);
+// Whole registers, in `place`, or where velton.ini says when it is empty.
+void BackupRegister(const QString& folder, const QString& place);
+void Backups(const QString& folder, const QString& place);
+void Restore(const QString& folder, const QString& backup);
 // To a server, or into the folder where the address is empty.
 void Move(const QString& folder, const QString& address);
 

@@ -29,7 +29,7 @@ int Report(int number, const QString& description) {
 
 // What the command line gave, in bytes.
 struct Arguments {
-    std::string folder, table, file, text, server;
+    std::string folder, table, file, text, server, place;
     std::vector<std::string> fields;
     bool withDemo = false;
     bool options = false;
@@ -80,9 +80,22 @@ void AddCalls(CLI::App& app, Arguments& a) {
     call = AddCall(app, a, "check", "Looks both stores over; damage gives 1, notes alone give 0");
     call->callback([&a] { tool::Check(Text(a.folder)); });
 
-    call = AddCall(app, a, "backup", "Copies the main store while registers work");
-    call->add_option("FILE", a.file, "The copy, a file that does not exist yet")->required();
-    call->callback([&a] { tool::Backup(Text(a.folder), Text(a.file)); });
+    call = AddCall(app, a, "backup", "Copies the main store into FILE, or the whole register, while registers work");
+    CLI::Option* file = call->add_option("FILE", a.file, "The copy of the main store, a file that does not exist yet");
+    call->add_option("--to", a.place, "The folder for backups of whole registers; else as velton.ini has it")
+        ->excludes(file);
+    call->callback([&a] {
+        a.file.empty() ? tool::BackupRegister(Text(a.folder), Text(a.place))
+                       : tool::Backup(Text(a.folder), Text(a.file));
+    });
+
+    call = AddCall(app, a, "backups", "Lists the backups of the whole register, the newest first");
+    call->add_option("--to", a.place, "The folder for backups; else as velton.ini has it");
+    call->callback([&a] { tool::Backups(Text(a.folder), Text(a.place)); });
+
+    call = AddCall(app, a, "restore", "Puts a backup of the whole register in its place, while no till runs");
+    call->add_option("BACKUP", a.file, "The folder of one backup")->required();
+    call->callback([&a] { tool::Restore(Text(a.folder), Text(a.file)); });
 
     call = AddCall(app, a, "move", "Moves the main store to a server or back, while no till runs");
     CLI::Option_group* where = call->add_option_group("where");

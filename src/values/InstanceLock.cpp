@@ -1,4 +1,4 @@
-#include "core/InstanceLock.h"
+#include "values/InstanceLock.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
