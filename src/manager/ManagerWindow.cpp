@@ -1,10 +1,13 @@
 #include "manager/ManagerWindow.h"
 
+#include <QDir>
 #include <QItemSelectionModel>
 #include <QShortcut>
 
 #include "core/Installation.h"
+#include "manager/backup/RestoreForm.h"
 #include "output/Folder.h"
+#include "upkeep/BackupState.h"
 
 using namespace Qt::StringLiterals;
 
@@ -59,7 +62,13 @@ bool ManagerWindow::Form_Unload() {
 }
 
 void ManagerWindow::TellOfShop() {
-    ui.lblStatus->setText(tr("%1   –   %2").arg(TheInstallation.heading.NazivFirme, output::ProgramFolder()));
+    const upkeep::BackupState backup = upkeep::ReadBackupState(output::ProgramFolder());
+    const QString told = backup.good.isValid() ? tr("last backup %1, %2, in %3")
+                                                     .arg(MomentText(backup.good), SizeText(backup.bytes),
+                                                          QDir::toNativeSeparators(backup.path))
+                                               : tr("no backup yet");
+    ui.lblStatus->setText(
+        tr("%1   –   %2   –   %3").arg(TheInstallation.heading.NazivFirme, output::ProgramFolder(), told));
 }
 
 }  // namespace manager

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include "manager/HealthPage.h"
+#include "manager/backup/BackupPage.h"
 #include "manager/printers/PrintersPage.h"
 #include "manager/setup/SetupPage.h"
 
@@ -27,6 +28,7 @@ std::vector<PageEntry> AllPages() {
     return {
         {u"PrintersPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Printers")), Make<PrintersPage>},
         {u"SetupPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Set-up")), Make<SetupPage>},
+        {u"BackupPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Backup")), Make<BackupPage>},
         {u"HealthPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Health")), Make<HealthPage>},
     };
 }

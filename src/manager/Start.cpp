@@ -35,18 +35,6 @@ bool IsAsDelivered() {
            MainStore().OpenRecordset(InvoicesQuery).AtEOF();
 }
 
-void OpenShop() {
-    const QStringList refused = ReadInstallation();
-    forms::UseContrast(TheInstallation.contrast);
-    if (!refused.isEmpty()) forms::Inform(refused.join(u'\n'), Title);
-    OpenOptionsStore();
-    auto options = OptionsStore().OpenRecordset(u"SELECT * FROM Options"_s);
-    options.MoveFirst();
-    ReadSettings(options);
-    OpenMainStore();
-    ShowWaitsOfMainStore();
-}
-
 ManagerWindow* ShowWindow() {
     auto* window = forms::Open<ManagerWindow>();
     QObject::connect(window, &forms::Form::Unloaded, [] { forms::Run([] { forms::EndProgram(); }, Title); });
@@ -63,6 +51,18 @@ void PrepareManager() {
     QApplication::setApplicationName(Title);
     QApplication::setApplicationVersion(QStringLiteral(VELTON_VERSION));
     forms::InstallTheme();
+}
+
+void OpenShop() {
+    const QStringList refused = ReadInstallation();
+    forms::UseContrast(TheInstallation.contrast);
+    if (!refused.isEmpty()) forms::Inform(refused.join(u'\n'), Title);
+    OpenOptionsStore();
+    auto options = OptionsStore().OpenRecordset(u"SELECT * FROM Options"_s);
+    options.MoveFirst();
+    ReadSettings(options);
+    OpenMainStore();
+    ShowWaitsOfMainStore();
 }
 
 bool StartManager(const QString& folder) {

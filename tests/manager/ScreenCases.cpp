@@ -1,3 +1,6 @@
+#include <QTemporaryDir>
+#include <list>
+
 #include "manager/ManagerWindow.h"
 #include "manager/Start.h"
 #include "support/ScreenCase.h"
@@ -31,8 +34,14 @@ void GoToPage(ScreenCase& at, const QString& page, const Step&) {
 [[maybe_unused]] const bool added = ScreenCase::AddWords({
     {u"manager"_s, [](ScreenCase& at, const QString&, const Step&) { StartManager(at); }},
     {u"page"_s, GoToPage},
+    // `elsewhere NAME`: a folder of the case that lies on another disk, as it were.
+    {u"elsewhere"_s,
+     [](ScreenCase& at, const QString& rest, const Step&) {
+         static std::list<QTemporaryDir> disks;
+         EXPECT_TRUE(QFile::link(disks.emplace_back().path(), at.Path(rest)));
+     }},
 });
 
 }  // namespace
 
-INSTANTIATE_SCREEN_CASES(Manager, u"manager-printers"_s, u"manager-setup"_s, u"manager-start"_s);
+INSTANTIATE_SCREEN_CASES(Manager, u"manager-backup"_s, u"manager-printers"_s, u"manager-setup"_s, u"manager-start"_s);

@@ -1,5 +1,6 @@
 #include "screens/Manager.h"
 
+#include <QFileInfo>
 #include <QTabWidget>
 
 #include "cashier/DayClock.h"
@@ -7,7 +8,10 @@
 #include "manager/ManagerLogin.h"
 #include "manager/ManagerWindow.h"
 #include "manager/Start.h"
+#include "manager/backup/RestoreForm.h"
 #include "player/Keys.h"
+#include "upkeep/RegisterBackup.h"
+#include "values/IniEdit.h"
 
 using namespace Qt::StringLiterals;
 
@@ -20,6 +24,22 @@ QString PictureOfPage(const QString& className) {
     return u"manager-"_s + className.chopped(4).toLower();
 }
 
+// The day after the backup, on which more was sold.
+void ShowRestore(const QString& shop, const Cashier::Camera& camera) {
+    const upkeep::BackupPlan plan = upkeep::ReadBackupPlan(shop);
+    auto backup = upkeep::BackupsIn(upkeep::FolderOfRegister(plan.place, shop)).front();
+    const auto day = [](int invoices, qint64 hundredths) {
+        return upkeep::DayTotal{.day = QDate(2026, 11, 25),
+                                .invoices = invoices,
+                                .takings = values::Money::FromUnits(100 * hundredths),
+                                .tax = {}};
+    };
+    manager::RestoreForm form(backup, {{.day = QDate(2026, 11, 25), .inStore = day(4, 3120), .inBackup = day(0, 0)}});
+    form.Show();
+    drivers::Settle();
+    camera(form, u"manager-restore"_s);
+}
+
 void ShowSteps(manager::ManagerWindow& window, const Cashier::Camera& camera) {
     auto* steps = window.findChild<QTabWidget*>(u"tabSteps"_s);
     for (const QString& picture : {u"taxes"_s, u"password"_s, u"users"_s, u"register"_s}) {
@@ -30,11 +50,22 @@ void ShowSteps(manager::ManagerWindow& window, const Cashier::Camera& camera) {
     steps->setCurrentIndex(0);
 }
 
+// What a shop has that was set up well.
+void BackUp(const QString& shop) {
+    const QString place = QFileInfo(shop).path() + u"/stick"_s;
+    upkeep::TakeAsPlace(place);
+    values::IniEdit ini(shop + u"/velton.ini"_s);
+    ini.Set(u"backup"_s, u"folder"_s, place);
+    ini.Save();
+    upkeep::BackUpRegister(shop, place, {});
+}
+
 }  // namespace
 
 void LookAtManager(const QString& shop, const Cashier::Camera& camera) {
     drivers::ForgetProgram();
     const DayClock clock(QDateTime(QDate(2026, 11, 25), QTime(8, 10)));
+    BackUp(shop);
     manager::StartManager(shop);
     drivers::Settle();
     auto& login = dynamic_cast<manager::ManagerLogin&>(*forms::FindForm(u"ManagerLogin"));
@@ -49,6 +80,7 @@ void LookAtManager(const QString& shop, const Cashier::Camera& camera) {
         drivers::Settle();
         camera(window, PictureOfPage(entry.className));
         if (entry.className == u"SetupPage") ShowSteps(window, camera);
+        if (entry.className == u"BackupPage") ShowRestore(shop, camera);
     }
     drivers::ForgetProgram();
 }
