@@ -9,6 +9,7 @@
 #include "manager/ManagerWindow.h"
 #include "manager/Start.h"
 #include "manager/backup/RestoreForm.h"
+#include "manager/goods/GoodsPage.h"
 #include "player/Keys.h"
 #include "upkeep/RegisterBackup.h"
 #include "values/IniEdit.h"
@@ -50,6 +51,21 @@ void ShowSteps(manager::ManagerWindow& window, const Cashier::Camera& camera) {
     steps->setCurrentIndex(0);
 }
 
+// A table with a bit of everything.
+void ReadTable(const QString& shop) {
+    auto& page = dynamic_cast<manager::GoodsPage&>(*forms::FindForm(u"GoodsPage"));
+    const QString path = QFileInfo(shop).path() + u"/prices.csv"_s;
+    QFile table(path);
+    if (!table.open(QIODevice::WriteOnly)) throw std::runtime_error("the table can't be written");
+    table.write(
+        "Artikelnummer;Bezeichnung;VK-Preis;Bestand;MwSt;Einheit\n3850101040019;Mlijeko 2,8 % 1 l;2,45;;P;Stk.\n"
+        "4001;K\xC3\xA4se jung;14,90;6,5;P;kg\n4002;Brot;\"1,2,3\";;P;Stk.\n3,85E+12;Wasser;1,10;;P;Stk.\n");
+    table.close();
+    page.ui.txtFile->setText(path);
+    for (const int separator : {1, 0}) page.ui.cboSeparator->setCurrentIndex(separator);
+    drivers::Settle();
+}
+
 // What a shop has that was set up well.
 void BackUp(const QString& shop) {
     const QString place = QFileInfo(shop).path() + u"/stick"_s;
@@ -78,6 +94,7 @@ void LookAtManager(const QString& shop, const Cashier::Camera& camera) {
     for (const auto& entry : manager::AllPages()) {
         window.ShowPage(entry.className);
         drivers::Settle();
+        if (entry.className == u"GoodsPage") ReadTable(shop);
         camera(window, PictureOfPage(entry.className));
         if (entry.className == u"SetupPage") ShowSteps(window, camera);
         if (entry.className == u"BackupPage") ShowRestore(shop, camera);

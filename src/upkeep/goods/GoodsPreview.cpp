@@ -168,8 +168,10 @@ DecimalSign GuessedSign(const TableText& table, const QMap<int, GoodsField>& col
 
 QStringList GoodsRow::Changes() const {
     QStringList changes;
-    const auto tell = [&changes](GoodsField field, const QString& old, const QString& now) {
-        if (old != now) changes << u"%1: %2 → %3"_s.arg(NameOf(field), old, now);
+    const auto tell = [&changes, this](GoodsField field, const QString& old, const QString& now) {
+        if (old == now) return;
+        changes << (kind == Kind::New ? u"%1: %2"_s.arg(NameOf(field), now)
+                                      : u"%1: %2 → %3"_s.arg(NameOf(field), old, now));
     };
     tell(GoodsField::Name, before.name, after.name);
     tell(GoodsField::Price, Shown(before.price, u"0.00##"), Shown(after.price, u"0.00##"));

@@ -40,7 +40,7 @@ struct GoodsRow {
     Goods after = {};
     QStringList why = {};  // refused or left out, in words
 
-    // What differs, each as "Price: 2.00 -> 2.50".
+    // What differs, each as "Price: 2.00 -> 2.50"; what new goods have, as "Price: 2.50".
     QStringList Changes() const;
 };
 
