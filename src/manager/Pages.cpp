@@ -5,6 +5,7 @@
 #include "manager/HealthPage.h"
 #include "manager/backup/BackupPage.h"
 #include "manager/goods/GoodsPage.h"
+#include "manager/goods/PricesPage.h"
 #include "manager/printers/PrintersPage.h"
 #include "manager/setup/SetupPage.h"
 
@@ -28,6 +29,7 @@ QString Named(const char* name) {
 std::vector<PageEntry> AllPages() {
     return {
         {u"GoodsPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Goods")), Make<GoodsPage>},
+        {u"PricesPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Prices")), Make<PricesPage>},
         {u"PrintersPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Printers")), Make<PrintersPage>},
         {u"SetupPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Set-up")), Make<SetupPage>},
         {u"BackupPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Backup")), Make<BackupPage>},

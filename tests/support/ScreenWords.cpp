@@ -228,7 +228,8 @@ QMap<QString, ScreenCase::Word> ScreenCase::Deeds() {
          [](ScreenCase& at, const QString& rest, const Step&) {
              const QString name = rest.section(u' ', 0, 0);
              Reach(&at.Of<QWidget>(name));
-             Type(*at.Of<QWidget>(name).window(), name, rest.section(u' ', 1));
+             QWidget& form = at.Form();
+             Type(form.findChild<QWidget*>(name) ? form : *at.Of<QWidget>(name).window(), name, rest.section(u' ', 1));
          }},
         {u"click"_s,
          [](ScreenCase& at, const QString& rest, const Step&) {

@@ -10,6 +10,7 @@
 #include "manager/Start.h"
 #include "manager/backup/RestoreForm.h"
 #include "manager/goods/GoodsPage.h"
+#include "manager/goods/PricesPage.h"
 #include "player/Keys.h"
 #include "upkeep/RegisterBackup.h"
 #include "values/IniEdit.h"
@@ -95,6 +96,8 @@ void LookAtManager(const QString& shop, const Cashier::Camera& camera) {
         window.ShowPage(entry.className);
         drivers::Settle();
         if (entry.className == u"GoodsPage") ReadTable(shop);
+        if (auto* prices = dynamic_cast<manager::PricesPage*>(forms::FindForm(entry.className)))
+            prices->ui.txtPercent->setText(u"4"_s);
         camera(window, PictureOfPage(entry.className));
         if (entry.className == u"SetupPage") ShowSteps(window, camera);
         if (entry.className == u"BackupPage") ShowRestore(shop, camera);
