@@ -5,7 +5,7 @@
 #include <QShortcut>
 
 #include "core/Installation.h"
-#include "manager/backup/RestoreForm.h"
+#include "manager/Texts.h"
 #include "output/Folder.h"
 #include "upkeep/BackupState.h"
 

@@ -6,6 +6,7 @@
 #include "manager/backup/BackupPage.h"
 #include "manager/goods/GoodsPage.h"
 #include "manager/goods/PricesPage.h"
+#include "manager/overview/OverviewPage.h"
 #include "manager/printers/PrintersPage.h"
 #include "manager/setup/SetupPage.h"
 
@@ -28,6 +29,7 @@ QString Named(const char* name) {
 
 std::vector<PageEntry> AllPages() {
     return {
+        {u"OverviewPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Overview")), Make<OverviewPage>},
         {u"GoodsPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Goods")), Make<GoodsPage>},
         {u"PricesPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Prices")), Make<PricesPage>},
         {u"PrintersPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Printers")), Make<PrintersPage>},

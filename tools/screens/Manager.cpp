@@ -11,6 +11,7 @@
 #include "manager/backup/RestoreForm.h"
 #include "manager/goods/GoodsPage.h"
 #include "manager/goods/PricesPage.h"
+#include "manager/overview/InvoicesForm.h"
 #include "player/Keys.h"
 #include "upkeep/RegisterBackup.h"
 #include "values/IniEdit.h"
@@ -24,6 +25,14 @@ namespace {
 // "BackupPage" is shown as "manager-backup".
 QString PictureOfPage(const QString& className) {
     return u"manager-"_s + className.chopped(4).toLower();
+}
+
+void ShowInvoices(const Cashier::Camera& camera) {
+    manager::InvoicesForm form(
+        {.what = u"Fri, 9 to 10 o'clock"_s, .from = QDate(2026, 11, 20), .to = QDate(2026, 11, 24)});
+    form.Show();
+    drivers::Settle();
+    camera(form, u"manager-invoices"_s);
 }
 
 // The day after the backup, on which more was sold.
@@ -99,6 +108,7 @@ void LookAtManager(const QString& shop, const Cashier::Camera& camera) {
         if (auto* prices = dynamic_cast<manager::PricesPage*>(forms::FindForm(entry.className)))
             prices->ui.txtPercent->setText(u"4"_s);
         camera(window, PictureOfPage(entry.className));
+        if (entry.className == u"OverviewPage") ShowInvoices(camera);
         if (entry.className == u"SetupPage") ShowSteps(window, camera);
         if (entry.className == u"BackupPage") ShowRestore(shop, camera);
     }

@@ -8,6 +8,7 @@
 #include "forms/MsgBox.h"
 #include "manager/Beside.h"
 #include "manager/Start.h"
+#include "manager/Texts.h"
 #include "manager/backup/RestoreForm.h"
 #include "output/Folder.h"
 #include "upkeep/BackupState.h"

@@ -1,7 +1,7 @@
 #include "manager/backup/RestoreForm.h"
 
+#include "manager/Texts.h"
 #include "values/DateText.h"
-#include "values/Format.h"
 
 using namespace Qt::StringLiterals;
 
@@ -33,18 +33,6 @@ void RestoreForm::cmdReplace_Click() {
 
 void RestoreForm::cmdLeave_Click() {
     Unload();
-}
-
-QString MomentText(const QDateTime& moment) {
-    return values::DateText(moment.date()) + u"  "_s + moment.time().toString(u"HH:mm"_s);
-}
-
-QString AmountText(values::Money amount) {
-    return values::Format(amount, u"###,###,##0.00");
-}
-
-QString SizeText(qint64 bytes) {
-    return QLocale::c().formattedDataSize(bytes, 1, QLocale::DataSizeTraditionalFormat);
 }
 
 }  // namespace manager

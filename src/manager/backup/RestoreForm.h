@@ -24,9 +24,4 @@ private:
     bool isAgreed_ = false;
 };
 
-// A moment and an amount as the owner's pages show them.
-QString MomentText(const QDateTime& moment);
-QString AmountText(values::Money amount);
-QString SizeText(qint64 bytes);
-
 }  // namespace manager

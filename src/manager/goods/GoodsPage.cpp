@@ -8,7 +8,7 @@
 #include "forms/FileDialog.h"
 #include "forms/LongWork.h"
 #include "forms/MsgBox.h"
-#include "manager/backup/RestoreForm.h"
+#include "manager/Texts.h"
 #include "output/Folder.h"
 #include "upkeep/goods/GoodsExport.h"
 #include "upkeep/goods/GoodsImport.h"

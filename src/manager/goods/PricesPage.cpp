@@ -2,7 +2,7 @@
 
 #include "core/dbModule.h"
 #include "forms/MsgBox.h"
-#include "manager/backup/RestoreForm.h"
+#include "manager/Texts.h"
 #include "output/Folder.h"
 #include "upkeep/goods/GoodsImport.h"
 #include "values/Format.h"
