@@ -39,14 +39,18 @@ void ManagerWindow::lstPages_Chosen() {
 
 void ManagerWindow::BringUp(size_t number) {
     Page*& page = pages_[number];
-    if (page == nullptr) {
-        page = entries_[number].make(ui.stkPages);
-        ui.stkPages->addWidget(page);
-        connect(page, &Page::ShopChanged, this, Guarded(&ManagerWindow::TellOfShop));
-        page->Load();
-    }
+    if (page == nullptr) page = Made(number);
     ui.lblPage->setText(page->Name());
     ui.stkPages->setCurrentWidget(page);
+}
+
+// One that can't be shown is not there, and is tried again the next time.
+Page* ManagerWindow::Made(size_t number) {
+    std::unique_ptr<Page> page(entries_[number].make(ui.stkPages));
+    connect(page.get(), &Page::ShopChanged, this, Guarded(&ManagerWindow::TellOfShop));
+    page->Load();
+    ui.stkPages->addWidget(page.get());
+    return page.release();
 }
 
 void ManagerWindow::ShowPage(const QString& className) {

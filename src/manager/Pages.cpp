@@ -4,6 +4,7 @@
 
 #include "manager/HealthPage.h"
 #include "manager/backup/BackupPage.h"
+#include "manager/drawer/DrawerPage.h"
 #include "manager/goods/GoodsPage.h"
 #include "manager/goods/PricesPage.h"
 #include "manager/overview/OverviewPage.h"
@@ -30,6 +31,7 @@ QString Named(const char* name) {
 std::vector<PageEntry> AllPages() {
     return {
         {u"OverviewPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Overview")), Make<OverviewPage>},
+        {u"DrawerPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Drawer")), Make<DrawerPage>},
         {u"GoodsPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Goods")), Make<GoodsPage>},
         {u"PricesPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Prices")), Make<PricesPage>},
         {u"PrintersPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Printers")), Make<PrintersPage>},

@@ -61,6 +61,7 @@ void OpenShop() {
     auto options = OptionsStore().OpenRecordset(u"SELECT * FROM Options"_s);
     options.MoveFirst();
     ReadSettings(options);
+    static_cast<Heading&>(TheSettings) = TheInstallation.heading;
     OpenMainStore();
     ShowWaitsOfMainStore();
 }

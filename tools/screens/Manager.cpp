@@ -1,6 +1,7 @@
 #include "screens/Manager.h"
 
 #include <QFileInfo>
+#include <QSpinBox>
 #include <QTabWidget>
 
 #include "cashier/DayClock.h"
@@ -105,6 +106,7 @@ void LookAtManager(const QString& shop, const Cashier::Camera& camera) {
         window.ShowPage(entry.className);
         drivers::Settle();
         if (entry.className == u"GoodsPage") ReadTable(shop);
+        for (auto* box : window.findChildren<QSpinBox*>(u"spnPieces4"_s)) box->setValue(6);
         if (auto* prices = dynamic_cast<manager::PricesPage*>(forms::FindForm(entry.className)))
             prices->ui.txtPercent->setText(u"4"_s);
         camera(window, PictureOfPage(entry.className));
