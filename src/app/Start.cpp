@@ -6,6 +6,7 @@
 
 #include "app/Backups.h"
 #include "app/Screens.h"
+#include "core/ErrorLog.h"
 #include "core/Installation.h"
 #include "core/PrinterWait.h"
 #include "core/Settings.h"
@@ -64,6 +65,7 @@ void PrepareApplication() {
 
 bool StartProgram() {
     ShowWaitsOfOutput();
+    KeepErrorLog();
     forms::UseKeypad([] { return TheSettings.POSMonitor == u"2"; });
     forms::Run(
         [] {

@@ -19,6 +19,8 @@ protected:
 
 private:
     void cmdLook_Click();
+    void cmdReport_Click();
+    void lstFindings_Chosen();
 };
 
 }  // namespace manager

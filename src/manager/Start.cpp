@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <csignal>
 
+#include "core/ErrorLog.h"
 #include "core/Installation.h"
 #include "core/PrinterWait.h"
 #include "core/Settings.h"
@@ -69,6 +70,7 @@ void OpenShop() {
 bool StartManager(const QString& folder) {
     output::SetProgramFolder(folder);
     ShowWaitsOfOutput();
+    KeepErrorLog();
     forms::Run(
         [] {
             OpenShop();

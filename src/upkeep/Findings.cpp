@@ -27,8 +27,18 @@ void Findings::Note(const QString& kind, const QString& which) {
 
 QStringList Findings::NoteLines() const {
     QStringList lines;
-    for (const QString& kind : kinds_) lines.append(u"%1: %2"_s.arg(kind, FirstFew(notes_.value(kind))));
+    for (const QString& kind : kinds_) lines.append(NoteLine(kind));
     return lines;
+}
+
+QString Findings::NoteLine(const QString& kind) const {
+    return u"%1: %2"_s.arg(kind, FirstFew(notes_.value(kind)));
+}
+
+QList<std::pair<QString, int>> Findings::NoteCounts() const {
+    QList<std::pair<QString, int>> counts;
+    for (const QString& kind : kinds_) counts.append({kind, static_cast<int>(notes_.value(kind).size())});
+    return counts;
 }
 
 void Findings::ThrowDamage() const {

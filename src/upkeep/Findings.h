@@ -18,6 +18,9 @@ public:
 
     // Each note as "kind: case, case and 7 more".
     QStringList NoteLines() const;
+    // Each kind of note, and how many cases it has.
+    QList<std::pair<QString, int>> NoteCounts() const;
+    QString NoteLine(const QString& kind) const;
     const QStringList& FactLines() const { return facts_; }
     const QStringList& DamageLines() const { return damage_; }
     // Throws when there is damage, under the number of the first.

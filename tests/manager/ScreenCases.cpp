@@ -53,5 +53,6 @@ void GoToPage(ScreenCase& at, const QString& page, const Step&) {
 
 }  // namespace
 
-INSTANTIATE_SCREEN_CASES(Manager, u"manager-backup"_s, u"manager-drawer"_s, u"manager-goods"_s, u"manager-overview"_s,
-                         u"manager-prices"_s, u"manager-printers"_s, u"manager-setup"_s, u"manager-start"_s);
+INSTANTIATE_SCREEN_CASES(Manager, u"manager-backup"_s, u"manager-drawer"_s, u"manager-goods"_s, u"manager-health"_s,
+                         u"manager-overview"_s, u"manager-prices"_s, u"manager-printers"_s, u"manager-setup"_s,
+                         u"manager-start"_s);

@@ -9,12 +9,14 @@
 #include "manager/ManagerLogin.h"
 #include "manager/ManagerWindow.h"
 #include "manager/Start.h"
+#include "manager/SupportForm.h"
 #include "manager/backup/RestoreForm.h"
 #include "manager/goods/GoodsPage.h"
 #include "manager/goods/PricesPage.h"
 #include "manager/overview/InvoicesForm.h"
 #include "player/Keys.h"
 #include "upkeep/RegisterBackup.h"
+#include "upkeep/SupportReport.h"
 #include "values/IniEdit.h"
 
 using namespace Qt::StringLiterals;
@@ -26,6 +28,13 @@ namespace {
 // "BackupPage" is shown as "manager-backup".
 QString PictureOfPage(const QString& className) {
     return u"manager-"_s + className.chopped(4).toLower();
+}
+
+void ShowSupport(const QString& shop, const Cashier::Camera& camera) {
+    manager::SupportForm form(upkeep::SupportReport(shop));
+    form.Show();
+    drivers::Settle();
+    camera(form, u"manager-support"_s);
 }
 
 void ShowInvoices(const Cashier::Camera& camera) {
@@ -110,6 +119,7 @@ void LookAtManager(const QString& shop, const Cashier::Camera& camera) {
         if (auto* prices = dynamic_cast<manager::PricesPage*>(forms::FindForm(entry.className)))
             prices->ui.txtPercent->setText(u"4"_s);
         camera(window, PictureOfPage(entry.className));
+        if (entry.className == u"HealthPage") ShowSupport(shop, camera);
         if (entry.className == u"OverviewPage") ShowInvoices(camera);
         if (entry.className == u"SetupPage") ShowSteps(window, camera);
         if (entry.className == u"BackupPage") ShowRestore(shop, camera);

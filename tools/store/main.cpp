@@ -117,6 +117,9 @@ void AddCalls(CLI::App& app, Arguments& a) {
     call = AddCall(app, a, "check", "Looks both stores over; damage gives 1, notes alone give 0");
     call->callback([&a] { tool::Check(Text(a.folder)); });
 
+    call = AddCall(app, a, "report", "Tells whoever helps of the register, without names, sales and passwords");
+    call->callback([&a] { tool::Report(Text(a.folder)); });
+
     call = AddCall(app, a, "backup", "Copies the main store into FILE, or the whole register, while registers work");
     CLI::Option* file = call->add_option("FILE", a.file, "The copy of the main store, a file that does not exist yet");
     call->add_option("--to", a.place, "The folder for backups of whole registers; else as velton.ini has it")
