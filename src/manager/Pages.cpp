@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include "manager/HealthPage.h"
+#include "manager/labels/LabelsPage.h"
 #include "manager/setup/SetupPage.h"
 
 using namespace Qt::StringLiterals;
@@ -25,6 +26,7 @@ QString Named(const char* name) {
 std::vector<PageEntry> AllPages() {
     return {
         {u"SetupPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Set-up")), Make<SetupPage>},
+        {u"LabelsPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Labels")), Make<LabelsPage>},
         {u"HealthPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Health")), Make<HealthPage>},
     };
 }
