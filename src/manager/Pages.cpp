@@ -9,6 +9,7 @@
 #include "manager/goods/PricesPage.h"
 #include "manager/overview/OverviewPage.h"
 #include "manager/printers/PrintersPage.h"
+#include "manager/labels/LabelsPage.h"
 #include "manager/setup/SetupPage.h"
 
 using namespace Qt::StringLiterals;
@@ -37,6 +38,7 @@ std::vector<PageEntry> AllPages() {
         {u"PrintersPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Printers")), Make<PrintersPage>},
         {u"SetupPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Set-up")), Make<SetupPage>},
         {u"BackupPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Backup")), Make<BackupPage>},
+        {u"LabelsPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Labels")), Make<LabelsPage>},
         {u"HealthPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Health")), Make<HealthPage>},
     };
 }
