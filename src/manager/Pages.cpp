@@ -7,9 +7,9 @@
 #include "manager/drawer/DrawerPage.h"
 #include "manager/goods/GoodsPage.h"
 #include "manager/goods/PricesPage.h"
+#include "manager/labels/LabelsPage.h"
 #include "manager/overview/OverviewPage.h"
 #include "manager/printers/PrintersPage.h"
-#include "manager/labels/LabelsPage.h"
 #include "manager/setup/SetupPage.h"
 
 using namespace Qt::StringLiterals;
@@ -35,10 +35,10 @@ std::vector<PageEntry> AllPages() {
         {u"DrawerPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Drawer")), Make<DrawerPage>},
         {u"GoodsPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Goods")), Make<GoodsPage>},
         {u"PricesPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Prices")), Make<PricesPage>},
+        {u"LabelsPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Labels")), Make<LabelsPage>},
         {u"PrintersPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Printers")), Make<PrintersPage>},
         {u"SetupPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Set-up")), Make<SetupPage>},
         {u"BackupPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Backup")), Make<BackupPage>},
-        {u"LabelsPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Labels")), Make<LabelsPage>},
         {u"HealthPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Health")), Make<HealthPage>},
     };
 }

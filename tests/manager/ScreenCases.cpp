@@ -1,3 +1,4 @@
+#include <QProcess>
 #include <QTemporaryDir>
 #include <list>
 
@@ -43,6 +44,17 @@ void GoToPage(ScreenCase& at, const QString& page, const Step&) {
          for (qsizetype i = 0; i < lines; ++i)
              EXPECT_EQ(rows[rows.size() - lines + i].join(u'|'), step.inner[static_cast<size_t>(i)].text);
      }},
+    // `bars FILE BARS`: what a scanner reads on the first page of a PDF, among others.
+    {u"bars"_s,
+     [](ScreenCase& at, const QString& rest, const Step&) {
+         QProcess scanner;
+         scanner.setWorkingDirectory(at.Path({}));
+         scanner.start(u"sh"_s,
+                       {u"-c"_s, u"pdftoppm -r 203 -gray -png -singlefile %1 page && zbarimg -q page.png"_s.arg(
+                                     rest.section(u' ', 0, 0))});
+         EXPECT_TRUE(scanner.waitForFinished());
+         EXPECT_TRUE(scanner.readAllStandardOutput().contains(rest.section(u' ', 1).toUtf8())) << rest.toStdString();
+     }},
     // `elsewhere NAME`: a folder of the case that lies on another disk, as it were.
     {u"elsewhere"_s,
      [](ScreenCase& at, const QString& rest, const Step&) {
@@ -54,5 +66,5 @@ void GoToPage(ScreenCase& at, const QString& page, const Step&) {
 }  // namespace
 
 INSTANTIATE_SCREEN_CASES(Manager, u"manager-backup"_s, u"manager-drawer"_s, u"manager-goods"_s, u"manager-health"_s,
-                         u"manager-overview"_s, u"manager-prices"_s, u"manager-printers"_s, u"manager-setup"_s,
-                         u"manager-start"_s);
+                         u"manager-labels"_s, u"manager-overview"_s, u"manager-prices"_s, u"manager-printers"_s,
+                         u"manager-setup"_s, u"manager-start"_s);

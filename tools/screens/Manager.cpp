@@ -1,5 +1,6 @@
 #include "screens/Manager.h"
 
+#include <QAbstractButton>
 #include <QFileInfo>
 #include <QSpinBox>
 #include <QTabWidget>
@@ -115,6 +116,7 @@ void LookAtManager(const QString& shop, const Cashier::Camera& camera) {
         window.ShowPage(entry.className);
         drivers::Settle();
         if (entry.className == u"GoodsPage") ReadTable(shop);
+        if (entry.className == u"LabelsPage") window.findChild<QAbstractButton*>(u"cmdAddAll"_s)->click();
         for (auto* box : window.findChildren<QSpinBox*>(u"spnPieces4"_s)) box->setValue(6);
         if (auto* prices = dynamic_cast<manager::PricesPage*>(forms::FindForm(entry.className)))
             prices->ui.txtPercent->setText(u"4"_s);
