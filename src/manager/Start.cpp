@@ -15,7 +15,6 @@
 #include "manager/ManagerLogin.h"
 #include "manager/ManagerWindow.h"
 #include "output/Folder.h"
-#include "values/Locale.h"
 
 using namespace Qt::StringLiterals;
 

@@ -9,10 +9,6 @@ namespace {
 const auto DaysQuery =
     u"SELECT DateSold, Count(*) AS N, Sum(CashAmount) AS Cash, Sum(TaxTotal) AS Tax FROM Invoices GROUP BY DateSold"_s;
 
-values::Money AmountOf(const store::Field& field) {
-    return field.IsNull() ? values::Money() : field.Money();
-}
-
 }  // namespace
 
 std::vector<DayTotal> DayTotalsOf(store::Database& database) {
@@ -21,8 +17,8 @@ std::vector<DayTotal> DayTotalsOf(store::Database& database) {
     for (auto& row : rows)
         days.push_back({.day = row[0].IsNull() ? QDate() : row[0].Get().ToDate(),
                         .invoices = static_cast<int>(row[1].Whole()),
-                        .takings = AmountOf(row[2]),
-                        .tax = AmountOf(row[3])});
+                        .takings = row[2].MoneyOrZero(),
+                        .tax = row[3].MoneyOrZero()});
     return days;
 }
 

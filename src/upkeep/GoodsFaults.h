@@ -8,6 +8,12 @@
 
 namespace upkeep {
 
+// As many signs as their boxes at the till have.
+inline constexpr int LongestCode = 13, LongestName = 40;
+
+// The percentages by the keys of the taxes, case folded.
+QHash<QString, values::Value> RatesOf(store::Database& main);
+
 // What a table from elsewhere brings in and no screen would: goods that the till refuses, cuts or taxes wrongly. Knows
 // the taxes and units of a shop as they were when it was made.
 class GoodsFaults {

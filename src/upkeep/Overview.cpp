@@ -37,13 +37,9 @@ QString Between(const QString& query, QDate from, QDate to) {
     return query.arg(Literal(from), Literal(to));
 }
 
-Money AmountIn(const store::Field& field) {
-    return field.IsNull() ? Money() : field.Money();
-}
-
 Sold ReadSold(store::Database& main, QDate from, QDate to) {
     auto row = main.OpenSnapshot(Between(SoldQuery, from, to));
-    return {.takings = AmountIn(row[0]), .invoices = static_cast<int>(row[1].Whole())};
+    return {.takings = row[0].MoneyOrZero(), .invoices = static_cast<int>(row[1].Whole())};
 }
 
 // Sums by key, in the order in which they first came.
@@ -117,7 +113,7 @@ public:
 
 private:
     void TakeInvoice(store::Recordset& invoice) {
-        const Sold sold{.takings = AmountIn(invoice[2]), .invoices = 1};
+        const Sold sold{.takings = invoice[2].MoneyOrZero(), .invoices = 1};
         const QDate day = invoice[0].Get().ToDate();
         overview_.sold += sold;
         overview_.days[static_cast<size_t>(overview_.from.daysTo(day))].sold += sold;
@@ -131,8 +127,11 @@ private:
 
     void TakeLine(store::Recordset& line) {
         const QString code = line[0].TextOrEmpty(), tax = line[1].TextOrEmpty();
-        const NamedSold part{
-            .key = {}, .name = {}, .takings = AmountIn(line[3]), .pieces = AmountIn(line[4]), .tax = AmountIn(line[5])};
+        const NamedSold part{.key = {},
+                             .name = {},
+                             .takings = line[3].MoneyOrZero(),
+                             .pieces = line[4].MoneyOrZero(),
+                             .tax = line[5].MoneyOrZero()};
         NamedSold& product = goods_.Of(code);
         product.name = line[2].TextOrEmpty();
         Add(product, part);
@@ -211,7 +210,7 @@ std::vector<RunningOut> ReadRunningOut(store::Database& main, QDate today, int w
     auto products = main.OpenSnapshot(u"SELECT ProdCode, ProdDescription, Qty FROM Products"_s);
     for (auto& product : products) {
         const double pace = perDay.value(product[0].TextOrEmpty());
-        const Money stock = AmountIn(product[2]);
+        const Money stock = product[2].MoneyOrZero();
         if (pace <= 0 || stock <= Money()) continue;
         const double days = static_cast<double>(stock.Units()) / Money::Scale / pace;
         if (days > within) continue;

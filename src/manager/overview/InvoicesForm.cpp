@@ -1,7 +1,6 @@
 #include "manager/overview/InvoicesForm.h"
 
 #include <QItemSelectionModel>
-#include <QTemporaryFile>
 
 #include "core/dbModule.h"
 #include "manager/Texts.h"
@@ -17,7 +16,7 @@ namespace {
 
 const auto InvoicesQuery =
     u"SELECT InvoiceID, DateSold, TimeSold, CashAmount, CashierName FROM Invoices WHERE DateSold BETWEEN #%1# AND #%2#"_s;
-const auto OneInvoice = u"WHERE InvoiceID = '%1'"_s;
+const auto OneInvoice = u"WHERE InvoiceID = %1"_s;
 
 QString Literal(QDate day) {
     return day.toString(u"MM-dd-yyyy");
@@ -30,7 +29,6 @@ InvoicesForm::InvoicesForm(InvoicesBehind behind) : behind_(std::move(behind)) {
     ui.lstInvoices->SetColumns(
         {{tr("Number"), Qt::AlignLeft, 90}, {tr("Time"), Qt::AlignLeft, 150}, {tr("Total"), Qt::AlignRight, -1}});
     ui.lstInvoices->SetEmptyText(tr("No invoices stand behind this."));
-    ui.txtReceipt->SetDecoder([](const QByteArray& line) { return QString::fromUtf8(line); });
     FunctionKeys({{Qt::Key_Escape, ui.cmdClose}});
     connect(ui.lstInvoices->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             Guarded(&InvoicesForm::lstInvoices_Chosen));
@@ -59,12 +57,9 @@ void InvoicesForm::Form_Load() {
 void InvoicesForm::lstInvoices_Chosen() {
     const int row = ui.lstInvoices->Selected();
     if (row < 0) return ui.txtReceipt->Clear();
-    const QString number = QString(ui.lstInvoices->Text(row)).replace(u'\'', u"''"_s);
-    auto invoices = MainStore().OpenRecordset(StoredInvoicesQuery(OneInvoice.arg(number)));
+    auto invoices = MainStore().OpenRecordset(StoredInvoicesQuery(OneInvoice.arg(Quoted(ui.lstInvoices->Text(row)))));
     if (invoices.AtEOF()) return ui.txtReceipt->Clear();
-    QTemporaryFile file;
-    if (!file.open() || file.write(ReviewText(ReadInvoice(invoices)).toUtf8()) < 0 || !file.flush()) return;
-    ui.txtReceipt->Open(file.fileName());
+    ui.txtReceipt->ShowText(ReviewText(ReadInvoice(invoices)));
 }
 
 void InvoicesForm::cmdClose_Click() {

@@ -4,7 +4,6 @@
 #include <QPageLayout>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QSaveFile>
 #include <QSignalBlocker>
 #include <QTextDocument>
 #include <algorithm>
@@ -326,9 +325,7 @@ void OverviewPage::cmdSave_Click() {
     }
     QByteArray lines = "\xEF\xBB\xBF";
     for (const QStringList& line : TableOfFigures()) lines += upkeep::CsvLine(line);
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(lines) != lines.size() || !file.commit())
-        throw values::FileError(file, u"write '%1'"_s.arg(path));
+    values::SaveFile(path, lines);
 }
 
 }  // namespace manager

@@ -3,7 +3,6 @@
 #include <xlsxwriter.h>
 
 #include <QFile>
-#include <QSaveFile>
 
 #include "upkeep/Words.h"
 #include "upkeep/goods/GoodsColumns.h"
@@ -35,10 +34,7 @@ QStringList GoodsHeadings() {
 }
 
 void WriteFile(const QString& path, const QByteArrayList& lines) {
-    QSaveFile file(path);
-    const QByteArray bytes = "\xEF\xBB\xBF" + lines.join();
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        throw values::FileError(file, u"write '%1'"_s.arg(path));
+    values::SaveFile(path, "\xEF\xBB\xBF" + lines.join());
 }
 
 QString CellOf(const store::Field& field) {

@@ -5,8 +5,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
+#include "upkeep/GoodsFaults.h"
 #include "upkeep/Words.h"
 #include "upkeep/goods/ShopGoods.h"
 #include "values/Clock.h"
@@ -62,10 +62,7 @@ void WriteUndo(const QString& registerFolder, const std::vector<const GoodsRow*>
     const QDir folder = UndoFolder(registerFolder);
     if (!folder.mkpath(u"."_s))
         throw values::FileError(values::PathFault, Words::tr("The folder %1 can't be made.").arg(folder.path()));
-    QSaveFile file(folder.filePath(values::Now().toString(NameForm) + Ending));
-    const QByteArray bytes = QJsonDocument(all).toJson();
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        throw values::FileError(file, u"write '%1'"_s.arg(file.fileName()));
+    values::SaveFile(folder.filePath(values::Now().toString(NameForm) + Ending), QJsonDocument(all).toJson());
     QStringList kept = UndoFiles(registerFolder);
     while (kept.size() > KeptUndos) QFile::remove(folder.filePath(kept.takeFirst()));
 }
@@ -73,13 +70,6 @@ void WriteUndo(const QString& registerFolder, const std::vector<const GoodsRow*>
 void ForgetUndo(const QString& registerFolder) {
     const QStringList files = UndoFiles(registerFolder);
     if (!files.isEmpty()) QFile::remove(UndoFolder(registerFolder).filePath(files.last()));
-}
-
-QHash<QString, values::Value> RatesOf(store::Database& main) {
-    QHash<QString, values::Value> rates;
-    auto taxes = main.OpenSnapshot(u"SELECT TaxID, Percent FROM Tax"_s);
-    for (auto& tax : taxes) rates.insert(tax[0].TextOrEmpty(), tax[1].Get());
-    return rates;
 }
 
 // The fields of one product, as the till's own screens write them.
@@ -115,7 +105,8 @@ private:
         products_[u"Unit"] = goods.unit;
         products_[u"UnitPrice"] = goods.price;
         products_[u"TaxID"] = goods.tax;
-        if (const auto rate = rates_.constFind(goods.tax); rate != rates_.cend()) products_[u"TaxPercent"] = *rate;
+        if (const auto rate = rates_.constFind(goods.tax.toCaseFolded()); rate != rates_.cend())
+            products_[u"TaxPercent"] = *rate;
     }
 
     const QHash<QString, values::Value> rates_;

@@ -1,10 +1,10 @@
 #include "upkeep/goods/GoodsPreview.h"
 
 #include <QHash>
-#include <QLocale>
 #include <QRegularExpression>
 #include <algorithm>
 
+#include "upkeep/GoodsFaults.h"
 #include "upkeep/Words.h"
 #include "upkeep/goods/ShopGoods.h"
 #include "values/FileError.h"
@@ -18,7 +18,6 @@ namespace upkeep {
 
 namespace {
 
-constexpr int LongestCode = 13, LongestName = 40;  // that of their boxes at the till
 constexpr int RowsBetweenLooks = 256;
 
 QString Shown(Money amount, QStringView pattern) {

@@ -1,8 +1,10 @@
 #include "upkeep/goods/PriceChange.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "store/Schema.h"
+#include "upkeep/GoodsFaults.h"
 #include "upkeep/goods/ShopGoods.h"
 
 using namespace Qt::StringLiterals;
@@ -34,12 +36,14 @@ bool IsChosen(store::Recordset& product, const PriceChange& change) {
     return product[u"ProdDescription"].TextOrEmpty().contains(change.namePart, Qt::CaseInsensitive);
 }
 
-QHash<QString, Money> Rates(store::Database& main) {
-    QHash<QString, Money> rates;
-    auto taxes = main.OpenSnapshot(u"SELECT TaxID, Percent FROM Tax"_s);
-    for (auto& tax : taxes)
-        if (!tax[1].IsNull()) rates.insert(tax[0].TextOrEmpty().toCaseFolded(), tax[1].Money());
-    return rates;
+using Rates = QHash<QString, values::Value>;
+
+// The rate of a product's tax where the product has another one or none.
+std::optional<Money> NewRate(store::Recordset& product, const Rates& rates) {
+    const values::Value rate = rates.value(product[u"TaxID"].TextOrEmpty().toCaseFolded());
+    const auto has = product[u"TaxPercent"];
+    if (rate.IsNull() || (!has.IsNull() && has.Money() == rate.ToMoney())) return {};
+    return rate.ToMoney();
 }
 
 }  // namespace
@@ -86,28 +90,25 @@ GoodsPreview PreviewPrices(store::Database& main, const PriceChange& change) {
 
 std::vector<RateChange> PreviewRates(store::Database& main) {
     std::vector<RateChange> changes;
-    const QHash<QString, Money> rates = Rates(main);
+    const Rates rates = RatesOf(main);
     auto products = main.OpenSnapshot(ProductsQuery);
     for (auto& product : products) {
-        const auto rate = rates.constFind(product[u"TaxID"].TextOrEmpty().toCaseFolded());
-        const Money before = product[u"TaxPercent"].IsNull() ? Money() : product[u"TaxPercent"].Money();
-        if (rate == rates.cend() || (*rate == before && !product[u"TaxPercent"].IsNull())) continue;
-        changes.push_back({.code = product[u"ProdCode"].TextOrEmpty(),
-                           .name = product[u"ProdDescription"].TextOrEmpty(),
-                           .before = before,
-                           .after = *rate});
+        if (const auto rate = NewRate(product, rates))
+            changes.push_back({.code = product[u"ProdCode"].TextOrEmpty(),
+                               .name = product[u"ProdDescription"].TextOrEmpty(),
+                               .before = product[u"TaxPercent"].MoneyOrZero(),
+                               .after = *rate});
     }
     return changes;
 }
 
 int WriteRates(store::Database& main) {
     store::Database::Batch batch(main);
-    const QHash<QString, Money> rates = Rates(main);
+    const Rates rates = RatesOf(main);
     int written = 0;
     for (auto& product : main.OpenRecordset(ProductsQuery)) {
-        const auto rate = rates.constFind(product[u"TaxID"].TextOrEmpty().toCaseFolded());
-        if (rate == rates.cend() || (!product[u"TaxPercent"].IsNull() && product[u"TaxPercent"].Money() == *rate))
-            continue;
+        const auto rate = NewRate(product, rates);
+        if (!rate) continue;
         product.Edit();
         product[u"TaxPercent"] = *rate;
         product.Update();

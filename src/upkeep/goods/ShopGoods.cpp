@@ -14,18 +14,14 @@ const QStringList SameUnits[] = {{u"pcs"_s, u"pc"_s, u"piece"_s, u"pieces"_s, u"
                                  {u"l"_s, u"lt"_s, u"ltr"_s, u"liter"_s, u"litre"_s, u"litar"_s, u"lit"_s},
                                  {u"m"_s, u"meter"_s, u"metre"_s, u"metar"_s, u"mtr"_s}};
 
-Money AmountIn(store::Recordset& row, QStringView field) {
-    return row[field].IsNull() ? Money() : row[field].Money();
-}
-
 }  // namespace
 
 Goods GoodsOf(store::Recordset& product) {
     return {.name = product[u"ProdDescription"].TextOrEmpty(),
             .unit = product[u"Unit"].TextOrEmpty(),
             .tax = product[u"TaxID"].TextOrEmpty(),
-            .price = AmountIn(product, u"UnitPrice"),
-            .quantity = AmountIn(product, u"Qty")};
+            .price = product[u"UnitPrice"].MoneyOrZero(),
+            .quantity = product[u"Qty"].MoneyOrZero()};
 }
 
 ShopGoods::ShopGoods(store::Database& main) {
@@ -41,7 +37,7 @@ ShopGoods::ShopGoods(store::Database& main) {
     for (auto& tax : taxes) {
         const QString code = tax[0].TextOrEmpty();
         taxes_.insert(code.toCaseFolded(), code);
-        taxesOfRate_.insert(AmountIn(tax, u"Percent").Units(), code);
+        taxesOfRate_.insert(tax[u"Percent"].MoneyOrZero().Units(), code);
     }
 }
 
