@@ -44,7 +44,7 @@ const store::Schema& ManagerSchema() {
 
 Money SumOf(store::Database& main, const QString& query) {
     auto row = main.OpenSnapshot(query);
-    return row.AtEOF() || row[0].IsNull() ? Money() : row[0].Money();
+    return row.AtEOF() ? Money() : row[0].MoneyOrZero();
 }
 
 }  // namespace
@@ -64,7 +64,7 @@ std::vector<DrawerPeriod> DrawerPeriods(store::Database& main, int endReports) {
 }
 
 std::unique_ptr<store::Database> OpenManagerStore(const QString& registerFolder) {
-    const QString path = QDir(registerFolder).filePath(u"manager.pos"_s);
+    const QString path = QDir(registerFolder).filePath(ManagerFile);
     return QFileInfo::exists(path) ? store::Database::Open(path, ManagerSchema())
                                    : store::Database::Create(path, ManagerSchema());
 }

@@ -34,6 +34,7 @@ struct DrawerPeriod {
 // Since the last End Report first, then so many End Reports, the last first.
 std::vector<DrawerPeriod> DrawerPeriods(store::Database& main, int endReports);
 
+inline const QString ManagerFile = QStringLiteral("manager.pos");
 // The owner's own store in the register's folder, made when it is missing.
 std::unique_ptr<store::Database> OpenManagerStore(const QString& registerFolder);
 void StoreCount(store::Database& manager, const DrawerCount& count);

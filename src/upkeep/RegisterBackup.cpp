@@ -1,7 +1,6 @@
 #include "upkeep/RegisterBackup.h"
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QDir>
@@ -13,6 +12,7 @@
 #include "store/StorePath.h"
 #include "upkeep/BackupState.h"
 #include "upkeep/DayTotals.h"
+#include "upkeep/DrawerCount.h"
 #include "upkeep/Words.h"
 #include "values/Clock.h"
 #include "values/FileError.h"
@@ -66,7 +66,7 @@ std::unique_ptr<store::Database> OpenOptions(const QString& folder) {
 QStringList FilesOf(const QString& registerFolder, store::Database& options) {
     const QDir folder(registerFolder);
     QStringList files;
-    for (const QString& ini : {u"ports.ini"_s, u"velton.ini"_s, u"store.ini"_s, u"manager.pos"_s})
+    for (const QString& ini : {u"ports.ini"_s, u"velton.ini"_s, u"store.ini"_s})
         if (folder.exists(ini)) files << ini;
     for (QDirIterator pictures(folder.filePath(u"img"_s), QDir::Files, QDirIterator::Subdirectories);
          pictures.hasNext();)
@@ -118,6 +118,7 @@ public:
         Go(progress_, Words::tr("The main store is copied."));
         main->BackupTo(part_.filePath(store::MainFile));
         options->BackupTo(part_.filePath(store::OptionsFile));
+        if (register_.exists(ManagerFile)) OpenManagerStore(register_.path())->BackupTo(part_.filePath(ManagerFile));
         const std::vector<Backup> earlier = BackupsIn(folder_.path());
         for (const QString& file : files) {
             Go(progress_, Words::tr("%1 is copied.").arg(file));
@@ -140,7 +141,7 @@ public:
 private:
     void RequireRoom(const QStringList& files) const {
         qint64 needed = RoomToSpare;
-        for (const QString& file : files + QStringList{store::MainFile, store::OptionsFile})
+        for (const QString& file : files + QStringList{store::MainFile, store::OptionsFile, ManagerFile})
             needed += QFileInfo(register_.filePath(file)).size();
         const qint64 there = QStorageInfo(folder_.path()).bytesAvailable();
         if (there >= 0 && there < needed)
@@ -210,7 +211,11 @@ Backup BackUpRegister(const QString& registerFolder, const QString& place, const
         if (error.Number() == store::Cancelled) throw;
         state.failed = values::Now();
         state.why = error.Description();
-        WriteBackupState(registerFolder, state);
+        try {
+            WriteBackupState(registerFolder, state);
+        } catch (const values::FileError&) {
+            // What failed first is what is told.
+        }
         throw;
     }
 }

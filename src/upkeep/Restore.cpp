@@ -71,7 +71,9 @@ void BringBackMissing(const QString& registerFolder, const QString& backup) {
     const QDir from(QDir(backup).absolutePath()), to(registerFolder);
     for (QDirIterator files(from.path(), QDir::Files, QDirIterator::Subdirectories); files.hasNext();) {
         const QString file = from.relativeFilePath(files.next());
-        if (file == u"backup.ini" || file.endsWith(u".pos") || QFileInfo::exists(to.filePath(file))) continue;
+        const bool isPutBack =
+            file == store::MainFile || file == store::OptionsFile || QFileInfo::exists(to.filePath(file));
+        if (isPutBack || file == u"backup.ini") continue;
         to.mkpath(QFileInfo(file).path());
         CopyFile(from.filePath(file), to.filePath(file));
     }
