@@ -1,0 +1,73 @@
+#include "values/Language.h"
+
+#include <QLibraryInfo>
+#include <QTranslator>
+#include <algorithm>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace values {
+
+namespace {
+
+// Of one language's texts those of the paper, or all the others.
+class PartOfTexts : public QTranslator {
+public:
+    explicit PartOfTexts(Shown where) : where_(where) {}
+
+    QString translate(const char* context, const char* text, const char* comment, int n) const override {
+        const bool isPaper = QLatin1StringView(context) == "Paper"_L1;
+        return isPaper == (where_ == Shown::OnPaper) ? QTranslator::translate(context, text, comment, n) : QString();
+    }
+
+private:
+    const Shown where_;
+};
+
+using Translators = std::vector<std::unique_ptr<QTranslator>>;
+
+Translators& InstalledFor(Shown where) {
+    static Translators screens, paper;
+    return where == Shown::OnPaper ? paper : screens;
+}
+
+void Install(Translators& all, std::unique_ptr<QTranslator> translator) {
+    QCoreApplication::installTranslator(translator.get());
+    all.push_back(std::move(translator));
+}
+
+}  // namespace
+
+const std::vector<Language>& Languages() {
+    static const std::vector<Language> all = {{u"bs"_s, u"Bosanski"_s},
+                                              {u"de"_s, u"Deutsch"_s},
+                                              {u"en"_s, u"English"_s},
+                                              {u"hr"_s, u"Hrvatski"_s},
+                                              {u"sr_Latn"_s, u"Srpski (latinica)"_s}};
+    return all;
+}
+
+bool IsLanguage(const QString& code) {
+    return std::ranges::any_of(Languages(), [&](const Language& language) { return language.code == code; });
+}
+
+QString LanguageFor(const QLocale& locale) {
+    const QString code = locale.language() == QLocale::Serbian ? u"sr_Latn"_s : locale.name().section(u'_', 0, 0);
+    return IsLanguage(code) ? code : QString();
+}
+
+void UseLanguage(Shown where, const QString& code) {
+    Translators& installed = InstalledFor(where);
+    installed.clear();  // a translator that goes takes itself out of the program
+    if (!IsLanguage(code)) return;
+    if (where == Shown::OnScreens) {
+        // What Qt's own boxes say; languages that Qt lacks have these texts among ours.
+        auto qt = std::make_unique<QTranslator>();
+        if (qt->load(u"qtbase_"_s + code, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) Install(installed, std::move(qt));
+    }
+    auto ours = std::make_unique<PartOfTexts>(where);
+    if (ours->load(u":/languages/velton_%1.qm"_s.arg(code))) Install(installed, std::move(ours));
+}
+
+}  // namespace values
