@@ -138,7 +138,7 @@ void frmOptions::chkFiskalniRacunDA_Click() {
 
 void frmOptions::cmdUradi_Click() {
     const QString number = ui.txtRacun->text();
-    if (!values::IsNumeric(number)) return forms::Inform(u"Invoice No must be numeric."_s, Caption());
+    if (!values::IsNumeric(number)) return forms::Inform(tr("Invoice No must be numeric."), Caption());
     try {
         TakeNumber(number);
     } catch (const values::Error& error) {
@@ -146,7 +146,7 @@ void frmOptions::cmdUradi_Click() {
         if (error.Number() != values::Overflow) throw;
         return forms::Inform(forms::ErrorText(error), Caption());
     }
-    forms::Inform(u"Invoice No changed."_s, Caption());
+    forms::Inform(tr("Invoice No changed."), Caption());
 }
 
 // The sales screen goes on from the number; nothing is stored here.
@@ -154,7 +154,7 @@ void frmOptions::TakeNumber(const QString& number) {
     forms::Form* sales = mdiORVA::Window().ActiveChild();
     auto* shown = sales ? sales->findChild<QLineEdit*>(u"txtORNumber"_s) : nullptr;
     if (!shown || sales->metaObject()->indexOfProperty("RacunOrNo") < 0)
-        throw values::Error(values::NotSupported, u"The main window does not show the sales screen."_s);
+        throw values::Error(values::NotSupported, tr("The main window does not show the sales screen."));
     const qint32 last = values::CInt32(values::CDouble(number) - 1);
     shown->setText(number);
     sales->setProperty("RacunOrNo", last);

@@ -7,8 +7,6 @@
 #include "forms/Controls.h"
 #include "forms/MsgBox.h"
 
-using namespace Qt::StringLiterals;
-
 void frmOptions::cmdOK_Click() {
     const auto kasa = RegisterNumber(ui.txtKasa->text(), Caption());
     if (!kasa) {
@@ -19,7 +17,7 @@ void frmOptions::cmdOK_Click() {
     rsOptions_.Edit();
     StoreOptions(*kasa);
     rsOptions_.Update();
-    forms::Inform(u"Changes are saved."_s, Caption());
+    forms::Inform(tr("Changes are saved."), Caption());
     Unload();
 }
 

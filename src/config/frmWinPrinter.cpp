@@ -17,7 +17,7 @@ const QStringList Fonts{u"Courier New"_s, u"Courier New Bold"_s, u"OCR-B 10 BT"_
 
 frmWinPrinter::frmWinPrinter() {
     ui.setupUi(this);
-    ui.List1->SetColumns({{u"Font list"_s, Qt::AlignLeft, -1}});
+    ui.List1->SetColumns({{tr("Font list"), Qt::AlignLeft, -1}});
     StoreErrorsEndProgram();
     HelpAndClose(ui.cmdHelp, ui.cmdCancel, {Qt::Key_Escape, Qt::Key_F12});
     FunctionKeys({{Qt::Key_F5, ui.cmdOK}});

@@ -6,8 +6,6 @@
 #include "forms/MsgBox.h"
 #include "store/StoreError.h"
 
-using namespace Qt::StringLiterals;
-
 void EntryForm::SaveHelpAndClose(QAbstractButton* save, QAbstractButton* help, QAbstractButton* close,
                                  std::initializer_list<Qt::Key> closeKeys, const QString& helpFile) {
     HelpAndClose(help, close, closeKeys, helpFile);
@@ -17,7 +15,7 @@ void EntryForm::SaveHelpAndClose(QAbstractButton* save, QAbstractButton* help, Q
 
 bool EntryForm::AllFilled(std::initializer_list<QWidget*> boxes) const {
     if (std::ranges::none_of(boxes, [](const QWidget* box) { return forms::TextOf(box).isEmpty(); })) return true;
-    forms::Inform(u"Fill in all required fields."_s, Caption());
+    forms::Inform(tr("Fill in all required fields."), Caption());
     return false;
 }
 

@@ -1,11 +1,12 @@
 #include "masterdata/ListedRow.h"
 
 #include "core/dbModule.h"
-
-using namespace Qt::StringLiterals;
+#include "masterdata/MasterdataWords.h"
 
 store::Recordset OpenListedRow(const QString& query) {
     auto row = MainStore().OpenRecordset(query);
-    if (row.AtEOF()) throw store::StoreError(store::NoCurrentRow, u"The row was deleted after this list was read."_s);
+    if (row.AtEOF())
+        throw store::StoreError(store::NoCurrentRow,
+                                MasterdataWords::tr("The row was deleted after this list was read."));
     return row;
 }

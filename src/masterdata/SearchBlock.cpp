@@ -22,16 +22,16 @@ SearchBlock::SearchBlock(QWidget* parent)
       cboTemp(Named(new QLineEdit(this), u"cboTemp"_s)),
       Option1(Named(new QRadioButton(this), u"Option1"_s)),
       Option2(Named(new QRadioButton(this), u"Option2"_s)),
-      cmdRefresh(Named(new QPushButton(u"F11-All"_s, this), u"cmdRefresh"_s)),
+      cmdRefresh(Named(new QPushButton(tr("F11-All"), this), u"cmdRefresh"_s)),
       lblField_(new QLabel(this)),
       lblText_(new QLabel(this)) {
     Option1->setChecked(true);
-    cmdRefresh->setToolTip(u"Show all"_s);
+    cmdRefresh->setToolTip(tr("Show all"));
     for (QLabel* label : {lblField_, lblText_}) label->setProperty("role", u"muted"_s);
-    SetCaptions({.field = u"Search in:"_s,
-                 .text = u"Enter the text you're looking for:"_s,
-                 .anywhere = u"any &where in the text"_s,
-                 .fromBeginning = u"from the &beginning"_s});
+    SetCaptions({.field = tr("Search in:"),
+                 .text = tr("Enter the text you're looking for:"),
+                 .anywhere = tr("any &where in the text"),
+                 .fromBeginning = tr("from the &beginning")});
     LayOut(false);
     setFocusProxy(cboView);  // the first of the block in the order of the Tab key
 }

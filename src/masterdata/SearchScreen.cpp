@@ -1,13 +1,11 @@
 #include "masterdata/SearchScreen.h"
 
-using namespace Qt::StringLiterals;
-
 void SearchScreen::SearchWith(SearchBlock* block, forms::ListView* list) {
     block_ = block;
     HighlightOnFocus({block->cboTemp}, forms::OnFocus::KeepCaret);
     EnterMovesOn({block->cboTemp, block->cboView});
     ControlKeys(block->cboTemp, {{Qt::Key_Down, [list] { list->setFocus(); }}});
-    list->SetEmptyText(u"Nothing is found."_s);
+    list->SetEmptyText(tr("Nothing is found."));
     OnChange(block->cboTemp, &SearchScreen::Search);
     On(block->Option1, &SearchScreen::Search);
     On(block->Option2, &SearchScreen::Search);

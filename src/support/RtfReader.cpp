@@ -11,6 +11,7 @@
 
 #include "output/CodePage.h"
 #include "support/RtfLexer.h"
+#include "support/SupportWords.h"
 
 using namespace Qt::StringLiterals;
 
@@ -169,7 +170,7 @@ QString Reader::Read() {
     const RtfToken::Kind first = lexer_.Next().kind;
     const RtfToken second = lexer_.Next();
     if (first != RtfToken::GroupOpens || second.kind != RtfToken::Word || second.text != "rtf")
-        return u"This is not a text in RTF."_s;
+        return SupportWords::tr("This is not a text in RTF.");
     groups_.emplace_back();
     cursor_.beginEditBlock();
     const QString fault = ReadGroups();
@@ -183,7 +184,8 @@ QString Reader::ReadGroups() {
         const RtfToken token = lexer_.Next();
         switch (token.kind) {
             case RtfToken::GroupOpens:
-                if (groups_.size() == DeepestGroup) return u"The groups of the text are nested too deeply."_s;
+                if (groups_.size() == DeepestGroup)
+                    return SupportWords::tr("The groups of the text are nested too deeply.");
                 groups_.push_back(groups_.back());
                 fallbackLeft_ = 0;
                 break;
@@ -192,7 +194,8 @@ QString Reader::ReadGroups() {
                 if (groups_.size() > 1)
                     groups_.pop_back();
                 else
-                    return lexer_.IsAtEnd() ? QString() : u"The text closes more groups than it opens."_s;
+                    return lexer_.IsAtEnd() ? QString()
+                                            : SupportWords::tr("The text closes more groups than it opens.");
                 break;
             case RtfToken::Word:
                 Obey(token);
@@ -201,7 +204,7 @@ QString Reader::ReadGroups() {
                 AddText(token.text);
                 break;
             case RtfToken::End:
-                return u"The end of the text is missing."_s;
+                return SupportWords::tr("The end of the text is missing.");
         }
     }
 }

@@ -23,7 +23,7 @@ QString AsParagraphs(const QString& text) {
 
 frmAbout::frmAbout() {
     ui.setupUi(this);
-    ui.lblVersion->setText(u"Version "_s + QStringLiteral(VELTON_VERSION));
+    ui.lblVersion->setText(tr("Version %1").arg(QStringLiteral(VELTON_VERSION)));
     ui.rtBox->setHtml(Supplied(u"licences.html"_s).arg(AsParagraphs(Supplied(u"LICENSE"_s))));
     FunctionKeys({{Qt::Key_Escape, ui.cmdOK}, {Qt::Key_F12, ui.cmdOK}});
     ControlKeys(ui.rtBox, {{Qt::Key_Return, ui.cmdOK}});

@@ -10,16 +10,10 @@
 #include "output/Folder.h"
 #include "support/RtfReader.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 // A text beyond this is no help to anybody, and could take long to lay out.
 constexpr qint64 LongestText = qint64{256} * 1024;
-
-const auto Missing = u"The help text is not there.\n\nIt should be in this file:\n%1"_s;
-const auto Unreadable = u"The help text cannot be read: %1\n\nIt is in this file:\n%2"_s;
-const auto Damaged = u"The help text is damaged: %1"_s;
 
 void Add(QTextDocument& document, const QString& fault) {
     QTextCursor cursor(&document);
@@ -27,14 +21,14 @@ void Add(QTextDocument& document, const QString& fault) {
     if (!document.isEmpty()) cursor.insertBlock(QTextBlockFormat());
     QTextCharFormat letters;
     letters.setForeground(forms::TheTokens().Danger);
-    cursor.insertText(Damaged.arg(fault), letters);
+    cursor.insertText(frmHelp::tr("The help text is damaged: %1").arg(fault), letters);
 }
 
 }  // namespace
 
 frmHelp::frmHelp() {
     ui.setupUi(this);
-    ui.lvContents->SetColumns({{u"Contents"_s, Qt::AlignLeft, -1}});
+    ui.lvContents->SetColumns({{tr("Contents"), Qt::AlignLeft, -1}});
     FunctionKeys({{Qt::Key_Escape, ui.cmdClose}, {Qt::Key_F12, ui.cmdClose}});
     On(ui.cmdClose, &frmHelp::cmdClose_Click);
     connect(ui.rtBox, &QTextBrowser::anchorClicked, this,
@@ -62,10 +56,15 @@ void frmHelp::ShowText() {
 
 void frmHelp::ReadText() {
     QFile file(output::InProgramFolder(HelpFileName));
-    if (!QFileInfo(file).isFile()) return ui.rtBox->setPlainText(Missing.arg(file.fileName()));
+    if (!QFileInfo(file).isFile())
+        return ui.rtBox->setPlainText(
+            tr("The help text is not there.\n\nIt should be in this file:\n%1").arg(file.fileName()));
     if (!file.open(QIODevice::ReadOnly))
-        return ui.rtBox->setPlainText(Unreadable.arg(file.errorString(), file.fileName()));
-    if (file.size() > LongestText) return ui.rtBox->setPlainText(Unreadable.arg(u"it is too long."_s, file.fileName()));
+        return ui.rtBox->setPlainText(
+            tr("The help text cannot be read: %1\n\nIt is in this file:\n%2").arg(file.errorString(), file.fileName()));
+    if (file.size() > LongestText)
+        return ui.rtBox->setPlainText(
+            tr("The help text cannot be read: it is too long.\n\nIt is in this file:\n%1").arg(file.fileName()));
     const QString fault = ReadRtf(file.read(LongestText), *ui.rtBox->document());
     if (!fault.isEmpty()) Add(*ui.rtBox->document(), fault);
 }

@@ -87,7 +87,7 @@ void ClickTable::resizeEvent(QResizeEvent* event) {
 
 void ClickTable::SetTabCaption(int tab, const QString& caption) {
     if (tab < 0 || tab >= TabCount)
-        throw values::Error(values::IndexOutOfRange, u"The click table has no tab %1."_s.arg(tab));
+        throw values::Error(values::IndexOutOfRange, tr("The click table has no tab %1.").arg(tab));
     tabs_->setTabText(tab, QString(caption).replace(u'&', u"&&"_s));
     tabs_->setTabToolTip(tab, caption);
     tabs_->widget(tab)->setObjectName(caption);
@@ -96,7 +96,7 @@ void ClickTable::SetTabCaption(int tab, const QString& caption) {
 
 TouchButton* ClickTable::Button(int index) const {
     if (index < 0 || index >= ButtonCount)
-        throw values::Error(values::IndexOutOfRange, u"The click table has no button %1."_s.arg(index));
+        throw values::Error(values::IndexOutOfRange, tr("The click table has no button %1.").arg(index));
     return buttons_[static_cast<size_t>(index)];
 }
 

@@ -59,13 +59,14 @@ QString Wrapped(const QString& name, const QFontMetrics& metrics, int width, int
 
 TouchButton::TouchButton(QWidget* parent) : QAbstractButton(parent) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    setAccessibleName(u"Free"_s);
+    //: a button without a product
+    setAccessibleName(tr("Free"));
     setFocusPolicy(Qt::NoFocus);  // a scanner types on, whatever was touched last
 }
 
 void TouchButton::SetTag(const QString& code) {
     tag_ = code;
-    setAccessibleName(code.isEmpty() ? u"Free"_s : QString());
+    setAccessibleName(code.isEmpty() ? tr("Free") : QString());
     update();
 }
 

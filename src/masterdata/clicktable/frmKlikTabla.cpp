@@ -43,13 +43,13 @@ void Place(const QString& code, int tab) {
 
 frmKlikTabla::frmKlikTabla() {
     ui.setupUi(this);
-    ui.lv1->SetColumns({{u"ProductID"_s, Qt::AlignLeft, 130},
-                        {u"ProductName"_s, Qt::AlignLeft, -1},
-                        {u"Price"_s, Qt::AlignRight, 80}});
-    ui.search->SetCaptions({.field = u"search in:"_s,
-                            .text = u"Search product:"_s,
-                            .anywhere = u"everywhere in text"_s,
-                            .fromBeginning = u"from begining"_s});
+    ui.lv1->SetColumns({{tr("ProductID"), Qt::AlignLeft, 130},
+                        {tr("ProductName"), Qt::AlignLeft, -1},
+                        {tr("Price"), Qt::AlignRight, 80}});
+    ui.search->SetCaptions({.field = tr("search in:"),
+                            .text = tr("Search product:"),
+                            .anywhere = tr("everywhere in text"),
+                            .fromBeginning = tr("from begining")});
     ui.search->MakeNarrow();
     resize((screen()->availableSize() - Surroundings).boundedTo(Largest));
     ui.clickTable->LetKeysIn();
@@ -86,7 +86,7 @@ void frmKlikTabla::Form_Load() {
     ShowRows(base_);
     LoadTable();
     // The search runs on the code, whichever entry is shown.
-    SetSearchFields({{u"ProductName"_s, u"ProdCode"_s}, {u"ProductID"_s, u"ProdCode"_s}});
+    SetSearchFields({{tr("ProductName"), u"ProdCode"_s}, {tr("ProductID"), u"ProdCode"_s}});
     ForgetSelected();
 }
 
@@ -116,7 +116,7 @@ void frmKlikTabla::lv1_Click() {
 void frmKlikTabla::cmdKarticeKlikTable_Click() {
     const QString name = TrimNull(ui.txtIzmjeni->text());
     if (name.isEmpty()) {
-        forms::Inform(u"Tab name can't be empty."_s, Caption());
+        forms::Inform(tr("Tab name can't be empty."), Caption());
         forms::GoTo(ui.txtIzmjeni);
         return;
     }
@@ -170,7 +170,7 @@ void frmKlikTabla::ForgetSelected() {
 }
 
 void frmKlikTabla::cmdAutomatic_Click() {
-    if (!forms::Ask(u"Old settings will be lost,\nKlick Table will be set automatic"_s, Caption())) return;
+    if (!forms::Ask(tr("Old settings will be lost,\nKlick Table will be set automatic"), Caption())) return;
     AutoPlaceProducts();
     cmdOsvjezi_Click();
 }
@@ -180,7 +180,7 @@ void frmKlikTabla::cmdAutomatic_Click() {
 void frmKlikTabla::AutoPlaceProducts() {
     const WaitCursor wait;
     const int count = ui.lv1->Count();
-    if (count == 0) throw store::StoreError(store::NoCurrentRow, u"No current row."_s);
+    if (count == 0) throw store::StoreError(store::NoCurrentRow, tr("No current row."));
     store::Database::Batch placement(MainStore());
     try {
         for (int row = 0; row < count; ++row) Place(ui.lv1->Text(row), row < PlacedAutomatically ? row : OffTheTable);

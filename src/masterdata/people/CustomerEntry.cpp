@@ -44,7 +44,8 @@ void CustomerEntry::cmdUpdate_Click() {
         StoreCustomer();
         rsCustomer_.Update();
     };
-    if (!Trapped(store, u"Change password!"_s, ui.txtProdCode)) return;
+    //: the customer's ID is taken
+    if (!Trapped(store, tr("Change password!"), ui.txtProdCode)) return;
     RowStored();
     Unload();
 }

@@ -4,8 +4,6 @@
 
 #include "forms/MsgBox.h"
 
-using namespace Qt::StringLiterals;
-
 void PasswordEntry::EnterPassword(QLineEdit* password, QLineEdit* again, QCheckBox* unmask) {
     Keypad({password, again}, forms::KeypadKeys::Text);
     password_ = password;
@@ -21,7 +19,7 @@ void PasswordEntry::EnterPassword(QLineEdit* password, QLineEdit* again, QCheckB
 
 bool PasswordEntry::PasswordsAgree() {
     if (password_->text() == again_->text()) return true;
-    forms::Tell(u"Different passwords!"_s, forms::Icon::Warning, u"Different passwords"_s);
+    forms::Tell(tr("Different passwords!"), forms::Icon::Warning, tr("Different passwords"));
     password_->clear();
     again_->clear();
     password_->setFocus();

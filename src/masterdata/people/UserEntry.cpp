@@ -4,12 +4,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-const auto Duplicate = u"User with this UserID or a UserName already exists.Change Username!"_s;
-
-}  // namespace
-
 UserEntry::UserEntry(const QString& name, const QString& title) {
     setObjectName(name);
     ui.setupUi(this);
@@ -34,7 +28,8 @@ void UserEntry::ClearUserFields() {
 void UserEntry::cmdAdd_Click() {
     if (!AllFilled({ui.txtUserID, ui.txtUserName, ui.cboAccLevel})) return;
     if (!PasswordsAgree()) return;
-    if (Trapped([this] { Save(); }, Duplicate)) Unload();
+    const QString duplicate = tr("User with this UserID or a UserName already exists.Change Username!");
+    if (Trapped([this] { Save(); }, duplicate)) Unload();
 }
 
 // The password must be confirmed at each save, so its second box stays empty. A level that the box does not offer is

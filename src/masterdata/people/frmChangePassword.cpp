@@ -10,13 +10,11 @@ namespace {
 
 const auto UserQuery = u"SELECT * FROM Users WHERE UserID = '%1'"_s;
 
-const auto Duplicate = u"User with this code or a name already exists.Change name!"_s;
-
 }  // namespace
 
 frmChangePassword::frmChangePassword() {
     ui.setupUi(this);
-    ui.SSTab1->widget(0)->setObjectName(ui.SSTab1->tabText(0));
+    ui.SSTab1->widget(0)->setObjectName(u"Change password"_s);
     EnterPassword(ui.txtPassword, ui.txtReTypePassword, ui.chkUnmaskPassword);
     SaveHelpAndClose(ui.cmdAdd, ui.cmdHelp, ui.cmdClose, {Qt::Key_Escape, Qt::Key_F12}, u"\\Lozinka.rtf"_s);
     On(ui.cmdAdd, &frmChangePassword::cmdAdd_Click);
@@ -36,9 +34,9 @@ void frmChangePassword::cmdAdd_Click() {
         rsUsers_.Edit();
         StoreNewPassword();
         rsUsers_.Update();
-        forms::Inform(u"Password changed."_s, Caption());
+        forms::Inform(tr("Password changed."), Caption());
     };
-    if (Trapped(save, Duplicate)) Unload();
+    if (Trapped(save, tr("User with this code or a name already exists.Change name!"))) Unload();
 }
 
 void frmChangePassword::ShowPasswordUser() {

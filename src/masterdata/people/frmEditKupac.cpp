@@ -14,7 +14,7 @@ const auto CustomerQuery = u"SELECT * FROM Custumer WHERE Sifra = %1"_s;
 
 frmEditKupac::frmEditKupac()
     : CustomerEntry(
-          {.name = u"frmEditKupac"_s, .title = u"Edit custumer - supplier"_s, .ident = u"Identification:"_s}) {
+          {.name = u"frmEditKupac"_s, .title = tr("Edit custumer - supplier"), .ident = tr("Identification:")}) {
     ui.txtProdCode->setReadOnly(true);
     ui.txtProdCode->setFocusPolicy(Qt::NoFocus);
 }

@@ -12,7 +12,7 @@ const auto UserQuery = u"SELECT * FROM Users WHERE UserID = '%1'"_s;
 
 }  // namespace
 
-frmEditUser::frmEditUser() : UserEntry(u"frmEditUser"_s, u"Edit User"_s) {}
+frmEditUser::frmEditUser() : UserEntry(u"frmEditUser"_s, tr("Edit User")) {}
 
 void frmEditUser::Form_Load() {
     rsUsers_ = OpenListedRow(UserQuery.arg(SelectedKey(CallerForm)));

@@ -23,18 +23,18 @@ const std::vector<ListCell> Cells{{u"Sifra"_s},   {u"Naziv"_s},   {u"Adresa"_s},
 
 frmKupci::frmKupci() {
     ui.setupUi(this);
-    ui.SSTab1->widget(0)->setObjectName(ui.SSTab1->tabText(0));
-    ui.search->SetCaptions({.field = u"Search in:"_s,
-                            .text = u"Enter the text you're looking for:"_s,
-                            .anywhere = u"everywhere in text"_s,
-                            .fromBeginning = u"from begining"_s});
-    ui.lv1->SetColumns({{u"CustumerID"_s, Qt::AlignLeft, 120},
-                        {u"Name"_s, Qt::AlignLeft, -1},
-                        {u"Address"_s, Qt::AlignLeft, -1},
-                        {u"Ident"_s, Qt::AlignLeft, 130},
-                        {u"Phone"_s, Qt::AlignLeft, 106},
-                        {u"Fax"_s, Qt::AlignLeft, 106},
-                        {u"Rate rebate/margin"_s, Qt::AlignRight, 140}});
+    ui.SSTab1->widget(0)->setObjectName(u"&Custumer - supplier"_s);
+    ui.search->SetCaptions({.field = tr("Search in:"),
+                            .text = tr("Enter the text you're looking for:"),
+                            .anywhere = tr("everywhere in text"),
+                            .fromBeginning = tr("from begining")});
+    ui.lv1->SetColumns({{tr("CustumerID"), Qt::AlignLeft, 120},
+                        {tr("Name"), Qt::AlignLeft, -1},
+                        {tr("Address"), Qt::AlignLeft, -1},
+                        {tr("Ident"), Qt::AlignLeft, 130},
+                        {tr("Phone"), Qt::AlignLeft, 106},
+                        {tr("Fax"), Qt::AlignLeft, 106},
+                        {tr("Rate rebate/margin"), Qt::AlignRight, 140}});
     KeepList(ui);
 }
 
@@ -42,7 +42,7 @@ void frmKupci::Form_Load() {
     base_ = CustomersQuery;
     ShowRows(base_);
     // It is the identification that is searched, whichever of them is shown.
-    SetSearchFields({{u"Name"_s, u"JMBG"_s}, {u"Ident"_s, u"JMBG"_s}});
+    SetSearchFields({{tr("Name"), u"JMBG"_s}, {tr("Ident"), u"JMBG"_s}});
 }
 
 void frmKupci::ShowRows(const QString& query) {
@@ -68,6 +68,6 @@ void frmKupci::cmdDelete_Click() {
     if (ui.lv1->Count() == 0) return;
     auto customer = OpenListedRow(CustomerQuery.arg(ui.lv1->SelectedText()));
     const QString question =
-        u"Custumer: "_s + customer[u"Naziv"].TextOrEmpty() + u"\nDo you want to delete the customer?"_s;
-    DeleteRow(customer, question, u"Custumer deleted."_s);
+        tr("Custumer: %1\nDo you want to delete the customer?").arg(customer[u"Naziv"].TextOrEmpty());
+    DeleteRow(customer, question, tr("Custumer deleted."));
 }

@@ -11,7 +11,7 @@ const auto CustomersQuery = u"SELECT * FROM Custumer "_s;
 }  // namespace
 
 frmNewKupac::frmNewKupac()
-    : CustomerEntry({.name = u"frmNewKupac"_s, .title = u"New custumer - supplier"_s, .ident = u"Ident:"_s}) {}
+    : CustomerEntry({.name = u"frmNewKupac"_s, .title = tr("New custumer - supplier"), .ident = tr("Ident:")}) {}
 
 void frmNewKupac::Form_Load() {
     rsCustomer_ = MainStore().OpenRecordset(CustomersQuery);

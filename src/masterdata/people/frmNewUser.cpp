@@ -11,7 +11,7 @@ const auto UsersQuery = u"SELECT * FROM Users"_s;
 
 }  // namespace
 
-frmNewUser::frmNewUser() : UserEntry(u"frmNewUser"_s, u"New User"_s) {}
+frmNewUser::frmNewUser() : UserEntry(u"frmNewUser"_s, tr("New User")) {}
 
 void frmNewUser::Form_Load() {
     rsUsers_ = MainStore().OpenRecordset(UsersQuery);
@@ -21,5 +21,5 @@ void frmNewUser::Save() {
     rsUsers_.AddNew();
     StoreUser();
     rsUsers_.Update();
-    forms::Inform(u"New user added."_s, Caption());
+    forms::Inform(tr("New user added."), Caption());
 }

@@ -19,13 +19,13 @@ const auto UserQuery = u"SELECT * FROM Users WHERE UserID = '%1'"_s;
 
 frmUsers::frmUsers()
     : TableList({.name = u"frmUsers"_s,
-                 .title = u"User - Cashier"_s,
-                 .columns = {{u"UserID"_s, Qt::AlignLeft, 110},
-                             {u"UserName"_s, Qt::AlignLeft, -1},
-                             {u"Access Level"_s, Qt::AlignLeft, 140}},
+                 .title = tr("User - Cashier"),
+                 .columns = {{tr("UserID"), Qt::AlignLeft, 110},
+                             {tr("UserName"), Qt::AlignLeft, -1},
+                             {tr("Access Level"), Qt::AlignLeft, 140}},
                  .rowQuery = UserQuery,
-                 .isProtected = u"Cashier protected from deletion, but you can modify the data."_s,
-                 .deleted = u"User deleted."_s}) {}
+                 .isProtected = tr("Cashier protected from deletion, but you can modify the data."),
+                 .deleted = tr("User deleted.")}) {}
 
 void frmUsers::ShowRows() {
     FillUserGrid(MainStore().OpenListing(UsersQuery));
@@ -45,6 +45,6 @@ void frmUsers::ShowEdit() {
 }
 
 QString frmUsers::DeleteQuestion(store::Recordset& user) const {
-    return u"User Cashier: "_s + user[u"UserName"].TextOrEmpty() + u"\nPassword: "_s +
-           QString(user[u"Password"].TextOrEmpty().size(), u'*') + u"\nAre you sure you want to delete this user?"_s;
+    return tr("User Cashier: %1\nPassword: %2\nAre you sure you want to delete this user?")
+        .arg(user[u"UserName"].TextOrEmpty(), QString(user[u"Password"].TextOrEmpty().size(), u'*'));
 }

@@ -22,10 +22,9 @@ const auto TaxQuery = u"SELECT * FROM Tax WHERE TaxID = '%1'"_s;
 
 const auto PictureFilters =
     u"%1 (*.bmp *.gif *.jpg *.wmf *.emf *.ico *.cur)"
-    ";;Bitmaps (*.bmp; *.dib) (*.bmp *.dib)"
-    ";;GIF Images (*.gif) (*.gif)"
-    ";;JPEG Images (*.jpg) (*.jpg)"_s;
-const auto NoPicture = u"Thumbnail (icon)"_s;
+    ";;%2 (*.bmp; *.dib) (*.bmp *.dib)"
+    ";;%3 (*.gif) (*.gif)"
+    ";;%4 (*.jpg) (*.jpg)"_s;
 
 // Nothing is chosen at first.
 void FillChoices(QComboBox* list, const QString& query, QStringView field) {
@@ -95,37 +94,38 @@ void ProductEntry::ShowTax(store::Recordset& tax) {
 
 // The file stays where it is; the other screens look for its name in the folder of pictures.
 void ProductEntry::cmdSelect_Click() {
+    const QString filters = PictureFilters.arg(words_.allPictures, tr("Bitmaps"), tr("GIF Images"), tr("JPEG Images"));
     for (;;) {
-        const QString path = forms::AskOpenName(this, words_.pictureTitle, PictureFilters.arg(words_.allPictures));
+        const QString path = forms::AskOpenName(this, words_.pictureTitle, filters);
         if (path.isEmpty()) return;
         if (FileExists(path)) {
             ui.txtPicturePath->setText(NameIn(path));
             return ShowPicture(path);
         }
-        forms::Tell(words_.pictureMissing, forms::Icon::Warning, u"File Not Found"_s);
+        forms::Tell(words_.pictureMissing, forms::Icon::Warning, tr("File Not Found"));
     }
 }
 
 void ProductEntry::cmdDelPic_Click() {
     ui.txtPicturePath->clear();
-    ui.imgPicture->setText(NoPicture);
+    ui.imgPicture->setText(tr("Thumbnail (icon)"));
 }
 
 void ProductEntry::cmdSave_Click() {
     if (!AllFilled({ui.txtProdCode, ui.txtDescription, ui.txtQuantity, ui.txtUnit, ui.txtUnitPrice, ui.cboTax}))
         return forms::GoTo(ui.txtProdCode);
     if (!values::IsNumeric(ui.txtUnitPrice->text())) {
-        forms::Inform(u"Price must be numeric."_s, Caption());
+        forms::Inform(tr("Price must be numeric."), Caption());
         return forms::GoTo(ui.txtUnitPrice);
     }
-    const auto duplicate = u"Product with this code-barcode already exists.Change ProductID!"_s;
+    const auto duplicate = tr("Product with this code-barcode already exists.Change ProductID!");
     if (Trapped([this] { StoreProduct(); }, duplicate, ui.txtProdCode)) ProductStored();
 }
 
 void ProductEntry::ShowPicture(const QString& path) {
-    ui.imgPicture->setText(NoPicture);
+    ui.imgPicture->setText(tr("Thumbnail (icon)"));
     if (!forms::LoadPicture(ui.imgPicture, path))
-        throw values::Error(values::InvalidPicture, u"The file %1 holds no picture that can be shown."_s.arg(path));
+        throw values::Error(values::InvalidPicture, tr("The file %1 holds no picture that can be shown.").arg(path));
     constexpr int frame = 4;
     const QSize room = ui.imgPicture->maximumSize().shrunkBy({frame, frame, frame, frame});
     ui.imgPicture->setPixmap(ui.imgPicture->pixmap().scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation));

@@ -29,15 +29,15 @@ const std::vector<ListCell> Cells{{u"ProdCode"_s},
 
 frmArtikli::frmArtikli() {
     ui.setupUi(this);
-    ui.lv1->SetColumns({{u"ProductID - BarCode"_s, Qt::AlignLeft, 160},
-                        {u"Product name"_s, Qt::AlignLeft, -1},
-                        {u"Quantity"_s, Qt::AlignRight, 90},
-                        {u"Unit"_s, Qt::AlignLeft, 70},
-                        {u"Price"_s, Qt::AlignRight, 90},
-                        {u"Tax rate"_s, Qt::AlignRight, 84},
-                        {u"Price without Tax"_s, Qt::AlignLeft, 130},
-                        {u"Second Price"_s, Qt::AlignLeft, 0},
-                        {u"Second Price without Tax"_s, Qt::AlignLeft, 0}});
+    ui.lv1->SetColumns({{tr("ProductID - BarCode"), Qt::AlignLeft, 160},
+                        {tr("Product name"), Qt::AlignLeft, -1},
+                        {tr("Quantity"), Qt::AlignRight, 90},
+                        {tr("Unit"), Qt::AlignLeft, 70},
+                        {tr("Price"), Qt::AlignRight, 90},
+                        {tr("Tax rate"), Qt::AlignRight, 84},
+                        {tr("Price without Tax"), Qt::AlignLeft, 130},
+                        {tr("Second Price"), Qt::AlignLeft, 0},
+                        {tr("Second Price without Tax"), Qt::AlignLeft, 0}});
     KeepList(ui);
     ControlKeys(ui.lv1, {{Qt::Key_Return, Guarded(&frmArtikli::Activate)}});
     OnDoubleClick(ui.lv1, &frmArtikli::Activate);
@@ -62,7 +62,7 @@ void frmArtikli::Keep() {
 void frmArtikli::Form_Load() {
     base_ = ProductsQuery;
     ShowRows(base_);
-    SetSearchFields({{u"Product name"_s, u"ProdDescription"_s}, {u"ProductID - BarCode"_s, u"ProdCode"_s}});
+    SetSearchFields({{tr("Product name"), u"ProdDescription"_s}, {tr("ProductID - BarCode"), u"ProdCode"_s}});
 }
 
 bool frmArtikli::Form_Unload() {
@@ -97,7 +97,7 @@ void frmArtikli::cmdUpdate_Click() {
 void frmArtikli::cmdDelete_Click() {
     if (ui.lv1->Count() == 0) return;
     auto product = OpenListedRow(ProductQuery.arg(ui.lv1->SelectedText()));
-    const QString question = u"ProductID - Barcode: "_s + product[u"ProdCode"].TextOrEmpty() + u"\nProduct name: "_s +
-                             product[u"ProdDescription"].TextOrEmpty() + u"\nDo you want to delete this item?"_s;
-    DeleteRow(product, question, u"Product deleted."_s);
+    const QString question = tr("ProductID - Barcode: %1\nProduct name: %2\nDo you want to delete this item?")
+                                 .arg(product[u"ProdCode"].TextOrEmpty(), product[u"ProdDescription"].TextOrEmpty());
+    DeleteRow(product, question, tr("Product deleted."));
 }

@@ -25,14 +25,15 @@ void Choose(QComboBox* list, const QString& text) {
 
 frmEditProduct::frmEditProduct()
     : ProductEntry({.name = u"frmEditProduct"_s,
-                    .title = u"Edit product"_s,
+                    .title = tr("Edit product"),
                     .save = u"cmdUpdate"_s,
                     .second = u"cmdSastav"_s,
-                    .secondCaption = u"F4-Structure"_s,
+                    //: shows the composition
+                    .secondCaption = tr("F4-Structure"),
                     .labelEnd = {},
-                    .pictureTitle = u"Select a thumbnail - icon"_s,
-                    .allPictures = u"All images"_s,
-                    .pictureMissing = u"File with such name does not exist!"_s}) {
+                    .pictureTitle = tr("Select a thumbnail - icon"),
+                    .allPictures = tr("All images"),
+                    .pictureMissing = tr("File with such name does not exist!")}) {
     ui.txtProdCode->setReadOnly(true);
     ui.txtProdCode->setFocusPolicy(Qt::NoFocus);
     FunctionKeys({{Qt::Key_Escape, ui.cmdClose}});

@@ -14,14 +14,14 @@ const auto ProductsQuery = u"SELECT * FROM Products"_s;
 
 frmNewProduct::frmNewProduct()
     : ProductEntry({.name = u"frmNewProduct"_s,
-                    .title = u"New product"_s,
+                    .title = tr("New product"),
                     .save = u"cmdAdd"_s,
                     .second = u"cmdDelete"_s,
-                    .secondCaption = u"ESC-Delete"_s,
+                    .secondCaption = tr("ESC-Delete"),
                     .labelEnd = u":"_s,
-                    .pictureTitle = u"Choose image - icon"_s,
-                    .allPictures = u"Sve slike"_s,
-                    .pictureMissing = u"File not exist!"_s}) {
+                    .pictureTitle = tr("Choose image - icon"),
+                    .allPictures = tr("Sve slike"),
+                    .pictureMissing = tr("File not exist!")}) {
     ui.cmdSecond->setProperty("role", u"danger"_s);
     FunctionKeys({{Qt::Key_Escape, ui.cmdSecond}});
     OnLostFocus(ui.txtQuantity, &frmNewProduct::txtQuantity_LostFocus);
@@ -46,7 +46,7 @@ void frmNewProduct::StoreProduct() {
 }
 
 void frmNewProduct::ProductStored() {
-    forms::Inform(u"The new product is added."_s, Caption());
+    forms::Inform(tr("The new product is added."), Caption());
     ClearProductFields();
     SetProductDefaults();
     cmdDelPic_Click();

@@ -21,19 +21,16 @@ namespace {
 const auto CompositionQuery = u"SELECT * FROM ProductsCon WHERE SIF = '%1'"_s;
 const auto DeleteComposition = u"DELETE * FROM ProductsCon WHERE SIF = '%1'"_s;
 
-const auto UnknownProduct = u"Product with this code-barcode does not exist."_s;
-const auto NoItems = u"You did not enter a single item in the composition."_s;
-
 }  // namespace
 
 frmSastav::frmSastav() {
     ui.setupUi(this);
     boxes_ = LineBoxes(ui);
-    ui.lv1->SetColumns({{u"ProductID"_s, Qt::AlignLeft, 150},
-                        {u"ProductName"_s, Qt::AlignLeft, -1},
-                        {u"Quantity"_s, Qt::AlignRight, 100},
-                        {u"Unit"_s, Qt::AlignLeft, 80},
-                        {u"Price"_s, Qt::AlignRight, 100}});
+    ui.lv1->SetColumns({{tr("ProductID"), Qt::AlignLeft, 150},
+                        {tr("ProductName"), Qt::AlignLeft, -1},
+                        {tr("Quantity"), Qt::AlignRight, 100},
+                        {tr("Unit"), Qt::AlignLeft, 80},
+                        {tr("Price"), Qt::AlignRight, 100}});
     HelpAndClose(ui.cmdHelp, ui.cmdClose);
     FunctionKeys({{Qt::Key_F2, ui.cmdF2izaberi}, {Qt::Key_F4, ui.cmdSave}, {Qt::Key_F5, ui.cmdDelete}});
     HighlightOnFocus({ui.txtProdCode}, forms::OnFocus::KeepCaret);
@@ -59,7 +56,7 @@ frmSastav::frmSastav() {
 
 void frmSastav::Form_Load() {
     forms::Form* editor = forms::FindForm(u"frmEditProduct");
-    if (!editor) throw values::Error(values::NoObject, u"A composition is opened from the screen of its product."_s);
+    if (!editor) throw values::Error(values::NoObject, tr("A composition is opened from the screen of its product."));
     code_ = forms::TextOf(forms::Control(editor, u"txtProdCode"));
     auto product = LineBoxes::Find(code_);
     rsComposition_ = MainStore().OpenRecordset(CompositionQuery.arg(code_));
@@ -111,7 +108,7 @@ void frmSastav::SetOne() {
 
 void frmSastav::CheckComponentCode() {
     if (ui.txtProdCode->text().isEmpty() || !ui.txtDescription->text().isEmpty()) return;
-    forms::Inform(UnknownProduct, mdiORVA::Window().Caption());
+    forms::Inform(tr("Product with this code-barcode does not exist."), mdiORVA::Window().Caption());
     ui.txtProdCode->setFocus();
     forms::SelectAll(ui.txtProdCode);
 }
@@ -162,7 +159,7 @@ void frmSastav::RemoveCompositionItem() {
 
 void frmSastav::cmdSave_Click() {
     if (ui.lv1->Count() == 0) {
-        forms::Inform(NoItems, mdiORVA::Window().Caption());
+        forms::Inform(tr("You did not enter a single item in the composition."), mdiORVA::Window().Caption());
         ui.txtProdCode->setFocus();
         forms::SelectAll(ui.txtProdCode);
         return;

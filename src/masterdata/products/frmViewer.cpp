@@ -21,12 +21,12 @@ const std::vector<ListCell> Cells{
 
 frmViewer::frmViewer() {
     ui.setupUi(this);
-    ui.lv1->SetColumns({{u"ProductID-BarCode"_s, Qt::AlignLeft, 160},
-                        {u"Product Name"_s, Qt::AlignLeft, -1},
-                        {u"Price"_s, Qt::AlignRight, 90},
-                        {u"Tax Rate"_s, Qt::AlignRight, 90},
-                        {u"Quantity"_s, Qt::AlignRight, 90},
-                        {u"Unit"_s, Qt::AlignLeft, 80}});
+    ui.lv1->SetColumns({{tr("ProductID-BarCode"), Qt::AlignLeft, 160},
+                        {tr("Product Name"), Qt::AlignLeft, -1},
+                        {tr("Price"), Qt::AlignRight, 90},
+                        {tr("Tax Rate"), Qt::AlignRight, 90},
+                        {tr("Quantity"), Qt::AlignRight, 90},
+                        {tr("Unit"), Qt::AlignLeft, 80}});
     SearchWith(ui.search, ui.lv1);
     HelpAndClose(ui.cmdHelp, ui.cmdClose, {Qt::Key_Escape, Qt::Key_F12});
     FunctionKeys({{Qt::Key_F11, ui.search->cmdRefresh}});
@@ -37,12 +37,12 @@ frmViewer::frmViewer() {
 // Listing all products takes its time in a large shop: the register's setting says whether the window opens with them.
 void frmViewer::Form_Load() {
     base_ = ListedQuery;
-    SetSearchFields({{u"Product Name"_s, u"ProdDescription"_s}, {u"ProductID-BarCode"_s, u"ProdCode"_s}});
+    SetSearchFields({{tr("Product Name"), u"ProdDescription"_s}, {tr("ProductID-BarCode"), u"ProdCode"_s}});
     auto products = MainStore().OpenListing(base_);
     auto options = OptionsStore().OpenRecordset(OptionsQuery);
     const values::Value atOnce = options[u"PrikaziOdmah"];
     if (!atOnce.IsNull() && atOnce.ToBool()) return FillViewerGrid(std::move(products));
-    ui.lv1->SetEmptyText(u"Type what you look for, or press F11 for all."_s);
+    ui.lv1->SetEmptyText(tr("Type what you look for, or press F11 for all."));
 }
 
 void frmViewer::ShowRows(const QString& query) {
@@ -55,7 +55,7 @@ void frmViewer::cmdRefresh_Click() {
 }
 
 void frmViewer::FillViewerGrid(store::Listing products) {
-    ui.lv1->SetEmptyText(u"Nothing is found."_s);
+    ui.lv1->SetEmptyText(tr("Nothing is found."));
     FillList(*ui.lv1, std::move(products), Cells);
 }
 

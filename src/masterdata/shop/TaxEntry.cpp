@@ -6,8 +6,6 @@
 #include "values/Format.h"
 #include "values/Numbers.h"
 
-using namespace Qt::StringLiterals;
-
 TaxEntry::TaxEntry(const Words& words) : duplicate_(words.duplicate) {
     setObjectName(words.name);
     ui.setupUi(this);
@@ -26,7 +24,7 @@ void TaxEntry::ClearTaxFields() {
 void TaxEntry::cmdAdd_Click() {
     if (!AllFilled({ui.txtTaxID, ui.txtPercent, ui.txtName})) return;
     if (!values::IsNumeric(ui.txtPercent->text())) {
-        forms::Inform(u"Tax rate must be numeric."_s, Caption());
+        forms::Inform(tr("Tax rate must be numeric."), Caption());
         forms::GoTo(ui.txtPercent);
         return;
     }

@@ -13,8 +13,8 @@ const auto TaxQuery = u"SELECT * FROM Tax WHERE TaxID = '%1'"_s;
 
 frmEditTax::frmEditTax()
     : TaxEntry({.name = u"frmEditTax"_s,
-                .title = u"Edit Tax"_s,
-                .duplicate = u"Tax with same code or a name already exists.Change TaxID or type!"_s}) {
+                .title = tr("Edit Tax"),
+                .duplicate = tr("Tax with same code or a name already exists.Change TaxID or type!")}) {
     ui.txtTaxID->setEnabled(false);
 }
 

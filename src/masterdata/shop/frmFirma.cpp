@@ -30,7 +30,7 @@ void frmFirma::Form_Load() {
 }
 
 void frmFirma::cmdSacuvaj_Click() {
-    if (ui.txtAdresa->text().isEmpty()) return forms::Inform(u"Address can't be empty."_s, Caption());
+    if (ui.txtAdresa->text().isEmpty()) return forms::Inform(tr("Address can't be empty."), Caption());
     BeginRow();
     rsCompany_[u"Adresa"] = ui.txtAdresa->text();
     rsCompany_[u"Tel"] = ui.txtTel->text();
@@ -40,7 +40,7 @@ void frmFirma::cmdSacuvaj_Click() {
     rsCompany_.Update();
     // A row that was added is the one that the next save changes.
     rsCompany_.SetBookmark(rsCompany_.LastModified());
-    forms::Inform(u"Data modified."_s, Caption());
+    forms::Inform(tr("Data modified."), Caption());
 }
 
 void frmFirma::BeginRow() {

@@ -13,8 +13,8 @@ const auto TaxesQuery = u"SELECT * FROM Tax"_s;
 
 frmNewTax::frmNewTax()
     : TaxEntry({.name = u"frmNewTax"_s,
-                .title = u"New Tax"_s,
-                .duplicate = u"Tax with same code or a name already exists.Change TaxID or type!!"_s}) {}
+                .title = tr("New Tax"),
+                .duplicate = tr("Tax with same code or a name already exists.Change TaxID or type!!")}) {}
 
 void frmNewTax::Form_Load() {
     rsTax_ = MainStore().OpenRecordset(TaxesQuery);
@@ -24,5 +24,5 @@ void frmNewTax::Save() {
     rsTax_.AddNew();
     StoreTaxFields();
     rsTax_.Update();
-    forms::Inform(u"A new type of tax is added."_s, Caption());
+    forms::Inform(tr("A new type of tax is added."), Caption());
 }

@@ -13,19 +13,21 @@ namespace {
 const auto TaxesQuery = u"SELECT * FROM Tax"_s;
 const auto TaxQuery = u"SELECT * FROM Tax WHERE TaxID = '%1'"_s;
 
-const auto Protected = u"Tax protected from deletion, but you can modify the data."_s;
+QString Protected() {
+    return frmTax::tr("Tax protected from deletion, but you can modify the data.");
+}
 
 }  // namespace
 
 frmTax::frmTax()
     : TableList({.name = u"frmTax"_s,
-                 .title = u"Taxes"_s,
-                 .columns = {{u"TaxID"_s, Qt::AlignLeft, 110},
-                             {u"Tax rate [%]"_s, Qt::AlignRight, 120},
-                             {u"Tax name"_s, Qt::AlignLeft, -1}},
+                 .title = tr("Taxes"),
+                 .columns = {{tr("TaxID"), Qt::AlignLeft, 110},
+                             {tr("Tax rate [%]"), Qt::AlignRight, 120},
+                             {tr("Tax name"), Qt::AlignLeft, -1}},
                  .rowQuery = TaxQuery,
-                 .isProtected = Protected,
-                 .deleted = u"Tax deleted."_s}) {}
+                 .isProtected = Protected(),
+                 .deleted = tr("Tax deleted.")}) {}
 
 void frmTax::ShowRows() {
     FillTaxGrid(MainStore().OpenListing(TaxesQuery));
@@ -44,8 +46,8 @@ void frmTax::ShowEdit() {
 }
 
 QString frmTax::DeleteQuestion(store::Recordset& tax) const {
-    return u"TaxID: "_s + tax[u"TaxID"].TextOrEmpty() + u"\nTax name: "_s + tax[u"Name"].TextOrEmpty() +
-           u"\nAre you sure you want to delete this type of tax?"_s;
+    return tr("TaxID: %1\nTax name: %2\nAre you sure you want to delete this type of tax?")
+        .arg(tax[u"TaxID"].TextOrEmpty(), tax[u"Name"].TextOrEmpty());
 }
 
 // A rate that other rows of the store refer to is protected in the same words.
@@ -53,7 +55,7 @@ void frmTax::cmdDelete_Click() {
     try {
         TableList::cmdDelete_Click();
     } catch (const values::Error& error) {
-        if (error.Number() == store::RelatedRows) return forms::Tell(Protected);
+        if (error.Number() == store::RelatedRows) return forms::Tell(Protected());
         forms::Inform(forms::ErrorText(error), Caption());
     }
 }
