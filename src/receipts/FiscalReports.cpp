@@ -5,16 +5,17 @@
 #include "forms/MsgBox.h"
 #include "receipts/FiscalFile.h"
 #include "receipts/FiscalRecords.h"
+#include "receipts/ReceiptWords.h"
 
 using namespace Qt::StringLiterals;
 
 void XReport() {
     AppendFiscalRecords({FiscalTextRecord(u"x report"_s, WebAddressLine), FiscalXRecord()});
-    forms::Inform(u"X report is done."_s, mdiORVA::Window().Caption());
+    forms::Inform(ReceiptWords::tr("X report is done."), mdiORVA::Window().Caption());
 }
 
 void ZReport() {
     AppendFiscalRecords(
         {FiscalTextRecord(u"daily report"_s, WebAddressLine), FiscalZRecord(), FiscalTextRecord(WebAddressLine, {})});
-    forms::Inform(u"Z report - daily report is done."_s, mdiORVA::Window().Caption());
+    forms::Inform(ReceiptWords::tr("Z report - daily report is done."), mdiORVA::Window().Caption());
 }

@@ -1,8 +1,7 @@
 #include "receipts/InvoiceLists.h"
 
+#include "receipts/ReceiptWords.h"
 #include "receipts/TaxRecap.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -12,26 +11,26 @@ enum TaxColumn { RecapTaxID, RecapNothing, RecapPercent, RecapAmount, RecapTax }
 
 void SetLineColumns(forms::ListView& lines, LinesOf screen) {
     const bool isReview = screen == LinesOf::Review;
-    std::vector<forms::ListColumn> columns{{u"Code"_s, Qt::AlignLeft, 128, true},
-                                           {u"Product name"_s, Qt::AlignLeft, -1},
-                                           {u"Price"_s, Qt::AlignRight, 78},
-                                           {u"Quantity"_s, Qt::AlignRight, 76},
-                                           {u"Amount"_s, Qt::AlignRight, 76},
-                                           {u"Tax %"_s, Qt::AlignRight, 60},
-                                           {u"Tax"_s, Qt::AlignRight, isReview ? 70 : 0},
-                                           {u"Unit"_s, Qt::AlignLeft, isReview ? 60 : 0},
-                                           {u"TaxID"_s, Qt::AlignLeft, 0}};
-    if (!isReview) columns.push_back({u"ID"_s, Qt::AlignLeft, 0});
+    std::vector<forms::ListColumn> columns{{ReceiptWords::tr("Code"), Qt::AlignLeft, 128, true},
+                                           {ReceiptWords::tr("Product name"), Qt::AlignLeft, -1},
+                                           {ReceiptWords::tr("Price"), Qt::AlignRight, 78},
+                                           {ReceiptWords::tr("Quantity"), Qt::AlignRight, 76},
+                                           {ReceiptWords::tr("Amount"), Qt::AlignRight, 76},
+                                           {ReceiptWords::tr("Tax %"), Qt::AlignRight, 60},
+                                           {ReceiptWords::tr("Tax"), Qt::AlignRight, isReview ? 70 : 0},
+                                           {ReceiptWords::tr("Unit"), Qt::AlignLeft, isReview ? 60 : 0},
+                                           {ReceiptWords::tr("TaxID"), Qt::AlignLeft, 0}};
+    if (!isReview) columns.push_back({ReceiptWords::tr("ID"), Qt::AlignLeft, 0});
     lines.SetColumns(std::move(columns));
 }
 
 void SetRecapColumns(forms::ListView& recap) {
     recap.MakeTight();
-    recap.SetColumns({{u"TaxID"_s, Qt::AlignLeft, -1},
+    recap.SetColumns({{ReceiptWords::tr("TaxID"), Qt::AlignLeft, -1},
                       {{}, Qt::AlignLeft, 0},
-                      {u"Rate"_s, Qt::AlignRight, 60},
-                      {u"Amount"_s, Qt::AlignRight, 76},
-                      {u"Tax"_s, Qt::AlignRight, 62}});
+                      {ReceiptWords::tr("Rate"), Qt::AlignRight, 60},
+                      {ReceiptWords::tr("Amount"), Qt::AlignRight, 76},
+                      {ReceiptWords::tr("Tax"), Qt::AlignRight, 62}});
 }
 
 void RebuildTaxRecap(const forms::ListView& lines, forms::ListView& recap) {

@@ -6,6 +6,7 @@
 #include "output/Channel.h"
 #include "output/OutputGuard.h"
 #include "output/PagePrinter.h"
+#include "receipts/ReceiptWords.h"
 #include "values/Numbers.h"
 
 using namespace Qt::StringLiterals;
@@ -17,27 +18,27 @@ output::PrinterFamily Family() {
 }
 
 // Empty for a printer that is ready.
-QString Trouble(output::PrinterState state) {
+QString Trouble(output::PrinterState state, const QString& port) {
     switch (state) {
         case output::PrinterState::Ready:
             return {};
         case output::PrinterState::NoPaper:
-            return u"has no paper"_s;
+            return ReceiptWords::tr("The printer on LPT%1 has no paper.").arg(port);
         case output::PrinterState::CoverOpen:
-            return u"has its cover open"_s;
+            return ReceiptWords::tr("The printer on LPT%1 has its cover open.").arg(port);
         case output::PrinterState::Offline:
-            return u"is offline or has an error"_s;
+            return ReceiptWords::tr("The printer on LPT%1 is offline or has an error.").arg(port);
         case output::PrinterState::Silent:
-            return u"does not answer"_s;
+            return ReceiptWords::tr("The printer on LPT%1 does not answer.").arg(port);
     }
     return {};
 }
 
-bool WantsAnotherTry(const QString& OutputMode, const QString& trouble) {
-    return forms::Ask(
-        u"The printer on LPT%1 %2. Nothing is printed yet.\n\n"
-        u"Yes: look at it again. No: print all the same."_s.arg(OutputMode, trouble),
-        {});
+bool WantsAnotherTry(const QString& trouble) {
+    return forms::Ask(trouble + u' ' +
+                          ReceiptWords::tr("Nothing is printed yet.\n\n"
+                                           "Yes: look at it again. No: print all the same."),
+                      {});
 }
 
 bool IsPort(const QString& OutputMode) {
@@ -50,10 +51,10 @@ bool IsPort(const QString& OutputMode) {
 void OpenPrinterPort(const QString& OutputMode) {
     for (bool isAsked = true;;) {
         output::Channel1().OpenPort(u"lpt"_s + OutputMode + u':');
-        const QString trouble = isAsked ? Trouble(output::Channel1().AskPrinter(Family())) : QString();
+        const QString trouble = isAsked ? Trouble(output::Channel1().AskPrinter(Family()), OutputMode) : QString();
         if (trouble.isEmpty()) return;
         output::Channel1().Drop();
-        isAsked = WantsAnotherTry(OutputMode, trouble);
+        isAsked = WantsAnotherTry(trouble);
     }
 }
 

@@ -7,12 +7,13 @@
 #include "receipts/FiscalFile.h"
 #include "receipts/InvoiceOutput.h"
 #include "receipts/ReceiptParts.h"
+#include "values/Language.h"
 
 using namespace Qt::StringLiterals;
+using values::Paper;
 
 namespace {
 
-const auto NumberLabel = u"INVOICE No:"_s;
 const auto RibbonMode = u"2"_s;
 constexpr qint16 RibbonBlankLines = 2;
 
@@ -36,7 +37,8 @@ void AppendToRibbon(const InvoiceText& invoice) {
 void PrintReceiptText(const QString& OutputMode, const InvoiceText& invoice) {
     const ReceiptLayout& layout = ChosenLayout();
     PrintInvoiceHeading(OutputMode, layout, invoice);
-    PrintDateBlock(OutputMode, layout.date, NumberLabel, invoice.orNo);
+    //: at most 11 columns without %1, the number
+    PrintDateBlock(OutputMode, layout.date, Paper::tr("INVOICE No:%1").arg(invoice.orNo));
     PrintItems(OutputMode, layout, invoice);
     PrintInvoiceTotals(OutputMode, layout, invoice);
     PrintTaxRecapitulationIfWanted(OutputMode, invoice);

@@ -23,7 +23,7 @@ struct ReceiptLayout {
     QString tipRacuna = {};  // the setting that chooses it
     int width = 40;          // of the item block
     QChar rule = u'-';
-    QStringList head = {};               // between two rules
+    QStringList head = {};               // between two rules; texts of values::Paper, put into its language as printed
     std::vector<PrintFields> item = {};  // the lines of a row; without them there is no item block
     bool isReviewed = true;              // whether a stored invoice shows its items
     DateBlock date = DateBlock::OneLine;

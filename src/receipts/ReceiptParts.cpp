@@ -9,6 +9,7 @@
 #include "receipts/InvoiceOutput.h"
 #include "values/Clock.h"
 #include "values/Format.h"
+#include "values/Language.h"
 #include "values/Numbers.h"
 #include "values/Tax.h"
 
@@ -16,6 +17,7 @@ using namespace Qt::StringLiterals;
 using values::CMoney;
 using values::Format;
 using values::Money;
+using values::Paper;
 
 namespace {
 
@@ -26,13 +28,15 @@ QString DateAndTime() {
     return Format(now.date(), u"dd.mm.yyyy") % u"  "_s % Format(now.time(), u"hh:mm:ss");
 }
 
-void PrintA4DateBlock(const QString& OutputMode, const QString& label, const QString& orNo) {
+void PrintA4DateBlock(const QString& OutputMode, const QString& number) {
     const QString date = Format(values::Today(), u"dd.mm.yyyy");
-    PrintToChannel(OutputMode, u"Date of issue:"_s + date);
-    PrintToChannel(OutputMode, u"Delivery date :"_s + date);
+    //: at most 40 columns without %1, the date
+    PrintToChannel(OutputMode, Paper::tr("Date of issue:%1").arg(date));
+    //: at most 40 columns without %1, the date
+    PrintToChannel(OutputMode, Paper::tr("Delivery date :%1").arg(date));
     output::ThePagePrinter().SetFontSize(NumberFontSize);
     PrintToChannel(OutputMode, u" "_s);
-    PrintToChannel(OutputMode, label + orNo);
+    PrintToChannel(OutputMode, number);
     output::ThePagePrinter().SetFontSize(PageFontSize());
     PrintToChannel(OutputMode, u" "_s);
 }
@@ -64,8 +68,10 @@ void PrintInvoiceHeading(const QString& OutputMode, const ReceiptLayout& layout,
     if (layout.nameSize > 0) output::ThePagePrinter().SetFontSize(PageFontSize());
     PrintShopLines(OutputMode);
     if (invoice.customer.isEmpty()) return;
-    PrintToChannel(OutputMode, u"Custumer:"_s + invoice.customer);
-    PrintToChannel(OutputMode, u"ID:"_s + invoice.ident);
+    //: at most 12 columns without %1, the customer's name
+    PrintToChannel(OutputMode, Paper::tr("Custumer:%1").arg(invoice.customer));
+    //: at most 12 columns without %1, the customer's identification number
+    PrintToChannel(OutputMode, Paper::tr("ID:%1").arg(invoice.ident));
 }
 
 void PrintShopLines(const QString& OutputMode) {
@@ -76,17 +82,20 @@ void PrintShopLines(const QString& OutputMode) {
     PrintToChannel(OutputMode, {});
 }
 
-void PrintDateBlock(const QString& OutputMode, DateBlock block, const QString& label, const QString& orNo) {
-    if (block == DateBlock::A4) return PrintA4DateBlock(OutputMode, label, orNo);
-    if (block == DateBlock::OneLine) return PrintToChannel(OutputMode, label % orNo % u"    "_s % DateAndTime());
-    PrintToChannel(OutputMode, u"Date:"_s + DateAndTime());
-    PrintToChannel(OutputMode, label + orNo);
+void PrintDateBlock(const QString& OutputMode, DateBlock block, const QString& number) {
+    if (block == DateBlock::A4) return PrintA4DateBlock(OutputMode, number);
+    if (block == DateBlock::OneLine) return PrintToChannel(OutputMode, number % u"    "_s % DateAndTime());
+    //: at most 12 columns without %1, date and time
+    PrintToChannel(OutputMode, Paper::tr("Date:%1").arg(DateAndTime()));
+    PrintToChannel(OutputMode, number);
 }
 
 void PrintItems(const QString& OutputMode, const ReceiptLayout& layout, const InvoiceText& invoice) {
     if (layout.item.empty()) return;
     const QString rule(layout.width, layout.rule);
-    for (const QString& line : QStringList{rule} + layout.head + QStringList{rule}) PrintToChannel(OutputMode, line);
+    PrintToChannel(OutputMode, rule);
+    for (const QString& line : layout.head) PrintToChannel(OutputMode, Paper::tr(line.toUtf8().constData()));
+    PrintToChannel(OutputMode, rule);
     int row = 0;
     for (const auto& item : invoice.items) {
         ++row;
@@ -99,26 +108,31 @@ void PrintInvoiceTotals(const QString& OutputMode, const ReceiptLayout& layout, 
     const qint32 figureWidth = output::Columns(invoice.total);
     const qint32 labelWidth = layout.totalsWidth - figureWidth;
     const auto printTotal = [&](const QString& label, const QString& figure) {
-        PrintToChannel(OutputMode,
-                       PadLeft(labelWidth, label % TheSettings.Currency % u": "_s) % PadLeft(figureWidth, figure));
+        PrintToChannel(OutputMode, PadLeft(labelWidth, label.arg(TheSettings.Currency)) % PadLeft(figureWidth, figure));
     };
     PrintToChannel(OutputMode, QString(layout.totalsWidth, layout.rule));
-    printTotal(u"Subtotal......"_s, Format(CMoney(invoice.total) - CMoney(invoice.taxTotal), u"0.00"));
-    printTotal(u"Tax..........."_s, invoice.taxTotal);
-    printTotal(u"TOTAL........."_s, invoice.total);
+    //: 16 columns without %1, the currency; dots fill them, so that the three lines are alike
+    printTotal(Paper::tr("Subtotal......%1: "), Format(CMoney(invoice.total) - CMoney(invoice.taxTotal), u"0.00"));
+    //: 16 columns without %1, the currency; dots fill them, so that the three lines are alike
+    printTotal(Paper::tr("Tax...........%1: "), invoice.taxTotal);
+    //: 16 columns without %1, the currency; dots fill them, so that the three lines are alike
+    printTotal(Paper::tr("TOTAL.........%1: "), invoice.total);
 }
 
 void PrintTaxRecapitulation(const QString& OutputMode, const InvoiceText& invoice) {
     PrintToChannel(OutputMode, {});
-    PrintToChannel(OutputMode, u"Taxes          "_s);
-    PrintToChannel(OutputMode, u"Rate     Amount"_s);
+    //: 15 columns
+    PrintToChannel(OutputMode, Paper::tr("Taxes          "));
+    //: 15 columns: rate 6, and to the right amount 9
+    PrintToChannel(OutputMode, Paper::tr("Rate     Amount"));
     Money sum;
     for (const auto& tax : invoice.taxes) {
         PrintToChannel(OutputMode, PadLeft(5, tax.percent) % u"% "_s % PadLeft(8, tax.taxAmount));
         sum += CMoney(tax.taxAmount);
     }
     PrintToChannel(OutputMode, QString(RecapWidth, u'-'));
-    PrintToChannel(OutputMode, PadLeft(RecapWidth, u" TOTAL:"_s + Format(sum, u"0.00")));
+    //: at most 7 columns without %1, the sum of the taxes
+    PrintToChannel(OutputMode, PadLeft(RecapWidth, Paper::tr(" TOTAL:%1").arg(Format(sum, u"0.00"))));
 }
 
 void PrintTaxRecapitulationIfWanted(const QString& OutputMode, const InvoiceText& invoice) {
@@ -127,6 +141,7 @@ void PrintTaxRecapitulationIfWanted(const QString& OutputMode, const InvoiceText
 
 void PrintInvoiceFooter(const QString& OutputMode, const InvoiceText& invoice) {
     PrintToChannel(OutputMode, {});
-    if (IsCashierPrinted()) PrintToChannel(OutputMode, u"Cashier:"_s + invoice.cashier);
+    //: at most 12 columns without %1, the cashier's name
+    if (IsCashierPrinted()) PrintToChannel(OutputMode, Paper::tr("Cashier:%1").arg(invoice.cashier));
     PrintToChannel(OutputMode, TheSettings.Footer);
 }

@@ -12,8 +12,8 @@ void PrintInvoiceHeading(const QString& OutputMode, const ReceiptLayout& layout,
 // The shop lines below its name: address, identification, telephone, place of sale and an empty line.
 void PrintShopLines(const QString& OutputMode);
 
-// `label` stands before the number.
-void PrintDateBlock(const QString& OutputMode, DateBlock block, const QString& label, const QString& orNo);
+// `number` is the invoice's, with its label.
+void PrintDateBlock(const QString& OutputMode, DateBlock block, const QString& number);
 
 // A head between two rules, then the lines of each row. Numbers push a line that they do not fit, descriptions are cut.
 void PrintItems(const QString& OutputMode, const ReceiptLayout& layout, const InvoiceText& invoice);

@@ -7,8 +7,10 @@
 #include "receipts/InvoiceOutput.h"
 #include "receipts/PrintedText.h"
 #include "receipts/ReceiptParts.h"
+#include "values/Language.h"
 
 using namespace Qt::StringLiterals;
+using values::Paper;
 
 namespace {
 
@@ -16,23 +18,26 @@ const auto PreviewMode = u"2"_s;
 constexpr qint16 PreviewBlankLines = 2;
 
 // Paper and preview do not name the number alike when it shares its line with the date.
-const auto PaperLabel = u"Invoice No"_s;
-const auto PreviewLabel = u"Invoice No:"_s;
-const auto OwnLineLabel = u"Invoice No:"_s;
+QString OnPaper(const QString& orNo) {
+    //: at most 11 columns without %1, the number
+    return Paper::tr("Invoice No%1").arg(orNo);
+}
+
+QString InPreview(const QString& orNo) {
+    //: at most 11 columns without %1, the number
+    return Paper::tr("Invoice No:%1").arg(orNo);
+}
 
 void PrintReviewHeading(const QString& OutputMode) {
     PrintToChannel(OutputMode, TheSettings.NazivFirme);
     PrintShopLines(OutputMode);
 }
 
-void PrintReviewDateBlock(const QString& OutputMode, DateBlock block, const QString& label, const QString& orNo) {
-    PrintDateBlock(OutputMode, block, block == DateBlock::OneLine ? label : OwnLineLabel, orNo);
-}
-
-void PrintReviewText(const QString& OutputMode, const QString& label, const InvoiceText& invoice) {
+void PrintReviewText(const QString& OutputMode, QString (*number)(const QString& orNo), const InvoiceText& invoice) {
     const ReceiptLayout& layout = ChosenLayout();
     PrintReviewHeading(OutputMode);
-    PrintReviewDateBlock(OutputMode, layout.reviewDate, label, invoice.orNo);
+    const auto named = layout.reviewDate == DateBlock::OneLine ? number : InPreview;
+    PrintDateBlock(OutputMode, layout.reviewDate, named(invoice.orNo));
     if (layout.isReviewed) PrintItems(OutputMode, layout, invoice);
     PrintInvoiceTotals(OutputMode, layout, invoice);
     PrintTaxRecapitulationIfWanted(OutputMode, invoice);
@@ -45,7 +50,7 @@ void ReprintInvoice(const InvoiceText& invoice) {
     PrintOrEndProgram([&] {
         const QString OutputMode = TheSettings.PrinterZaRacun;
         OpenInvoiceOutput(OutputMode);
-        PrintReviewText(OutputMode, PaperLabel, invoice);
+        PrintReviewText(OutputMode, OnPaper, invoice);
         FinishInvoiceOutput(OutputMode);
     });
 }
@@ -53,7 +58,7 @@ void ReprintInvoice(const InvoiceText& invoice) {
 void AppendInvoiceToPreview(const InvoiceText& invoice) {
     output::Channel& channel = output::Channel1();
     if (!channel.IsOpen()) channel.OpenForAppend(output::InProgramFolder(PreviewFile));
-    PrintReviewText(PreviewMode, PreviewLabel, invoice);
+    PrintReviewText(PreviewMode, InPreview, invoice);
     FeedBlankLines(PreviewBlankLines);
 }
 
@@ -62,5 +67,5 @@ void ClosePreview() {
 }
 
 QString ReviewText(const InvoiceText& invoice) {
-    return PrintedText([&] { PrintReviewText(PreviewMode, PreviewLabel, invoice); });
+    return PrintedText([&] { PrintReviewText(PreviewMode, InPreview, invoice); });
 }

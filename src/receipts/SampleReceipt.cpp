@@ -5,10 +5,12 @@
 #include "receipts/PrintInvoice.h"
 #include "receipts/PrintedText.h"
 #include "values/Format.h"
+#include "values/Language.h"
 
 using namespace Qt::StringLiterals;
 using values::Format;
 using values::Money;
+using values::Paper;
 
 namespace {
 
@@ -29,12 +31,17 @@ InvoiceText::Item Line(const QString& code, const QString& name, const QString& 
 }
 
 InvoiceText Invented() {
-    InvoiceText::Item milk = Line(u"3850104003217"_s, u"Milk 1 l"_s, u"pcs"_s);
+    InvoiceText::Item milk = Line(u"3850104003217"_s,
+                                  //: at most 15 columns, a product as an example
+                                  Paper::tr("Milk 1 l"),
+                                  //: at most 3 columns, its unit: pieces
+                                  Paper::tr("pcs"));
     milk.unitPrice = Amount(235);
     milk.quantity = Amount(200);
     milk.amount = Amount(470);
     milk.taxAmount = Amount(68);
-    InvoiceText::Item apples = Line(u"201"_s, u"Apples, red"_s, u"kg"_s);
+    //: at most 15 columns, a product as an example
+    InvoiceText::Item apples = Line(u"201"_s, Paper::tr("Apples, red"), u"kg"_s);
     apples.unitPrice = Amount(398);
     apples.quantity = Amount(250);
     apples.amount = Amount(995);

@@ -10,6 +10,7 @@
 #include "output/CodePage.h"
 #include "output/PagePrinter.h"
 #include "receipts/InvoiceOutput.h"
+#include "receipts/ReceiptWords.h"
 #include "values/FileError.h"
 
 using namespace Qt::StringLiterals;
@@ -18,12 +19,12 @@ namespace {
 
 constexpr qint64 ChunkSize = qint64{1024} * 1024;
 
-[[noreturn]] void ThrowFileError(const QString& action, const QFileDevice& file) {
-    throw values::Error(values::NumberOfFailure(file), action + file.fileName() + u": "_s + file.errorString() + u'.');
+[[noreturn]] void ThrowFileError(const QString& text, const QFileDevice& file) {
+    throw values::Error(values::NumberOfFailure(file), text.arg(file.fileName(), file.errorString()));
 }
 
 void OpenForReading(QFile& file) {
-    if (!file.open(QIODevice::ReadOnly)) ThrowFileError(u"Cannot read "_s, file);
+    if (!file.open(QIODevice::ReadOnly)) ThrowFileError(ReceiptWords::tr("Cannot read %1: %2."), file);
 }
 
 QByteArray WithoutLineEnd(QByteArray line) {
@@ -43,7 +44,7 @@ void PrintLines(QFile& file, const std::function<void(int)>& progress,
         told = percent;
         progress(percent);
     }
-    if (file.error() != QFileDevice::NoError) ThrowFileError(u"Cannot read "_s, file);
+    if (file.error() != QFileDevice::NoError) ThrowFileError(ReceiptWords::tr("Cannot read %1: %2."), file);
 }
 
 void PrintOnPort(const QString& OutputMode, QFile& file, const std::function<void(int)>& progress) {
@@ -78,17 +79,17 @@ void CopyTextFile(const QString& from, const QString& to) {
     OpenForReading(source);
     // Written beside the name and put in its place at the end.
     QSaveFile copy(to);
-    if (!copy.open(QIODevice::WriteOnly)) ThrowFileError(u"Cannot save "_s, copy);
+    if (!copy.open(QIODevice::WriteOnly)) ThrowFileError(ReceiptWords::tr("Cannot save %1: %2."), copy);
     QByteArray chunk;
     while (!(chunk = source.read(ChunkSize)).isEmpty())
-        if (copy.write(chunk) != chunk.size()) ThrowFileError(u"Cannot save "_s, copy);
-    if (source.error() != QFileDevice::NoError) ThrowFileError(u"Cannot read "_s, source);
+        if (copy.write(chunk) != chunk.size()) ThrowFileError(ReceiptWords::tr("Cannot save %1: %2."), copy);
+    if (source.error() != QFileDevice::NoError) ThrowFileError(ReceiptWords::tr("Cannot read %1: %2."), source);
     // What waits in the buffer yet: commit alone would put a cut copy in the place of the old file.
-    if (!copy.flush() || !copy.commit()) ThrowFileError(u"Cannot save "_s, copy);
+    if (!copy.flush() || !copy.commit()) ThrowFileError(ReceiptWords::tr("Cannot save %1: %2."), copy);
 }
 
 void DeleteTextFile(const QString& path) {
     if (!FileExists(path)) return;
     QFile file(path);
-    if (!file.remove()) ThrowFileError(u"Cannot delete "_s, file);
+    if (!file.remove()) ThrowFileError(ReceiptWords::tr("Cannot delete %1: %2."), file);
 }

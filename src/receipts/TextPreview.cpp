@@ -56,7 +56,7 @@ void TextPreview::ShowProgress(const QString& title, int percent) {
 
 void TextPreview::cmdSacuvaj_Click() {
     if (!FileExists(NeededForSaving())) return;
-    const QString name = forms::AskSaveName(this, u"Save as"_s, u"Report (*.txt)"_s);
+    const QString name = forms::AskSaveName(this, tr("Save as"), tr("Report (*.txt)"));
     if (!name.isEmpty()) CopyTextFile(FilePath(), name);
 }
 

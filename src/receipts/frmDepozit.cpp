@@ -11,13 +11,13 @@ DepositEntry::DepositEntry(const Words& words) : FiscalEntry(words) {
 
 frmDepozit::frmDepozit()
     : DepositEntry({.name = u"frmDepozit"_s,
-                    .title = u"Deposit - payment "_s,
-                    .frame = u"Deposit payment - only for fiscal printers"_s,
-                    .note = u"only for fiscal printers"_s,
-                    .label = u"Amount:"_s,
-                    .toolTip = u"Register amount of deposit - F12"_s,
-                    .notNumeric = u"Deposit must be numeric."_s,
-                    .confirmation = u"Paid deposit."_s}) {}
+                    .title = tr("Deposit - payment "),
+                    .frame = tr("Deposit payment - only for fiscal printers"),
+                    .note = tr("only for fiscal printers"),
+                    .label = tr("Amount:"),
+                    .toolTip = tr("Register amount of deposit - F12"),
+                    .notNumeric = tr("Deposit must be numeric."),
+                    .confirmation = tr("Paid deposit.")}) {}
 
 QString frmDepozit::Record(const QString& number) const {
     return FiscalDepositRecord(values::CMoney(number));
@@ -25,13 +25,13 @@ QString frmDepozit::Record(const QString& number) const {
 
 frmDepozitIsplata::frmDepozitIsplata()
     : DepositEntry({.name = u"frmDepozitIsplata"_s,
-                    .title = u"Deposit payout"_s,
-                    .frame = u"Deposit payout - only for fiscal printers"_s,
-                    .note = u"only for fiscal printers"_s,
-                    .label = u"Amount:"_s,
-                    .toolTip = u"Register amount of deposit - F12"_s,
-                    .notNumeric = u"Deposit must be numeric."_s,
-                    .confirmation = u"Deposit payout."_s}) {}
+                    .title = tr("Deposit payout"),
+                    .frame = tr("Deposit payout - only for fiscal printers"),
+                    .note = tr("only for fiscal printers"),
+                    .label = tr("Amount:"),
+                    .toolTip = tr("Register amount of deposit - F12"),
+                    .notNumeric = tr("Deposit must be numeric."),
+                    .confirmation = tr("Deposit payout.")}) {}
 
 QString frmDepozitIsplata::Record(const QString& number) const {
     return FiscalPayoutRecord(values::CMoney(number));

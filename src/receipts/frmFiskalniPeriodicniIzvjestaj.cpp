@@ -5,8 +5,6 @@
 #include "receipts/FiscalRecords.h"
 #include "values/Clock.h"
 
-using namespace Qt::StringLiterals;
-
 frmFiskalniPeriodicniIzvjestaj::frmFiskalniPeriodicniIzvjestaj() {
     ui.setupUi(this);
     FunctionKeys({{Qt::Key_Escape, Guarded(&frmFiskalniPeriodicniIzvjestaj::CloseForm)},
@@ -22,7 +20,7 @@ void frmFiskalniPeriodicniIzvjestaj::Form_Load() {
 
 void frmFiskalniPeriodicniIzvjestaj::Command1_Click() {
     AppendFiscalRecords({FiscalPeriodicRecord(ui.DTPicker1->date(), ui.DTPicker2->date())});
-    forms::Inform(u"Periodic report is done."_s, Caption());
+    forms::Inform(tr("Periodic report is done."), Caption());
 }
 
 void frmFiskalniPeriodicniIzvjestaj::CloseForm() {

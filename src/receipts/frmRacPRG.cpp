@@ -17,7 +17,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const auto PreviewTitle = u"Review Invoice"_s;
+void ShowPreview() {
+    frmRacunPregled::Preview(PreviewFile, frmRacPRG::tr("Review Invoice"));
+}
 
 }  // namespace
 
@@ -47,7 +49,7 @@ frmRacPRG::frmRacPRG() {
 void frmRacPRG::Form_Load() {
     DeleteTextFile(output::InProgramFolder(PreviewFile));
     rsInvoices_ = MainStore().OpenRecordset(StoredInvoicesQuery(strSQLwhere));
-    if (rsInvoices_.RecordCount() == 0) return forms::Inform(u"Currently there is no single invoice"_s, Caption());
+    if (rsInvoices_.RecordCount() == 0) return forms::Inform(tr("Currently there is no single invoice"), Caption());
     PreviewAllInvoices();
     cmdFirst_Click();
 }
@@ -62,7 +64,7 @@ void frmRacPRG::PreviewAllInvoices() {
         rsInvoices_.MoveLast();
         ShowInvoice();
     });
-    frmRacunPregled::Preview(PreviewFile, PreviewTitle);
+    ShowPreview();
 }
 
 void frmRacPRG::ShowInvoice() {
@@ -107,7 +109,7 @@ void frmRacPRG::cmdPrint_Click() {
 }
 
 void frmRacPRG::cmdSacuvaj_Click() {
-    frmRacunPregled::Preview(PreviewFile, PreviewTitle);
+    ShowPreview();
 }
 
 void frmRacPRG::Command1_Click() {

@@ -4,7 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-frmRacunPregled::frmRacunPregled() : TextPreview(u"frmRacunPregled"_s, u"Print preview"_s) {}
+frmRacunPregled::frmRacunPregled() : TextPreview(u"frmRacunPregled"_s, tr("Print preview")) {}
 
 void frmRacunPregled::Preview(const QString& file, const QString& title) {
     frmRacunPregled preview;

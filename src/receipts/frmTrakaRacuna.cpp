@@ -4,8 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
-frmTrakaRacuna::frmTrakaRacuna() : TextPreview(u"frmTrakaRacuna"_s, u"Printed Invoices"_s) {
-    ui.cmdSacuvaj->setToolTip(u"Snimi na flopi,USBdisk,disk..."_s);
+frmTrakaRacuna::frmTrakaRacuna() : TextPreview(u"frmTrakaRacuna"_s, tr("Printed Invoices")) {
+    ui.cmdSacuvaj->setToolTip(tr("Snimi na flopi,USBdisk,disk..."));
 }
 
 void frmTrakaRacuna::Form_Load() {
