@@ -73,8 +73,8 @@ void ListReport::AddSumBoxes() {
 }
 
 void ListReport::PrintAndSave() {
-    AddButton(u"cmdPrint"_s, u"F5-Print"_s, Qt::Key_F5, &ListReport::cmdPrint_Click);
-    AddButton(u"cmdSacuvaj"_s, u"F4-Save"_s, Qt::Key_F4, &ListReport::cmdSacuvaj_Click);
+    AddButton(u"cmdPrint"_s, tr("F5-Print"), Qt::Key_F5, &ListReport::cmdPrint_Click);
+    AddButton(u"cmdSacuvaj"_s, tr("F4-Save"), Qt::Key_F4, &ListReport::cmdSacuvaj_Click);
 }
 
 // The first one is what the report is opened for.
@@ -108,10 +108,15 @@ bool ListReport::OpenAndSum(const QString& query) {
     } catch (const values::Error& error) {
         ui.lv1->Clear();
         SumList();
-        ui.lblNaslov->clear();
+        ShowTitle({}, {});
         if (error.Number() != store::Cancelled) throw;
         return false;
     }
+}
+
+void ListReport::ShowTitle(const QString& shown, const QString& printed) {
+    ui.lblNaslov->setText(shown);
+    printedTitle_ = printed;
 }
 
 store::Listing ListReport::Read(const QString& query) {
@@ -152,7 +157,7 @@ bool ListReport::HasItems() const {
 void ListReport::PrintReport(const QString& mode) {
     QStringList sums;
     for (const ReportSum& sum : facts_.sums) sums << SumBox(sum)->text();
-    for (const QString& line : ReportLines(Layout(), ui.lblNaslov->text(), *ui.lv1, sums)) PrintToChannel(mode, line);
+    for (const QString& line : ReportLines(Layout(), printedTitle_, *ui.lv1, sums)) PrintToChannel(mode, line);
 }
 
 void ListReport::cmdPrint_Click() {
@@ -175,7 +180,7 @@ void ListReport::cmdPrint_Click() {
 // A save that fails says nothing.
 void ListReport::cmdSacuvaj_Click() {
     if (!HasItems()) return;
-    const QString path = forms::AskSaveName(this, facts_.saveTitle, u"Report (*.txt)"_s);
+    const QString path = forms::AskSaveName(this, facts_.saveTitle, tr("Report (*.txt)"));
     if (path.isEmpty()) return;
     PassOverErrors([&] { SaveReportFile(path, [this] { PrintReport(u"1"_s); }); });
 }

@@ -23,6 +23,8 @@ protected:
     void ListRows(store::Listing rows);
     // The sums of the texts as they are shown.
     void SumList();
+    // Which days the list covers, above it and in the language of paper.
+    void ShowTitle(const QString& shown, const QString& printed);
     values::Money SumOf(int column) const;
     // False, with the report's words, while the list is empty.
     bool HasItems() const;
@@ -49,6 +51,7 @@ protected:
     const ReportFacts facts_;
 
 private:
+    QString printedTitle_;
     // While a query runs and its rows come in.
     forms::LongWork* work_ = nullptr;
 

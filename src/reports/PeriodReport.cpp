@@ -24,7 +24,8 @@ QString TitleDate(QDate day) {
 
 PeriodReport::PeriodReport(ReportFacts facts) : ListReport(std::move(facts)) {
     ui.panelPeriod->show();
-    ui.lv1->SetEmptyText(u"Choose a day in the calendar, or two days and \"%1\"."_s.arg(ui.Command1->text()));
+    const QString show = ui.Command1->text().remove(u'&');
+    ui.lv1->SetEmptyText(tr("Choose a day in the calendar, or two days and \"%1\".").arg(show));
     AddOptions();
     // A click, and Enter on the day that the arrow keys have reached.
     const auto chosen = [this](QDate day) { Run([&] { mv1_DateClick(day); }); };
@@ -77,7 +78,7 @@ bool PeriodReport::RunQuery() {
 }
 
 void PeriodReport::mv1_DateClick(QDate day) {
-    ShowDays(facts_.days.day + QueryDate(day) + u'#', TitleDate(day));
+    ShowDays(facts_.days.day + QueryDate(day) + u'#', TitleDate(day), TitleDate(day));
 }
 
 // Days in the wrong order just give an empty list.
@@ -86,13 +87,14 @@ void PeriodReport::Command1_Click() {
     const QDate last = ui.DTPicker2->date();
     const ReportDays& days = facts_.days;
     ShowDays(days.from + QueryDate(first) + days.to + QueryDate(last) + days.end,
-             days.titleFrom + TitleDate(first) + days.titleTo + TitleDate(last));
+             days.title.arg(TitleDate(first), TitleDate(last)),
+             days.printedTitle.arg(TitleDate(first), TitleDate(last)));
 }
 
-void PeriodReport::ShowDays(const QString& where, const QString& title) {
+void PeriodReport::ShowDays(const QString& where, const QString& title, const QString& printedTitle) {
     queryWhere_ = where;
-    ui.lv1->SetEmptyText(u"There is nothing on these days."_s);
-    if (RunQuery()) ui.lblNaslov->setText(title);
+    ui.lv1->SetEmptyText(tr("There is nothing on these days."));
+    if (RunQuery()) ShowTitle(title, printedTitle);
     ui.lv1->setFocus();
 }
 

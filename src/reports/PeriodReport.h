@@ -31,7 +31,7 @@ private:
     void AddOptions();
     size_t ChosenVariant() const;
     void TakeVariant(const ReportVariant& variant);
-    void ShowDays(const QString& where, const QString& title);
+    void ShowDays(const QString& where, const QString& title, const QString& printedTitle);
 
     std::vector<QRadioButton*> options_;
 };

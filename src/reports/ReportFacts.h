@@ -1,13 +1,16 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 #include <vector>
 
 #include "core/PrintField.h"
+#include "values/Language.h"  // Paper, for the layouts of each table
 
 // What a report is, as a table of facts: what it asks the store, what its list shows, what is summed, how it is
-// printed. ListReport and PeriodReport do the rest.
+// printed. ListReport and PeriodReport do the rest. The table is made with the form: its words are in the languages
+// that screens and paper have by then.
 
 enum class Look {
     Text,    // as it comes, left
@@ -56,8 +59,10 @@ struct ReportDays {
     QString from;
     QString to;
     QString end = QStringLiteral("#");
-    QString titleFrom = QStringLiteral("from ");
-    QString titleTo = QStringLiteral(" to ");
+    // Of two days, above the list and on paper.
+    QString title = QCoreApplication::translate("PeriodReport", "from %1 to %2");
+    //: at most 20 columns without %1 and %2, the days
+    QString printedTitle = QCoreApplication::translate("Paper", "from %1 to %2");
 };
 
 struct ReportFacts {
@@ -69,8 +74,8 @@ struct ReportFacts {
     std::vector<ReportSum> sums = {};
     QString emptySum = {};  // shown in the boxes while the list is empty
     std::vector<ReportLayout> layouts = {};
-    QString emptyList = QStringLiteral("List does not contain any item.Change date.");
-    QString saveTitle = QStringLiteral("Save as");
+    QString emptyList = QCoreApplication::translate("ListReport", "List does not contain any item.Change date.");
+    QString saveTitle = QCoreApplication::translate("ListReport", "Save as");
     bool optionsLeadToList = false;  // a choice of an option gives the list the focus
     bool optionsAreIdle = false;     // the option buttons stand there without effect
 };

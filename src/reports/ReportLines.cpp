@@ -3,8 +3,9 @@
 #include "core/dbModule.h"
 #include "values/Clock.h"
 #include "values/DateText.h"
+#include "values/Language.h"
 
-using namespace Qt::StringLiterals;
+using values::Paper;
 
 namespace {
 
@@ -23,7 +24,8 @@ QString TotalLine(const QString& caption, const QStringList& sums) {
 
 QString PrintedLine() {
     const QDateTime now = values::Now();
-    return u"Printed:"_s + values::DateText(now.date()) + u' ' + values::TimeText(now.time());
+    //: at most 15 columns without %1 and %2, date and time
+    return Paper::tr("Printed:%1 %2").arg(values::DateText(now.date()), values::TimeText(now.time()));
 }
 
 }  // namespace

@@ -5,35 +5,40 @@
 #include "forms/MsgBox.h"
 
 using namespace Qt::StringLiterals;
+using values::Paper;
 
 namespace {
 
 const auto ClearLog = u"DELETE * FROM Login WHERE LogInNo <> '%1'"_s;
 const auto LoginQuery = u"SELECT * FROM Login WHERE LogInNo = '%1'"_s;
 
-const ReportFacts Facts{
-    .name = u"frmActivity"_s,
-    .caption = u"Business hours of cash register"_s,
-    .variants = {{.head = u"SELECT Kas, LoginNo, Date, LoginTime, DateOut, LogOut FROM Login"_s, .group = {}}},
-    .days = {.day = u"  WHERE Date = #"_s, .from = u"  WHERE Date >= #"_s, .to = u"# AND Date <= #"_s},
-    .columns = {{u"CR"_s, 60, Look::Text, u"Kas"_s},
-                {u"DateFrom"_s, 120, Look::Text, u"Date"_s},
-                {u"DateTo"_s, 120, Look::Text, u"DateOut"_s},
-                {u"Time login"_s, 120, Look::Text, u"LoginTime"_s},
-                {u"Time logoff"_s, -1, Look::Text, u"LogOut"_s}},
-    .layouts = {{.title = {u"Business hours of cash register"_s},
-                 .head = {u"CR  DateFrom  DateTo  TimeFrom    TimeTo"_s},
-                 .item = {{Left(4, 0), Right(8, 1, u"dd.mm.yy"_s), Left(8, 2, u"dd.mm.yy"_s), Right(10, 3),
-                           Right(9, 4)}}}},
-    .emptyList = u"List haven't any item.Change date."_s,
-};
+ReportFacts Facts() {
+    return {
+        .name = u"frmActivity"_s,
+        .caption = frmActivity::tr("Business hours of cash register"),
+        .variants = {{.head = u"SELECT Kas, LoginNo, Date, LoginTime, DateOut, LogOut FROM Login"_s, .group = {}}},
+        .days = {.day = u"  WHERE Date = #"_s, .from = u"  WHERE Date >= #"_s, .to = u"# AND Date <= #"_s},
+        .columns = {{frmActivity::tr("CR"), 60, Look::Text, u"Kas"_s},
+                    {frmActivity::tr("DateFrom"), 120, Look::Text, u"Date"_s},
+                    {frmActivity::tr("DateTo"), 120, Look::Text, u"DateOut"_s},
+                    {frmActivity::tr("Time login"), 120, Look::Text, u"LoginTime"_s},
+                    {frmActivity::tr("Time logoff"), -1, Look::Text, u"LogOut"_s}},
+        .layouts = {{//: at most 40 columns
+                     .title = {Paper::tr("Business hours of cash register")},
+                     //: 40 columns: register 4, the days of login and log-off 8 each, their times 10 and 9
+                     .head = {Paper::tr("CR  DateFrom  DateTo  TimeFrom    TimeTo")},
+                     .item = {{Left(4, 0), Right(8, 1, u"dd.mm.yy"_s), Left(8, 2, u"dd.mm.yy"_s), Right(10, 3),
+                               Right(9, 4)}}}},
+        .emptyList = frmActivity::tr("List haven't any item.Change date."),
+    };
+}
 
 }  // namespace
 
-frmActivity::frmActivity() : PeriodReport(Facts) {
+frmActivity::frmActivity() : PeriodReport(Facts()) {
     PrintAndSave();
-    auto* clear = AddButton(u"cmdBrisi"_s, u"F6-Delete"_s, Qt::Key_F6, &frmActivity::cmdBrisi_Click);
-    clear->setToolTip(u"Delete all list"_s);
+    auto* clear = AddButton(u"cmdBrisi"_s, tr("F6-Delete"), Qt::Key_F6, &frmActivity::cmdBrisi_Click);
+    clear->setToolTip(tr("Delete all list"));
     clear->setProperty("role", u"danger"_s);
 }
 
@@ -56,7 +61,7 @@ void frmActivity::cmdBrisi_Click() {
         try {
             step();
         } catch (const values::Error& error) {
-            if (error.Number() == store::RelatedRows) return forms::Inform(u"Log can't be deleted."_s, Caption());
+            if (error.Number() == store::RelatedRows) return forms::Inform(tr("Log can't be deleted."), Caption());
             forms::Inform(forms::ErrorText(error), Caption());
         }
     }

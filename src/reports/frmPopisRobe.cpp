@@ -11,6 +11,7 @@
 using namespace Qt::StringLiterals;
 using values::CDouble;
 using values::Format;
+using values::Paper;
 
 namespace {
 
@@ -23,30 +24,30 @@ constexpr double WithTax = 1.17;
 
 constexpr int LineWidth = 80;
 constexpr int NumberWidth = 5;
-const auto Title = u"                         Product list - List of goods           date:"_s;
-const auto Head = u"No Product name                     ID-BarcodeUnit  PRICE  Quantity     Amount"_s;
 const QString Rule(LineWidth, u'-');
 const PrintFields Item{Left(30, 1), Left(14, 0), Right(3, 2), Right(7, 4), Right(8, 3), Right(11, 5)};
 
-const ReportFacts Facts{
-    .name = u"frmPopisRobe"_s,
-    .caption = u"Product list - List of goods"_s,
-    .columns = {{u"Sifra-BarKod"_s, 130},
-                {u"Naziv"_s, -1},
-                {u"JM"_s, 50},
-                {u"Kolicina"_s, 90, Look::Number},
-                {u"Cijena"_s, 90, Look::Amount},
-                {u"Vrijednost"_s, 110, Look::Amount}},
-    .sums = {{u"TOTAL with Tax:"_s, u"txtTotalAmount"_s, ValueColumn},
-             {u"TOTAL without Tax:"_s, u"txtTotalAmount1"_s, OwnFigure},
-             {u"TAX:"_s, u"txtTotalAmount2"_s, OwnFigure}},
-    .saveTitle = u"Sacuvaj kao"_s,
-};
+ReportFacts Facts() {
+    return {
+        .name = u"frmPopisRobe"_s,
+        .caption = frmPopisRobe::tr("Product list - List of goods"),
+        .columns = {{frmPopisRobe::tr("Sifra-BarKod"), 130},
+                    {frmPopisRobe::tr("Naziv"), -1},
+                    {frmPopisRobe::tr("JM"), 50},
+                    {frmPopisRobe::tr("Kolicina"), 90, Look::Number},
+                    {frmPopisRobe::tr("Cijena"), 90, Look::Amount},
+                    {frmPopisRobe::tr("Vrijednost"), 110, Look::Amount}},
+        .sums = {{frmPopisRobe::tr("TOTAL with Tax:"), u"txtTotalAmount"_s, ValueColumn},
+                 {frmPopisRobe::tr("TOTAL without Tax:"), u"txtTotalAmount1"_s, OwnFigure},
+                 {frmPopisRobe::tr("TAX:"), u"txtTotalAmount2"_s, OwnFigure}},
+        .saveTitle = frmPopisRobe::tr("Sacuvaj kao"),
+    };
+}
 
 }  // namespace
 
 // The month view and the pickers stand here as on the other reports, but choose nothing.
-frmPopisRobe::frmPopisRobe() : ListReport(Facts) {
+frmPopisRobe::frmPopisRobe() : ListReport(Facts()) {
     ui.panelPeriod->show();
     PrintAndSave();
 }
@@ -74,14 +75,21 @@ void frmPopisRobe::PrintReport(const QString& mode) {
     const auto print = [&mode](const QString& line) { PrintToChannel(mode, line); };
     for (const QString& line : {TheSettings.NazivFirme, TheSettings.Adresa, TheSettings.JIB, TheSettings.Tel})
         print(line);
-    for (const QString& line : {QString(), QString(), Title, ui.lblNaslov->text(), QString(), Rule, Head, Rule})
+    //: at most 80 columns
+    const QString title = Paper::tr("                         Product list - List of goods           date:");
+    //: 78 columns: number 5, name 30, code 14, unit 3, price 7, quantity 8, amount 11
+    const QString head = Paper::tr("No Product name                     ID-BarcodeUnit  PRICE  Quantity     Amount");
+    for (const QString& line : {QString(), QString(), title, ui.lblNaslov->text(), QString(), Rule, head, Rule})
         print(line);
     for (int row = 0; row < ui.lv1->Count(); ++row)
         print(PadRight(NumberWidth, QString::number(row + 1)) + ItemLine(Item, *ui.lv1, row));
     print(Rule);
-    print(PadLeft(LineWidth, u"TOTAL with Tax: "_s + SumBox(facts_.sums[0])->text()));
-    print(PadLeft(LineWidth, u"TAX: "_s + SumBox(facts_.sums[2])->text()));
-    print(PadLeft(LineWidth, u"TOTAL without Tax: "_s + SumBox(facts_.sums[1])->text()));
+    //: at most 60 columns without %1, the amount
+    print(PadLeft(LineWidth, Paper::tr("TOTAL with Tax: %1").arg(SumBox(facts_.sums[0])->text())));
+    //: at most 60 columns without %1, the amount
+    print(PadLeft(LineWidth, Paper::tr("TAX: %1").arg(SumBox(facts_.sums[2])->text())));
+    //: at most 60 columns without %1, the amount
+    print(PadLeft(LineWidth, Paper::tr("TOTAL without Tax: %1").arg(SumBox(facts_.sums[1])->text())));
 }
 
 // To the preview, whatever printer is set.

@@ -29,6 +29,9 @@ constexpr int Columns = 6;
 using Column = forms::ListColumn;
 const Column Hidden{{}, Qt::AlignLeft, 0};
 
+// The names of the tabs for whoever finds them by name, whatever they are called on the screen.
+const QString Pages[] = {u"1 - CASH REGISTERS"_s, u"2 - CASHIERS"_s, u"3 - INVOICES"_s, u"4 - PRODUCTS"_s};
+
 // What one tab lists: the pieces of its query, and how the list shows them.
 struct Tab {
     QString name;
@@ -41,61 +44,64 @@ struct Tab {
     bool showsTax = false;
 };
 
-const Tab Tabs[] = {
-    {.name = u"CASH REGISTERS"_s,
-     .totalCaption = u"TOTAL FOR ALL CRs:"_s,
-     .head = u"SELECT Kas, DateGenerated, TimeGenerated, ' ' as TimeStoped, TotalSales"
-             u" FROM Sales"_s,
-     .whereOpen = u" WHERE Closed = False"_s,
-     .columns = {{u"CASH REGISTER No."_s, Qt::AlignLeft, 200},
-                 {u"Date"_s, Qt::AlignLeft, 160},
-                 {u"Time"_s, Qt::AlignLeft, -1},
-                 Hidden,
-                 {u"AMOUNT"_s, Qt::AlignRight, 200},
-                 Hidden}},
-    {.name = u"CASHIERS"_s,
-     .totalCaption = u"TOTAL FOR ALL CASHIERS:"_s,
-     .head = u"SELECT Invoices.CashierID, Invoices.CashierName, '' as tri, '' as cetri,"
-             u"  Sum(Invoices.CashAmount) AS SumOfCashAmount"
-             u" FROM Sales LEFT JOIN Invoices ON Sales.SalesID = Invoices.SalesID"_s,
-     .whereOpen = u" Where Closed = False"_s,
-     .group = u" GROUP BY Invoices.CashierID, Invoices.CashierName"_s,
-     .columns = {{u"ID"_s, Qt::AlignLeft, 120},
-                 {u"Cashier"_s, Qt::AlignLeft, -1},
-                 Hidden,
-                 Hidden,
-                 {u"Amount"_s, Qt::AlignRight, 200},
-                 Hidden}},
-    {.name = u"INVOICES"_s,
-     .totalCaption = u"TOTAL FOR ALL INVOICES:"_s,
-     .head = u"SELECT Invoices.Kas, Invoices.OrNo, Invoices.DateSold, Invoices.TimeSold, Invoices.CashAmount,"
-             u" Invoices.TaxTotal, Invoices.InvoiceID"
-             u" FROM Sales INNER JOIN Invoices ON Sales.SalesID = Invoices.SalesID"_s,
-     .whereOpen = u" WHERE ((Sales.Closed)=False)"_s,
-     .order = u" ORDER BY Invoices.InvoiceID"_s,
-     .columns = {{u"CR No."_s, Qt::AlignLeft, 90},
-                 {u"Invoice No."_s, Qt::AlignLeft, 140},
-                 {u"Date"_s, Qt::AlignLeft, 140},
-                 {u"Time"_s, Qt::AlignLeft, -1},
-                 {u"Amount"_s, Qt::AlignRight, 160},
-                 {u"Tax"_s, Qt::AlignRight, 150}},
-     .showsTax = true},
-    {.name = u"PRODUCTS"_s,
-     .totalCaption = u"TOTAL FOR ALL PRODUCTS:"_s,
-     .head = u"SELECT SalesDetails.ProdCode, SalesDetails.ProdDescription, SalesDetails.Unit,"
+std::vector<Tab> Tabs() {
+    return {
+        {.name = frmTrenutnoStanjeKasa::tr("CASH REGISTERS"),
+         .totalCaption = frmTrenutnoStanjeKasa::tr("TOTAL FOR ALL CRs:"),
+         .head = u"SELECT Kas, DateGenerated, TimeGenerated, ' ' as TimeStoped, TotalSales"
+                 u" FROM Sales"_s,
+         .whereOpen = u" WHERE Closed = False"_s,
+         .columns = {{frmTrenutnoStanjeKasa::tr("CASH REGISTER No."), Qt::AlignLeft, 200},
+                     {frmTrenutnoStanjeKasa::tr("Date"), Qt::AlignLeft, 160},
+                     {frmTrenutnoStanjeKasa::tr("Time"), Qt::AlignLeft, -1},
+                     Hidden,
+                     {frmTrenutnoStanjeKasa::tr("AMOUNT"), Qt::AlignRight, 200},
+                     Hidden}},
+        {.name = frmTrenutnoStanjeKasa::tr("CASHIERS"),
+         .totalCaption = frmTrenutnoStanjeKasa::tr("TOTAL FOR ALL CASHIERS:"),
+         .head = u"SELECT Invoices.CashierID, Invoices.CashierName, '' as tri, '' as cetri,"
+                 u"  Sum(Invoices.CashAmount) AS SumOfCashAmount"
+                 u" FROM Sales LEFT JOIN Invoices ON Sales.SalesID = Invoices.SalesID"_s,
+         .whereOpen = u" Where Closed = False"_s,
+         .group = u" GROUP BY Invoices.CashierID, Invoices.CashierName"_s,
+         .columns = {{frmTrenutnoStanjeKasa::tr("ID"), Qt::AlignLeft, 120},
+                     {frmTrenutnoStanjeKasa::tr("Cashier"), Qt::AlignLeft, -1},
+                     Hidden,
+                     Hidden,
+                     {frmTrenutnoStanjeKasa::tr("Amount"), Qt::AlignRight, 200},
+                     Hidden}},
+        {.name = frmTrenutnoStanjeKasa::tr("INVOICES"),
+         .totalCaption = frmTrenutnoStanjeKasa::tr("TOTAL FOR ALL INVOICES:"),
+         .head = u"SELECT Invoices.Kas, Invoices.OrNo, Invoices.DateSold, Invoices.TimeSold, Invoices.CashAmount,"
+                 u" Invoices.TaxTotal, Invoices.InvoiceID"
+                 u" FROM Sales INNER JOIN Invoices ON Sales.SalesID = Invoices.SalesID"_s,
+         .whereOpen = u" WHERE ((Sales.Closed)=False)"_s,
+         .order = u" ORDER BY Invoices.InvoiceID"_s,
+         .columns = {{frmTrenutnoStanjeKasa::tr("CR No."), Qt::AlignLeft, 90},
+                     {frmTrenutnoStanjeKasa::tr("Invoice No."), Qt::AlignLeft, 140},
+                     {frmTrenutnoStanjeKasa::tr("Date"), Qt::AlignLeft, 140},
+                     {frmTrenutnoStanjeKasa::tr("Time"), Qt::AlignLeft, -1},
+                     {frmTrenutnoStanjeKasa::tr("Amount"), Qt::AlignRight, 160},
+                     {frmTrenutnoStanjeKasa::tr("Tax"), Qt::AlignRight, 150}},
+         .showsTax = true},
+        {.name = frmTrenutnoStanjeKasa::tr("PRODUCTS"),
+         .totalCaption = frmTrenutnoStanjeKasa::tr("TOTAL FOR ALL PRODUCTS:"),
+         .head =
+             u"SELECT SalesDetails.ProdCode, SalesDetails.ProdDescription, SalesDetails.Unit,"
              u" Sum(SalesDetails.QtySold) AS SumOfQtySold, Sum(SalesDetails.Amount) AS SumOfAmount"
              u" FROM Sales INNER JOIN (Invoices INNER JOIN SalesDetails ON Invoices.InvoiceID = SalesDetails.InvoiceID)"
              u" ON Sales.SalesID = Invoices.SalesID"_s,
-     .whereOpen = u" WHERE ((Sales.Closed)=False)"_s,
-     .group = u" GROUP BY SalesDetails.ProdCode, SalesDetails.ProdDescription, SalesDetails.Unit"_s,
-     .order = u" ORDER BY SalesDetails.ProdCode"_s,
-     .columns = {{u"ProductID"_s, Qt::AlignLeft, 160},
-                 {u"Product name"_s, Qt::AlignLeft, -1},
-                 {u"Unit"_s, Qt::AlignLeft, 90},
-                 {u"Quantity"_s, Qt::AlignRight, 130},
-                 {u"Amount"_s, Qt::AlignRight, 160},
-                 Hidden}},
-};
+         .whereOpen = u" WHERE ((Sales.Closed)=False)"_s,
+         .group = u" GROUP BY SalesDetails.ProdCode, SalesDetails.ProdDescription, SalesDetails.Unit"_s,
+         .order = u" ORDER BY SalesDetails.ProdCode"_s,
+         .columns = {{frmTrenutnoStanjeKasa::tr("ProductID"), Qt::AlignLeft, 160},
+                     {frmTrenutnoStanjeKasa::tr("Product name"), Qt::AlignLeft, -1},
+                     {frmTrenutnoStanjeKasa::tr("Unit"), Qt::AlignLeft, 90},
+                     {frmTrenutnoStanjeKasa::tr("Quantity"), Qt::AlignRight, 130},
+                     {frmTrenutnoStanjeKasa::tr("Amount"), Qt::AlignRight, 160},
+                     Hidden}},
+    };
+}
 
 // A column that the query lacks, or whose value cannot be read, leaves its cell empty.
 QString Cell(store::Recordset& row, int column) {
@@ -113,7 +119,7 @@ QString Cell(store::Recordset& row, int column) {
 frmTrenutnoStanjeKasa::frmTrenutnoStanjeKasa() {
     ui.setupUi(this);
     for (int tab = 0; tab < ui.SSTab1->count(); ++tab) {
-        ui.SSTab1->widget(tab)->setObjectName(ui.SSTab1->tabText(tab));
+        ui.SSTab1->widget(tab)->setObjectName(Pages[tab]);
         ui.SSTab1->setTabToolTip(tab, ui.SSTab1->tabText(tab));
     }
     FunctionKeys({{Qt::Key_Escape, ui.cmdClose},
@@ -171,9 +177,9 @@ bool frmTrenutnoStanjeKasa::IsReview() const {
 }
 
 void frmTrenutnoStanjeKasa::ShowAsReview() {
-    setWindowTitle(u"End Report"_s);
-    ui.lblNazivPregleda->setText(u"End Report No:"_s);
-    ui.lblUpozorenje->setText(u"Lists show balance for selected End Report."_s);
+    setWindowTitle(tr("End Report"));
+    ui.lblNazivPregleda->setText(tr("End Report No:"));
+    ui.lblUpozorenje->setText(tr("Lists show balance for selected End Report."));
     for (QLabel* label : {ui.lblDatumZakljucka, ui.lblVrijemeZakljucka, ui.lblZakljucakBr}) label->show();
     ui.cmdZakljuci->setEnabled(false);
 }
@@ -187,7 +193,7 @@ void frmTrenutnoStanjeKasa::ShowTab(int tab) {
 }
 
 void frmTrenutnoStanjeKasa::SSTab1_Click() {
-    const Tab& tab = Tabs[ui.SSTab1->currentIndex()];
+    const Tab tab = Tabs().at(static_cast<size_t>(ui.SSTab1->currentIndex()));
     ui.lblTab->setText(tab.name);
     ui.lblTotal->setText(tab.totalCaption);
     ui.lblPDV->setVisible(tab.showsTax);
@@ -242,7 +248,8 @@ QString frmTrenutnoStanjeKasa::SumOfColumn(int column) const {
 void frmTrenutnoStanjeKasa::cmdZakljuci_Click() {
     const QDateTime now = values::Now();
     const QTime time(now.time().hour(), now.time().minute(), now.time().second());
-    if (!forms::Ask(u"Do you want to make End Report?\n "_s, u"Do you want to make End Report?"_s)) return;
+    const QString question = tr("Do you want to make End Report?");
+    if (!forms::Ask(question + u"\n "_s, question)) return;
     if (auto* salesScreen = forms::FindForm(u"frmORVAtouch")) salesScreen->Unload();
     endReportDone_ = true;
     CloseOpenPeriods(now.date(), time, lastGrupni_);
@@ -254,8 +261,9 @@ void frmTrenutnoStanjeKasa::cmdZakljuci_Click() {
     ui.lblZakljucakBr->setText(QString::number(NextEndReport(lastGrupni_)));
     ShowAsReview();
     ShowTab(0);
-    forms::Tell(u"End Report is done.\n "_s, forms::Icon::Warning,
-                u"End Report "_s + DateText(now.date()) + u' ' + TimeText(time));
+    forms::Tell(tr("End Report is done.") + u"\n "_s, forms::Icon::Warning,
+                //: %1 and %2 are date and time
+                tr("End Report %1 %2").arg(DateText(now.date()), TimeText(time)));
 }
 
 void frmTrenutnoStanjeKasa::cmdOsvjezi_Click() {

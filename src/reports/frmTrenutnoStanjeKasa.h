@@ -48,7 +48,7 @@ private:
     void PrintRegisterList();
     void PrintCashierList();
     void PrintProductList();
-    void PrintList(const QString& columnHead, const PrintFields& item);
+    void PrintList(const QString& name, const QString& columnHead, const PrintFields& item);
 
     Ui::frmTrenutnoStanjeKasa ui;
     QString queryHead_;

@@ -3,8 +3,10 @@
 #include "core/dbModule.h"
 #include "reports/ReportFile.h"
 #include "reports/ReportLines.h"
+#include "values/Language.h"
 
 using namespace Qt::StringLiterals;
+using values::Paper;
 
 namespace {
 
@@ -42,7 +44,12 @@ void frmTrenutnoStanjeKasa::PrintAndPreview(const std::function<void()>& printLi
 }
 
 void frmTrenutnoStanjeKasa::PrintHeading() {
-    PrintLine(ui.lblNazivPregleda->text() + u' ' + ui.lblZakljucakBr->text());
+    if (IsReview())
+        //: at most 34 columns without %1, the number
+        PrintLine(Paper::tr("End Report No: %1").arg(ui.lblZakljucakBr->text()));
+    else
+        //: at most 39 columns
+        PrintLine(Paper::tr("Currently") + u' ');
     PrintLine(ui.lblDatumZakljucka->text() + u' ' + ui.lblVrijemeZakljucka->text());
     PrintLine(Rule);
     PrintLine({});
@@ -56,25 +63,38 @@ void frmTrenutnoStanjeKasa::PrintListOfTab(int tab) {
 }
 
 void frmTrenutnoStanjeKasa::PrintRegisterList() {
-    PrintList(u"CRNo   Date   TimeFrom            Amount"_s,
-              {Left(6, 0), Left(9, 1, u"dd.mm.yy"_s), Left(9, 2), Left(8, 3), Right(7, 4)});
+    PrintList(
+        //: at most 40 columns
+        Paper::tr("CASH REGISTERS"),
+        //: 40 columns: register 6, date 9, the period's begin 9, its end 8, amount 7
+        Paper::tr("CRNo   Date   TimeFrom            Amount"),
+        {Left(6, 0), Left(9, 1, u"dd.mm.yy"_s), Left(9, 2), Left(8, 3), Right(7, 4)});
 }
 
 void frmTrenutnoStanjeKasa::PrintCashierList() {
-    PrintList(u"CId Cashier                       Amount"_s, {Left(4, 0), Left(16, 1), Right(20, 4)});
+    PrintList(
+        //: at most 40 columns
+        Paper::tr("CASHIERS"),
+        //: 40 columns: cashier's ID 4, cashier 16, amount 20
+        Paper::tr("CId Cashier                       Amount"), {Left(4, 0), Left(16, 1), Right(20, 4)});
 }
 
 void frmTrenutnoStanjeKasa::PrintProductList() {
-    PrintList(u"Id  ProductName          Unit Qua Amount"_s,
-              {Left(4, 0), Left(23, 1), Right(3, 2), Right(3, 3), Right(7, 4)});
+    PrintList(
+        //: at most 40 columns
+        Paper::tr("PRODUCTS"),
+        //: 40 columns: code 4, name 23, unit 3, quantity 3, amount 7
+        Paper::tr("Id  ProductName          Unit Qua Amount"),
+        {Left(4, 0), Left(23, 1), Right(3, 2), Right(3, 3), Right(7, 4)});
 }
 
-void frmTrenutnoStanjeKasa::PrintList(const QString& columnHead, const PrintFields& item) {
-    PrintLine(ui.lblTab->text());
+void frmTrenutnoStanjeKasa::PrintList(const QString& name, const QString& columnHead, const PrintFields& item) {
+    PrintLine(name);
     PrintLine(Rule);
     PrintLine(columnHead);
     PrintLine(Rule);
     for (int row = 0; row < ui.lv1->Count(); ++row) PrintLine(ItemLine(item, *ui.lv1, row));
     PrintLine(Rule);
-    PrintLine(PadLeft(LineWidth, u"TOTAL: "_s + ui.txtTotalAmount->text()));
+    //: at most 10 columns, amounts stand behind it
+    PrintLine(PadLeft(LineWidth, Paper::tr("TOTAL: ") + ui.txtTotalAmount->text()));
 }

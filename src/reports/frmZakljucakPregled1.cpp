@@ -5,29 +5,38 @@
 #include "reports/frmTrenutnoStanjeKasa.h"
 
 using namespace Qt::StringLiterals;
+using values::Paper;
 
 namespace {
 
-const ReportFacts Facts{
-    .name = u"frmZakljucakPregled1"_s,
-    .caption = u"End Reports review"_s,
-    .variants = {{.head = u"SELECT Grupni, DateStoped, TimeStoped, sum(TotalSales) as ukupno FROM Sales"_s,
-                  .group = u" GROUP BY Grupni, DateStoped, TimeStoped"_s}},
-    .days = {.day = u"  WHERE DateStoped = #"_s,
-             .from = u"  WHERE DateStoped >= #"_s,
-             .to = u"# AND DateStoped <= #"_s},
-    .columns = {{u"EndNo "_s, 100}, {u"Date"_s, 160}, {u"Time"_s, -1}, {u"Amount"_s, 160, Look::Amount}},
-    .sums = {{u"TOTAL:"_s, u"txtTotalAmount"_s, 3}},
-    .layouts = {{.title = {u"End Reports"_s},
-                 .head = {u"EndNo Date and time of end        Amount"_s},
-                 .item = {{Left(6, 0), Left(9, 1, u"dd.mm.yy"_s), Right(9, 2), Right(16, 3)}},
-                 .total = u"TOTAL: "_s}},
-};
+ReportFacts Facts() {
+    return {
+        .name = u"frmZakljucakPregled1"_s,
+        .caption = frmZakljucakPregled1::tr("End Reports review"),
+        .variants = {{.head = u"SELECT Grupni, DateStoped, TimeStoped, sum(TotalSales) as ukupno FROM Sales"_s,
+                      .group = u" GROUP BY Grupni, DateStoped, TimeStoped"_s}},
+        .days = {.day = u"  WHERE DateStoped = #"_s,
+                 .from = u"  WHERE DateStoped >= #"_s,
+                 .to = u"# AND DateStoped <= #"_s},
+        .columns = {{frmZakljucakPregled1::tr("EndNo "), 100},
+                    {frmZakljucakPregled1::tr("Date"), 160},
+                    {frmZakljucakPregled1::tr("Time"), -1},
+                    {frmZakljucakPregled1::tr("Amount"), 160, Look::Amount}},
+        .sums = {{frmZakljucakPregled1::tr("TOTAL:"), u"txtTotalAmount"_s, 3}},
+        .layouts = {{//: at most 40 columns
+                     .title = {Paper::tr("End Reports")},
+                     //: 40 columns: number 6, date 9, time 9, amount 16
+                     .head = {Paper::tr("EndNo Date and time of end        Amount")},
+                     .item = {{Left(6, 0), Left(9, 1, u"dd.mm.yy"_s), Right(9, 2), Right(16, 3)}},
+                     //: at most 10 columns, amounts stand behind it
+                     .total = Paper::tr("TOTAL: ")}},
+    };
+}
 
 }  // namespace
 
-frmZakljucakPregled1::frmZakljucakPregled1() : PeriodReport(Facts) {
-    AddButton(u"cmdPrintPregledListe"_s, u"F5-Print review"_s, Qt::Key_F5,
+frmZakljucakPregled1::frmZakljucakPregled1() : PeriodReport(Facts()) {
+    AddButton(u"cmdPrintPregledListe"_s, tr("F5-Print review"), Qt::Key_F5,
               &frmZakljucakPregled1::cmdPrintPregledListe_Click);
     ControlKeys(ui.lv1, {{Qt::Key_Return, Guarded(&frmZakljucakPregled1::lv1_Enter)}});
     OnDoubleClick(ui.lv1, &frmZakljucakPregled1::OpenEndReport);
