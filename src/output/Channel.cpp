@@ -6,8 +6,7 @@
 #include "output/CodePage.h"
 #include "output/Ports.h"
 #include "output/Sink.h"
-
-using namespace Qt::StringLiterals;
+#include "output/Words.h"
 
 namespace output {
 
@@ -29,11 +28,11 @@ Channel::~Channel() {
 }
 
 void Channel::RequireClosed() const {
-    if (sink_) throw OutputError(values::ChannelInUse, u"Channel 1 is already open."_s);
+    if (sink_) throw OutputError(values::ChannelInUse, Words::tr("Channel 1 is already open."));
 }
 
 void Channel::RequireOpen() const {
-    if (!sink_) throw OutputError(values::ChannelNotOpen, u"Channel 1 is not open."_s);
+    if (!sink_) throw OutputError(values::ChannelNotOpen, Words::tr("Channel 1 is not open."));
 }
 
 void Channel::OpenPort(const QString& port) {

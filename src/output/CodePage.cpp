@@ -7,6 +7,7 @@
 #include <iconv.h>
 
 #include "output/Channel.h"
+#include "output/Words.h"
 #include "values/Locale.h"
 
 using namespace Qt::StringLiterals;
@@ -26,7 +27,7 @@ CodePage::CodePage(const char* name) {
     const iconv_t converter = iconv_open("UTF-16LE", name);
     if (converter == reinterpret_cast<iconv_t>(-1))
         throw OutputError(values::DeviceUnavailable,
-                          u"This system lacks the code page %1."_s.arg(QLatin1StringView(name)));
+                          Words::tr("This system lacks the code page %1.").arg(QLatin1StringView(name)));
     bytes.fill('?');
     for (size_t code = 0; code < characters.size(); ++code) {
         char in = static_cast<char>(code);

@@ -37,7 +37,8 @@ int DrainAndClose(Descriptor& device) {
 DeviceSink::DeviceSink(int descriptor, WaitWords words, bool isAsked)
     : device_(std::make_shared<Descriptor>(descriptor)), words_(std::move(words)), isAsked_(isAsked) {
     const int flags = ::fcntl(descriptor, F_GETFL);
-    if (flags < 0 || ::fcntl(descriptor, F_SETFL, flags & ~O_NONBLOCK) < 0) ThrowOsError(words_.error, errno);
+    if (flags < 0 || ::fcntl(descriptor, F_SETFL, flags & ~O_NONBLOCK) < 0)
+        ThrowOsError(words_.error, words_.name, errno);
 }
 
 // A terminal would hold its closing up for what nobody takes any longer.
@@ -47,7 +48,8 @@ DeviceSink::~DeviceSink() {
 
 void DeviceSink::Do(const std::function<int()>& work, const std::function<qint64()>& position) {
     failed_ = true;
-    if (const int error = Wait(words_, StallTimeoutMs).For(work, position)) ThrowOsError(words_.error, error);
+    if (const int error = Wait(words_, StallTimeoutMs).For(work, position))
+        ThrowOsError(words_.error, words_.name, error);
     failed_ = false;
 }
 

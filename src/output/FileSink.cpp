@@ -9,8 +9,7 @@
 #include "output/DeviceSink.h"
 #include "output/OsError.h"
 #include "output/Sink.h"
-
-using namespace Qt::StringLiterals;
+#include "output/Words.h"
 
 namespace output {
 
@@ -42,20 +41,20 @@ void FileSink::Write(const QByteArray& bytes) {
         } else if (written == 0 || errno != EINTR) {
             const int why = written == 0 ? EIO : errno;
             if (from != bytes.constData() && ::ftruncate(file_.Number(), before.st_size) != 0)
-                ThrowOsError(u"Cannot take back half of what was written to "_s + name_, errno);
-            ThrowOsError(u"Cannot write to "_s + name_, why);
+                ThrowOsError(Words::tr("Cannot take back half of what was written to %1: %2."), name_, errno);
+            ThrowOsError(Words::tr("Cannot write to %1: %2."), name_, why);
         }
     }
 }
 
 void FileSink::Sync() {
     if (::fdatasync(file_.Number()) != 0 && errno != EINVAL && errno != EROFS)
-        ThrowOsError(u"Cannot save "_s + name_, errno);
+        ThrowOsError(Words::tr("Cannot save %1: %2."), name_, errno);
 }
 
 void FileSink::Close() {
     // An interrupted close has lost nothing.
-    if (file_.Close() != 0 && errno != EINTR) ThrowOsError(u"Cannot write to "_s + name_, errno);
+    if (file_.Close() != 0 && errno != EINTR) ThrowOsError(Words::tr("Cannot write to %1: %2."), name_, errno);
 }
 
 // A new file belongs to its user alone, and to a group as well where the folder hands its own on to what is made in it
@@ -87,10 +86,11 @@ bool IsRegular(int descriptor) {
 
 std::unique_ptr<Sink> OpenFile(const QString& path, int flags) {
     const int descriptor = Open(path, flags | O_WRONLY | O_CREAT);
-    if (descriptor < 0) ThrowOsError(u"Cannot open "_s + path, errno);
+    if (descriptor < 0) ThrowOsError(Words::tr("Cannot open %1: %2."), path, errno);
     if (IsRegular(descriptor)) return std::make_unique<FileSink>(descriptor, path);
-    return std::make_unique<DeviceSink>(
-        descriptor, WaitWords{u"Cannot write to "_s + path, u"Waiting for %1, which takes nothing now."_s.arg(path)});
+    return std::make_unique<DeviceSink>(descriptor,
+                                        WaitWords{Words::tr("Cannot write to %1: %2."), path,
+                                                  Words::tr("Waiting for %1, which takes nothing now.").arg(path)});
 }
 
 bool IsCharacterDevice(const QString& path) {
@@ -120,9 +120,11 @@ std::unique_ptr<Sink> OpenFileForAppend(const QString& path) {
 std::unique_ptr<Sink> OpenDevice(const QString& path, const Port& port) {
     bool isAsked = port.isAsked;
     const int descriptor = OpenAsked(path, isAsked);
-    if (descriptor < 0) ThrowOsError(u"Cannot open the printer "_s + path, errno == ENOENT ? ENODEV : errno);
+    if (descriptor < 0)
+        ThrowOsError(Words::tr("Cannot open the printer %1: %2."), path, errno == ENOENT ? ENODEV : errno);
     return std::make_unique<DeviceSink>(
-        descriptor, WaitWords{u"Cannot write to the printer "_s + path, WaitsForPrinter(port.name, path)}, isAsked);
+        descriptor, WaitWords{Words::tr("Cannot write to the printer %1: %2."), path, WaitsForPrinter(port.name, path)},
+        isAsked);
 }
 
 }  // namespace output

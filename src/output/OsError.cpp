@@ -3,12 +3,10 @@
 #include "output/Channel.h"
 #include "values/FileError.h"
 
-using namespace Qt::StringLiterals;
-
 namespace output {
 
-void ThrowOsError(const QString& action, int errnoValue) {
-    throw OutputError(values::NumberOfOsError(errnoValue), action + u": "_s + qt_error_string(errnoValue) + u'.');
+void ThrowOsError(const QString& words, const QString& name, int errnoValue) {
+    throw OutputError(values::NumberOfOsError(errnoValue), words.arg(name, qt_error_string(errnoValue)));
 }
 
 }  // namespace output

@@ -4,7 +4,8 @@
 
 namespace output {
 
-// Throws the OutputError that an errno value stands for; `action` begins the sentence: "Cannot open x".
-[[noreturn]] void ThrowOsError(const QString& action, int errnoValue);
+// Throws the OutputError that an errno value stands for; `words` is a sentence of a name and what the system says,
+// "Cannot open %1: %2.".
+[[noreturn]] void ThrowOsError(const QString& words, const QString& name, int errnoValue);
 
 }  // namespace output

@@ -9,6 +9,7 @@
 
 #include "output/Channel.h"
 #include "output/Folder.h"
+#include "output/Words.h"
 #include "values/Clock.h"
 
 using namespace Qt::StringLiterals;
@@ -21,7 +22,8 @@ constexpr double PdfMarginMm = 12;
 
 QString NewPdfPath() {
     const QString folder = InProgramFolder(u"printouts"_s);
-    if (!QDir().mkpath(folder)) throw OutputError(values::PathNotFound, u"Cannot make the folder "_s + folder + u'.');
+    if (!QDir().mkpath(folder))
+        throw OutputError(values::PathNotFound, Words::tr("Cannot make the folder %1.").arg(folder));
     const QString begin = folder + u'/' + values::Now().toString(u"yyyyMMdd-hhmmss"_s) + u'-';
     int number = 1;
     while (QFileInfo::exists(begin + QString::number(number) + u".pdf"_s)) ++number;
@@ -33,7 +35,8 @@ void SavePdf(const QString& path, const QByteArray& pdf) {
     const bool isSaved =
         file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size() && file.flush() && file.commit();
     if (!isSaved)
-        throw OutputError(values::DeviceError, u"Cannot write "_s + file.fileName() + u": "_s + file.errorString());
+        throw OutputError(values::DeviceError,
+                          Words::tr("Cannot write %1: %2").arg(file.fileName(), file.errorString()));
 }
 
 bool DeviceFailed(const QPagedPaintDevice& device) {
@@ -63,7 +66,7 @@ void PageDevice::Begin(const QPageLayout& paper, int resolution) {
     if (auto* printer = dynamic_cast<QPrinter*>(device_.get()); printer && resolution > 0)
         printer->setResolution(resolution);
     if (!painter_.begin(device_.get()))
-        throw OutputError(values::DeviceUnavailable, u"The page printer cannot be used."_s);
+        throw OutputError(values::DeviceUnavailable, Words::tr("The page printer cannot be used."));
 }
 
 QPageLayout PageDevice::UsualPaper() {
@@ -74,12 +77,13 @@ QPageLayout PageDevice::UsualPaper() {
 }
 
 void PageDevice::NewPage() {
-    if (!device_->newPage()) throw OutputError(values::DeviceError, u"The page printer takes no further page."_s);
+    if (!device_->newPage())
+        throw OutputError(values::DeviceError, Words::tr("The page printer takes no further page."));
 }
 
 void PageDevice::End() {
     if (!painter_.end() || DeviceFailed(*device_))
-        throw OutputError(values::DeviceError, u"The page printer failed."_s);
+        throw OutputError(values::DeviceError, Words::tr("The page printer failed."));
     if (!pdf_.isOpen()) return;
     if (pdfPath_.isEmpty()) pdfPath_ = NewPdfPath();
     SavePdf(pdfPath_, pdf_.data());

@@ -5,8 +5,7 @@
 
 #include "output/Channel.h"
 #include "output/OsError.h"
-
-using namespace Qt::StringLiterals;
+#include "output/Words.h"
 
 namespace output {
 
@@ -21,8 +20,8 @@ void SetPatience(std::function<Patience()> begin) {
 }
 
 QString WaitsForPrinter(const QString& port, const QString& where) {
-    return u"Waiting for the printer on %1 (%2).\nIs it switched on, with paper in and its cover closed?"_s.arg(port,
-                                                                                                                where);
+    return Words::tr("Waiting for the printer on %1 (%2).\nIs it switched on, with paper in and its cover closed?")
+        .arg(port, where);
 }
 
 Wait::Wait(WaitWords words, int limit)
@@ -32,9 +31,12 @@ Wait::Wait(WaitWords words, int limit)
 
 void Wait::GoOn(qint64 position) {
     if (std::exchange(position_, position) != position) sinceMove_.restart();
-    if (sinceMove_.hasExpired(limit_)) ThrowOsError(words_.error, ETIMEDOUT);
-    if (patience_ && !patience_(words_.waitsFor + u"\nLeaving ends the program; what is stored stays stored."_s))
-        throw OutputError(values::DeviceError, words_.error + u": the wait for it was left."_s);
+    if (sinceMove_.hasExpired(limit_)) ThrowOsError(words_.error, words_.name, ETIMEDOUT);
+    if (!patience_ ||
+        patience_(Words::tr("%1\nLeaving ends the program; what is stored stays stored.").arg(words_.waitsFor)))
+        return;
+    //: stands behind "Cannot write to x: "
+    throw OutputError(values::DeviceError, words_.error.arg(words_.name, Words::tr("the wait for it was left")));
 }
 
 }  // namespace output

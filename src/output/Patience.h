@@ -14,9 +14,11 @@ using Patience = std::function<bool(const QString& waitsFor)>;
 // `begin` is called as a wait begins; what it gives lives as long as the wait. Without it a wait goes to its limit.
 void SetPatience(std::function<Patience()> begin);
 
-// What a wait is for, in words: the beginning of its error ("Cannot write to x"), and what the user is told meanwhile.
+// What a wait is for, in words: its error as a sentence of a name and a reason ("Cannot write to %1: %2."), and what
+// the user is told meanwhile.
 struct WaitWords {
     QString error;
+    QString name;
     QString waitsFor;
 };
 

@@ -2,6 +2,7 @@
 
 #include "output/Channel.h"
 #include "output/Folder.h"
+#include "output/Words.h"
 #include "values/FileError.h"
 #include "values/IniFile.h"
 
@@ -22,14 +23,15 @@ values::IniFile PortsIni() {
 }
 
 [[noreturn]] void ThrowBadEntry(const QString& entry) {
-    throw OutputError(values::DeviceUnavailable, u"ports.ini has no printer behind \"%1\"."_s.arg(entry));
+    throw OutputError(values::DeviceUnavailable, Words::tr("ports.ini has no printer behind \"%1\".").arg(entry));
 }
 
 bool IsYes(const QString& key, const QString& word) {
     const QString known = word.toLower();
     if (known == u"yes" || known == u"1" || known == u"on" || known == u"true") return true;
     if (known.isEmpty() || known == u"no" || known == u"0" || known == u"off" || known == u"false") return false;
-    throw OutputError(values::DeviceUnavailable, u"ports.ini has \"%1\" at %2, which is yes or no."_s.arg(word, key));
+    throw OutputError(values::DeviceUnavailable,
+                      Words::tr("ports.ini has \"%1\" at %2, which is yes or no.").arg(word, key));
 }
 
 std::unique_ptr<Sink> OpenNetworkPrinter(const QString& entry, const Port& port) {
@@ -48,7 +50,7 @@ std::unique_ptr<Sink> OpenUsualDevice(const QString& key, const Port& port) {
         return OpenDevice(key == u"lpt1" ? u"/dev/lp0"_s : u"/dev/lp1"_s, port);
     } catch (const OutputError& error) {
         throw OutputError(error.Number(),
-                          error.Description() + u"\nports.ini has no other printer for "_s + key + u'.');
+                          Words::tr("%1\nports.ini has no other printer for %2.").arg(error.Description(), key));
     }
 }
 
@@ -61,7 +63,7 @@ QString BelowFolderUnlessAbsolute(const QString& path) {
 PortEntry EntryOf(const QString& port) {
     const QString key = port.toLower().remove(u':');
     if (key != u"lpt1" && key != u"lpt2")
-        throw OutputError(values::DeviceUnavailable, u"There is no printer port \"%1\"."_s.arg(port));
+        throw OutputError(values::DeviceUnavailable, Words::tr("There is no printer port \"%1\".").arg(port));
     const auto ini = PortsIni();
     const QString where = ini.Entry(u"ports"_s, key).value_or(QString());
     if (where.contains(QChar(0)) || where.size() > LongestEntry) ThrowBadEntry(where.left(40).remove(QChar(0)));

@@ -13,8 +13,7 @@
 #include "output/OsError.h"
 #include "output/Patience.h"
 #include "output/Sink.h"
-
-using namespace Qt::StringLiterals;
+#include "output/Words.h"
 
 namespace output {
 
@@ -24,6 +23,10 @@ constexpr int ConnectTimeoutMs = 5000;
 // How long a printer that has everything may take to hang up; many keep the line open until the paper is out.
 constexpr int HangUpTimeoutMs = 500;
 constexpr int LookEveryMs = 20;
+
+QString ReachWords() {
+    return Words::tr("Cannot reach the printer %1: %2.");
+}
 
 class TcpSink : public Sink {
 public:
@@ -37,9 +40,9 @@ public:
     int AskedDescriptor() const override { return port_.isAsked ? socket_.Number() : -1; }
 
 private:
-    QString WriteAction() const { return u"Cannot write to the printer "_s + name_; }
-    [[noreturn]] void Fail(int errnoValue) const { ThrowOsError(WriteAction(), errnoValue); }
-    WaitWords Words() const { return {WriteAction(), WaitsForPrinter(port_.name, name_)}; }
+    [[noreturn]] void Fail(int errnoValue) const { ThrowOsError(WriteWords(), name_, errnoValue); }
+    static QString WriteWords() { return Words::tr("Cannot write to the printer %1: %2."); }
+    WaitWords WordsOfWait() const { return {WriteWords(), name_, WaitsForPrinter(port_.name, name_)}; }
     int PendingError() const;
     int UntakenBytes() const;
     bool PeerHasHungUp() const;
@@ -83,16 +86,16 @@ bool TcpSink::PeerHasHungUp() const {
 }
 
 void TcpSink::Connect(const addrinfo& address, Wait& wait) {
-    const QString action = u"Cannot reach the printer "_s + name_;
+    const auto fail = [this](int error) { ThrowOsError(ReachWords(), name_, error); };
     if (::connect(socket_.Number(), address.ai_addr, address.ai_addrlen) == 0) return;
-    if (errno != EINPROGRESS) ThrowOsError(action, errno);
+    if (errno != EINPROGRESS) fail(errno);
     while (!IsWritable(socket_.Number())) wait.GoOn();
-    if (const int error = PendingError()) ThrowOsError(action, error);
+    if (const int error = PendingError()) fail(error);
 }
 
 void TcpSink::Write(const QByteArray& bytes) {
     failed_ = true;
-    Wait wait(Words(), StallTimeoutMs);
+    Wait wait(WordsOfWait(), StallTimeoutMs);
     qint64 sent = 0;
     while (sent < bytes.size()) {
         const auto size = static_cast<size_t>(bytes.size() - sent);
@@ -108,7 +111,7 @@ void TcpSink::Write(const QByteArray& bytes) {
 
 // A connection that is closed at once would hide a reset that comes behind the last byte.
 void TcpSink::WaitUntilTaken() const {
-    Wait wait(Words(), StallTimeoutMs);
+    Wait wait(WordsOfWait(), StallTimeoutMs);
     QElapsedTimer sinceTaken;
     sinceTaken.start();
     while (true) {
@@ -154,16 +157,16 @@ Addresses AddressesOf(const QString& host, quint16 number, const WaitWords& word
 
 std::unique_ptr<Sink> ConnectTo(const QString& host, quint16 number, const Port& port) {
     const QString name = host + u':' + QString::number(number);
-    const WaitWords words{u"Cannot reach the printer "_s + name, WaitsForPrinter(port.name, name)};
+    const WaitWords words{ReachWords(), name, WaitsForPrinter(port.name, name)};
     const Addresses addresses = AddressesOf(host, number, words);
     if (!addresses)
-        throw OutputError(values::DeviceUnavailable, u"The printer "_s + name + u" has no known address."_s);
+        throw OutputError(values::DeviceUnavailable, Words::tr("The printer %1 has no known address.").arg(name));
 
     Wait wait(words, ConnectTimeoutMs);
     for (const addrinfo* address = addresses.get();; address = address->ai_next) {
         const int descriptor = ::socket(address->ai_family, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
         if (descriptor < 0 && address->ai_next) continue;
-        if (descriptor < 0) ThrowOsError(words.error, errno);
+        if (descriptor < 0) ThrowOsError(words.error, name, errno);
         auto sink = std::make_unique<TcpSink>(descriptor, name, port);
         try {
             sink->Connect(*address, wait);

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-using namespace Qt::StringLiterals;
+#include "store/Words.h"
 
 namespace store {
 
@@ -27,12 +27,12 @@ double Unscaled(double number, int scale) {
 }
 
 qint64 ToJulianDay(QDate date) {
-    if (!date.isValid()) throw StoreError(ConversionFailed, u"No valid date."_s);
+    if (!date.isValid()) throw StoreError(ConversionFailed, Words::tr("No valid date."));
     return date.toJulianDay();
 }
 
 qint64 ToSeconds(QTime time) {
-    if (!time.isValid()) throw StoreError(ConversionFailed, u"No valid time."_s);
+    if (!time.isValid()) throw StoreError(ConversionFailed, Words::tr("No valid time."));
     return time.msecsSinceStartOfDay() / 1000;
 }
 
@@ -99,7 +99,7 @@ BoundValue ToStored(const Value& value, Type type) {
         return Convert(value, type);
     } catch (const values::Error& error) {
         if (error.Number() != values::TypeMismatch) throw;
-        throw StoreError(ConversionFailed, u"The value does not fit the type of the field."_s);
+        throw StoreError(ConversionFailed, Words::tr("The value does not fit the type of the field."));
     }
 }
 

@@ -3,10 +3,9 @@
 #include "store/Creation.h"
 #include "store/ListingImpl.h"
 #include "store/RecordsetImpl.h"
+#include "store/Words.h"
 #include "store/postgres/OpenServer.h"
 #include "store/sqlite/OpenSqlite.h"
-
-using namespace Qt::StringLiterals;
 
 namespace store {
 
@@ -40,7 +39,7 @@ std::unique_ptr<Database> Database::Create(const Place& place, const Schema& sch
 dialect::Query Database::Internals::CompileSelect(const QString& query) {
     dialect::Query compiled = compiler.Compile(query);
     if (compiled.plan->kind != dialect::Plan::Kind::Select)
-        throw StoreError(NotSupported, u"An action query gives no rows."_s);
+        throw StoreError(NotSupported, Words::tr("An action query gives no rows."));
     return compiled;
 }
 
@@ -88,7 +87,7 @@ Listing Database::ListingOf(dialect::Query query) {
 qint64 Database::Execute(const QString& query) {
     const dialect::Query compiled = internals_->compiler.Compile(query);
     if (compiled.plan->kind == dialect::Plan::Kind::Select)
-        throw StoreError(NotSupported, u"A SELECT cannot be executed."_s);
+        throw StoreError(NotSupported, Words::tr("A SELECT cannot be executed."));
     return engine_->Execute(compiled);
 }
 

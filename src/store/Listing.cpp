@@ -2,8 +2,7 @@
 
 #include "store/Conversion.h"
 #include "store/ListingImpl.h"
-
-using namespace Qt::StringLiterals;
+#include "store/Words.h"
 
 namespace store {
 
@@ -72,7 +71,7 @@ void Listing::Impl::WaitForBegin(std::unique_lock<std::mutex>& lock) {
         lock.lock();
         if (isWanted) continue;
         thread.request_stop();
-        throw StoreError(Cancelled, u"The work was left."_s);
+        throw StoreError(Cancelled, Words::tr("The work was left."));
     }
     handed.wait(lock, begun);
 }
@@ -92,7 +91,7 @@ int Listing::Column(QStringView name) const {
         const auto found = std::ranges::find_if(output, isNamed);
         if (found != output.end()) return static_cast<int>(found - output.begin());
     }
-    throw StoreError(ItemNotFound, u"This list has no field %1."_s.arg(name));
+    throw StoreError(ItemNotFound, Words::tr("This list has no field %1.").arg(name));
 }
 
 qint64 Listing::WaitFor(qint64 rows, std::chrono::milliseconds atMost) {

@@ -1,6 +1,7 @@
 #include "store/Migrations.h"
 
 #include "store/StoreError.h"
+#include "store/Words.h"
 
 using namespace Qt::StringLiterals;
 
@@ -34,7 +35,8 @@ const QList<Migration>& StepsOf(const Schema& schema) {
 const Migration& MigrationFrom(const Schema& schema, int version) {
     const QList<Migration>& steps = StepsOf(schema);
     if (version < 1 || version > steps.size())
-        throw StoreError(NotAStore, u"The store is of version %1, which this program does not know."_s.arg(version));
+        throw StoreError(NotAStore,
+                         Words::tr("The store is of version %1, which this program does not know.").arg(version));
     return steps[version - 1];
 }
 

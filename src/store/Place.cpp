@@ -4,6 +4,7 @@
 #include <QUrl>
 
 #include "store/StoreError.h"
+#include "store/Words.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,8 +19,9 @@ bool BeginsAsAddress(const QString& text) {
 }
 
 [[noreturn]] void ThrowNoAddress() {
-    throw StoreError(IniNotReadable,
-                     u"The address of the server is not of the form postgresql://USER@HOST/DATABASE?schema=NAME."_s);
+    throw StoreError(
+        IniNotReadable,
+        Words::tr("The address of the server is not of the form postgresql://USER@HOST/DATABASE?schema=NAME."));
 }
 
 // A password would show in messages, in the list of processes and in copies of the ini.
@@ -29,8 +31,9 @@ void RefusePassword(const QString& address) {
     static const QRegularExpression hosts(u"^((\\[[0-9a-fA-F:.]+\\]|[^\\[\\]:,@]*)(:[0-9]+)?(,|$))*$"_s);
     const bool hasPassword = user.contains(u':') || user.contains(u'@') || address.contains(u"password="_s);
     if (hasPassword)
-        throw StoreError(IniNotReadable,
-                         u"A password does not belong into the address of the server; its place is ~/.pgpass."_s);
+        throw StoreError(
+            IniNotReadable,
+            Words::tr("A password does not belong into the address of the server; its place is ~/.pgpass."));
     if (!hosts.match(authority.section(u'@', -1)).hasMatch()) ThrowNoAddress();
 }
 

@@ -2,8 +2,7 @@
 
 #include "store/ListingImpl.h"
 #include "store/RecordsetImpl.h"
-
-using namespace Qt::StringLiterals;
+#include "store/Words.h"
 
 namespace store {
 
@@ -95,7 +94,7 @@ void Recordset::SetBookmark(store::Bookmark bookmark) {
 }
 
 store::Bookmark Recordset::LastModified() const {
-    if (!Open().lastModified) throw StoreError(NoCurrentRow, u"This cursor has not changed any row."_s);
+    if (!Open().lastModified) throw StoreError(NoCurrentRow, Words::tr("This cursor has not changed any row."));
     return {*Open().lastModified};
 }
 

@@ -1,13 +1,12 @@
 #include <algorithm>
 
 #include "store/RecordsetImpl.h"
-
-using namespace Qt::StringLiterals;
+#include "store/Words.h"
 
 namespace store {
 
 void Recordset::Impl::RequireUpdatable() const {
-    if (keyset == nullptr) throw StoreError(ReadOnly, u"The rows of this cursor cannot be changed."_s);
+    if (keyset == nullptr) throw StoreError(ReadOnly, Words::tr("The rows of this cursor cannot be changed."));
 }
 
 void Recordset::Impl::AddNew() {
@@ -31,7 +30,7 @@ void Recordset::Impl::Update() {
     RequireUpdatable();
     switch (edit) {
         case EditState::None:
-            throw StoreError(NoEditPending, u"Update without AddNew or Edit."_s);
+            throw StoreError(NoEditPending, Words::tr("Update without AddNew or Edit."));
         case EditState::Adding:
             lastModified = engine.Insert(*query.plan->table, changes);
             keyset->Add(*lastModified);
@@ -50,7 +49,7 @@ void Recordset::Impl::WriteEdit() {
     const std::vector<FieldChange> expected = isPessimistic ? std::vector<FieldChange>() : FieldsAsRead();
     if (engine.Change(*query.plan->table, row, changes, expected)) return;
     if (RowBlock now; !keyset->Read(row, now)) ThrowDeleted();
-    throw StoreError(RowChanged, u"The row was changed by another user."_s);
+    throw StoreError(RowChanged, Words::tr("The row was changed by another user."));
 }
 
 // The fields that Edit read, as they were then.

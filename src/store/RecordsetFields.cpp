@@ -3,8 +3,7 @@
 
 #include "store/Conversion.h"
 #include "store/RecordsetImpl.h"
-
-using namespace Qt::StringLiterals;
+#include "store/Words.h"
 
 namespace store {
 
@@ -29,12 +28,12 @@ int Recordset::Impl::Resolve(QStringView name) {
         if (i < 64) resolvedBefore |= quint64{1} << i;
         return lastResolved = i;
     }
-    throw StoreError(ItemNotFound, u"This cursor has no field %1."_s.arg(name));
+    throw StoreError(ItemNotFound, Words::tr("This cursor has no field %1.").arg(name));
 }
 
 void Recordset::Impl::CheckColumn(int column) const {
     if (column < 0 || column >= query.plan->output.size())
-        throw StoreError(ItemNotFound, u"This cursor has no field at position %1."_s.arg(column));
+        throw StoreError(ItemNotFound, Words::tr("This cursor has no field at position %1.").arg(column));
 }
 
 const CursorRows::Data& Recordset::Impl::Current() {
@@ -67,17 +66,18 @@ values::Value Recordset::Impl::Get(int column) {
 
 void Recordset::Impl::Set(int column, const values::Value& value) {
     RequireUpdatable();
-    if (edit == EditState::None) throw StoreError(NoEditPending, u"A field was written without AddNew or Edit."_s);
+    if (edit == EditState::None)
+        throw StoreError(NoEditPending, Words::tr("A field was written without AddNew or Edit."));
     const int field = Output(column).field;
-    if (field < 0) throw StoreError(ReadOnly, u"The field %1 is computed."_s.arg(Output(column).name));
+    if (field < 0) throw StoreError(ReadOnly, Words::tr("The field %1 is computed.").arg(Output(column).name));
 
     const Column& target = query.plan->table->columns[field];
     dialect::BoundValue stored = ToStored(value, target.type);
     if (target.selfNumbering) {
-        if (edit == EditState::Editing) throw StoreError(ReadOnly, u"%1 numbers itself."_s.arg(target.name));
+        if (edit == EditState::Editing) throw StoreError(ReadOnly, Words::tr("%1 numbers itself.").arg(target.name));
         const auto* number = std::get_if<qint64>(&stored);
         if (number != nullptr && *number <= 0)
-            throw StoreError(ConversionFailed, u"%1 counts from 1."_s.arg(target.name));
+            throw StoreError(ConversionFailed, Words::tr("%1 counts from 1.").arg(target.name));
     }
     const auto at = std::ranges::lower_bound(changes, field, {}, &FieldChange::column);
     if (at != changes.end() && at->column == field)
@@ -87,7 +87,7 @@ void Recordset::Impl::Set(int column, const values::Value& value) {
 }
 
 Recordset::Impl& Recordset::Open() const {
-    if (!impl_) throw StoreError(NoCurrentRow, u"The cursor is closed."_s);
+    if (!impl_) throw StoreError(NoCurrentRow, Words::tr("The cursor is closed."));
     return *impl_;
 }
 

@@ -1,13 +1,12 @@
 #include "store/RecordsetImpl.h"
-
-using namespace Qt::StringLiterals;
+#include "store/Words.h"
 
 namespace store {
 
 namespace {
 
 [[noreturn]] void ThrowNoCurrentRow() {
-    throw StoreError(NoCurrentRow, u"No current row."_s);
+    throw StoreError(NoCurrentRow, Words::tr("No current row."));
 }
 
 }  // namespace
@@ -34,7 +33,7 @@ void Recordset::Impl::OpenOnFirst() {
 }
 
 void Recordset::Impl::ThrowDeleted() {
-    throw StoreError(RowDeleted, u"The row was deleted."_s);
+    throw StoreError(RowDeleted, Words::tr("The row was deleted."));
 }
 
 void Recordset::Impl::RequireRow() const {
@@ -86,12 +85,12 @@ void Recordset::Impl::StepBack() {
 
 void Recordset::Impl::SetBookmark(qint64 row) {
     const CursorRows::Place target = rows->Find(row, place);
-    if (target == CursorRows::Nowhere) throw StoreError(RowDeleted, u"The marked row is not in this cursor."_s);
+    if (target == CursorRows::Nowhere) throw StoreError(RowDeleted, Words::tr("The marked row is not in this cursor."));
     MoveTo(target);
 }
 
 void Recordset::Impl::FindFirst(const QString& criteria) {
-    if (keyset == nullptr) throw StoreError(NotSupported, u"This cursor cannot be searched."_s);
+    if (keyset == nullptr) throw StoreError(NotSupported, Words::tr("This cursor cannot be searched."));
     const std::vector<qint64> found = engine.FindRows(compiler.CompileCriteria(criteria, *query.plan->table));
     const CursorRows::Place target = keyset->FirstOf(found);
     noMatch = target == CursorRows::Nowhere;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "store/Words.h"
+
 using namespace Qt::StringLiterals;
 
 namespace store {
@@ -58,27 +60,27 @@ QString LineWithCaret(QStringView text, Span span) {
 QString Refusal(int number) {
     switch (number) {
         case values::Overflow:
-            return u"Overflow"_s;
+            return Words::tr("Overflow");
         case StoreLocked:
-            return u"The store is locked by another user"_s;
+            return Words::tr("The store is locked by another user");
         case Cancelled:
-            return u"The work was left"_s;
+            return Words::tr("The work was left");
         case DuplicateKey:
-            return u"A row with this key exists already"_s;
+            return Words::tr("A row with this key exists already");
         case RelatedRows:
-            return u"Other rows of the store refer to this one"_s;
+            return Words::tr("Other rows of the store refer to this one");
         case ConversionFailed:
-            return u"A value does not fit the type of its column"_s;
+            return Words::tr("A value does not fit the type of its column");
         case DiskFull:
-            return u"There is no room left on the disk"_s;
+            return Words::tr("There is no room left on the disk");
         case NotAStore:
-            return u"The store is damaged"_s;
+            return Words::tr("The store is damaged");
         case ReadOnly:
-            return u"The store cannot be written to"_s;
+            return Words::tr("The store cannot be written to");
         case DiskError:
-            return u"The disk or the network refused the access"_s;
+            return Words::tr("The disk or the network refused the access");
         default:
-            return u"The store refused the operation"_s;
+            return Words::tr("The store refused the operation");
     }
 }
 
@@ -87,7 +89,7 @@ QueryError::QueryError(int number, Span span, QString message, QString queryText
 
 QString QueryError::Rendered() const {
     QString rendered = Description() + u'\n' + LineWithCaret(queryText_, span_);
-    if (!near_.isEmpty()) rendered += u"\nDid you mean: "_s + near_.join(u", ");
+    if (!near_.isEmpty()) rendered += u'\n' + Words::tr("Did you mean: %1").arg(near_.join(u", "));
     return rendered;
 }
 

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include "store/StoreError.h"
+#include "store/Words.h"
 #include "values/FileError.h"
 #include "values/IniFile.h"
 
@@ -37,10 +38,11 @@ void RequireOneEntry(const values::IniFile& ini, const QString& iniFile) {
     const bool hasUrl = ini.Entry(u"main"_s, u"url"_s).has_value();
     if (hasPath && hasUrl)
         throw StoreError(IniNotReadable,
-                         u"Cannot use %1: it names a path and a url, but only one store."_s.arg(iniFile));
+                         Words::tr("Cannot use %1: it names a path and a url, but only one store.").arg(iniFile));
     if (!hasPath && !hasUrl && !ini.IsSilent())
-        throw StoreError(IniNotReadable,
-                         u"Cannot read %1: it has no line path=... or url=... in a section [main]."_s.arg(iniFile));
+        throw StoreError(
+            IniNotReadable,
+            Words::tr("Cannot read %1: it has no line path=... or url=... in a section [main].").arg(iniFile));
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "values/Error.h"
 
+#include "values/Words.h"
+
 using namespace Qt::StringLiterals;
 
 namespace values {
@@ -14,15 +16,15 @@ const char* Error::what() const noexcept {
 }
 
 void ThrowOverflow() {
-    throw Error(Overflow, u"The number is too large."_s);
+    throw Error(Overflow, Words::tr("The number is too large."));
 }
 
 void ThrowTypeMismatch() {
-    throw Error(TypeMismatch, u"The value is not of the kind that is needed here."_s);
+    throw Error(TypeMismatch, Words::tr("The value is not of the kind that is needed here."));
 }
 
 void ThrowInvalidUseOfNull() {
-    throw Error(InvalidUseOfNull, u"A value is needed here, but the field is empty."_s);
+    throw Error(InvalidUseOfNull, Words::tr("A value is needed here, but the field is empty."));
 }
 
 }  // namespace values

@@ -4,7 +4,7 @@
 #include <QSaveFile>
 #include <cerrno>
 
-using namespace Qt::StringLiterals;
+#include "values/Words.h"
 
 namespace values {
 
@@ -53,13 +53,32 @@ int NumberOfFailure(const QFileDevice& file) {
     }
 }
 
+namespace {
+
+QString SentenceOf(FileWork work) {
+    switch (work) {
+        case FileWork::Reading:
+            return Words::tr("Cannot read '%1': %2");
+        case FileWork::Writing:
+            return Words::tr("Cannot write '%1': %2");
+        case FileWork::Copying:
+            return Words::tr("Cannot copy '%1': %2");
+    }
+    Q_UNREACHABLE();
+}
+
+}  // namespace
+
+FileError::FileError(const QFileDevice& file, FileWork work, const QString& path)
+    : Error(NumberOfFailure(file), SentenceOf(work).arg(path.isEmpty() ? file.fileName() : path, file.errorString())) {}
+
 FileError::FileError(const QFileDevice& file, const QString& doing)
-    : Error(NumberOfFailure(file), u"Cannot %1: %2"_s.arg(doing, file.errorString())) {}
+    : Error(NumberOfFailure(file), Words::tr("Cannot %1: %2").arg(doing, file.errorString())) {}
 
 void SaveFile(const QString& path, const QByteArray& bytes) {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        throw FileError(file, u"write '%1'"_s.arg(path));
+        throw FileError(file, FileWork::Writing);
 }
 
 }  // namespace values

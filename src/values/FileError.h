@@ -10,11 +10,15 @@ namespace values {
 int NumberOfOsError(int errnoValue);
 int NumberOfFailure(const QFileDevice& file);
 
+enum class FileWork { Reading, Writing, Copying };
+
 // A file or folder outside the stores that could not be read, made or written.
 class FileError : public Error {
 public:
     using Error::Error;
-    // What the file itself tells about its last failure; `doing` names the attempt, such as "write 'x'".
+    // What the file itself tells about its last failure; `path` is that of the file unless another is meant.
+    FileError(const QFileDevice& file, FileWork work, const QString& path = {});
+    // The same of any other attempt, `doing`, such as "make 'x'".
     FileError(const QFileDevice& file, const QString& doing);
 };
 

@@ -4,6 +4,7 @@
 #include <QRegularExpression>
 
 #include "values/FileError.h"
+#include "values/Words.h"
 
 using namespace Qt::StringLiterals;
 
@@ -34,9 +35,10 @@ QByteArray KeyOf(const QByteArray& line) {
 IniEdit::IniEdit(const QString& path) : file_(path) {
     QFile before(path);
     if (!before.exists()) return;
-    if (!before.open(QIODevice::ReadOnly)) throw FileError(before, u"read '%1'"_s.arg(path));
+    if (!before.open(QIODevice::ReadOnly)) throw FileError(before, FileWork::Reading);
     QByteArray text = before.readAll();
-    if (text.contains('\0')) throw FileError(InvalidCall, u"'%1' is not in UTF-8 and can't be changed."_s.arg(path));
+    if (text.contains('\0'))
+        throw FileError(InvalidCall, Words::tr("'%1' is not in UTF-8 and can't be changed.").arg(path));
     if (text.startsWith("\xEF\xBB\xBF")) text.remove(0, 3);
     if (!text.contains('\n')) text.replace('\r', '\n');
     if (text.contains("\r\n")) lineEnd_ = "\r\n";
@@ -82,11 +84,11 @@ void IniEdit::Prepare() {
     const QByteArray text = lines_.isEmpty() ? QByteArray() : lines_.join('\n') + '\n';
     if (!file_.open(QIODevice::WriteOnly) || !file_.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) ||
         file_.write(text) != text.size() || !file_.flush())
-        throw FileError(file_, u"write '%1'"_s.arg(file_.fileName()));
+        throw FileError(file_, FileWork::Writing);
 }
 
 void IniEdit::PutInPlace() {
-    if (!file_.commit()) throw FileError(file_, u"write '%1'"_s.arg(file_.fileName()));
+    if (!file_.commit()) throw FileError(file_, FileWork::Writing);
 }
 
 }  // namespace values

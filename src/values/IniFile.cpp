@@ -4,6 +4,7 @@
 #include <QStringDecoder>
 
 #include "values/FileError.h"
+#include "values/Words.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,14 +17,15 @@ constexpr qint64 LargestFile = qint64{64} * 1024;
 QString TextOf(const QString& path) {
     const QFileInfo info(path);
     if (!info.exists() && !info.isSymLink()) return {};
-    const QString action = u"Cannot read "_s + path + u": "_s;
     QFile file(path);
-    if (!info.isFile()) throw FileError(PathFault, action + u"it is no file."_s);
-    if (!file.open(QIODevice::ReadOnly)) throw FileError(NumberOfFailure(file), action + file.errorString() + u'.');
+    if (!info.isFile()) throw FileError(PathFault, Words::tr("Cannot read %1: it is no file.").arg(path));
+    const auto throwFailure = [&] {
+        throw FileError(NumberOfFailure(file), Words::tr("Cannot read %1: %2.").arg(path, file.errorString()));
+    };
+    if (!file.open(QIODevice::ReadOnly)) throwFailure();
     const QByteArray bytes = file.read(LargestFile + 1);
-    if (file.error() != QFileDevice::NoError)
-        throw FileError(NumberOfFailure(file), action + file.errorString() + u'.');
-    if (bytes.size() > LargestFile) throw FileError(PathFault, action + u"it is too long."_s);
+    if (file.error() != QFileDevice::NoError) throwFailure();
+    if (bytes.size() > LargestFile) throw FileError(PathFault, Words::tr("Cannot read %1: it is too long.").arg(path));
     const auto encoding = QStringConverter::encodingForData(bytes).value_or(QStringConverter::Utf8);
     return QStringDecoder(encoding)(bytes);
 }

@@ -7,6 +7,7 @@
 #include <QFile>
 
 #include "values/Error.h"
+#include "values/Words.h"
 
 namespace {
 
@@ -18,7 +19,7 @@ bool LockFolder(const QString& folder) {
     if (lockedFolder >= 0) return true;
     const int descriptor = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor < 0)
-        throw values::Error(values::PathNotFound, QStringLiteral("The folder %1 can't be opened.").arg(folder));
+        throw values::Error(values::PathNotFound, values::Words::tr("The folder %1 can't be opened.").arg(folder));
     if (flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
         close(descriptor);
         return false;

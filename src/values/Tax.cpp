@@ -1,6 +1,7 @@
 #include "values/Tax.h"
 
 #include "values/Error.h"
+#include "values/Words.h"
 
 namespace values {
 
@@ -10,7 +11,7 @@ Money ContainedTax(Money price, double percent) {
 
 double PriceWithoutTax(Money price, double percent) {
     const Money divisor = Money::FromDouble(1 + percent / 100);
-    if (divisor == Money()) throw Error(DivisionByZero, QStringLiteral("Division by zero."));
+    if (divisor == Money()) throw Error(DivisionByZero, Words::tr("Division by zero."));
     return price.ToDouble() / divisor.ToDouble();
 }
 

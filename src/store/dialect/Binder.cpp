@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "store/Words.h"
 #include "store/dialect/ExprBinder.h"
 #include "store/dialect/Limits.h"
 #include "store/dialect/Typing.h"
@@ -102,7 +103,8 @@ private:
     }
 
     void AddColumn(const BoundPtr& expr, const QString& name, const SelectItem& item) {
-        if (bound_.columns.size() >= MaxColumns) fail_(SyntaxError, item.span, u"The query has too many columns."_s);
+        if (bound_.columns.size() >= MaxColumns)
+            fail_(SyntaxError, item.span, Words::tr("The query has too many columns."));
         bound_.columns.push_back(expr);
         bound_.output.push_back({name, expr->type, expr->scale, -1});
         plain_.push_back(item.alias.isEmpty() && expr->form == Form::Column);
@@ -148,7 +150,7 @@ private:
         for (const BoundPtr& expr : bound_.group) nodes += expr->nodes;
         for (const BoundSorting& sorting : bound_.order) nodes += sorting.expr->nodes;
         const bool tooMany = bound_.group.size() > MaxColumns || bound_.order.size() > MaxColumns || nodes > MaxNodes;
-        if (tooMany) fail_(SyntaxError, bound_.columns.back()->span, u"The query is too complex."_s);
+        if (tooMany) fail_(SyntaxError, bound_.columns.back()->span, Words::tr("The query is too complex."));
     }
 
     // A literal cannot tell groups or rows apart; whoever writes one there means something else.
@@ -159,7 +161,7 @@ private:
 
     void RequireField(const BoundExpr& expr) const {
         if (expr.form != Form::Literal && expr.form != Form::Constant) return;
-        fail_(SyntaxError, expr.span, u"Expected a field, found a constant."_s);
+        fail_(SyntaxError, expr.span, Words::tr("Expected a field, found a constant."));
     }
 
     void RequireGrouped() const {
@@ -173,8 +175,9 @@ private:
         const auto isExpr = [&expr](const BoundPtr& group) { return Same(*group, expr); };
         if (std::any_of(bound_.group.begin(), bound_.group.end(), isExpr)) return;
         if (expr.form == Form::Column) {
-            fail_(NotInAggregate, expr.span,
-                  u"The field %1 is neither grouped nor inside an aggregate."_s.arg(scope_.ColumnOf(expr).name));
+            fail_(
+                NotInAggregate, expr.span,
+                Words::tr("The field %1 is neither grouped nor inside an aggregate.").arg(scope_.ColumnOf(expr).name));
         }
         for (const BoundPtr& arg : expr.args) RequireGrouped(*arg);
     }
@@ -184,7 +187,7 @@ private:
         const Column& column = scope_.ColumnOf(*target);
         for (const BoundAssignment& earlier : bound_.set) {
             if (earlier.column != target->column) continue;
-            fail_(SyntaxError, target->span, u"The field %1 is set twice."_s.arg(column.name));
+            fail_(SyntaxError, target->span, Words::tr("The field %1 is set twice.").arg(column.name));
         }
         const BoundPtr value = exprs_.Bind(assignment.value, InSet);
         bound_.set.push_back({target->column, Assigned(value, column, fail_)});

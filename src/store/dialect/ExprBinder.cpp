@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "store/Words.h"
 #include "store/dialect/Limits.h"
 #include "store/dialect/NearNames.h"
 #include "store/dialect/Typing.h"
@@ -38,7 +39,7 @@ BoundPtr ExprBinder::Bind(const ExprPtr& expr, const Clause& clause) {
     BoundPtr bound = std::visit([&](const auto& node) { return Node(node, expr->span, clause); }, expr->node);
     // An alias counts as all that it stands for, so a chain of them may grow beyond what was written.
     if (bound->depth > MaxDepth || bound->nodes > MaxNodes) {
-        fail_(SyntaxError, expr->span, u"The expression is too complex."_s);
+        fail_(SyntaxError, expr->span, Words::tr("The expression is too complex."));
     }
     return bound;
 }
@@ -134,7 +135,7 @@ BoundPtr ExprBinder::Node(const IsNullExpr& isNull, Span span, const Clause& cla
 BoundPtr ExprBinder::Node(const CallExpr& call, Span span, const Clause& clause) {
     const Form form = FunctionOf(call);
     if (call.star ? form != Form::Count : call.arguments.size() != 1) {
-        fail_(SyntaxError, span, u"%1 takes one argument."_s.arg(call.function));
+        fail_(SyntaxError, span, Words::tr("%1 takes one argument.").arg(call.function));
     }
     if (form != Form::Val) return Aggregate(form, call, span, clause);
     return ValOf(Bind(call.arguments.front(), clause), span, fail_);
@@ -150,18 +151,19 @@ ExprBinder::Form ExprBinder::FunctionOf(const CallExpr& call) const {
         if (name.compare(call.function, Qt::CaseInsensitive) == 0) return form;
         known += name;
     }
-    fail_(SyntaxError, call.functionSpan, u"There is no function %1."_s.arg(call.function),
+    fail_(SyntaxError, call.functionSpan, Words::tr("There is no function %1.").arg(call.function),
           NearNames(call.function, known));
 }
 
 BoundPtr ExprBinder::Aggregate(Form form, const CallExpr& call, Span span, const Clause& clause) {
-    if (!clause.aggregates) fail_(SyntaxError, span, u"%1 is not possible in %2."_s.arg(call.function, clause.name));
+    if (!clause.aggregates)
+        fail_(SyntaxError, span, Words::tr("%1 is not possible in %2.").arg(call.function, clause.name));
     sawAggregate_ = true;
     if (call.star) return Make({.form = form, .type = Type::Whole, .span = span});
 
     const BoundPtr arg = Bind(call.arguments.front(), clause);
     if (HoldsAggregate(*arg)) {
-        fail_(SyntaxError, span, u"%1 cannot be taken over another aggregate."_s.arg(call.function));
+        fail_(SyntaxError, span, Words::tr("%1 cannot be taken over another aggregate.").arg(call.function));
     }
     if (form == Form::Sum) return Summed(arg, span, fail_);
     const bool count = form == Form::Count;

@@ -3,16 +3,16 @@
 #include <algorithm>
 #include <optional>
 
+#include "store/Words.h"
 #include "store/dialect/Limits.h"
 #include "store/dialect/Nesting.h"
-
-using namespace Qt::StringLiterals;
 
 namespace store::dialect {
 
 namespace {
 
-constexpr QStringView AnExpression = u"an expression";
+constexpr const char* AnExpression = QT_TRANSLATE_NOOP("store", "an expression");
+constexpr const char* AFieldName = QT_TRANSLATE_NOOP("store", "a field name");
 
 std::optional<Op> OpOf(Lexeme lexeme) {
     switch (lexeme) {
@@ -61,7 +61,7 @@ int DepthOf(const std::vector<ExprPtr>& list) {
 
 ExprPtr ExprParser::Node(int offset, int depth, Expr::Node node) const {
     const Span span = reader_.SpanFrom(offset);
-    if (depth >= MaxDepth) reader_.Fail()(SyntaxError, span, u"The expression is nested too deeply."_s);
+    if (depth >= MaxDepth) reader_.Fail()(SyntaxError, span, Words::tr("The expression is nested too deeply."));
     return std::make_unique<Expr>(Expr{std::move(node), span, depth + 1});
 }
 
@@ -110,7 +110,7 @@ ExprPtr ExprParser::Predicate(ExprPtr value, bool& found) {
     int depth = value->depth;
     if (reader_.Take(Lexeme::Is)) {
         const bool negated = reader_.Take(Lexeme::Not);
-        reader_.Expect(Lexeme::Null, u"NULL");
+        reader_.Expect(Lexeme::Null, "NULL");
         return Node(offset, depth, IsNullExpr{negated, std::move(value)});
     }
     const bool negated = reader_.Take(Lexeme::Not);
@@ -121,19 +121,19 @@ ExprPtr ExprParser::Predicate(ExprPtr value, bool& found) {
     }
     if (reader_.Take(Lexeme::Between)) {
         ExprPtr low = Expression(Level::Join);
-        reader_.Expect(Lexeme::And, u"AND");
+        reader_.Expect(Lexeme::And, "AND");
         ExprPtr high = Expression(Level::Join);
         depth = std::max({depth, low->depth, high->depth});
         return Node(offset, depth, BetweenExpr{negated, std::move(value), std::move(low), std::move(high)});
     }
     if (reader_.Take(Lexeme::In)) {
-        reader_.Expect(Lexeme::Open, u"(");
+        reader_.Expect(Lexeme::Open, "(");
         std::vector<ExprPtr> list = List();
-        reader_.Expect(Lexeme::Close, u")");
+        reader_.Expect(Lexeme::Close, ")");
         depth = std::max(depth, DepthOf(list));
         return Node(offset, depth, InExpr{negated, std::move(value), std::move(list)});
     }
-    if (negated) reader_.FailExpected(u"LIKE, BETWEEN or IN");
+    if (negated) reader_.FailExpected(QT_TRANSLATE_NOOP("store", "LIKE, BETWEEN or IN"));
     found = false;
     return value;
 }
@@ -167,7 +167,7 @@ ExprPtr ExprParser::Primary() {
         case Lexeme::Open: {
             reader_.Advance();
             ExprPtr inner = Expression();
-            reader_.Expect(Lexeme::Close, u")");
+            reader_.Expect(Lexeme::Close, ")");
             inner->span = reader_.SpanFrom(offset);
             return inner;
         }
@@ -177,10 +177,10 @@ ExprPtr ExprParser::Primary() {
 }
 
 ExprPtr ExprParser::FieldName() {
-    const Token& first = reader_.ExpectName(u"a field name");
+    const Token& first = reader_.ExpectName(AFieldName);
     NameExpr name{{}, {}, NameOf(reader_.Text(), first).toString()};
     if (reader_.Take(Lexeme::Dot)) {
-        name.table = std::exchange(name.name, NameOf(reader_.Text(), reader_.ExpectName(u"a field name")).toString());
+        name.table = std::exchange(name.name, NameOf(reader_.Text(), reader_.ExpectName(AFieldName)).toString());
         name.tableSpan = first.span;
     }
     return Node(first.span.offset, 0, std::move(name));
@@ -188,10 +188,10 @@ ExprPtr ExprParser::FieldName() {
 
 ExprPtr ExprParser::Call() {
     const Token& function = reader_.Advance();
-    reader_.Expect(Lexeme::Open, u"(");
+    reader_.Expect(Lexeme::Open, "(");
     CallExpr call{NameOf(reader_.Text(), function).toString(), function.span, reader_.Take(Lexeme::Star), {}};
     if (!call.star && !reader_.Sees(Lexeme::Close)) call.arguments = List();
-    reader_.Expect(Lexeme::Close, u")");
+    reader_.Expect(Lexeme::Close, ")");
     const int depth = DepthOf(call.arguments);
     return Node(function.span.offset, depth, std::move(call));
 }

@@ -5,10 +5,9 @@
 #include <limits>
 #include <string_view>
 
+#include "store/Words.h"
 #include "store/dialect/Complaint.h"
 #include "store/dialect/Limits.h"
-
-using namespace Qt::StringLiterals;
 
 namespace store::dialect {
 
@@ -60,7 +59,7 @@ public:
 
     void Run() {
         while (SkipBlanks()) {
-            if (tokens_.size() >= MaxTokens) fail_(SyntaxError, {at_, 1}, u"The query text is too long."_s);
+            if (tokens_.size() >= MaxTokens) fail_(SyntaxError, {at_, 1}, Words::tr("The query text is too long."));
             One();
         }
         Put(Lexeme::End, at_);
@@ -106,7 +105,8 @@ private:
         }
         if (ContinuesName(Char(end))) {
             while (ContinuesName(Char(end))) ++end;
-            fail_(SyntaxError, {at_, end - at_}, u"\"%1\" is not a number."_s.arg(text_.sliced(at_, end - at_)));
+            fail_(SyntaxError, {at_, end - at_},
+                  Words::tr("\"%1\" is not a number.").arg(text_.sliced(at_, end - at_)));
         }
         Put(lexeme, end);
     }
@@ -116,7 +116,7 @@ private:
         int end = at_ + 1;
         for (;; end += 2, doubled = true) {
             const qsizetype found = text_.indexOf(quote, end);
-            if (found < 0) Unclosed(u"A text is not closed by a quote."_s);
+            if (found < 0) Unclosed(Words::tr("A text is not closed by a quote."));
             end = static_cast<int>(found);
             if (Char(end + 1) != quote) break;
         }
@@ -125,17 +125,17 @@ private:
 
     void BracketedName() {
         const qsizetype close = text_.indexOf(u']', at_);
-        if (close < 0) Unclosed(u"A name is not closed by a bracket."_s);
+        if (close < 0) Unclosed(Words::tr("A name is not closed by a bracket."));
         const int end = static_cast<int>(close) + 1;
         if (text_.sliced(at_ + 1, end - at_ - 2).trimmed().isEmpty()) {
-            fail_(SyntaxError, {at_, end - at_}, u"A name is missing between the brackets."_s);
+            fail_(SyntaxError, {at_, end - at_}, Words::tr("A name is missing between the brackets."));
         }
         Put(Lexeme::Name, end);
     }
 
     void Date() {
         const qsizetype close = text_.indexOf(u'#', at_ + 1);
-        if (close < 0) Unclosed(u"A date is not closed by #."_s);
+        if (close < 0) Unclosed(Words::tr("A date is not closed by #."));
         Put(Lexeme::Date, static_cast<int>(close) + 1);
     }
 
@@ -177,7 +177,7 @@ private:
                 break;
         }
         const int length = c.isHighSurrogate() && next.isLowSurrogate() ? 2 : 1;
-        fail_(SyntaxError, {at_, length}, u"A sign that the query language does not know."_s);
+        fail_(SyntaxError, {at_, length}, Words::tr("A sign that the query language does not know."));
     }
 
     QStringView text_;
@@ -191,7 +191,7 @@ private:
 void Lex(const QString& text, std::vector<Token>& tokens) {
     tokens.clear();
     if (text.size() >= std::numeric_limits<int>::max()) {
-        Complaint{text}(SyntaxError, {0, 1}, u"The query text is too long."_s);
+        Complaint{text}(SyntaxError, {0, 1}, Words::tr("The query text is too long."));
     }
     Scanner(text, tokens).Run();
 }

@@ -3,12 +3,11 @@
 #include <algorithm>
 #include <optional>
 
+#include "store/Words.h"
 #include "store/dialect/Complaint.h"
 #include "values/DateText.h"
 #include "values/Numbers.h"
 #include "values/Value.h"
-
-using namespace Qt::StringLiterals;
 
 namespace store::dialect {
 
@@ -104,20 +103,20 @@ private:
             }
         } catch (const values::Error& error) {
             if (error.Number() == values::Overflow) FailTooLarge();
-            fail_(ConversionFailed, literal_.span, u"%1 is not %2."_s.arg(Written(text_, literal_), KindOf(target)));
+            fail_(ConversionFailed, literal_.span, UnlikeWords(target).arg(Written(text_, literal_)));
         }
     }
 
-    static QStringView KindOf(Target target) {
+    static QString UnlikeWords(Target target) {
         switch (target) {
             case Target::Date:
-                return u"a date";
+                return Words::tr("%1 is not a date.");
             case Target::Time:
-                return u"a time";
+                return Words::tr("%1 is not a time.");
             case Target::YesNo:
-                return u"yes or no";
+                return Words::tr("%1 is not yes or no.");
             default:
-                return u"a number";
+                return Words::tr("%1 is not a number.");
         }
     }
 
@@ -125,7 +124,7 @@ private:
         const std::optional<QDate> date = ReadLiteralDate(Content());
         if (!date) {
             fail_(SyntaxError, literal_.span,
-                  u"%1 is not a date; a date is written #mm-dd-yyyy#."_s.arg(Written(text_, literal_)));
+                  Words::tr("%1 is not a date; a date is written #mm-dd-yyyy#.").arg(Written(text_, literal_)));
         }
         if (target == Target::Text) return values::DateText(*date).toUtf8();
         return date->toJulianDay();
@@ -166,7 +165,7 @@ private:
     }
 
     [[noreturn]] void FailTooLarge() const {
-        fail_(values::Overflow, literal_.span, u"%1 is too large."_s.arg(Written(text_, literal_)));
+        fail_(values::Overflow, literal_.span, Words::tr("%1 is too large.").arg(Written(text_, literal_)));
     }
 
     const QString& text_;

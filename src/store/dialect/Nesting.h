@@ -1,5 +1,6 @@
 #pragma once
 
+#include "store/Words.h"
 #include "store/dialect/Limits.h"
 #include "store/dialect/TokenReader.h"
 
@@ -10,7 +11,7 @@ class Nesting {
 public:
     Nesting(int& depth, const TokenReader& reader) : depth_(depth) {
         if (depth_ >= MaxDepth) {
-            reader.Fail()(SyntaxError, reader.Peek().span, QStringLiteral("The query text is nested too deeply."));
+            reader.Fail()(SyntaxError, reader.Peek().span, Words::tr("The query text is nested too deeply."));
         }
         ++depth_;
     }

@@ -1,14 +1,15 @@
 #include "store/dialect/Parser.h"
 
+#include "store/Words.h"
 #include "store/dialect/ExprParser.h"
 #include "store/dialect/Limits.h"
 #include "store/dialect/Nesting.h"
 
-using namespace Qt::StringLiterals;
-
 namespace store::dialect {
 
 namespace {
+
+constexpr const char* AnAlias = QT_TRANSLATE_NOOP("store", "an alias");
 
 class Parser {
 public:
@@ -22,7 +23,7 @@ public:
 
     ExprPtr Criteria() {
         ExprPtr condition = exprs_.Expression();
-        if (!reader_.Sees(Lexeme::End)) reader_.FailExpected(u"the end of the text");
+        if (!reader_.Sees(Lexeme::End)) reader_.FailExpected(QT_TRANSLATE_NOOP("store", "the end of the text"));
         return condition;
     }
 
@@ -31,7 +32,7 @@ private:
         if (reader_.Take(Lexeme::Select)) return SelectStatement();
         if (reader_.Take(Lexeme::Update)) return UpdateStatement();
         if (reader_.Take(Lexeme::Delete)) return DeleteStatement();
-        reader_.FailExpected(u"SELECT, UPDATE or DELETE");
+        reader_.FailExpected(QT_TRANSLATE_NOOP("store", "SELECT, UPDATE or DELETE"));
     }
 
     Select SelectStatement() {
@@ -39,11 +40,11 @@ private:
         do {
             select.items.push_back(Item());
         } while (reader_.Take(Lexeme::Comma));
-        reader_.Expect(Lexeme::From, u"FROM");
+        reader_.Expect(Lexeme::From, "FROM");
         select.from = Tables();
         select.where = Where();
         if (reader_.Take(Lexeme::Group)) {
-            reader_.Expect(Lexeme::By, u"BY");
+            reader_.Expect(Lexeme::By, "BY");
             select.group = exprs_.List();
         }
         if (reader_.Take(Lexeme::Having)) select.having = exprs_.Expression();
@@ -56,7 +57,7 @@ private:
         SelectItem item;
         if (!reader_.Take(Lexeme::Star) && !TableStar(item)) {
             item.expr = exprs_.Expression();
-            if (reader_.Take(Lexeme::As)) item.alias = Name(u"an alias");
+            if (reader_.Take(Lexeme::As)) item.alias = Name(AnAlias);
         }
         item.span = reader_.SpanFrom(offset);
         return item;
@@ -79,12 +80,12 @@ private:
             const bool left = reader_.Take(Lexeme::Left);
             if (left) reader_.Take(Lexeme::Outer);
             if (!left && !reader_.Take(Lexeme::Inner)) return source;
-            reader_.Expect(Lexeme::Join, u"JOIN");
+            reader_.Expect(Lexeme::Join, "JOIN");
             auto joined = std::make_unique<JoinedTables>();
             joined->left = left;
             joined->first = std::move(source);
             joined->second = TableOrBrackets();
-            reader_.Expect(Lexeme::On, u"ON");
+            reader_.Expect(Lexeme::On, "ON");
             joined->on = exprs_.Expression();
             source = std::move(joined);
         }
@@ -93,24 +94,24 @@ private:
     Source TableOrBrackets() {
         if (!reader_.Take(Lexeme::Open)) return Table();
         Source source = Tables();
-        reader_.Expect(Lexeme::Close, u")");
+        reader_.Expect(Lexeme::Close, ")");
         return source;
     }
 
     TableRef Table() {
-        const Token& name = reader_.ExpectName(u"a table name");
-        if (++tables_ > MaxTables) reader_.Fail()(SyntaxError, name.span, u"A query joins too many tables."_s);
+        const Token& name = reader_.ExpectName(QT_TRANSLATE_NOOP("store", "a table name"));
+        if (++tables_ > MaxTables) reader_.Fail()(SyntaxError, name.span, Words::tr("A query joins too many tables."));
         TableRef table{name.span, NameOf(reader_.Text(), name).toString(), {}};
-        if (reader_.Take(Lexeme::As)) table.alias = Name(u"an alias");
+        if (reader_.Take(Lexeme::As)) table.alias = Name(AnAlias);
         return table;
     }
 
-    QString Name(QStringView what) { return NameOf(reader_.Text(), reader_.ExpectName(what)).toString(); }
+    QString Name(const char* what) { return NameOf(reader_.Text(), reader_.ExpectName(what)).toString(); }
 
     ExprPtr Where() { return reader_.Take(Lexeme::Where) ? exprs_.Expression() : nullptr; }
 
     std::vector<Sorting> Sortings() {
-        reader_.Expect(Lexeme::By, u"BY");
+        reader_.Expect(Lexeme::By, "BY");
         std::vector<Sorting> sortings;
         do {
             Sorting sorting{exprs_.Expression()};
@@ -124,10 +125,10 @@ private:
     Update UpdateStatement() {
         Update update;
         update.table = Table();
-        reader_.Expect(Lexeme::Set, u"SET");
+        reader_.Expect(Lexeme::Set, "SET");
         do {
             ExprPtr target = exprs_.FieldName();
-            reader_.Expect(Lexeme::Equal, u"=");
+            reader_.Expect(Lexeme::Equal, "=");
             update.set.push_back({std::move(target), exprs_.Expression()});
         } while (reader_.Take(Lexeme::Comma));
         update.where = Where();
@@ -136,7 +137,7 @@ private:
 
     Delete DeleteStatement() {
         reader_.Take(Lexeme::Star);
-        reader_.Expect(Lexeme::From, u"FROM");
+        reader_.Expect(Lexeme::From, "FROM");
         Delete statement;
         statement.table = Table();
         statement.where = Where();

@@ -1,8 +1,7 @@
 #include "store/dialect/Scope.h"
 
+#include "store/Words.h"
 #include "store/dialect/NearNames.h"
-
-using namespace Qt::StringLiterals;
 
 namespace store::dialect {
 
@@ -21,11 +20,11 @@ int Scope::Add(const TableRef& ref) {
     if (!table) {
         QStringList known;
         for (const Table& candidate : schema_.tables) known += candidate.name;
-        fail_(UnknownTable, ref.span, u"There is no table %1."_s.arg(ref.name), NearNames(ref.name, known));
+        fail_(UnknownTable, ref.span, Words::tr("There is no table %1.").arg(ref.name), NearNames(ref.name, known));
     }
     const QString name = ref.alias.isEmpty() ? table->name : ref.alias;
     if (PositionOf(name) >= 0) {
-        fail_(AmbiguousName, ref.span, u"Two tables are called %1; one needs an alias."_s.arg(name));
+        fail_(AmbiguousName, ref.span, Words::tr("Two tables are called %1; one needs an alias.").arg(name));
     }
     tables_.push_back({table, name});
     return static_cast<int>(tables_.size()) - 1;
@@ -52,7 +51,7 @@ int Scope::TableNamed(const QString& name, Span span) const {
     if (position >= 0) return position;
     QStringList known;
     for (size_t i = static_cast<size_t>(firstVisible_); i < tables_.size(); ++i) known += tables_[i].name;
-    fail_(UnknownTable, span, u"The query has no table %1."_s.arg(name), NearNames(name, known));
+    fail_(UnknownTable, span, Words::tr("The query has no table %1.").arg(name), NearNames(name, known));
 }
 
 BoundPtr Scope::Find(const NameExpr& name, Span span, bool aliases) const {
@@ -67,11 +66,12 @@ BoundPtr Scope::Find(const NameExpr& name, Span span, bool aliases) const {
         found = Field(i, column, span);
     }
     if (owners.size() > 1) {
-        fail_(AmbiguousName, span, u"The field %1 is in more than one table: %2."_s.arg(name.name, owners.join(u", ")));
+        fail_(AmbiguousName, span,
+              Words::tr("The field %1 is in more than one table: %2.").arg(name.name, owners.join(u", ")));
     }
     if (!found && aliases && only < 0) found = FindAlias(name.name, span);
     if (found) return found;
-    fail_(UnknownField, span, u"There is no field %1."_s.arg(name.name),
+    fail_(UnknownField, span, Words::tr("There is no field %1.").arg(name.name),
           NearNames(name.name, KnownNames(name.table, aliases)));
 }
 
@@ -89,7 +89,7 @@ BoundPtr Scope::FindAlias(const QString& name, Span span) const {
     const Alias* found = nullptr;
     for (const Alias& alias : aliases_) {
         if (!SameName(alias.name, name)) continue;
-        if (found) fail_(AmbiguousName, span, u"Two columns have the alias %1."_s.arg(name));
+        if (found) fail_(AmbiguousName, span, Words::tr("Two columns have the alias %1.").arg(name));
         found = &alias;
     }
     if (!found) return nullptr;

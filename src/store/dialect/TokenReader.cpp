@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "store/Words.h"
+
 using namespace Qt::StringLiterals;
 
 namespace store::dialect {
@@ -27,33 +29,34 @@ bool TokenReader::Take(Lexeme lexeme) {
     return true;
 }
 
-const Token& TokenReader::Expect(Lexeme lexeme, QStringView what) {
+const Token& TokenReader::Expect(Lexeme lexeme, const char* what) {
     if (!Sees(lexeme)) FailExpected(what);
     return Advance();
 }
 
-const Token& TokenReader::ExpectName(QStringView what) {
+const Token& TokenReader::ExpectName(const char* what) {
     if (IsKeyword(Peek().lexeme)) {
         fail_(SyntaxError, Peek().span,
-              u"Expected %1, found the keyword %2, which is a name only in square brackets."_s.arg(
-                  what, Written(text_, Peek())));
+              Words::tr("Expected %1, found the keyword %2, which is a name only in square brackets.")
+                  .arg(Words::tr(what), Written(text_, Peek())));
     }
     return Expect(Lexeme::Name, what);
 }
 
 void TokenReader::ExpectEnd() {
     if (Take(Lexeme::Semicolon) && !Sees(Lexeme::End)) {
-        fail_(SyntaxError, Peek().span, u"A query text is one statement; nothing may follow the semicolon."_s);
+        fail_(SyntaxError, Peek().span, Words::tr("A query text is one statement; nothing may follow the semicolon."));
     }
-    if (!Sees(Lexeme::End)) FailExpected(u"the end of the text");
+    if (!Sees(Lexeme::End)) FailExpected(QT_TRANSLATE_NOOP("store", "the end of the text"));
 }
 
-void TokenReader::FailExpected(QStringView what) const {
+void TokenReader::FailExpected(const char* what) const {
     constexpr qsizetype longest = 40;
-    if (Sees(Lexeme::End)) fail_(SyntaxError, Peek().span, u"Expected %1, found the end of the text."_s.arg(what));
+    if (Sees(Lexeme::End))
+        fail_(SyntaxError, Peek().span, Words::tr("Expected %1, found the end of the text.").arg(Words::tr(what)));
     QString found = Written(text_, Peek()).toString().simplified();
     if (found.size() > longest) found = found.first(longest) + u"..."_s;
-    fail_(SyntaxError, Peek().span, u"Expected %1, found %2."_s.arg(what, found));
+    fail_(SyntaxError, Peek().span, Words::tr("Expected %1, found %2.").arg(Words::tr(what), found));
 }
 
 Span TokenReader::SpanFrom(int offset) const {

@@ -20,10 +20,11 @@ public:
 
     const Token& Advance();
     bool Take(Lexeme lexeme);
-    const Token& Expect(Lexeme lexeme, QStringView what);
-    const Token& ExpectName(QStringView what);
+    // `what` is a word or sign of the language, or a kind of words, QT_TRANSLATE_NOOP("store", "a table name").
+    const Token& Expect(Lexeme lexeme, const char* what);
+    const Token& ExpectName(const char* what);
     void ExpectEnd();
-    [[noreturn]] void FailExpected(QStringView what) const;
+    [[noreturn]] void FailExpected(const char* what) const;
 
     const QString& Text() const { return text_; }
     const Complaint& Fail() const { return fail_; }

@@ -1,6 +1,6 @@
 #include "store/dialect/Typing.h"
 
-using namespace Qt::StringLiterals;
+#include "store/Words.h"
 
 namespace store::dialect {
 
@@ -11,20 +11,21 @@ namespace {
 constexpr int FieldScale = 4;
 constexpr int ProductScale = 8;
 
-QString Words(Type type) {
+QString NameOf(Type type) {
     switch (type) {
         case Type::Text:
-            return u"a text"_s;
+            return Words::tr("a text");
         case Type::Date:
-            return u"a date"_s;
+            return Words::tr("a date");
         case Type::Time:
-            return u"a time"_s;
+            return Words::tr("a time");
         case Type::Null:
-            return u"null"_s;
+            //: an empty field, as query texts have it
+            return Words::tr("null");
         case Type::YesNo:
-            return u"yes or no"_s;
+            return Words::tr("yes or no");
         default:
-            return u"a number"_s;
+            return Words::tr("a number");
     }
 }
 
@@ -38,10 +39,11 @@ bool IsTextOrNull(const BoundExpr& expr) {
     return expr.type == Type::Text || IsNull(expr);
 }
 
-[[noreturn]] void FailUnlike(Type a, Type b, QStringView verb, Span span, const Complaint& fail) {
-    QString first = Words(a);
-    first.front() = first.front().toUpper();
-    fail(values::TypeMismatch, span, u"%1 cannot be %2 %3."_s.arg(first, verb, Words(b)));
+// `words` is a sentence of %1 and %2, the names of the types.
+[[noreturn]] void FailUnlike(Type a, Type b, const QString& words, Span span, const Complaint& fail) {
+    QString sentence = words.arg(NameOf(a), NameOf(b));
+    sentence.front() = sentence.front().toUpper();
+    fail(values::TypeMismatch, span, sentence);
 }
 
 BoundPtr Retargeted(const BoundExpr& literal, Target target, Type type, int scale) {
@@ -100,7 +102,7 @@ BoundPtr Arithmetic(Op op, const BoundPtr& left, const BoundPtr& right, Span spa
         return Binary(op, left, right, Type::Text, 0, span);
     }
     if (!IsNumberOrNull(*left) || !IsNumberOrNull(*right)) {
-        FailUnlike(left->type, right->type, u"calculated with", span, fail);
+        FailUnlike(left->type, right->type, Words::tr("%1 cannot be calculated with %2."), span, fail);
     }
 
     const bool tooFine = op == Op::Multiply && left->scale + right->scale > ProductScale;
@@ -120,7 +122,7 @@ BoundPtr Arithmetic(Op op, const BoundPtr& left, const BoundPtr& right, Span spa
 
 BoundPtr Negation(const BoundPtr& operand, Span span, const Complaint& fail) {
     if (!IsNumberOrNull(*operand)) {
-        fail(values::TypeMismatch, span, u"A minus cannot stand before %1."_s.arg(Words(operand->type)));
+        fail(values::TypeMismatch, span, Words::tr("A minus cannot stand before %1.").arg(NameOf(operand->type)));
     }
     const Type type = operand->type == Type::YesNo ? Type::Whole : operand->type;
     return Make({.form = Form::Negate, .type = type, .scale = operand->scale, .span = span, .args = {operand}});
@@ -133,7 +135,7 @@ BoundPtr AsText(const BoundPtr& value, const Complaint& fail) {
     if (IsTextOrNull(*value)) return value;
     if (value->form == Form::Literal) return Retargeted(*value, Target::Text, Type::Text, 0);
     if (value->type == Type::Whole || value->type == Type::YesNo) return Around(Form::ToText, value, Type::Text);
-    fail(NotSupported, value->span, u"A query cannot turn %1 into a text."_s.arg(Words(value->type)));
+    fail(NotSupported, value->span, Words::tr("A query cannot turn %1 into a text.").arg(NameOf(value->type)));
 }
 
 }  // namespace
@@ -151,7 +153,7 @@ std::vector<BoundPtr> Comparable(std::vector<BoundPtr> operands, Span span, cons
         if (!first) first = operand.get();
         const bool numbers = IsNumber(first->type) && IsNumber(operand->type);
         if (!numbers && first->type != operand->type) {
-            FailUnlike(first->type, operand->type, u"compared with", span, fail);
+            FailUnlike(first->type, operand->type, Words::tr("%1 cannot be compared with %2."), span, fail);
         }
         anyDouble |= operand->type == Type::Double;
         scale = std::max(scale, operand->scale);
@@ -164,7 +166,8 @@ std::vector<BoundPtr> Comparable(std::vector<BoundPtr> operands, Span span, cons
 BoundPtr Like(const BoundPtr& text, const BoundPtr& pattern, bool negated, Span span, const Complaint& fail) {
     for (const BoundPtr& operand : {text, pattern}) {
         if (IsTextOrNull(*operand)) continue;
-        fail(values::TypeMismatch, operand->span, u"LIKE compares texts, and this is %1."_s.arg(Words(operand->type)));
+        fail(values::TypeMismatch, operand->span,
+             Words::tr("LIKE compares texts, and this is %1.").arg(NameOf(operand->type)));
     }
     const bool literal = pattern->form == Form::Literal;
     const BoundPtr wanted = literal ? Retargeted(*pattern, Target::Pattern, Type::Text, 0) : pattern;
@@ -173,7 +176,7 @@ BoundPtr Like(const BoundPtr& text, const BoundPtr& pattern, bool negated, Span 
 
 BoundPtr ValOf(const BoundPtr& arg, Span span, const Complaint& fail) {
     if (!IsTextOrNull(*arg) && !IsNumber(arg->type)) {
-        fail(values::TypeMismatch, arg->span, u"Val reads a text, and this is %1."_s.arg(Words(arg->type)));
+        fail(values::TypeMismatch, arg->span, Words::tr("Val reads a text, and this is %1.").arg(NameOf(arg->type)));
     }
     const BoundPtr operand = IsNumber(arg->type) ? ToDouble(arg) : arg;
     return Make({.form = Form::Val, .type = Type::Double, .span = span, .args = {operand}});
@@ -181,7 +184,7 @@ BoundPtr ValOf(const BoundPtr& arg, Span span, const Complaint& fail) {
 
 BoundPtr Summed(const BoundPtr& arg, Span span, const Complaint& fail) {
     if (!IsNumberOrNull(*arg)) {
-        fail(values::TypeMismatch, arg->span, u"Sum adds numbers, and this is %1."_s.arg(Words(arg->type)));
+        fail(values::TypeMismatch, arg->span, Words::tr("Sum adds numbers, and this is %1.").arg(NameOf(arg->type)));
     }
     const Type type = arg->type == Type::YesNo ? Type::Whole : arg->type;
     return Make({.form = Form::Sum, .type = type, .scale = arg->scale, .span = span, .args = {arg}});
@@ -189,7 +192,7 @@ BoundPtr Summed(const BoundPtr& arg, Span span, const Complaint& fail) {
 
 void RequireCondition(const BoundExpr& expr, const Complaint& fail) {
     if (IsNumberOrNull(expr)) return;
-    fail(values::TypeMismatch, expr.span, u"Expected a condition; this is %1."_s.arg(Words(expr.type)));
+    fail(values::TypeMismatch, expr.span, Words::tr("Expected a condition; this is %1.").arg(NameOf(expr.type)));
 }
 
 namespace {
@@ -251,7 +254,7 @@ BoundPtr Assigned(const BoundPtr& value, const Column& column, const Complaint& 
     if (type == Type::Text) return AsText(value, fail);
     if (IsNumber(type) && IsNumber(value->type)) return AssignedNumber(value, type);
     if (value->type == type) return value;
-    FailUnlike(value->type, type, u"written to a field that holds", value->span, fail);
+    FailUnlike(value->type, type, Words::tr("%1 cannot be written to a field that holds %2."), value->span, fail);
 }
 
 }  // namespace store::dialect

@@ -3,8 +3,7 @@
 #include <charconv>
 
 #include "store/StoreError.h"
-
-using namespace Qt::StringLiterals;
+#include "store/Words.h"
 
 namespace store::postgres {
 
@@ -18,7 +17,7 @@ QByteArray NumberText(auto number) {
 
 QByteArray Checked(QByteArray text) {
     if (text.contains('\0'))
-        throw StoreError(ConversionFailed, u"A text with a zero character cannot lie on a server."_s);
+        throw StoreError(ConversionFailed, Words::tr("A text with a zero character cannot lie on a server."));
     return text.isNull() ? QByteArray("") : std::move(text);
 }
 

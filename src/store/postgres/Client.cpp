@@ -5,6 +5,7 @@
 #include <QRegularExpression>
 #include <thread>
 
+#include "store/Words.h"
 #include "store/postgres/ServerError.h"
 
 using namespace Qt::StringLiterals;
@@ -63,9 +64,11 @@ Attempt ConnectWithin(const Place& place, const Client::GoesOn& goesOn) {
     return attempt.get();
 }
 
+// Stands behind "The server cannot be reached: ".
 QString WhyNotConnected(PGconn* connection) {
-    if (connection == nullptr) return u"it does not answer"_s;
-    if (PQconnectionNeedsPassword(connection) != 0) return u"it asks for a password, and ~/.pgpass has none for it"_s;
+    if (connection == nullptr) return Words::tr("it does not answer");
+    if (PQconnectionNeedsPassword(connection) != 0)
+        return Words::tr("it asks for a password, and ~/.pgpass has none for it");
     // A line a server, the last of them tried last, and words that explain it.
     QStringList lines = QString::fromUtf8(PQerrorMessage(connection)).split(u'\n', Qt::SkipEmptyParts);
     lines.removeIf([](const QString& line) {
@@ -80,7 +83,7 @@ void CheckAddress(const Place& place) {
     PQconninfoOption* options = PQconninfoParse(place.Address().toUtf8().constData(), &why);
     PQfreemem(why);
     if (options == nullptr)
-        throw StoreError(IniNotReadable, u"The address of the server %1 cannot be read."_s.arg(place.Shown()));
+        throw StoreError(IniNotReadable, Words::tr("The address of the server %1 cannot be read.").arg(place.Shown()));
     PQconninfoFree(options);
 }
 
@@ -90,8 +93,8 @@ Client::Client(const Place& place, const GoesOn& goesOn) : server_(place.Shown()
     CheckAddress(place);
     connection_.reset(ConnectWithin(place, goesOn).release());
     if (PQstatus(connection_.get()) != CONNECTION_OK)
-        throw ServerLost(
-            u"The server of the store %1 cannot be reached: %2."_s.arg(server_, WhyNotConnected(connection_.get())));
+        throw ServerLost(Words::tr("The server of the store %1 cannot be reached: %2.")
+                             .arg(server_, WhyNotConnected(connection_.get())));
     PQsetNoticeReceiver(
         connection_.get(),
         [](void* self, const PGresult* notice) {
@@ -158,7 +161,7 @@ Answer Client::Collect(const Trip& trip) {
     isUnderWay_ = false;
     // Asked to stop waiting for a standby, the server warns and goes on.
     if (!refused && stoppedAt_ && wasWarned_)
-        throw ServerLost(u"The server of the store %1 has not heard from its standby."_s.arg(server_));
+        throw ServerLost(Words::tr("The server of the store %1 has not heard from its standby.").arg(server_));
     if (!refused) return wanted;
     if (TellsOfTheEnd(refused.Get())) ThrowLost();
     if (stoppedAt_ && IsCancelled(refused.Get())) throw Left{};
@@ -239,8 +242,8 @@ void Client::ThrowLost() {
     const QString why = OneSentence(QString::fromUtf8(PQerrorMessage(connection_.get())));
     connection_.reset();
     names_.clear();
-    throw ServerLost(why.isEmpty() ? u"The server of the store %1 does not answer."_s.arg(server_)
-                                   : u"The server of the store %1 was lost: %2."_s.arg(server_, why));
+    throw ServerLost(why.isEmpty() ? Words::tr("The server of the store %1 does not answer.").arg(server_)
+                                   : Words::tr("The server of the store %1 was lost: %2.").arg(server_, why));
 }
 
 }  // namespace store::postgres

@@ -1,9 +1,8 @@
 #include "store/postgres/Connection.h"
 
 #include "store/SqlText.h"
+#include "store/Words.h"
 #include "store/postgres/ServerError.h"
-
-using namespace Qt::StringLiterals;
 
 namespace store::postgres {
 
@@ -80,8 +79,8 @@ void Connection::RequireConnection() {
         if (client_->IsAlive()) return;
         Lose();
     }
-    if (batchIsLost_) ThrowLost(u"many changes were being stored; none of them is"_s);
-    if (burstIsLost_) ThrowLost(u"a sale was being stored; how much of it is, is not known"_s);
+    if (batchIsLost_) ThrowBatchLost();
+    if (burstIsLost_) ThrowBurstLost();
     Connect();
 }
 
@@ -92,8 +91,16 @@ void Connection::Lose() {
     inTransaction_ = isRelaxed_ = false;
 }
 
-void Connection::ThrowLost(const QString& what) const {
-    throw ServerLost(u"The server of the store %1 was lost while %2."_s.arg(place_.Shown(), what));
+void Connection::ThrowBatchLost() const {
+    throw ServerLost(
+        Words::tr("The server of the store %1 was lost while many changes were being stored; none of them is.")
+            .arg(place_.Shown()));
+}
+
+void Connection::ThrowBurstLost() const {
+    throw ServerLost(Words::tr("The server of the store %1 was lost while a sale was being stored; how much of it is, "
+                               "is not known.")
+                         .arg(place_.Shown()));
 }
 
 Client::GoesOn Connection::Questions(Kind kind) {
@@ -108,8 +115,8 @@ Client::GoesOn Connection::Questions(Kind kind) {
 }
 
 void Connection::ThrowLeft(Kind kind) const {
-    if (working_ || kind == Kind::Read) throw StoreError(Cancelled, u"The work was left."_s);
-    throw StoreError(StoreLocked, u"The store is locked by another user, and the wait for it was left."_s);
+    if (working_ || kind == Kind::Read) throw StoreError(Cancelled, Words::tr("The work was left."));
+    throw StoreError(StoreLocked, Words::tr("The store is locked by another user, and the wait for it was left."));
 }
 
 Answer Connection::Make(Kind kind, const std::vector<Command>& commands, size_t main, const Client::TakeRow& takeRow) {
@@ -119,12 +126,15 @@ Answer Connection::Make(Kind kind, const std::vector<Command>& commands, size_t 
         const bool isOpen = left.isLost && kind == Kind::Write && !inTransaction_;
         if (left.isLost) Lose();
         if (!isOpen) ThrowLeft(kind);
-        ThrowLost(u"the last change was being stored; whether it is, is not known"_s);
+        throw ServerLost(
+            Words::tr("The server of the store %1 was lost while the last change was being stored; whether "
+                      "it is, is not known.")
+                .arg(place_.Shown()));
     } catch (const ServerLost& error) {
         const bool isOpen = kind == Kind::Write && !inTransaction_;
         Lose();
         if (!isOpen) throw;
-        throw ServerLost(error.Description() + u" Whether the last change is stored is not known."_s);
+        throw ServerLost(Words::tr("%1 Whether the last change is stored is not known.").arg(error.Description()));
     }
 }
 
@@ -182,7 +192,7 @@ Answer Connection::Write(Right right, const Table* table, const std::string& sql
 
 void Connection::WriteAll(const std::vector<Command>& commands) {
     RequireConnection();
-    if (!inTransaction_) throw StoreError(NotSupported, u"No batch is open."_s);
+    if (!inTransaction_) throw StoreError(NotSupported, Words::tr("No batch is open."));
     MakeInBatch(Kind::Write, commands);
 }
 
@@ -216,7 +226,7 @@ Answer Connection::MakeAlone(Right right, const Table* table, const Command& com
 }
 
 void Connection::Begin() {
-    if (inTransaction_) throw StoreError(NotSupported, u"A batch is open already."_s);
+    if (inTransaction_) throw StoreError(NotSupported, Words::tr("A batch is open already."));
     RequireConnection();
     const std::string lock = LockSql(place_.SchemaName(), Right::ToWriteMany, nullptr);
     inTransaction_ = true;  // nothing can have been stored by what is lost from here on
@@ -229,8 +239,8 @@ void Connection::Begin() {
 }
 
 void Connection::Commit() {
-    if (std::exchange(batchIsLost_, false)) ThrowLost(u"many changes were being stored; none of them is"_s);
-    if (!inTransaction_) throw StoreError(NotSupported, u"No batch is open."_s);
+    if (std::exchange(batchIsLost_, false)) ThrowBatchLost();
+    if (!inTransaction_) throw StoreError(NotSupported, Words::tr("No batch is open."));
     inTransaction_ = false;  // so that a loss on the way is told as what it is
     try {
         Make(Kind::Write, {{CommitSql, None}}, 0);
@@ -268,7 +278,7 @@ void Connection::EndBurst() {
     if (--bursts_ > 0 || inTransaction_) return;
     if (std::exchange(burstIsLost_, false)) {
         hasRelaxed_ = false;
-        ThrowLost(u"a sale was being stored; how much of it is, is not known"_s);
+        ThrowBurstLost();
     }
     EndRelaxed();
 }

@@ -57,7 +57,8 @@ private:
     Client::GoesOn Questions(Kind kind);
     void EndRelaxed();
     [[noreturn]] void ThrowLeft(Kind kind) const;
-    [[noreturn]] void ThrowLost(const QString& what) const;
+    [[noreturn]] void ThrowBatchLost() const;
+    [[noreturn]] void ThrowBurstLost() const;
 
     const Place place_;
     std::unique_ptr<Client> client_;

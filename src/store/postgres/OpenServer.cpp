@@ -1,10 +1,9 @@
 #include "store/postgres/OpenServer.h"
 
 #include "store/SqlText.h"
+#include "store/Words.h"
 #include "store/postgres/PostgresEngine.h"
 #include "store/postgres/ServerSchema.h"
-
-using namespace Qt::StringLiterals;
 
 namespace store::postgres {
 
@@ -19,12 +18,12 @@ void CheckServer(Connection& connection) {
     const Answer answer = connection.Read(facts);
     const QString where = connection.At().Shown();
     if (answer.Integer(0, 0) < oldest)
-        throw StoreError(NotSupported, u"The server of %1 is older than version 15."_s.arg(where));
+        throw StoreError(NotSupported, Words::tr("The server of %1 is older than version 15.").arg(where));
     if (answer.Text(0, 1) != u"UTF8")
         throw StoreError(NotSupported,
-                         u"The database of %1 holds texts in %2, not in UTF8."_s.arg(where, answer.Text(0, 1)));
+                         Words::tr("The database of %1 holds texts in %2, not in UTF8.").arg(where, answer.Text(0, 1)));
     if (answer.IsTrue(0, 2))
-        throw StoreError(ReadOnly, u"The server of %1 is a standby and takes no changes."_s.arg(where));
+        throw StoreError(ReadOnly, Words::tr("The server of %1 is a standby and takes no changes.").arg(where));
 }
 
 bool HoldsStore(Connection& connection) {
@@ -35,8 +34,9 @@ bool HoldsStore(Connection& connection) {
     name.Add(connection.At().SchemaName().toUtf8());
     const Answer answer = connection.Read(sql, name);
     if (answer.IsTrue(0, 1))
-        throw StoreError(ReadOnly,
-                         u"The role has no right to use the schema of the store %1."_s.arg(connection.At().Shown()));
+        throw StoreError(
+            ReadOnly,
+            Words::tr("The role has no right to use the schema of the store %1.").arg(connection.At().Shown()));
     return answer.IsTrue(0, 0);
 }
 
@@ -45,11 +45,11 @@ int CheckKind(Connection& connection, const Schema& schema) {
     const QString where = connection.At().Shown();
     const Answer answer = connection.Read(sql);
     if (answer.Rows() != 1 || answer.Text(0, 0) != schema.name)
-        throw StoreError(NotAStore, u"%1 is no store of this kind (%2)."_s.arg(where, schema.name));
+        throw StoreError(NotAStore, Words::tr("%1 is no store of this kind (%2).").arg(where, schema.name));
     const qint64 version = answer.Integer(0, 1);
     if (version > schema.version)
-        throw StoreError(NotAStore, u"The store %1 is of version %2; this program knows versions up to %3."_s.arg(
-                                        where, QString::number(version), QString::number(schema.version)));
+        throw StoreError(NotAStore, Words::tr("The store %1 is of version %2; this program knows versions up to %3.")
+                                        .arg(where, QString::number(version), QString::number(schema.version)));
     return static_cast<int>(version);
 }
 
@@ -67,15 +67,16 @@ void CheckRights(Connection& connection, const Schema& schema) {
     tables.Add('{' + names.join(',') + '}');
     const Answer answer = connection.Read(sql, tables);
     if (answer.Rows() > 0)
-        throw StoreError(ReadOnly, u"The store %1 cannot be written to: the role has no right to %2."_s.arg(
-                                       connection.At().Shown(), answer.Text(0, 0)));
+        throw StoreError(ReadOnly, Words::tr("The store %1 cannot be written to: the role has no right to %2.")
+                                       .arg(connection.At().Shown(), answer.Text(0, 0)));
 }
 
 void CheckColumns(Connection& connection, const Schema& schema) {
     const QStringList missing = MissingColumns(connection, schema);
     if (!missing.isEmpty())
-        throw StoreError(NotAStore,
-                         u"The store %1 is damaged: it lacks %2."_s.arg(connection.At().Shown(), missing.first()));
+        throw StoreError(
+            NotAStore,
+            Words::tr("The store %1 is damaged: it lacks %2.").arg(connection.At().Shown(), missing.first()));
 }
 
 // Others may carry the store forward at the same time.
@@ -98,7 +99,7 @@ void CheckThatFree(Connection& connection) {
     } catch (const StoreError& error) {
         if (error.Number() != StoreLocked) throw;
         throw StoreError(HeldExclusively,
-                         u"The store %1 is held exclusively by another user."_s.arg(connection.At().Shown()));
+                         Words::tr("The store %1 is held exclusively by another user.").arg(connection.At().Shown()));
     }
 }
 
@@ -113,7 +114,8 @@ std::unique_ptr<Connection> Connected(const Place& place) {
 
 std::unique_ptr<Engine> OpenSchema(const Place& place, const Schema& schema) {
     auto connection = Connected(place);
-    if (!HoldsStore(*connection)) throw StoreError(FileNotFound, u"There is no store at %1."_s.arg(place.Shown()));
+    if (!HoldsStore(*connection))
+        throw StoreError(FileNotFound, Words::tr("There is no store at %1.").arg(place.Shown()));
     CheckKind(*connection, schema);
     CheckRights(*connection, schema);
     CheckThatFree(*connection);
@@ -126,7 +128,8 @@ std::unique_ptr<Engine> OpenSchema(const Place& place, const Schema& schema) {
 std::unique_ptr<Engine> CreateSchema(const Place& place, const Schema& schema) {
     auto connection = Connected(place);
     connection->Begin();
-    if (HoldsStore(*connection)) throw StoreError(FileExists, u"There is a store at %1 already."_s.arg(place.Shown()));
+    if (HoldsStore(*connection))
+        throw StoreError(FileExists, Words::tr("There is a store at %1 already.").arg(place.Shown()));
     for (const std::string& sql : SchemaSql(schema, place.SchemaName()))
         connection->Write(Connection::Right::ToWriteMany, nullptr, sql, {});
     connection->SetPatience(WorkingPatience);

@@ -1,4 +1,5 @@
 #include "store/SqlText.h"
+#include "store/Words.h"
 #include "store/postgres/PostgresEngine.h"
 #include "values/Clock.h"
 
@@ -64,9 +65,9 @@ void PostgresEngine::AddRows(const Table& table, const StoredRows& rows) {
         try {
             arrays.Add(values);
         } catch (const StoreError& error) {
-            throw StoreError(error.Number(), u"%1.%2, rows from %3 on: %4"_s.arg(table.name, table.columns[column].name,
-                                                                                 QString::number(rows.keys.front()),
-                                                                                 error.Description()));
+            throw StoreError(error.Number(), Words::tr("%1.%2, rows from %3 on: %4")
+                                                 .arg(table.name, table.columns[column].name,
+                                                      QString::number(rows.keys.front()), error.Description()));
         }
     }
     const Arguments last(rows.lastKey);
@@ -79,9 +80,10 @@ void PostgresEngine::AddRows(const Table& table, const StoredRows& rows) {
     } catch (const ServerLost&) {
         throw;
     } catch (const StoreError& error) {
-        throw StoreError(error.Number(), u"%1, rows from %2 on: %3"_s.arg(
-                                             table.name, QString::number(rows.keys.empty() ? 0 : rows.keys.front()),
-                                             error.Description()));
+        throw StoreError(
+            error.Number(),
+            Words::tr("%1, rows from %2 on: %3")
+                .arg(table.name, QString::number(rows.keys.empty() ? 0 : rows.keys.front()), error.Description()));
     }
 }
 
@@ -98,7 +100,7 @@ QString PostgresEngine::PrepareToRetire() {
     name += ending;
     connection_->Write(Connection::Right::ToWriteMany, nullptr,
                        "ALTER SCHEMA " + Quoted(connection_->At().SchemaName()) + " RENAME TO " + Quoted(name), {});
-    return u"schema %1"_s.arg(name);
+    return Words::tr("schema %1").arg(name);
 }
 
 void PostgresEngine::Retire() {

@@ -1,5 +1,6 @@
 #include "store/Creation.h"
 #include "store/SqlText.h"
+#include "store/Words.h"
 #include "store/postgres/PostgresEngine.h"
 #include "store/postgres/ServerSchema.h"
 
@@ -27,7 +28,7 @@ QStringList PostgresEngine::CheckIntegrity() {
             const Answer answer =
                 connection_->Read("SELECT max(length(t::text)), max(" + key + ") > pg_sequence_last_value(" +
                                   SequenceSql(table) + ") FROM " + name + " AS t");
-            if (answer.IsTrue(0, 1)) faults += u"%1: the next number is taken already"_s.arg(table.name);
+            if (answer.IsTrue(0, 1)) faults += Words::tr("%1: the next number is taken already").arg(table.name);
         } catch (const ServerLost&) {
             throw;
         } catch (const StoreError& error) {
@@ -43,11 +44,11 @@ QStringList PostgresEngine::MissingIndexes(const Schema& schema) {
 
 // The copy is a store in a file, which can stand in for one.
 void PostgresEngine::BackupTo(const QString& path) {
-    if (InTransaction()) throw StoreError(NotSupported, u"No copy can be made while a batch is open."_s);
+    if (InTransaction()) throw StoreError(NotSupported, Words::tr("No copy can be made while a batch is open."));
     Creation copy(path, schema_);
     copy.Store().AddAllOf(*this);
     const QStringList faults = copy.Store().CheckIntegrity();
-    if (!faults.empty()) throw StoreError(NotAStore, u"The copy is damaged: %1"_s.arg(faults.first()));
+    if (!faults.empty()) throw StoreError(NotAStore, Words::tr("The copy is damaged: %1").arg(faults.first()));
     copy.Finish();
 }
 

@@ -1,5 +1,7 @@
 #include "store/postgres/ServerError.h"
 
+#include "store/Words.h"
+
 using namespace Qt::StringLiterals;
 
 namespace store::postgres {
@@ -27,9 +29,9 @@ int NumberOf(const QByteArray& code) {
     return NotSupported;
 }
 
-QString Words(int number) {
-    if (number == DiskFull) return u"There is no room left on the server's disk"_s;
-    if (number == DiskError) return u"The server refused the access"_s;
+QString RefusalOf(int number) {
+    if (number == DiskFull) return Words::tr("There is no room left on the server's disk");
+    if (number == DiskError) return Words::tr("The server refused the access");
     return Refusal(number);
 }
 
@@ -55,10 +57,10 @@ void ThrowRefused(const PGresult* result) {
     const QString message = OneSentence(QString::fromUtf8(PQresultErrorField(result, PG_DIAG_MESSAGE_PRIMARY)));
     // The names of a statement are checked before, so its tables went while it was open.
     if (code == "42P01")
-        throw FilesLost(
-            u"The store was moved away on the server, with all that was stored until then (%1)."_s.arg(message));
+        throw FilesLost(Words::tr("The store was moved away on the server, with all that was stored until then (%1).")
+                            .arg(message));
     const int number = NumberOf(code);
-    throw StoreError(number, u"%1 (%2)."_s.arg(Words(number), message));
+    throw StoreError(number, u"%1 (%2)."_s.arg(RefusalOf(number), message));
 }
 
 }  // namespace store::postgres

@@ -6,11 +6,10 @@
 #include <QFile>
 #include <thread>
 
+#include "store/Words.h"
 #include "store/sqlite/SqliteError.h"
 #include "store/sqlite/Statement.h"
 #include "store/sqlite/TextRules.h"
-
-using namespace Qt::StringLiterals;
 
 namespace store::sqlite {
 
@@ -27,9 +26,9 @@ auto Translated(const QString& doing, const Work& work) {
     }
 }
 
-SQLite::Database Opened(const QString& path, bool create) {
+auto Opened(const QString& path, bool create) {
     const int flags = SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX | (create ? SQLite::OPEN_CREATE : 0);
-    return Translated(u"opening %1"_s.arg(path),
+    return Translated(Words::tr("opening %1").arg(path),
                       [&] { return SQLite::Database(QFile::encodeName(path).toStdString(), flags); });
 }
 
@@ -63,11 +62,12 @@ QString Connection::Text(const char* sql) {
 }
 
 void Connection::CopyFrom(Connection& source) {
-    const bool isWhole = Translated(u"copying a store"_s, [&] {
+    const bool isWhole = Translated(Words::tr("copying a store"), [&] {
         SQLite::Backup backup(database_, source.database_);
         return backup.executeStep(-1) == SQLITE_DONE;
     });
-    if (!isWhole) throw StoreError(StoreLocked, u"The store is locked by another user and could not be copied."_s);
+    if (!isWhole)
+        throw StoreError(StoreLocked, Words::tr("The store is locked by another user and could not be copied."));
 }
 
 Connection::Transaction::~Transaction() {

@@ -10,6 +10,7 @@
 #include <cerrno>
 
 #include "store/StoreError.h"
+#include "store/Words.h"
 #include "store/sqlite/PartLock.h"
 
 using namespace Qt::StringLiterals;
@@ -34,8 +35,9 @@ int NumberOf(int errorNumber) {
     }
 }
 
-[[noreturn]] void ThrowOs(const QString& what, int errorNumber) {
-    throw StoreError(NumberOf(errorNumber), u"%1: %2."_s.arg(what, qt_error_string(errorNumber)));
+// `words` is a sentence of %1, the path, and %2, the system's own words.
+[[noreturn]] void ThrowOs(const QString& words, const QString& path, int errorNumber) {
+    throw StoreError(NumberOf(errorNumber), words.arg(path, qt_error_string(errorNumber)));
 }
 
 // A link that leads nowhere lies there too.
@@ -46,24 +48,27 @@ bool LiesThere(const QString& path) {
 
 void RefuseWhatExists(const QString& path) {
     for (const QString& ending : {u""_s, u"-wal"_s, u"-journal"_s})
-        if (LiesThere(path + ending)) throw StoreError(FileExists, u"The file %1 exists already."_s.arg(path + ending));
+        if (LiesThere(path + ending))
+            throw StoreError(FileExists, Words::tr("The file %1 exists already.").arg(path + ending));
 }
 
 // A file of such a name would be taken for a part of the store beside it.
 void RefuseName(const QString& path) {
     const QString name = QFileInfo(path).fileName();
     if (name.isEmpty() || name == u"." || name == u"..")
-        throw StoreError(NotSupported, u"'%1' names no file."_s.arg(path));
+        throw StoreError(NotSupported, Words::tr("'%1' names no file.").arg(path));
     for (const QString& ending : {u"-wal"_s, u"-shm"_s, u"-journal"_s})
         if (name.endsWith(ending))
-            throw StoreError(NotSupported,
-                             u"'%1' cannot be the name of a store, because of its ending %2."_s.arg(path, ending));
+            throw StoreError(
+                NotSupported,
+                Words::tr("'%1' cannot be the name of a store, because of its ending %2.").arg(path, ending));
 }
 
 void RequireFolder(const QString& folder) {
-    if (!QFileInfo(folder).isDir()) throw StoreError(FileNotFound, u"The folder %1 was not found."_s.arg(folder));
+    if (!QFileInfo(folder).isDir())
+        throw StoreError(FileNotFound, Words::tr("The folder %1 was not found.").arg(folder));
     if (::access(QFile::encodeName(folder).constData(), W_OK | X_OK) != 0)
-        ThrowOs(u"Nothing can be written in the folder "_s + folder, errno);
+        ThrowOs(Words::tr("Nothing can be written in the folder %1: %2."), folder, errno);
 }
 
 void SyncToDisk(const QString& path, int flags) {
@@ -71,7 +76,7 @@ void SyncToDisk(const QString& path, int flags) {
     const bool synced = file >= 0 && ::fsync(file) == 0;
     const int why = errno;
     if (file >= 0) ::close(file);
-    if (!synced) ThrowOs(path + u" could not be brought to the disk"_s, why);
+    if (!synced) ThrowOs(Words::tr("%1 could not be brought to the disk: %2."), path, why);
 }
 
 // Whatever came to lie at the place meanwhile stays.
@@ -81,8 +86,8 @@ void MoveToPlace(const QString& from, const QString& to) {
     const bool isUnknownHere = moved != 0 && (errno == EINVAL || errno == ENOSYS);
     if (isUnknownHere) moved = ::rename(source.constData(), target.constData());
     if (moved == 0) return;
-    if (errno == EEXIST) throw StoreError(FileExists, u"The file %1 exists already."_s.arg(to));
-    ThrowOs(to + u" could not be made"_s, errno);
+    if (errno == EEXIST) throw StoreError(FileExists, Words::tr("The file %1 exists already.").arg(to));
+    ThrowOs(Words::tr("%1 could not be made: %2."), to, errno);
 }
 
 }  // namespace
@@ -94,7 +99,7 @@ NewFile::NewFile(const QString& path) : path_(path), temporary_(path + Part) {
     RefuseWhatExists(path_);
     RemoveAbandonedParts(folder, Part);
     lock_ = std::make_unique<PartLock>(temporary_);
-    if (!lock_->IsHeld()) throw StoreError(StoreLocked, u"Another program is just making %1."_s.arg(path_));
+    if (!lock_->IsHeld()) throw StoreError(StoreLocked, Words::tr("Another program is just making %1.").arg(path_));
     MakeEmpty();
 }
 
@@ -108,7 +113,7 @@ void NewFile::MakeEmpty() const {
     RemovePart(temporary_);
     const int file =
         ::open(QFile::encodeName(temporary_).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, itsUserAlone);
-    if (file < 0) ThrowOs(path_ + u" could not be made"_s, errno);
+    if (file < 0) ThrowOs(Words::tr("%1 could not be made: %2."), path_, errno);
     ::fchmod(file, itsUserAlone);
     ::close(file);
 }

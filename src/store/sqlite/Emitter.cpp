@@ -3,10 +3,9 @@
 #include <algorithm>
 
 #include "store/SqlText.h"
+#include "store/Words.h"
 #include "store/dialect/Complaint.h"
 #include "store/sqlite/ExprEmitter.h"
-
-using namespace Qt::StringLiterals;
 
 namespace store::sqlite {
 
@@ -100,7 +99,7 @@ Pieces Emit(const dialect::Plan& plan, const QString& text) {
          {&pieces.columns, &pieces.from, &pieces.where, &pieces.group, &pieces.having, &pieces.order, &pieces.set}) {
         if (DeepestBrackets(*piece) <= MostBrackets) continue;
         dialect::Complaint{text}(SyntaxError, {0, static_cast<int>(text.size())},
-                                 u"The query text is nested too deeply."_s);
+                                 Words::tr("The query text is nested too deeply."));
     }
     return pieces;
 }

@@ -5,6 +5,7 @@
 
 #include <QFileInfo>
 
+#include "store/Words.h"
 #include "store/sqlite/SqliteEngine.h"
 #include "values/Clock.h"
 
@@ -46,11 +47,15 @@ void SqliteEngine::SaveBesideTheStore() {
 }
 
 void SqliteEngine::ThrowFilesLost() const {
-    const QString what =
-        u"The store %1 was deleted, moved away or replaced (or its log was) while the program had it "
-        u"open, so nothing more is written to it"_s.arg(files_.StorePath());
-    if (!savedAs_.isEmpty()) throw FilesLost(u"%1; what was stored until then is saved in %2."_s.arg(what, savedAs_));
-    throw FilesLost(u"%1; no copy of what was stored until then could be made: %2"_s.arg(what, whyNotSaved_));
+    if (!savedAs_.isEmpty())
+        throw FilesLost(Words::tr("The store %1 was deleted, moved away or replaced (or its log was) while the program "
+                                  "had it open, so nothing more is written to it; what was stored until then is saved "
+                                  "in %2.")
+                            .arg(files_.StorePath(), savedAs_));
+    throw FilesLost(Words::tr("The store %1 was deleted, moved away or replaced (or its log was) while the program had "
+                              "it open, so nothing more is written to it; no copy of what was stored until then could "
+                              "be made: %2")
+                        .arg(files_.StorePath(), whyNotSaved_));
 }
 
 }  // namespace store::sqlite

@@ -4,11 +4,11 @@
 
 #include <QFileInfo>
 
+#include "store/Words.h"
 #include "store/sqlite/SqliteEngine.h"
 #include "store/sqlite/SqliteError.h"
 #include "store/sqlite/SqliteSchema.h"
 
-using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace store::sqlite {
@@ -22,22 +22,20 @@ constexpr Connection::Patience WorkingPatience = 4000ms;
 // process holds on it.
 void CheckFile(const QString& path) {
     const QFileInfo file(path);
-    if (!file.isFile()) throw StoreError(FileNotFound, u"The store %1 was not found."_s.arg(path));
-    if (file.size() == 0) throw StoreError(NotAStore, u"%1 is empty and no store."_s.arg(path));
+    if (!file.isFile()) throw StoreError(FileNotFound, Words::tr("The store %1 was not found.").arg(path));
+    if (file.size() == 0) throw StoreError(NotAStore, Words::tr("%1 is empty and no store.").arg(path));
     constexpr auto anyoneWrites = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
     if (!file.isWritable() || !(file.permissions() & anyoneWrites))
-        throw StoreError(ReadOnly, u"The store %1 cannot be written to."_s.arg(path));
+        throw StoreError(ReadOnly, Words::tr("The store %1 cannot be written to.").arg(path));
 }
 
 void CheckKind(Connection& connection, const Schema& schema, const QString& path) {
     if (connection.Integer("PRAGMA application_id") != ApplicationId(schema))
-        throw StoreError(NotAStore, u"%1 is no store of this kind (%2)."_s.arg(path, schema.name));
+        throw StoreError(NotAStore, Words::tr("%1 is no store of this kind (%2).").arg(path, schema.name));
     const qint64 version = connection.Integer("PRAGMA user_version");
     if (version > schema.version)
-        throw StoreError(
-            NotAStore,
-            u"The store %1 is of version %2; this program knows versions up to %3."_s.arg(path).arg(version).arg(
-                schema.version));
+        throw StoreError(NotAStore, Words::tr("The store %1 is of version %2; this program knows versions up to %3.")
+                                        .arg(path, QString::number(version), QString::number(schema.version)));
 }
 
 void CheckTables(Connection& connection, const Schema& schema, const QString& path) {
@@ -50,18 +48,18 @@ void CheckTables(Connection& connection, const Schema& schema, const QString& pa
         while (names.Step()) present += names.Text(0);
         for (const Column& column : table.columns)
             if (!present.contains(column.name))
-                throw StoreError(NotAStore, u"The store %1 is damaged: it lacks the column %2 of %3."_s.arg(
-                                                path, column.name, table.name));
+                throw StoreError(NotAStore, Words::tr("The store %1 is damaged: it lacks the column %2 of %3.")
+                                                .arg(path, column.name, table.name));
     }
 }
 
 void SetUp(Connection& connection, const QString& path) {
     if (sqlite3_db_readonly(connection.Handle(), "main") == 1)
-        throw StoreError(ReadOnly, u"The store %1 cannot be written to."_s.arg(path));
+        throw StoreError(ReadOnly, Words::tr("The store %1 cannot be written to.").arg(path));
     // Asking costs nothing; setting it would need the file for itself.
     if (connection.Text("PRAGMA journal_mode") != u"wal") {
         if (connection.Text("PRAGMA journal_mode = WAL") != u"wal")
-            throw StoreError(DiskError, u"No write-ahead log can be kept beside %1."_s.arg(path));
+            throw StoreError(DiskError, Words::tr("No write-ahead log can be kept beside %1.").arg(path));
     }
     connection.Run("PRAGMA synchronous = FULL");
     connection.UseMemory(UsualMemory);
@@ -77,15 +75,16 @@ void CheckThatFree(Connection& connection) {
     switch (error.Code() & 0xFF) {
         case SQLITE_BUSY:
         case SQLITE_LOCKED:
-            throw StoreError(HeldExclusively, u"The store %1 is held exclusively by another user."_s.arg(path));
+            throw StoreError(HeldExclusively, Words::tr("The store %1 is held exclusively by another user.").arg(path));
         case SQLITE_NOTADB:
         case SQLITE_CORRUPT:
-            throw StoreError(NotAStore, u"%1 is damaged or no store (%2)."_s.arg(path, error.Message()));
+            throw StoreError(NotAStore, Words::tr("%1 is damaged or no store (%2).").arg(path, error.Message()));
         case SQLITE_CANTOPEN:
         case SQLITE_READONLY:
-            throw StoreError(ReadOnly, u"The store %1 cannot be opened for writing (%2)."_s.arg(path, error.Message()));
+            throw StoreError(ReadOnly,
+                             Words::tr("The store %1 cannot be opened for writing (%2).").arg(path, error.Message()));
         default:
-            ThrowCode(error.Code(), error.Message(), u"opening %1"_s.arg(path));
+            ThrowCode(error.Code(), error.Message(), Words::tr("opening %1").arg(path));
     }
 }
 
@@ -113,7 +112,7 @@ void BuildFile(const QString& file, const QString& path, const Schema& schema) {
         SetUp(connection, path);
         BuildSchema(connection, schema);
     } catch (const SqliteError& error) {
-        ThrowCode(error.Code(), error.Message(), u"making %1"_s.arg(path));
+        ThrowCode(error.Code(), error.Message(), Words::tr("making %1").arg(path));
     }
 }
 

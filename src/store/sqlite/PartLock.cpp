@@ -13,6 +13,7 @@
 #include <thread>
 
 #include "store/StoreError.h"
+#include "store/Words.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -39,7 +40,7 @@ PartLock::Try PartLock::Take() {
     const int file = ::open(path_.constData(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600);
     if (file < 0)
         throw StoreError(errno == ENOSPC || errno == EDQUOT ? DiskFull : DiskError,
-                         u"%1 could not be made: %2."_s.arg(QFile::decodeName(path_), qt_error_string(errno)));
+                         Words::tr("%1 could not be made: %2.").arg(QFile::decodeName(path_), qt_error_string(errno)));
     // Where a file system knows no locks, the process is taken to be alone.
     const bool isBusy = ::flock(file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
     struct stat mine = {}, there = {};

@@ -5,6 +5,7 @@
 
 #include "store/SqlText.h"
 #include "store/StoreError.h"
+#include "store/Words.h"
 #include "store/sqlite/Parameter.h"
 #include "store/sqlite/PreparedPlan.h"
 #include "values/Clock.h"
@@ -98,7 +99,7 @@ void SqliteEngine::TakeAlone() {
     connection_->Run("PRAGMA locking_mode = EXCLUSIVE");
     if (connection_->Text("PRAGMA journal_mode = DELETE") != u"delete") {
         connection_->Run("PRAGMA locking_mode = NORMAL");
-        throw StoreError(StoreLocked, u"Another program has the store %1 open."_s.arg(files_.StorePath()));
+        throw StoreError(StoreLocked, Words::tr("Another program has the store %1 open.").arg(files_.StorePath()));
     }
     connection_->Run("BEGIN EXCLUSIVE");
 }
@@ -106,7 +107,7 @@ void SqliteEngine::TakeAlone() {
 QString SqliteEngine::PrepareToRetire() {
     const QFileInfo store(files_.StorePath());
     if (!QFileInfo(store.absolutePath()).isWritable())
-        throw StoreError(ReadOnly, u"The store %1 cannot be renamed."_s.arg(store.filePath()));
+        throw StoreError(ReadOnly, Words::tr("The store %1 cannot be renamed.").arg(store.filePath()));
     retiresAs_ = u"%1/%2-moved-%3.%4"_s.arg(store.absolutePath(), store.completeBaseName(),
                                             values::Now().toString(u"yyyyMMdd-HHmmss"_s), store.suffix());
     return retiresAs_;
@@ -115,7 +116,7 @@ QString SqliteEngine::PrepareToRetire() {
 void SqliteEngine::Retire() {
     isLost_ = true;  // the engine would look for files that are gone
     if (!QFile::rename(files_.StorePath(), retiresAs_))
-        throw StoreError(DiskError, u"The store %1 cannot be renamed."_s.arg(files_.StorePath()));
+        throw StoreError(DiskError, Words::tr("The store %1 cannot be renamed.").arg(files_.StorePath()));
     sqlite3_exec(Handle(), "ROLLBACK", nullptr, nullptr, nullptr);
 }
 

@@ -2,9 +2,8 @@
 
 #include <sqlite3.h>
 
+#include "store/Words.h"
 #include "store/sqlite/SqliteError.h"
-
-using namespace Qt::StringLiterals;
 
 namespace store::sqlite {
 
@@ -18,7 +17,7 @@ SqliteEngine::~SqliteEngine() {
 }
 
 void SqliteEngine::Begin() {
-    if (InTransaction()) throw StoreError(NotSupported, u"A batch is open already."_s);
+    if (InTransaction()) throw StoreError(NotSupported, Words::tr("A batch is open already."));
     RequireOwnFiles();
     connection_->Run("BEGIN IMMEDIATE");
 }
@@ -68,7 +67,7 @@ void SqliteEngine::EndRelaxed() {
     connection_->Run("PRAGMA synchronous = FULL");
     isRelaxed_ = false;
     if (code != SQLITE_OK)
-        ThrowCode(code, QString::fromUtf8(sqlite3_errstr(code)), u"bringing a burst of changes to the disk"_s);
+        ThrowCode(code, QString::fromUtf8(sqlite3_errstr(code)), Words::tr("bringing a burst of changes to the disk"));
     if (writes_ == writesWhenRelaxed_) return;
     // A till posts all day: the pages of what it has written are not needed again, and would stay.
     sqlite3_db_release_memory(Handle());

@@ -4,7 +4,7 @@
 
 #include <cerrno>
 
-using namespace Qt::StringLiterals;
+#include "store/Words.h"
 
 namespace store::sqlite {
 
@@ -68,7 +68,8 @@ int CodeWithoutRoom(sqlite3* connection, int extendedCode) {
 
 void ThrowCode(int extendedCode, const QString& message, const QString& doing) {
     const int number = NumberOf(extendedCode, message);
-    throw SqliteError(number, u"%1, %2 (%3)."_s.arg(Refusal(number), doing, message), extendedCode, message);
+    //: what was refused, what was being done, and the engine's own words: "The store is damaged, opening x (y)."
+    throw SqliteError(number, Words::tr("%1, %2 (%3).").arg(Refusal(number), doing, message), extendedCode, message);
 }
 
 void ThrowLast(sqlite3* connection, const QString& doing) {

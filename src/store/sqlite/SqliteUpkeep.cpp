@@ -1,5 +1,6 @@
 #include <sqlite3.h>
 
+#include "store/Words.h"
 #include "store/sqlite/Disk.h"
 #include "store/sqlite/PreparedPlan.h"
 #include "store/sqlite/SqliteError.h"
@@ -40,7 +41,7 @@ void CopyInto(const QString& path, Connection& source) {
 void CheckCopy(const QString& path) {
     Connection copy(path, false, 0ms);
     const QStringList faults = FaultsOf(copy);
-    if (!faults.empty()) throw StoreError(NotAStore, u"The copy is damaged: %1"_s.arg(faults.first()));
+    if (!faults.empty()) throw StoreError(NotAStore, Words::tr("The copy is damaged: %1").arg(faults.first()));
 }
 
 }  // namespace
@@ -75,13 +76,13 @@ QStringList SqliteEngine::MissingIndexes(const Schema& schema) {
 }
 
 void SqliteEngine::BackupTo(const QString& path) {
-    if (InTransaction()) throw StoreError(NotSupported, u"No copy can be made while a batch is open."_s);
+    if (InTransaction()) throw StoreError(NotSupported, Words::tr("No copy can be made while a batch is open."));
     NewFile file(path);
     try {
         CopyInto(file.Path(), *connection_);
         CheckCopy(file.Path());
     } catch (const SqliteError& error) {
-        ThrowCode(error.Code(), error.Message(), u"copying to %1"_s.arg(path));
+        ThrowCode(error.Code(), error.Message(), Words::tr("copying to %1").arg(path));
     }
     file.Finish();
 }

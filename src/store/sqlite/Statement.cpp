@@ -1,15 +1,14 @@
 #include "store/sqlite/Statement.h"
 
+#include "store/Words.h"
 #include "store/sqlite/SqliteError.h"
-
-using namespace Qt::StringLiterals;
 
 namespace store::sqlite {
 
 Statement::Statement(sqlite3* connection, const std::string& sql) {
     const int code = sqlite3_prepare_v3(connection, sql.c_str(), static_cast<int>(sql.size() + 1),
                                         SQLITE_PREPARE_PERSISTENT, &statement_, nullptr);
-    if (code != SQLITE_OK) ThrowLast(connection, u"preparing %1"_s.arg(QString::fromStdString(sql)));
+    if (code != SQLITE_OK) ThrowLast(connection, Words::tr("preparing %1").arg(QString::fromStdString(sql)));
 }
 
 void Statement::Bind(int parameter, const dialect::BoundValue& value) {
@@ -72,7 +71,7 @@ void Statement::AppendRow(RowBlock& rows, int first) const {
 }
 
 void Statement::Check(int code) const {
-    if (code != SQLITE_OK) ThrowLast(sqlite3_db_handle(statement_), u"running a query"_s);
+    if (code != SQLITE_OK) ThrowLast(sqlite3_db_handle(statement_), Words::tr("running a query"));
 }
 
 }  // namespace store::sqlite

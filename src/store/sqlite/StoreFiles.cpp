@@ -8,8 +8,7 @@
 #include <QFileInfo>
 
 #include "store/StoreError.h"
-
-using namespace Qt::StringLiterals;
+#include "store/Words.h"
 
 namespace store::sqlite {
 
@@ -43,7 +42,8 @@ void StoreFiles::Open(File& file) {
     file.handle = ::open(file.path.constData(), O_PATH | O_CLOEXEC);
     if (file.handle < 0 || ::fstat(file.handle, &file.opened) != 0)
         throw StoreError(
-            DiskError, u"The file %1 went away while the store was being opened."_s.arg(QFile::decodeName(file.path)));
+            DiskError,
+            Words::tr("The file %1 went away while the store was being opened.").arg(QFile::decodeName(file.path)));
 }
 
 bool StoreFiles::AreInPlace() const {

@@ -7,10 +7,9 @@
 
 #include "store/CaseFold.h"
 #include "store/LikePattern.h"
+#include "store/Words.h"
 #include "store/sqlite/SqliteError.h"
 #include "values/Numbers.h"
-
-using namespace Qt::StringLiterals;
 
 namespace store::sqlite {
 
@@ -72,7 +71,7 @@ void RegisterTextRules(sqlite3* connection) {
         code = sqlite3_create_function(connection, "velton_val", 1, pure, nullptr, ValFunction, nullptr, nullptr);
     if (code == SQLITE_OK)
         code = sqlite3_create_function(connection, "velton_like", 2, pure, nullptr, LikeFunction, nullptr, nullptr);
-    if (code != SQLITE_OK) ThrowLast(connection, u"setting up the text rules"_s);
+    if (code != SQLITE_OK) ThrowLast(connection, Words::tr("setting up the text rules"));
 }
 
 }  // namespace store::sqlite
