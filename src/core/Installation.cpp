@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "core/CoreWords.h"
 #include "output/Folder.h"
 #include "values/IniFile.h"
 
@@ -69,12 +70,15 @@ bool Take(const Key& key, const QString& text, Installation& installation) {
 
 QString Refusal(const Key& key, const values::IniFile::Value& value) {
     if (key.choices.empty())
-        return u"velton.ini, line %1: %2 can't be \"%3\", only a number from 0 to 999."_s.arg(
-            QString::number(value.line), QString::fromUtf16(key.name), value.text.left(LongestShown));
+        return CoreWords::tr("velton.ini, line %1: %2 can't be \"%3\", only a number from 0 to 999.")
+            .arg(QString::number(value.line), QString::fromUtf16(key.name), value.text.left(LongestShown));
     QStringList known;
     for (const Choice& choice : key.choices) known << QString::fromUtf16(choice.text);
-    return u"velton.ini, line %1: %2 can't be \"%3\", only %4."_s.arg(value.line)
-        .arg(QString::fromUtf16(key.name), value.text.left(LongestShown), known.join(u" or "_s));
+    //: %4: the words that it may be, "yes or no"
+    return CoreWords::tr("velton.ini, line %1: %2 can't be \"%3\", only %4.")
+        .arg(QString::number(value.line), QString::fromUtf16(key.name), value.text.left(LongestShown),
+             //: between two words that a setting may be, with its blanks
+             known.join(CoreWords::tr(" or ")));
 }
 
 bool IsKnown(const values::IniFile::Key& key) {
@@ -92,8 +96,8 @@ QStringList ReadInstallation() {
     TheInstallation = {};
     for (const auto& key : ini.Keys())
         if (!IsKnown(key))
-            refused << u"velton.ini, line %1: there is no %2 in [%3]."_s.arg(key.line).arg(
-                key.name.left(LongestShown), key.section.left(LongestShown));
+            refused << CoreWords::tr("velton.ini, line %1: there is no %2 in [%3].")
+                           .arg(QString::number(key.line), key.name.left(LongestShown), key.section.left(LongestShown));
     for (const Key& key : Keys) {
         const auto value = ini.Find(QString::fromUtf16(key.section), QString::fromUtf16(key.name));
         if (value && !Take(key, value->text, TheInstallation)) refused << Refusal(key, *value);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/CoreWords.h"
 #include "store/OptionsTable.h"
 #include "store/Recordset.h"
 #include "values/Error.h"
@@ -30,7 +31,7 @@ auto OfSetting(QStringView name, Read read) {
         return read();
     } catch (const values::Error& error) {
         throw values::Error(error.Number(),
-                            QStringLiteral("The setting %1 can't be used. %2").arg(name, error.Description()));
+                            CoreWords::tr("The setting %1 can't be used. %2").arg(name, error.Description()));
     }
 }
 // The texts that stand until an installation says otherwise.

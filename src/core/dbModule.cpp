@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <algorithm>
 
+#include "core/CoreWords.h"
 #include "forms/LongWork.h"
 #include "output/Channel.h"
 #include "output/CodePage.h"
@@ -28,7 +29,7 @@ std::function<bool()> BeginWait() {
 }
 
 store::Database& Opened(const std::unique_ptr<store::Database>& database) {
-    if (!database) throw store::StoreError(values::NoObject, u"The store is not open."_s);
+    if (!database) throw store::StoreError(values::NoObject, CoreWords::tr("The store is not open."));
     return *database;
 }
 
@@ -46,8 +47,9 @@ void OpenMainStore() {
 }
 
 QString WaitsForMainStore() {
-    return isMainOnServer ? u"Waiting for the server of the store, or for another register that is writing there."_s
-                          : u"Waiting for another register, which is writing to the store."_s;
+    return isMainOnServer
+               ? CoreWords::tr("Waiting for the server of the store, or for another register that is writing there.")
+               : CoreWords::tr("Waiting for another register, which is writing to the store.");
 }
 
 void ShowWaitsOfMainStore() {
@@ -104,7 +106,7 @@ QString PadLeft(qint32 width, const QString& text) {
 }
 
 QString PadRight(qint32 width, const QString& text) {
-    if (width < 0) throw values::Error(values::InvalidCall, u"A text does not fit its line."_s);
+    if (width < 0) throw values::Error(values::InvalidCall, CoreWords::tr("A text does not fit its line."));
     const QString cut = output::FirstColumns(text, width);
     return cut + QString(width - output::Columns(cut), u' ');
 }

@@ -26,8 +26,6 @@ const auto UserCriteria = u"UserName = '%1'"_s;
 const auto LoginQuery = u"SELECT * FROM Login"_s;
 const auto LastLoginQuery = u"SELECT Max(Val([LoginNo])) AS [current] FROM Login"_s;
 
-const auto Refused = u"Wrong password.Login not allowed."_s;
-
 constexpr int Countdown = 59;
 
 }  // namespace
@@ -38,7 +36,7 @@ frmLogin::frmLogin(std::function<void()> loggedIn)
     setWindowFlag(Qt::WindowCloseButtonHint, false);
     ui.txtUserName->setCompleter(nullptr);
     ui.txtUserName->setInsertPolicy(QComboBox::NoInsert);
-    ui.txtUserName->lineEdit()->setPlaceholderText(u"choose user"_s);
+    ui.txtUserName->lineEdit()->setPlaceholderText(tr("choose user"));
     timer1_->setObjectName(u"Timer1"_s);
     timer2_->setObjectName(u"Timer2"_s);
     timer3_->setObjectName(u"Timer3"_s);
@@ -60,7 +58,7 @@ void frmLogin::Form_Load() {
         StartUp();
     } catch (const values::Error& error) {
         if (error.Number() == store::HeldExclusively) {
-            forms::Tell(u"Program VELTON already run."_s);
+            forms::Tell(tr("Program VELTON already run."));
             forms::EndProgram();
         }
         forms::Inform(forms::ErrorText(error), Caption());
@@ -70,7 +68,7 @@ void frmLogin::Form_Load() {
 
 void frmLogin::StartUp() {
     if (!LockFolder(output::ProgramFolder())) {
-        forms::Tell(u"VELTON already works."_s);
+        forms::Tell(tr("VELTON already works."));
         forms::EndProgram();
     }
     TheSettings.DecimalSeparator = static_cast<qint16>(values::DecimalSeparatorChar().unicode());
@@ -117,7 +115,7 @@ void frmLogin::cmdOK_Click() {
     rsUsers_.FindFirst(UserCriteria.arg(name));
     // One answer for both, so that nobody learns which of the two was wrong.
     if (rsUsers_.NoMatch() || rsUsers_[u"Password"].IsNull() || rsUsers_[u"Password"].Text() != ui.txtPassword->text())
-        return forms::Tell(Refused, forms::Icon::Critical, Caption());
+        return forms::Tell(tr("Wrong password.Login not allowed."), forms::Icon::Critical, Caption());
 
     rsUsers_ = MainStore().OpenRecordset(UserQuery.arg(name));
     timer1_->stop();

@@ -17,7 +17,7 @@ namespace {
 
 struct Entry {
     const char16_t* name;
-    const char16_t* caption;  // null: a separator
+    QString caption;  // null: a separator
 };
 
 struct Menu {
@@ -25,53 +25,58 @@ struct Menu {
     std::vector<Entry> entries;
 };
 
-const std::vector<Menu> Menus = {
-    {{u"mnuDatabase", u"&Products"},
-     {{u"cmdNoviArtikal", u"New Product"},
-      {u"mnuProducts", u"View - Edit - Delete Products"},
-      {u"cmdlin10", nullptr},
-      {u"mnuStanjeArtikala", u"Items in stock"},
-      {u"mnuPopis", u"Products list"}}},
-    {{u"mnuRac", u"&Invoices"}, {{u"mnuPregledRacuna", u"Search Invoice"}, {u"mnuListRacun", u"Invoices"}}},
-    {{u"mnuZakljucak", u"&End Report"},
-     {{u"mnuTrenutnoKasa", u"End Report ..."},
-      {u"mnuPregledZakljucaka1", u"Preview End Reports"},
-      {u"mnuPregledZakljucaka", u"Preview End Reports "}}},
-    {{u"mnuPodesavanje", u"&Settings"},
-     {{u"mnuPOSOprema", u"Program"},
-      {u"mnuRacuna", u"Invoice"},
-      {u"mnuProgram", u"Invoice deatails"},
-      {u"cmdKliktabla", u"Click Table"},
-      {u"cmdlin1", nullptr},
-      {u"mnuUsers", u"Users"},
-      {u"mnuLozinka", u"Password"},
-      {u"mnuLin2", nullptr},
-      {u"mnuPorez", u"Taxes"},
-      {u"cmdFirma", u"My Firm"},
-      {u"mnuKupci", u"Customers - Suppliers"}}},
-    {{u"mnuView", u"&Reports"},
-     {{u"mnuProdajaPR", u"Sale by Invoices"},
-      {u"mnuProdajaPoKasiru", u"Sale by Cashiers"},
-      {u"mnuPreProducts", u"Sale by Products"},
-      {u"mnuCrta1", nullptr},
-      {u"mnuKIF", u"Invoices for tax report"},
-      {u"mnuPorezPoRacunima", u"Tax Report by Invoices"},
-      {u"mnuPorezPoStopama", u"TAX Report"},
-      {u"mnuCrta3", nullptr},
-      {u"mnuTrakaRacuna", u"Printed Invoices Ribbon"},
-      {u"mnuCrta2", nullptr},
-      {u"mnuViewUsersTable", u"Working Time "}}},
-    {{u"mnuFiskalni", u"&Fiscal printer"},
-     {{u"cmdUplatadepozita", u"Deposit - payment "},
-      {u"cmdIsplatadepozita", u"Deposit - payout"},
-      {u"mnuCrta5", nullptr},
-      {u"cmdXizvjestaj", u"X report - Overview"},
-      {u"cmdZizvjestaj", u"Z report - Daily report"},
-      {u"mnuCrta6", nullptr},
-      {u"cmdPeriodicniIzvjestaj", u"Fiscal Periodic Report"},
-      {u"cmdReklamiranjeRacuna", u"Invoice Reclamation"}}},
-    {{u"mnuHelp", u"&Help"}, {{u"mnuHelp1", u"Help"}, {u"mnuAbout", u"About program"}}},
-};
+// In the language that is chosen when they are built.
+std::vector<Menu> Menus() {
+    return {
+        {{u"mnuDatabase", mdiORVA::tr("&Products")},
+         {{u"cmdNoviArtikal", mdiORVA::tr("New Product")},
+          {u"mnuProducts", mdiORVA::tr("View - Edit - Delete Products")},
+          {u"cmdlin10", {}},
+          {u"mnuStanjeArtikala", mdiORVA::tr("Items in stock")},
+          {u"mnuPopis", mdiORVA::tr("Products list")}}},
+        {{u"mnuRac", mdiORVA::tr("&Invoices")},
+         {{u"mnuPregledRacuna", mdiORVA::tr("Search Invoice")}, {u"mnuListRacun", mdiORVA::tr("Invoices")}}},
+        {{u"mnuZakljucak", mdiORVA::tr("&End Report")},
+         {{u"mnuTrenutnoKasa", mdiORVA::tr("End Report ...")},
+          {u"mnuPregledZakljucaka1", mdiORVA::tr("Preview End Reports")},
+          {u"mnuPregledZakljucaka", mdiORVA::tr("Preview End Reports ")}}},
+        {{u"mnuPodesavanje", mdiORVA::tr("&Settings")},
+         {{u"mnuPOSOprema", mdiORVA::tr("Program")},
+          {u"mnuRacuna", mdiORVA::tr("Invoice")},
+          {u"mnuProgram", mdiORVA::tr("Invoice deatails")},
+          {u"cmdKliktabla", mdiORVA::tr("Click Table")},
+          {u"cmdlin1", {}},
+          {u"mnuUsers", mdiORVA::tr("Users")},
+          {u"mnuLozinka", mdiORVA::tr("Password")},
+          {u"mnuLin2", {}},
+          {u"mnuPorez", mdiORVA::tr("Taxes")},
+          {u"cmdFirma", mdiORVA::tr("My Firm")},
+          {u"mnuKupci", mdiORVA::tr("Customers - Suppliers")}}},
+        {{u"mnuView", mdiORVA::tr("&Reports")},
+         {{u"mnuProdajaPR", mdiORVA::tr("Sale by Invoices")},
+          {u"mnuProdajaPoKasiru", mdiORVA::tr("Sale by Cashiers")},
+          {u"mnuPreProducts", mdiORVA::tr("Sale by Products")},
+          {u"mnuCrta1", {}},
+          {u"mnuKIF", mdiORVA::tr("Invoices for tax report")},
+          {u"mnuPorezPoRacunima", mdiORVA::tr("Tax Report by Invoices")},
+          {u"mnuPorezPoStopama", mdiORVA::tr("TAX Report")},
+          {u"mnuCrta3", {}},
+          {u"mnuTrakaRacuna", mdiORVA::tr("Printed Invoices Ribbon")},
+          {u"mnuCrta2", {}},
+          {u"mnuViewUsersTable", mdiORVA::tr("Working Time ")}}},
+        {{u"mnuFiskalni", mdiORVA::tr("&Fiscal printer")},
+         {{u"cmdUplatadepozita", mdiORVA::tr("Deposit - payment ")},
+          {u"cmdIsplatadepozita", mdiORVA::tr("Deposit - payout")},
+          {u"mnuCrta5", {}},
+          {u"cmdXizvjestaj", mdiORVA::tr("X report - Overview")},
+          {u"cmdZizvjestaj", mdiORVA::tr("Z report - Daily report")},
+          {u"mnuCrta6", {}},
+          {u"cmdPeriodicniIzvjestaj", mdiORVA::tr("Fiscal Periodic Report")},
+          {u"cmdReklamiranjeRacuna", mdiORVA::tr("Invoice Reclamation")}}},
+        {{u"mnuHelp", mdiORVA::tr("&Help")},
+         {{u"mnuHelp1", mdiORVA::tr("Help")}, {u"mnuAbout", mdiORVA::tr("About program")}}},
+    };
+}
 
 mdiORVA* mainWindow = nullptr;
 
@@ -102,11 +107,11 @@ mdiORVA::mdiORVA() {
 mdiORVA::~mdiORVA() = default;
 
 void mdiORVA::BuildMenu() {
-    for (const Menu& table : Menus) {
-        QMenu* menu = menuBar()->addMenu(QString::fromUtf16(table.head.caption));
+    for (const Menu& table : Menus()) {
+        QMenu* menu = menuBar()->addMenu(table.head.caption);
         menu->setObjectName(QString::fromUtf16(table.head.name));
         for (const Entry& entry : table.entries) {
-            QAction* action = entry.caption ? menu->addAction(QString::fromUtf16(entry.caption)) : menu->addSeparator();
+            QAction* action = entry.caption.isNull() ? menu->addSeparator() : menu->addAction(entry.caption);
             const QString name = QString::fromUtf16(entry.name);
             action->setObjectName(name);
             connect(action, &QAction::triggered, this, [this, name] { forms::Run([&] { Choose(name); }, Caption()); });
@@ -128,12 +133,12 @@ void mdiORVA::BuildStatusBar() {
             statusBar()->addPermanentWidget(panel);
     }
     panels_[0]->setText(u"VELTON"_s);
-    panels_[3]->setText(u"Total: >>"_s);
+    panels_[3]->setText(tr("Total: >>"));
 }
 
 void mdiORVA::Timer1_Timer() {
-    panels_[1]->setText(u"Time: "_s + values::Format(values::TimeNow(), u"hh:mm:ss"));
-    panels_[2]->setText(u"Date: "_s + values::Format(values::Today(), u"dd.mm.yyyy"));
+    panels_[1]->setText(tr("Time: %1").arg(values::Format(values::TimeNow(), u"hh:mm:ss")));
+    panels_[2]->setText(tr("Date: %1").arg(values::Format(values::Today(), u"dd.mm.yyyy")));
 }
 
 void mdiORVA::Choose(const QString& name) {
@@ -150,7 +155,7 @@ void mdiORVA::SetEntryEnabled(const QString& name, bool enabled) {
     else if (auto* action = findChild<QAction*>(name))
         action->setEnabled(enabled);
     else
-        throw values::Error(values::NotSupported, u"The main window has no entry %1."_s.arg(name));
+        throw values::Error(values::NotSupported, tr("The main window has no entry %1.").arg(name));
 }
 
 void mdiORVA::ApplyAccessLevel(const QString& accLevel) {

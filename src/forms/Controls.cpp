@@ -14,15 +14,14 @@
 #include "forms/OneLine.h"
 #include "forms/Pictures.h"
 #include "forms/TextView.h"
+#include "forms/Words.h"
 #include "values/Error.h"
-
-using namespace Qt::StringLiterals;
 
 namespace forms {
 
 void ThrowNoControl(const QWidget* form, QStringView name) {
-    if (!form) throw values::Error(values::NoObject, u"The screen that shows %1 is closed."_s.arg(name));
-    throw values::Error(values::NotSupported, u"%1 has no control %2."_s.arg(form->objectName(), name));
+    if (!form) throw values::Error(values::NoObject, Words::tr("The screen that shows %1 is closed.").arg(name));
+    throw values::Error(values::NotSupported, Words::tr("%1 has no control %2.").arg(form->objectName(), name));
 }
 
 QString TextOf(const QWidget* control) {

@@ -192,7 +192,7 @@ void KeypadPanel::AddCommon(QRect back, QRect close, QRect enter) {
     key = Add(u"keyClose"_s, {}, close);
     key->setIcon(Picture(Sign::Close));
     connect(key, &QPushButton::clicked, this, &KeypadPanel::Closed);
-    key = Add(u"keyEnter"_s, u"Enter"_s, enter);
+    key = Add(u"keyEnter"_s, tr("Enter"), enter);
     key->setProperty("role", u"main"_s);
     connect(key, &QPushButton::clicked, this, [this] { Q_EMIT Typed(Qt::Key_Return, u"\r"_s); });
 }

@@ -14,8 +14,6 @@
 #include "forms/Tokens.h"
 #include "values/Error.h"
 
-using namespace Qt::StringLiterals;
-
 namespace forms {
 
 namespace {
@@ -125,7 +123,7 @@ int ListView::Selected() const {
 
 QString ListView::SelectedText(int column) const {
     const int row = Selected();
-    if (row < 0) throw values::Error(values::NoObject, u"No row of the list is selected."_s);
+    if (row < 0) throw values::Error(values::NoObject, tr("No row of the list is selected."));
     return Text(row, column);
 }
 

@@ -70,7 +70,7 @@ QWidget* WindowInFront() {
 
 }  // namespace
 
-LongWork::LongWork(QWidget* form) : LongWork(form, u"This takes a while ..."_s, NoticeAfterWork) {}
+LongWork::LongWork(QWidget* form) : LongWork(form, tr("This takes a while ..."), NoticeAfterWork) {}
 
 LongWork::LongWork(const QString& waitsFor, QWidget* form) : LongWork(form, waitsFor, NoticeAfterWait) {}
 
@@ -146,7 +146,7 @@ void LongWork::ShowNotice() {
     text->setProperty("role", u"strong"_s);
     text->setTextFormat(Qt::PlainText);
     text->setAlignment(Qt::AlignCenter);
-    auto* leave = new QPushButton(u"ESC-Leave"_s, notice);
+    auto* leave = new QPushButton(tr("ESC-Leave"), notice);
     leave->setObjectName(u"cmdLeave"_s);
     leave->setFocusPolicy(Qt::NoFocus);
     connect(leave, &QPushButton::clicked, this, [this] { left_ = true; });

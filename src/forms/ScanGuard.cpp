@@ -105,7 +105,7 @@ void ScanGuard::Refuse() {
     refused_ << (code.size() > ShownLength ? code.first(ShownLength) + u'…' : code);
     burst_.EndCode();
     const auto last = refused_.last(qMin(refused_.size(), qsizetype{ShownCodes}));
-    box_->setInformativeText(u"Not taken: "_s + last.join(u", "_s));
+    box_->setInformativeText(tr("Not taken: %1").arg(last.join(u", "_s)));
     if (auto* label = box_->findChild<QLabel*>(u"qt_msgbox_informativelabel"_s)) {
         label->setProperty("role", u"strong"_s);
         label->setTextFormat(Qt::PlainText);

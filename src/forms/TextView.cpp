@@ -11,8 +11,6 @@
 #include "forms/Tokens.h"
 #include "values/FileError.h"
 
-using namespace Qt::StringLiterals;
-
 namespace forms {
 
 namespace {
@@ -47,7 +45,7 @@ void TextView::ShowText(const QString& text) {
     Clear();
     QTemporaryFile file;
     if (!file.open() || file.write(text.toUtf8()) < 0 || !file.flush())
-        throw values::FileError(file, u"write a file"_s);
+        throw values::FileError(values::NumberOfFailure(file), tr("Cannot write a file: %1").arg(file.errorString()));
     SetDecoder([](const QByteArray& line) { return QString::fromUtf8(line); });
     Open(file.fileName());
 }

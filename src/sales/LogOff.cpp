@@ -7,6 +7,7 @@
 #include "forms/Form.h"
 #include "forms/MsgBox.h"
 #include "reports/EndReport.h"
+#include "sales/SalesWords.h"
 #include "sales/frmORVAtouch.h"
 #include "values/Clock.h"
 #include "values/DateText.h"
@@ -23,8 +24,8 @@ void MakeEndReport() {
     const qint16 last = LastEndReportNumber();
     if (auto* screen = forms::FindForm(u"frmORVAtouch")) screen->Unload();
     CloseOpenPeriods(now.date(), time, last);
-    forms::Tell(u"End Report is done?"_s, forms::Icon::Warning,
-                u"End Report "_s + values::DateText(now.date()) + u" "_s + values::TimeText(time));
+    forms::Tell(SalesWords::tr("End Report is done?"), forms::Icon::Warning,
+                SalesWords::tr("End Report %1 %2").arg(values::DateText(now.date()), values::TimeText(time)));
 }
 
 void CompleteLogin() {
@@ -45,7 +46,8 @@ void LogOff() {
     const QString title = mdiORVA::Window().Caption();
     constexpr bool fatal = true;
     bool goesOn = true;
-    if (TheSettings.PonudiZakljucak && forms::Ask(u"Do you want to make End Report?"_s, u"End Report? YES or NO"_s)) {
+    if (TheSettings.PonudiZakljucak &&
+        forms::Ask(SalesWords::tr("Do you want to make End Report?"), SalesWords::tr("End Report? YES or NO"))) {
         goesOn = false;
         forms::Run(
             [&] {
@@ -54,7 +56,7 @@ void LogOff() {
             },
             title);
     }
-    if (goesOn && forms::Ask(u"Close the program?"_s, u"END OF WORK"_s)) {
+    if (goesOn && forms::Ask(SalesWords::tr("Close the program?"), SalesWords::tr("END OF WORK"))) {
         // A row that somebody cleared away must not keep the program from ending.
         forms::Run(CompleteLogin, title, fatal);
         forms::EndProgram(forms::ProgramExitCode());

@@ -44,8 +44,8 @@ bool frmChangeUser::PasswordFits(store::Recordset& user) const {
 void frmChangeUser::cmdOK_Click() {
     const QString name = ui.txtUserName->currentText();
     rsUsers_.FindFirst(UserCriteria.arg(name));
-    if (rsUsers_.NoMatch()) return forms::Tell(u"Nonexistent user."_s, forms::Icon::Critical, Caption());
-    if (!PasswordFits(rsUsers_)) return forms::Tell(u"Wrong password."_s, forms::Icon::Critical, Caption());
+    if (rsUsers_.NoMatch()) return forms::Tell(tr("Nonexistent user."), forms::Icon::Critical, Caption());
+    if (!PasswordFits(rsUsers_)) return forms::Tell(tr("Wrong password."), forms::Icon::Critical, Caption());
     rsUsers_ = MainStore().OpenRecordset(UserQuery.arg(name));
     forms::Form* screen = mdiORVA::Window().ActiveChild();
     forms::SetText(forms::Control(screen, u"cboID"), rsUsers_[u"UserID"].TextOrEmpty());

@@ -8,7 +8,6 @@
 #include "values/Format.h"
 #include "values/Numbers.h"
 
-using namespace Qt::StringLiterals;
 using values::CMoney;
 using values::Format;
 
@@ -33,7 +32,7 @@ void frmMSGinvoice::txtCash_Enter() {
     if (!values::IsNumeric(ui.txtCash->text())) return;
     ui.txtChange->setText(Format(CMoney(ui.txtCash->text()) - CMoney(ui.txtTotal->text()), u"0.00"));
     if (CMoney(ui.txtChange->text()) >= values::Money()) return forms::SendTab(ui.txtCash);
-    forms::Inform(u"The amount is less than the invoice amount."_s, mdiORVA::Window().Caption());
+    forms::Inform(tr("The amount is less than the invoice amount."), mdiORVA::Window().Caption());
     ui.txtCash->setFocus();
     forms::SelectAll(ui.txtCash);
     ui.txtChange->clear();

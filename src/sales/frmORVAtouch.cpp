@@ -31,8 +31,6 @@ const auto PeriodQuery = u"SELECT * FROM Sales WHERE SalesID = '%1'"_s;
 const auto LastInvoiceQuery = u"SELECT Max(Val([InvoiceID])) AS [current] FROM Invoices"_s;
 const auto LastOrNoQuery = u"SELECT orNo FROM Invoices WHERE InvoiceID = '%1'"_s;
 
-const auto NewCaption = u"F5-New"_s;
-const auto PrintCaption = u"F5-Print"_s;
 const auto RunningTotalPattern = u"###,###,##0.00"_s;
 
 }  // namespace
@@ -215,10 +213,10 @@ qint32 frmORVAtouch::Next(qint32 number) {
 }
 
 void frmORVAtouch::cmdNew_Click() {
-    if (ui.cmdNew->text() == NewCaption) return OpenInvoice();
-    if (ui.cboID->currentText().isEmpty()) return forms::Inform(u"Choose cashier."_s, mdiORVA::Window().Caption());
+    if (!isOpen_) return OpenInvoice();
+    if (ui.cboID->currentText().isEmpty()) return forms::Inform(tr("Choose cashier."), mdiORVA::Window().Caption());
     if (ui.lv1->Count() == 0) {
-        forms::Inform(u"You did not enter a single item on the invoice."_s, mdiORVA::Window().Caption());
+        forms::Inform(tr("You did not enter a single item on the invoice."), mdiORVA::Window().Caption());
         ui.txtProdCode->setFocus();
         forms::SelectAll(ui.txtProdCode);
         return;
@@ -231,13 +229,13 @@ void frmORVAtouch::OpenInvoice() {
     ui.txtORNumber->setText(QString::number(Next(RacunOrNo)));
     EnableWork(true);
     if (ui.txtProdCode->isEnabled()) ui.txtProdCode->setFocus();
-    ui.txtPosDisplay->setText(u"New Invoice"_s);
-    ShowOnButton(PrintCaption, u"\\images\\printer.gif"_s);
+    ui.txtPosDisplay->setText(tr("New Invoice"));
+    ShowOpen(true);
 }
 
 void frmORVAtouch::CloseInvoice() {
     EnableWork(false);
-    ShowOnButton(NewCaption, u"\\images\\pisi.gif"_s);
+    ShowOpen(false);
 }
 
 // The panel of the entry stands beside the frame that it belongs to, since a low screen has it above both columns.
@@ -247,14 +245,16 @@ void frmORVAtouch::EnableWork(bool enabled) {
     ui.Frame3->setEnabled(enabled);
 }
 
-void frmORVAtouch::ShowOnButton(const QString& caption, const QString& picture) {
-    ui.cmdNew->setText(caption);
+void frmORVAtouch::ShowOpen(bool isOpen) {
+    isOpen_ = isOpen;
+    ui.cmdNew->setText(isOpen ? tr("F5-Print") : tr("F5-New"));
+    const QString picture = isOpen ? u"\\images\\printer.gif"_s : u"\\images\\pisi.gif"_s;
     forms::LoadPicture(ui.cmdNew, output::InProgramFolder(picture));
     ui.cmdNew->update();
 }
 
 void frmORVAtouch::cmdESCponisti_Click() {
-    if (!forms::Ask(u"Do you want cancel the invoice?"_s, mdiORVA::Window().Caption())) return;
+    if (!forms::Ask(tr("Do you want cancel the invoice?"), mdiORVA::Window().Caption())) return;
     ui.lv1->Clear();
     for (QLineEdit* box :
          {ui.txtProdCode, ui.txtTotalAmount, ui.txtTaxTotal, ui.txtInvoiceNumber, ui.txtORNumber, ui.txtKupac, ui.txtIB,
@@ -309,7 +309,7 @@ void frmORVAtouch::Command2_Click(int index) {
     if (code.isEmpty()) return;
     ShowAnew(code);
     if (ui.txtDescription->text().isEmpty()) {
-        Refuse(u"Product has meanwhile been deleted or does not exist."_s, {}, forms::Icon::None);
+        Refuse(tr("Product has meanwhile been deleted or does not exist."), {}, forms::Icon::None);
         ui.txtProdCode->clear();
         return;
     }

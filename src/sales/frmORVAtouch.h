@@ -18,8 +18,8 @@ class Burst;
 // Goods in this unit are counted, all others weighed or measured.
 inline const QString PiecesUnit = QStringLiteral("pcs");
 
-// The sales screen: the invoice from opening to posting. The invoice in progress lives in these controls alone; the
-// state of the screen is the caption of cmdNew.
+// The sales screen: the invoice from opening to posting. The invoice in progress lives in these controls alone; whether
+// there is one is what cmdNew shows.
 class frmORVAtouch : public forms::Form {
     Q_OBJECT
     Q_PROPERTY(int RacunOrNo MEMBER RacunOrNo)
@@ -51,7 +51,7 @@ private:
     void OpenInvoice();
     void CloseInvoice();
     void EnableWork(bool enabled);
-    void ShowOnButton(const QString& caption, const QString& picture);
+    void ShowOpen(bool isOpen);
     void cmdESCponisti_Click();
     void txtUserFullName_Change();
     void cmdPrijava_Click();
@@ -103,6 +103,7 @@ private:
     SalesLayout layout_{ui};
     LineBoxes boxes_;
     forms::Flash* display_ = nullptr;
+    bool isOpen_ = false;  // cmdNew posts the invoice; else it opens one
 
     qint32 RacunBroj_ = 0;
     qint16 SalesPeriodID_ = 0;

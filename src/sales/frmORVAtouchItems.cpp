@@ -16,7 +16,10 @@ using values::CMoney;
 
 namespace {
 
-const auto UnknownProduct = u"Product with this ID-barcode does not exist."_s;
+QString UnknownProduct() {
+    return frmORVAtouch::tr("Product with this ID-barcode does not exist.");
+}
+
 // Printed on a card at the till: posts the invoice without touching the keyboard.
 const auto PostingBarcode = u"9999999999994"_s;
 
@@ -61,7 +64,7 @@ void frmORVAtouch::txtProdCode_LostFocus() {
 
 void frmORVAtouch::CheckProductFound() {
     if (ui.txtProdCode->text().isEmpty() || !ui.txtDescription->text().isEmpty()) return;
-    Refuse(UnknownProduct, mdiORVA::Window().Caption());
+    Refuse(UnknownProduct(), mdiORVA::Window().Caption());
     ui.txtProdCode->clear();
 }
 
@@ -75,7 +78,7 @@ void frmORVAtouch::txtProdCode_Enter() {
     if (code.isEmpty()) return;
     auto product = LineBoxes::Find(code);
     if (product.AtEOF()) {
-        Refuse(UnknownProduct, u"Product with this ID-barcode does not exist"_s);
+        Refuse(UnknownProduct(), tr("Product with this ID-barcode does not exist"));
         ui.txtProdCode->setFocus();
         forms::SelectAll(ui.txtProdCode);
         return;
@@ -107,7 +110,7 @@ void frmORVAtouch::txtQuantity_Change() {
             (this->*step)();
         } catch (const values::Error& error) {
             if (error.Number() != values::Overflow) continue;
-            Refuse(u"Illogical quantity. "_s, u"CHANGE QUANTITY"_s);
+            Refuse(tr("Illogical quantity. "), tr("CHANGE QUANTITY"));
             ui.txtQuantity->setText(u"0"_s);
             ui.txtQuantity->clear();
             ui.txtQuantity->setCursorPosition(0);

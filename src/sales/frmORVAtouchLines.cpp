@@ -88,7 +88,8 @@ void frmORVAtouch::ShowCount() {
         const bool isCounted = ui.lv1->Text(row, Unit) == PiecesUnit;
         pieces += isCounted ? CDouble(ui.lv1->Text(row, Quantity)) : 1;
     }
-    ui.lblCount->setText(lines == 0 ? QString() : u"Lines: %1   Pieces: %2"_s.arg(lines).arg(Format(pieces, u"")));
+    ui.lblCount->setText(lines == 0 ? QString()
+                                    : tr("Lines: %1   Pieces: %2").arg(QString::number(lines), Format(pieces, u"")));
     forms::SetRole(ui.lvPorez, lines == 0 ? u"stale"_s : QString());
 }
 

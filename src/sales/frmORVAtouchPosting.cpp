@@ -14,7 +14,6 @@
 #include "values/Format.h"
 #include "values/Numbers.h"
 
-using namespace Qt::StringLiterals;
 using values::CMoney;
 
 void frmORVAtouch::PostInvoice() {
@@ -97,15 +96,17 @@ void frmORVAtouch::StoreLinesAndPeriod(store::Burst& burst, forms::LongWork& wai
             // It is told what came first.
         }
         const QString stays =
-            u"Invoice %1 is stored with %2 of its %3 lines. These stay, and so does the stock taken off."_s;
-        throw values::Error(error.Number(), error.Description() + u'\n' +
-                                                stays.arg(ui.txtInvoiceNumber->text()).arg(stored).arg(lines));
+            tr("Invoice %1 is stored with %2 of its %3 lines. These stay, and so does the stock taken off.")
+                .arg(ui.txtInvoiceNumber->text(), QString::number(stored), QString::number(lines));
+        throw values::Error(error.Number(), error.Description() + u'\n' + stays);
     }
 }
 
 values::Error frmORVAtouch::MayBeStored(const values::Error& lost) const {
-    const auto words = u"Invoice %1 may be stored whole, in part or not at all: look it up before you post it again."_s;
-    return {lost.Number(), lost.Description() + u'\n' + words.arg(ui.txtInvoiceNumber->text())};
+    const QString mayBe =
+        tr("Invoice %1 may be stored whole, in part or not at all: look it up before you post it again.")
+            .arg(ui.txtInvoiceNumber->text());
+    return {lost.Number(), lost.Description() + u'\n' + mayBe};
 }
 
 void frmORVAtouch::StoreLine(int row, forms::LongWork& wait) {
@@ -129,5 +130,5 @@ void frmORVAtouch::StoreLine(int row, forms::LongWork& wait) {
 // A sale must not lose its stock for a lock that goes away, nor hold the cashier for an error that stays.
 void frmORVAtouch::WaitForStock(int row, forms::LongWork& wait, const values::Error& why) const {
     const QString goods = ui.lv1->Text(row, InvoiceText::Item::Description);
-    if (!wait.GoesOn(u"The stock of %1 can't be written yet. %2"_s.arg(goods, why.Description()))) throw why;
+    if (!wait.GoesOn(tr("The stock of %1 can't be written yet. %2").arg(goods, why.Description()))) throw why;
 }
