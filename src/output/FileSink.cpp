@@ -88,9 +88,9 @@ std::unique_ptr<Sink> OpenFile(const QString& path, int flags) {
     const int descriptor = Open(path, flags | O_WRONLY | O_CREAT);
     if (descriptor < 0) ThrowOsError(Words::tr("Cannot open %1: %2."), path, errno);
     if (IsRegular(descriptor)) return std::make_unique<FileSink>(descriptor, path);
-    return std::make_unique<DeviceSink>(descriptor,
-                                        WaitWords{Words::tr("Cannot write to %1: %2."), path,
-                                                  Words::tr("Waiting for %1, which takes nothing now.").arg(path)});
+    return std::make_unique<DeviceSink>(
+        descriptor, WaitWords{Words::tr("Cannot write to %1: %2."),
+                              Words::tr("Waiting for %1, which takes nothing now.").arg(path), path});
 }
 
 bool IsCharacterDevice(const QString& path) {
@@ -123,7 +123,7 @@ std::unique_ptr<Sink> OpenDevice(const QString& path, const Port& port) {
     if (descriptor < 0)
         ThrowOsError(Words::tr("Cannot open the printer %1: %2."), path, errno == ENOENT ? ENODEV : errno);
     return std::make_unique<DeviceSink>(
-        descriptor, WaitWords{Words::tr("Cannot write to the printer %1: %2."), path, WaitsForPrinter(port.name, path)},
+        descriptor, WaitWords{Words::tr("Cannot write to the printer %1: %2."), WaitsForPrinter(port.name, path), path},
         isAsked);
 }
 

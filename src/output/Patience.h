@@ -18,8 +18,8 @@ void SetPatience(std::function<Patience()> begin);
 // the user is told meanwhile.
 struct WaitWords {
     QString error;
-    QString name;
     QString waitsFor;
+    QString name = {};
 };
 
 // What the user is told of a printer that takes its time; `where` is its device or address.

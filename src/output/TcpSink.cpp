@@ -42,7 +42,7 @@ public:
 private:
     [[noreturn]] void Fail(int errnoValue) const { ThrowOsError(WriteWords(), name_, errnoValue); }
     static QString WriteWords() { return Words::tr("Cannot write to the printer %1: %2."); }
-    WaitWords WordsOfWait() const { return {WriteWords(), name_, WaitsForPrinter(port_.name, name_)}; }
+    WaitWords WordsOfWait() const { return {WriteWords(), WaitsForPrinter(port_.name, name_), name_}; }
     int PendingError() const;
     int UntakenBytes() const;
     bool PeerHasHungUp() const;
@@ -157,7 +157,7 @@ Addresses AddressesOf(const QString& host, quint16 number, const WaitWords& word
 
 std::unique_ptr<Sink> ConnectTo(const QString& host, quint16 number, const Port& port) {
     const QString name = host + u':' + QString::number(number);
-    const WaitWords words{ReachWords(), name, WaitsForPrinter(port.name, name)};
+    const WaitWords words{ReachWords(), WaitsForPrinter(port.name, name), name};
     const Addresses addresses = AddressesOf(host, number, words);
     if (!addresses)
         throw OutputError(values::DeviceUnavailable, Words::tr("The printer %1 has no known address.").arg(name));
