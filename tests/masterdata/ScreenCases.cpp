@@ -24,17 +24,13 @@ forms::ListView& List(ScreenCase& at) {
 
 // Products with the codes FROM to TO behind those of the shop, of one name, at 1.00.
 void AddProducts(ScreenCase& at, const QString& rest, const Step&) {
+    const QStringList words = rest.split(u' ');
+    QStringList rows;
+    for (int code = words[0].toInt(); code <= words[1].toInt(); ++code)
+        rows += u"ProdCode=%1 | ProdDescription=%2 | UnitPrice=1"_s.arg(code).arg(words.value(2));
     const auto main = at.OpenMain();
     store::Database::Batch batch(*main);
-    auto products = main->OpenRecordset(u"SELECT * FROM Products"_s);
-    const QStringList words = rest.split(u' ');
-    for (int code = words[0].toInt(); code <= words[1].toInt(); ++code) {
-        products.AddNew();
-        products[u"ProdCode"] = QString::number(code);
-        products[u"ProdDescription"] = words.value(2);
-        products[u"UnitPrice"] = 1;
-        products.Update();
-    }
+    drivers::AddRows(*main, u"Products"_s, rows);
     batch.Commit();
 }
 

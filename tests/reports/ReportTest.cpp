@@ -165,13 +165,7 @@ TEST_F(ReportTest, AReportReadsOneMomentWhileAnotherRegisterSells) {
     constexpr int periods = 3000;
     {
         store::Database::Batch batch(MainStore());
-        auto sales = MainStore().OpenRecordset(u"SELECT * FROM Sales"_s);
-        for (int number = 0; number < periods; ++number) {
-            sales.AddNew();
-            sales[u"DateGenerated"] = QDate(2026, 12, 1);
-            sales[u"TotalSales"] = values::CMoney(u"0"_s);
-            sales.Update();
-        }
+        drivers::AddRows(MainStore(), u"Sales"_s, QStringList(periods, u"DateGenerated=12/1/2026 | TotalSales=0"_s));
         batch.Commit();
     }
     forms::Form& form = ShowReport(u"frmZakljucakPregled"_s);

@@ -71,12 +71,9 @@ TEST_F(CrashTest, KillingAnEndReportLeavesEachPeriodEitherOpenOrClosedAsAWhole) 
     {
         const auto main = OpenMain();
         store::Database::Batch batch(*main);
-        auto sales = main->OpenRecordset(u"SELECT * FROM Sales"_s);
-        for (int number = 1; number <= periods; ++number) {
-            sales.AddNew();
-            sales[u"SalesID"] = QString::number(number);
-            sales.Update();
-        }
+        QStringList rows;
+        for (int number = 1; number <= periods; ++number) rows += u"SalesID=%1"_s.arg(number);
+        drivers::AddRows(*main, u"Sales"_s, rows);
         batch.Commit();
     }
     const QStringList closing{folder.path(), u"close"_s};

@@ -43,7 +43,7 @@ protected:
 TEST_F(DurabilityTest, ABatchIsAllOrNone) {
     AddTaxes({u"A"_s});
     const auto other = OpenAgain();
-    const auto seen = [&] { return Column(*other, u"SELECT TaxID FROM Tax"_s).size(); };
+    const auto seen = [&] { return RowsOf(*other, u"SELECT TaxID FROM Tax"_s).size(); };
     {
         Database::Batch batch(*store);
         AddTaxes({u"B"_s, u"C"_s});
@@ -75,7 +75,7 @@ TEST_F(DurabilityTest, BurstsMayBeEmptyNestedAndMixedWithBatches) {
             inner.End();
         }
         AddTaxes({u"C"_s});
-        EXPECT_EQ(Column(*other, u"SELECT TaxID FROM Tax"_s).size(), 3) << "commits of a burst are seen at once";
+        EXPECT_EQ(RowsOf(*other, u"SELECT TaxID FROM Tax"_s).size(), 3) << "commits of a burst are seen at once";
         Database::Batch batch(*store);
         AddTaxes({u"D"_s});
         batch.Commit();
@@ -95,7 +95,7 @@ TEST_F(DurabilityTest, BurstsMayBeEmptyNestedAndMixedWithBatches) {
         batch.Commit();
     }
     AddTaxes({u"G"_s});
-    EXPECT_EQ(Column(*other, u"SELECT TaxID FROM Tax"_s).size(), 7);
+    EXPECT_EQ(RowsOf(*other, u"SELECT TaxID FROM Tax"_s).size(), 7);
 }
 
 TEST_F(DurabilityTest, AKilledProcessLosesNothingThatWasAcknowledged) {
@@ -124,7 +124,7 @@ TEST_F(DurabilityTest, AKilledProcessLosesNothingThatWasAcknowledged) {
 
         store = OpenAgain();
         EXPECT_TRUE(store->CheckIntegrity().empty());
-        const qsizetype stored = Column(u"SELECT InvoiceID FROM Invoices"_s).size();
+        const qsizetype stored = Rows(u"SELECT InvoiceID FROM Invoices"_s).size();
         EXPECT_GE(stored, number);
         EXPECT_LE(stored, number + 1) << "only the one in work may be there without an acknowledgement";
         last = static_cast<int>(stored);
@@ -155,7 +155,7 @@ TEST_F(DurabilityTest, EightRegistersSellOneProductToTheLastPiece) {
         }));
     for (const pid_t child : children) EXPECT_EQ(ExitOf(child), 0);
     store = OpenAgain();
-    EXPECT_EQ(Column(u"SELECT Qty FROM Products"_s), QStringList{u"-60"_s});
+    EXPECT_EQ(Rows(u"SELECT Qty FROM Products"_s), QStringList{u"-60"_s});
 }
 
 TEST_F(DurabilityTest, ABackupIsOfOneMomentWhileOthersWrite) {
@@ -172,7 +172,7 @@ TEST_F(DurabilityTest, ABackupIsOfOneMomentWhileOthersWrite) {
         }
     });
     store = OpenAgain();
-    while (Column(u"SELECT Max(Val(InvoiceID)) FROM Invoices"_s).first().toInt() < 50)
+    while (Rows(u"SELECT Max(Val(InvoiceID)) FROM Invoices"_s).first().toInt() < 50)
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
     int before = 0;
     for (int i = 0; i < 5; ++i) {
@@ -181,8 +181,8 @@ TEST_F(DurabilityTest, ABackupIsOfOneMomentWhileOthersWrite) {
         EXPECT_FALSE(QFile::exists(path + u"-wal"_s));
         EXPECT_FALSE(QFile::exists(path + u".part"_s));
         const auto copy = Database::Open(path, MainSchema());
-        const auto invoices = Column(*copy, u"SELECT InvoiceID FROM Invoices"_s);
-        EXPECT_EQ(invoices, Column(*copy, u"SELECT InvoiceID FROM SalesDetails"_s));
+        const auto invoices = RowsOf(*copy, u"SELECT InvoiceID FROM Invoices"_s);
+        EXPECT_EQ(invoices, RowsOf(*copy, u"SELECT InvoiceID FROM SalesDetails"_s));
         EXPECT_GE(invoices.size(), before);
         before = static_cast<int>(invoices.size());
     }
@@ -223,7 +223,7 @@ TEST_F(DurabilityTest, ADiskThatTakesNoMoreLosesNothingThatWasStored) {
     }
     EXPECT_GT(stored, 0);
     invoices.Update();
-    EXPECT_EQ(Column(u"SELECT InvoiceID FROM Invoices"_s).size(), stored + 1);
+    EXPECT_EQ(Rows(u"SELECT InvoiceID FROM Invoices"_s).size(), stored + 1);
     EXPECT_TRUE(store->CheckIntegrity().empty());
 }
 
@@ -286,11 +286,11 @@ TEST_F(LostFilesTest, ALostStoreTakesNoMoreAndIsSavedBesideItsPlace) {
         EXPECT_TRUE(isRefused([&] { AddTaxes({u"D"_s}); }));
         EXPECT_TRUE(isRefused([&] { store->Execute(u"DELETE * FROM Tax"_s); }));
         EXPECT_TRUE(isRefused([&] { Database::Batch batch(*store); }));
-        EXPECT_EQ(Column(u"SELECT TaxID FROM Tax"_s), stored) << "reading goes on";
+        EXPECT_EQ(Rows(u"SELECT TaxID FROM Tax"_s), stored) << "reading goes on";
 
         ASSERT_EQ(Saved().size(), 1);
         const auto saved = Database::Open(PathOf(Saved().first()), MainSchema());
-        EXPECT_EQ(Column(*saved, u"SELECT TaxID FROM Tax"_s), stored);
+        EXPECT_EQ(RowsOf(*saved, u"SELECT TaxID FROM Tax"_s), stored);
         const bool isThere = QFile::exists(StorePath());
         store.reset();
         EXPECT_TRUE(!isThere || OpenAgain()->CheckIntegrity().empty());
@@ -305,7 +305,7 @@ TEST_F(LostFilesTest, ACommitOnItsWayIsNotAcknowledged) {
         Remove({u"-wal"_s});
         EXPECT_EQ(ErrorOf([&] { batch.Commit(); }), DiskError);
     }
-    EXPECT_EQ(Column(u"SELECT TaxID FROM Tax"_s), QStringList{u"A"_s});
+    EXPECT_EQ(Rows(u"SELECT TaxID FROM Tax"_s), QStringList{u"A"_s});
     store.reset();
     EXPECT_EQ(Saved().size(), 1);
 }
@@ -329,7 +329,7 @@ TEST_F(LostFilesTest, WithoutRoomForACopyThisIsSaid) {
     store.reset();
     Rename(u"-renamed"_s, {});
     store = OpenAgain();
-    EXPECT_EQ(Column(u"SELECT TaxID FROM Tax"_s), QStringList{u"A"_s});
+    EXPECT_EQ(Rows(u"SELECT TaxID FROM Tax"_s), QStringList{u"A"_s});
 }
 
 TEST_F(LostFilesTest, AnEndWithoutAWriteSavesWhatWasWritten) {

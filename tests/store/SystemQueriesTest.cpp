@@ -30,14 +30,15 @@ protected:
     void FillShop() {
         for (const QString& line : LinesOf(u"small_shop.txt"_s)) {
             const QString table = line.section(u" | "_s, 0, 0);
-            Add(StoreOf(table), table, line.section(u" | "_s, 1));
+            AddRows(StoreOf(table), table, {line.section(u" | "_s, 1)});
         }
     }
 
     // The rows, of an action the number of those that it touched.
     QString AnswerTo(const QString& query) {
         Database& database = StoreOf(query);
-        return IsAction(query) ? QString::number(database.Execute(query)) + u" rows"_s : Rows(database, query);
+        return IsAction(query) ? QString::number(database.Execute(query)) + u" rows"_s
+                               : RowsOf(database, query).join(u'\n');
     }
 
     QStringList queries;
