@@ -86,19 +86,19 @@ TEST_F(HelpTest, LinesFitTheViewAndTheEye) {
 
 [[maybe_unused]] const bool added = ScreenCase::AddWords({
     {u"text"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          at.Form();
          ShowHelp(rest);
      }},
     {u"long-text"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          QFile file(at.Path(rest));
          EXPECT_TRUE(file.open(QIODevice::WriteOnly));
          file.write("{\\rtf1 " + QByteArray(300000, 'x') + '}');
      }},
     // The version, the program's own licence and what else is named here.
     {u"licences"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          EXPECT_EQ(drivers::Box(at.Form(), u"lblVersion"), u"Version " VELTON_VERSION);
          const QString text = drivers::Box(at.Form(), u"rtBox").simplified();
          QFile licence(QStringLiteral(SOURCE_ROOT "/LICENSE"));

@@ -56,31 +56,30 @@ void Reprint(ScreenCase& at, const QString& rest, const Step& step) {
     {u"previewed"_s, ExpectPreview},
     {u"reprint"_s, Reprint},
     {u"preview"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          at.Form();
          forms::Run([&] { frmRacunPregled::Preview(rest); }, u"VELTON POS"_s);
      }},
-    {u"shows"_s, [](ScreenCase& at, const QString& rest, const Step&) { ExpectShown(at, at.Form(), rest); }},
+    {u"shows"_s, [](auto& at, auto& rest, auto&) { ExpectShown(at, at.Form(), rest); }},
     {u"at-end"_s,
-     [](ScreenCase& at, const QString&, const Step&) {
+     [](auto& at, auto&, auto&) {
          const auto* down = Get<QAbstractScrollArea>(at.Form(), u"rtBox")->verticalScrollBar();
          EXPECT_GT(down->maximum(), 0);
          EXPECT_EQ(down->value(), down->maximum());
      }},
-    {u"totals"_s, [](ScreenCase& at, const QString& rest,
-                     const Step&) { EXPECT_EQ(at.File(PreviewFile).count("TOTAL..."), rest.toInt()); }},
+    {u"totals"_s, [](auto& at, auto& rest, auto&) { EXPECT_EQ(at.File(PreviewFile).count("TOTAL..."), rest.toInt()); }},
     {u"twice"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          const QByteArray all = at.File(rest);
          EXPECT_EQ(all.first(all.size() / 2), all.sliced(all.size() / 2));
      }},
     {u"leaf"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          drivers::Click(Get<QWidget>(at.Form(), u"cmd"_s + rest.section(u' ', 0, 0)));
          EXPECT_EQ(Box(at.Form(), u"txtORNumber"), rest.section(u' ', 1));
      }},
     {u"day"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          const QDate day = QDate::fromString(rest.section(u' ', 1), Qt::ISODate);
          Get<QDateEdit>(at.Form(), rest.section(u' ', 0, 0))->setDate(day);
      }},

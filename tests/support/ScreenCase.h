@@ -20,6 +20,7 @@ namespace drivers {
 //   as USER; login USER; login (the screen alone); crash; restart (a crash, and the user of `as` again)
 //   locale NAME; clock DATE TIME; clipboard TEXT; write FILE | TEXT; remove FILE; folder NAME
 //   engine SQL | SQL     behind the store's back, as its file and as its server take it
+//   server goes, server comes   (back); where the stores are there
 // What is done:
 //   open ENTRY           of the menu; keys KEYS; go CONTROL (it gets the focus); close (by its window)
 //   type CONTROL KEYS    over what stands there
@@ -76,6 +77,7 @@ private:
         if (!found) throw std::runtime_error("there is no " + name.toStdString());
         return *found;
     }
+    QWidget& Control(const QString& name) { return Of<QWidget>(name); }
     QString Shown(const QString& what);
     forms::ListView& List(const QString& name = {});
     QStringList ListRows(const QString& name = {});
