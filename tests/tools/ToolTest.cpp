@@ -10,6 +10,7 @@
 #include "store/StorePath.h"
 #include "support/CaseText.h"
 #include "support/Engines.h"
+#include "support/Server.h"
 #include "support/TestFolder.h"
 #include "support/ValueOf.h"
 #include "upkeep/ValueText.h"
@@ -34,7 +35,7 @@ void PrintTo(const Talk& talk, std::ostream* out) {
 std::vector<Talk> Talks() {
     std::vector<Talk> talks;
     for (const auto& topic :
-         {u"backup"_s, u"check"_s, u"delivery"_s, u"files"_s, u"insert"_s, u"load"_s, u"new"_s, u"sql"_s}) {
+         {u"backup"_s, u"check"_s, u"delivery"_s, u"files"_s, u"insert"_s, u"load"_s, u"move"_s, u"new"_s, u"sql"_s}) {
         QFile file(QStringLiteral(TEST_DATA "/tools/%1.txt").arg(topic));
         EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << topic.toStdString();
         QString shell;
@@ -82,6 +83,7 @@ protected:
         environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
         environment.insert(u"TOOL"_s, QStringLiteral(PROGRAMS "/velton-store"));
         environment.insert(u"STRANGER"_s, QCoreApplication::applicationFilePath());
+        environment.insert(u"SERVER"_s, server_);
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(folder_.path());
         process.start(u"bash"_s, {u"-c"_s, Shell + GetParam().shell + command}, QIODevice::ReadOnly);
@@ -108,6 +110,7 @@ protected:
     }
 
     const QTemporaryDir folder_{FolderTemplate()};
+    const QString server_ = GetParam().file.endsWith(u"move.txt") ? drivers::Server::Running().NewShop() : QString();
 };
 
 }  // namespace
