@@ -1,3 +1,4 @@
+#include "support/Files.h"
 #include "support/ScreenCase.h"
 
 #include <QDateEdit>
@@ -36,9 +37,7 @@ void ExpectPreview(ScreenCase& at, const QString& rest, const Step&) {
 // A file in tests/data/review: settings as NAME=VALUE lines, "--", then the preview of all invoices and the reprint of
 // the first, each under "== NAME" and written as the receipts' files are.
 void Reprint(ScreenCase& at, const QString& rest, const Step& step) {
-    QFile data(QString::fromUtf8(TEST_DATA "/review/") + rest + u".txt"_s);
-    ASSERT_TRUE(data.open(QIODevice::ReadOnly));
-    const QString text = QString::fromUtf8(data.readAll());
+    const QString text = QString::fromUtf8(drivers::ReadFile(QStringLiteral(TEST_DATA "/review/%1.txt").arg(rest)));
     at.Crash();
     for (const QString& line : text.section(u"--\n"_s, 0, 0).split(u'\n', Qt::SkipEmptyParts))
         at.Setting(line.section(u'=', 0, 0), line.section(u'=', 1));

@@ -1,3 +1,4 @@
+#include "support/Files.h"
 #include "support/ScreenCase.h"
 
 #include <QApplication>
@@ -38,9 +39,7 @@ void ShowState(ScreenCase& at, const QString& kind, const QStringList& report) {
 // A file under tests/data/reports in UTF-8, or nothing for no name.
 QString Expected(const QString& name) {
     if (name.isEmpty()) return {};
-    QFile file(QStringLiteral(TEST_DATA "/reports/") + name + u".txt"_s);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
-    return QString::fromUtf8(file.readAll());
+    return QString::fromUtf8(drivers::ReadFile(QStringLiteral(TEST_DATA "/reports/%1.txt").arg(name)));
 }
 
 // The file Report.txt holds these lines, in the code page of the locale and ended by CR LF.

@@ -5,6 +5,7 @@
 
 #include "delivery/Delivery.h"
 #include "support/Engines.h"
+#include "support/Files.h"
 #include "support/Till.h"
 
 using namespace Qt::StringLiterals;
@@ -131,10 +132,9 @@ TEST_F(CrashTest, EightRegistersSellOneProductAndTheStockIsExact) {
         delivery::MakeProgramFolder(own);
         for (const QString& store : {u"/ORVA.pos"_s, u"/opt.pos"_s}) ASSERT_TRUE(QFile::remove(own + store));
         ASSERT_TRUE(QFile::copy(Path(u"opt.pos"_s), own + u"/opt.pos"_s));
-        QFile ini(own + u"/store.ini"_s);
-        ASSERT_TRUE(ini.open(QIODevice::WriteOnly));
-        ini.write(drivers::OnServer() ? File(u"store.ini"_s) : "[main]\npath=" + folder.path().toUtf8() + '\n');
-        ini.close();
+        drivers::WriteFile(own + u"/store.ini"_s, drivers::OnServer()
+                                                      ? File(u"store.ini"_s)
+                                                      : "[main]\npath=" + folder.path().toUtf8() + '\n');
         workers.push_back(Start(Selling(own, invoices)));
     }
     for (const auto& worker : workers) {

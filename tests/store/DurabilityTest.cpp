@@ -1,11 +1,9 @@
-#include <sys/resource.h>
-
 #include <QDir>
 #include <QFile>
-#include <csignal>
 #include <thread>
 
 #include "store/StoreTestBase.h"
+#include "support/Files.h"
 
 namespace store::test {
 
@@ -99,26 +97,11 @@ TEST_F(DurabilityTest, ABackupIsOfOneMomentWhileOthersWrite) {
     }
 }
 
-// As on a full device: files stop growing.
-class NoMoreRoom {
-public:
-    NoMoreRoom() {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit small{100'000, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~NoMoreRoom() { setrlimit(RLIMIT_FSIZE, &before_); }
-
-private:
-    rlimit before_{};
-};
-
 TEST_F(DurabilityTest, ADiskThatTakesNoMoreLosesNothingThatWasStored) {
     auto invoices = store->OpenRecordset(u"SELECT * FROM Invoices"_s);
     int stored = 0;
     {
-        const NoMoreRoom noMoreRoom;
+        const drivers::NoMoreRoom noMoreRoom(100'000);
         const auto addUntilRefused = [&] {
             for (; stored < 1000; ++stored) {
                 invoices.AddNew();

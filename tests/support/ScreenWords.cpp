@@ -13,6 +13,7 @@
 #include "forms/Program.h"
 #include "player/Input.h"
 #include "support/Engines.h"
+#include "support/Files.h"
 #include "support/ScreenCase.h"
 #include "support/Server.h"
 #include "upkeep/TableLoader.h"
@@ -159,9 +160,7 @@ QMap<QString, ScreenCase::Word> ScreenCase::States() {
         {u"clipboard"_s, [](auto&, auto& rest, auto&) { QApplication::clipboard()->setText(rest); }},
         {u"write"_s,
          [](auto& at, auto& rest, auto&) {
-             QFile file(at.Path(rest.section(u" | "_s, 0, 0)));
-             EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-             file.write(rest.section(u" | "_s, 1).toLatin1());
+             WriteFile(at.Path(rest.section(u" | "_s, 0, 0)), rest.section(u" | "_s, 1).toLatin1());
          }},
         {u"remove"_s, [](auto& at, auto& rest, auto&) { EXPECT_TRUE(QFile::remove(at.Path(rest))); }},
         {u"folder"_s, [](auto& at, auto& rest, auto&) { EXPECT_TRUE(QDir().mkdir(at.Path(rest))); }},

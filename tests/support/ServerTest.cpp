@@ -7,6 +7,7 @@
 #include <csignal>
 #include <thread>
 
+#include "support/Files.h"
 #include "support/Server.h"
 
 using namespace Qt::StringLiterals;
@@ -28,9 +29,8 @@ TEST(ServerTest, NeitherServerNorFolderOutlivesAKilledProcess) {
     ASSERT_GT(read(said[0], text, sizeof text - 1), 0);
     close(said[0]);
     const QString folder = QString::fromLatin1(text);
-    QFile lock(folder + u"/data/postmaster.pid"_s);
-    ASSERT_TRUE(lock.open(QIODevice::ReadOnly));
-    const QString home = u"/proc/%1/cwd"_s.arg(lock.readLine().toInt());
+    const QByteArray lock = drivers::ReadFile(folder + u"/data/postmaster.pid"_s);
+    const QString home = u"/proc/%1/cwd"_s.arg(lock.left(lock.indexOf('\n')).toInt());
     ASSERT_EQ(QFile::symLinkTarget(home), folder + u"/data"_s);
 
     kill(child, SIGKILL);

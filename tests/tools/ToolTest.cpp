@@ -10,6 +10,7 @@
 #include "store/StorePath.h"
 #include "support/CaseText.h"
 #include "support/Engines.h"
+#include "support/Files.h"
 #include "support/Server.h"
 #include "support/TestFolder.h"
 #include "support/ValueOf.h"
@@ -36,14 +37,13 @@ std::vector<Talk> Talks() {
     std::vector<Talk> talks;
     for (const auto& topic :
          {u"backup"_s, u"check"_s, u"delivery"_s, u"files"_s, u"insert"_s, u"load"_s, u"move"_s, u"new"_s, u"sql"_s}) {
-        QFile file(QStringLiteral(TEST_DATA "/tools/%1.txt").arg(topic));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << topic.toStdString();
+        const auto file = QStringLiteral(TEST_DATA "/tools/%1.txt").arg(topic);
         QString shell;
         bool isInCase = false;
-        for (int number = 1; const QString& line : QString::fromUtf8(file.readAll()).split(u'\n')) {
+        for (int number = 1; const QString& line : QString::fromUtf8(drivers::ReadFile(file)).split(u'\n')) {
             isInCase = isInCase || line.startsWith(u"== ");
             if (line.startsWith(u"== "))
-                talks.push_back({line.mid(3), file.fileName(), shell, {}});
+                talks.push_back({line.mid(3), file, shell, {}});
             else if (!isInCase)
                 shell += line + u'\n';
             else if (!line.isEmpty() && !line.startsWith(u"# "))
