@@ -1,7 +1,6 @@
 #include "support/Files.h"
 #include "support/Help.h"
 
-#include <QFile>
 #include <QPointingDevice>
 #include <QScrollBar>
 #include <QTest>

@@ -5,7 +5,6 @@
 #include <QTimer>
 #include <QToolBar>
 
-#include "core/dbModule.h"
 #include "forms/Program.h"
 #include "masterdata/products/frmSastav.h"
 #include "support/Disk.h"

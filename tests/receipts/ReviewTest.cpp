@@ -7,7 +7,6 @@
 #include "receipts/ReviewReceipt.h"
 #include "receipts/frmRacPRG.h"
 #include "support/Till.h"
-#include "values/Clock.h"
 #include "values/Locale.h"
 
 using namespace Qt::StringLiterals;

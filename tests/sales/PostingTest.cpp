@@ -1,7 +1,6 @@
 #include <malloc.h>
 
 #include <QApplication>
-#include <QFile>
 #include <QLabel>
 #include <QTimer>
 

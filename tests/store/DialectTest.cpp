@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QFile>
 
 #include "store/DialectFuzz.h"
 #include "store/DialectTexts.h"

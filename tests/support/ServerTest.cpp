@@ -7,13 +7,15 @@
 #include <csignal>
 #include <thread>
 
+#include "store/Database.h"
 #include "support/Files.h"
+#include "support/Proxy.h"
 #include "support/Server.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-// Nothing that a test of the store could notice.
+// What no test of the store could notice.
 TEST(ServerTest, NeitherServerNorFolderOutlivesAKilledProcess) {
     int said[2];
     ASSERT_EQ(pipe(said), 0);
@@ -39,4 +41,17 @@ TEST(ServerTest, NeitherServerNorFolderOutlivesAKilledProcess) {
         std::this_thread::sleep_for(10ms);
     EXPECT_FALSE(QFile::exists(folder));
     EXPECT_EQ(QFile::symLinkTarget(home), QString());
+}
+
+TEST(ProxyTest, ARoundTripIsLongerByTheDelay) {
+    drivers::Server& server = drivers::Server::Running();
+    drivers::Proxy cable(server);
+    const auto place = store::Place::Server(cable.Through(server.NewShop()));
+    const auto shop = store::Database::Create(place, store::MainSchema());
+    const int before = cable.RoundTrips();
+    cable.Delay(30ms);
+    const auto start = std::chrono::steady_clock::now();
+    for (int trip = 0; trip < 5; ++trip) shop->OpenSnapshot(u"SELECT * FROM Tax"_s);
+    EXPECT_GE(cable.RoundTrips() - before, 5);
+    EXPECT_GE(std::chrono::steady_clock::now() - start, 30ms * (cable.RoundTrips() - before));
 }

@@ -1,6 +1,5 @@
 #include "support/Till.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFile>
 

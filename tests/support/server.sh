@@ -40,7 +40,7 @@ end() {
 
 while read -r command settings; do
     case $command in
-        start) started=1; run $settings & ;;
+        start) rm -f ended; started=1; run $settings & ;;
         stop) end INT ;;
         kill) end KILL ;;
     esac
