@@ -255,14 +255,11 @@ QMap<QString, ScreenCase::Word> ScreenCase::Checks() {
              const QWidget* focus = QApplication::focusWidget();
              ExpectEqual(focus ? focus->objectName() : QString(), rest);
          }},
-        {u"title"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) { ExpectEqual(at.Form().windowTitle(), rest); }},
-        {u"loaded"_s, [](ScreenCase&, const QString& rest,
-                         const Step&) { EXPECT_TRUE(forms::FindForm(rest)) << rest.toStdString(); }},
-        {u"unloaded"_s, [](ScreenCase&, const QString& rest,
-                           const Step&) { EXPECT_FALSE(forms::FindForm(rest)) << rest.toStdString(); }},
+        {u"title"_s, [](auto& at, auto& rest, auto&) { ExpectEqual(at.Form().windowTitle(), rest); }},
+        {u"loaded"_s, [](auto&, auto& rest, auto&) { EXPECT_TRUE(forms::FindForm(rest)) << rest.toStdString(); }},
+        {u"unloaded"_s, [](auto&, auto& rest, auto&) { EXPECT_FALSE(forms::FindForm(rest)) << rest.toStdString(); }},
         {u"comes"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) {
+         [](auto& at, auto& rest, auto&) {
              EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(at.Path(rest)); }, 10'000)) << rest.toStdString();
          }},
         {u"ended"_s,
