@@ -21,6 +21,7 @@ namespace drivers {
 //   locale NAME; clock DATE TIME; clipboard TEXT; write FILE | TEXT; remove FILE; folder NAME
 //   program COMMAND      what the till's own program does where it is started once more
 //   engine SQL | SQL     behind the store's back, as its file and as its server take it
+//   server goes, server comes   (back); where the stores are there
 // What is done:
 //   open ENTRY           of the menu; keys KEYS; go CONTROL (it gets the focus); close (by its window)
 //   type CONTROL KEYS    over what stands there
@@ -78,6 +79,7 @@ private:
         if (!found) throw std::runtime_error("there is no " + name.toStdString());
         return *found;
     }
+    QWidget& Control(const QString& name) { return Of<QWidget>(name); }
     QString Shown(const QString& what);
     forms::ListView& List(const QString& name = {});
     QStringList ListRows(const QString& name = {});

@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 
@@ -10,6 +8,7 @@
 #include "store/StorePath.h"
 #include "support/CaseText.h"
 #include "support/Engines.h"
+#include "support/Files.h"
 #include "support/Server.h"
 #include "support/TestFolder.h"
 #include "support/ValueOf.h"
@@ -37,14 +36,13 @@ std::vector<Talk> Talks() {
     std::vector<Talk> talks;
     for (const auto& topic : {u"backup"_s, u"backup-register"_s, u"check"_s, u"delivery"_s, u"files"_s, u"import"_s,
                               u"insert"_s, u"load"_s, u"move"_s, u"new"_s, u"report"_s, u"sql"_s}) {
-        QFile file(QStringLiteral(TEST_DATA "/tools/%1.txt").arg(topic));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << topic.toStdString();
+        const auto file = QStringLiteral(TEST_DATA "/tools/%1.txt").arg(topic);
         QString shell;
         bool isInCase = false;
-        for (int number = 1; const QString& line : QString::fromUtf8(file.readAll()).split(u'\n')) {
+        for (int number = 1; const QString& line : QString::fromUtf8(drivers::ReadFile(file)).split(u'\n')) {
             isInCase = isInCase || line.startsWith(u"== ");
             if (line.startsWith(u"== "))
-                talks.push_back({line.mid(3), file.fileName(), shell, {}});
+                talks.push_back({line.mid(3), file, shell, {}});
             else if (!isInCase)
                 shell += line + u'\n';
             else if (!line.isEmpty() && !line.startsWith(u"# "))
@@ -83,8 +81,8 @@ protected:
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
         environment.insert(u"TOOL"_s, QStringLiteral(PROGRAMS "/velton-store"));
-        environment.insert(u"SERVER"_s, server_);
         environment.insert(u"STRANGER"_s, QCoreApplication::applicationFilePath());
+        environment.insert(u"SERVER"_s, server_);
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(folder_.path());
         process.start(u"bash"_s, {u"-c"_s, Shell + GetParam().shell + command}, QIODevice::ReadOnly);
@@ -110,13 +108,8 @@ protected:
             << expected.join(u'\n').toStdString();
     }
 
-    static bool AsksForServer() {
-        return std::ranges::any_of(GetParam().lines, [](const auto& line) { return line.second.contains(u"$SERVER"); });
-    }
-
     const QTemporaryDir folder_{FolderTemplate()};
-    // Of a shop on a server that nobody has used.
-    const QString server_ = AsksForServer() ? drivers::Server::Running().NewShop() : QString();
+    const QString server_ = GetParam().file.endsWith(u"move.txt") ? drivers::Server::Running().NewShop() : QString();
 };
 
 }  // namespace
