@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include "manager/HealthPage.h"
+#include "manager/OverviewPage.h"
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +24,7 @@ QString Named(const char* name) {
 
 std::vector<PageEntry> AllPages() {
     return {
+        {u"OverviewPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Overview")), Make<OverviewPage>},
         {u"HealthPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Health")), Make<HealthPage>},
     };
 }

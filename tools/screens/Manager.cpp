@@ -33,6 +33,8 @@ void LookAtManager(const QString& shop, const Cashier::Camera& camera) {
     for (const auto& entry : manager::AllPages()) {
         window.ShowPage(entry.className);
         drivers::Settle();
+        const auto* page = dynamic_cast<const manager::Page*>(forms::FindForm(entry.className));
+        while (page && page->IsBusy()) drivers::Settle();
         camera(window, PictureOfPage(entry.className));
     }
     drivers::ForgetProgram();
