@@ -62,9 +62,9 @@ Money SumOf(const upkeep::TakingsByDay& byDay, const Days& days) {
 
 QString BeforeName(const Days& days) {
     if (days.Count() == 7) return Words::tr("7 days before");
-    if (days == upkeep::MonthOf(days.first)) return Words::tr("month before");
-    if (days == YearOf(days.first)) return Words::tr("year before");
-    return Words::tr("days before");
+    if (days == upkeep::MonthOf(days.first)) return Words::tr("Month before");
+    if (days == YearOf(days.first)) return Words::tr("Year before");
+    return Words::tr("Days before");
 }
 
 QString PiecesText(const upkeep::GoodsTakings& goods) {
@@ -119,7 +119,7 @@ QString NameOf(const Span& span) {
 // The days that are compared begin earlier by the same distance; of whole months and years each number stands for itself.
 ColumnChart::Content TakingsContent(const upkeep::Overview& overview, const std::vector<Span>& spans) {
     const bool isByHour = spans.front().kind == Span::Kind::Hour;
-    ColumnChart::Content content{isByHour ? Words::tr("Hour") : Words::tr("Days"), Words::tr("taken"), {}, {}};
+    ColumnChart::Content content{isByHour ? Words::tr("Hour") : Words::tr("Days"), Words::tr("Taken"), {}, {}};
     if (!overview.before.empty() && !isByHour) content.beforeName = BeforeName(overview.days);
     const Days before = upkeep::DaysBefore(overview.days);
     const bool isRoomy = static_cast<qint64>(spans.size()) <= FewDays;
@@ -192,7 +192,7 @@ RankList::Content TaxesContent(const std::vector<upkeep::TaxTakings>& taxes) {
                                Words::tr("With tax")},
                               {}};
     for (const auto& [id, name, percent, amounts] : taxes)
-        content.rows.push_back({Words::tr("%1 %2 %, in %3").arg(name, values::NumberText(percent), AmountText(amounts.total)),
+        content.rows.push_back({Words::tr("%1, in %2").arg(name, AmountText(amounts.total)),
                                 AmountText(amounts.tax), amounts.tax,
                                 {name, percent, amounts.total - amounts.tax, amounts.tax, amounts.total}});
     return content;

@@ -173,7 +173,7 @@ void OverviewPage::ShowBoxes() {
     ui.lblMonthNote2->setText(tr("%1: %2").arg(MonthText(before.first), AmountText(monthBefore.amounts.total)));
 
     const upkeep::Takings& chosen = shown_.takings;
-    ui.lblDays->setText(DaysText(shown_.days));
+    ui.lblDays->setText(tr("Chosen: %1").arg(DaysText(shown_.days)));
     ui.lblDaysSum->setText(AmountText(chosen.amounts.total));
     const Money meanInvoice =
         chosen.invoices == 0 ? Money() : Money::FromUnits(chosen.amounts.total.Units() / chosen.invoices);
@@ -216,7 +216,31 @@ void OverviewPage::cmdStop_Click() {
 }
 
 void OverviewPage::cmdTable_Click() {
-    for (ChartPanel* panel : Panels()) panel->ShowAsTable(ui.cmdTable->isChecked());
+    const bool asTables = ui.cmdTable->isChecked();
+    Arrange(asTables);
+    for (ChartPanel* panel : Panels()) panel->ShowAsTable(asTables);
+}
+
+// Tables stand one below the other, since their columns need the whole width.
+void OverviewPage::Arrange(bool asTables) {
+    struct Place {
+        QWidget* panel;
+        int row, column, columns;
+    };
+    constexpr int all = 6;
+    const Place places[] = {{ui.panelTakings, 1, 0, 4}, {ui.panelHours, 1, 4, 2},  {ui.panelBest, 3, 0, 2},
+                            {ui.panelIdle, 3, 2, 2},    {ui.panelRunningOut, 3, 4, 2}, {ui.panelGroups, 4, 0, 2},
+                            {ui.panelCashiers, 4, 2, 2}, {ui.panelTaxes, 4, 4, 2}};
+    for (const Place& place : places) ui.layoutFigures->removeWidget(place.panel);
+    ui.layoutFigures->removeItem(ui.layoutGoods);
+    int row = 1;
+    for (const Place& place : places) {
+        if (place.panel == ui.panelBest) ui.layoutFigures->addLayout(ui.layoutGoods, asTables ? row++ : 2, 0, 1, all);
+        if (asTables)
+            ui.layoutFigures->addWidget(place.panel, row++, 0, 1, all);
+        else
+            ui.layoutFigures->addWidget(place.panel, place.row, place.column, 1, place.columns);
+    }
 }
 
 void OverviewPage::ChooseSpan(int mark) {

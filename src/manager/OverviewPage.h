@@ -51,6 +51,7 @@ private:
     void ChooseHour(int mark);
     void ChooseCashier(int mark);
     void ShowInvoices(const QString& what, const upkeep::InvoicesWish& wish);
+    void Arrange(bool asTables);
     QList<ChartPanel*> Panels() const;
     OverviewPaper Paper() const;
 

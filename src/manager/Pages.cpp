@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 
+#include "manager/DrawerPage.h"
 #include "manager/HealthPage.h"
 #include "manager/OverviewPage.h"
 
@@ -25,6 +26,7 @@ QString Named(const char* name) {
 std::vector<PageEntry> AllPages() {
     return {
         {u"OverviewPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Overview")), Make<OverviewPage>},
+        {u"DrawerPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Drawer")), Make<DrawerPage>},
         {u"HealthPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Health")), Make<HealthPage>},
     };
 }

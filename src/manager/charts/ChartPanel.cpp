@@ -10,7 +10,7 @@ namespace manager {
 
 namespace {
 
-constexpr int NarrowestAmount = 84;
+constexpr int NarrowestAmount = 100;
 
 }  // namespace
 

@@ -1,0 +1,288 @@
+#include "manager/DrawerPage.h"
+
+#include <QFile>
+#include <QItemSelectionModel>
+#include <QLabel>
+
+#include "core/Session.h"
+#include "core/Settings.h"
+#include "core/dbModule.h"
+#include "forms/Controls.h"
+#include "forms/MsgBox.h"
+#include "forms/Theme.h"
+#include "manager/DrawerText.h"
+#include "manager/NotesAndCoins.h"
+#include "manager/OverviewCharts.h"
+#include "output/Channel.h"
+#include "output/Folder.h"
+#include "output/PagePrinter.h"
+#include "values/Clock.h"
+#include "values/DateText.h"
+#include "values/Numbers.h"
+
+using namespace Qt::StringLiterals;
+using values::Money;
+
+namespace manager {
+
+namespace {
+
+constexpr int WidestPieces = 84;
+constexpr int WidestSum = 110;
+constexpr qint64 MostPieces = 1'000'000;
+
+// An empty box counts nothing; -1 for what is no number of pieces.
+qint64 PiecesIn(const QLineEdit& box) {
+    const QString text = box.text().trimmed();
+    if (text.isEmpty()) return 0;
+    bool isWhole = false;
+    const qint64 pieces = text.toLongLong(&isWhole);
+    return isWhole && pieces >= 0 && pieces <= MostPieces ? pieces : -1;
+}
+
+bool HoldsAmount(const QLineEdit& box) {
+    if (box.text().trimmed().isEmpty()) return true;
+    try {
+        const Money amount = values::CMoney(box.text());
+        return amount >= Money() && amount <= Money::FromWhole(1'000'000'000);
+    } catch (const values::Error&) {
+        return false;
+    }
+}
+
+Money AmountIn(const QLineEdit& box) {
+    return HoldsAmount(box) && !box.text().trimmed().isEmpty() ? values::CMoney(box.text()) : Money();
+}
+
+}  // namespace
+
+DrawerPage::DrawerPage(QWidget* parent) : Page(parent) {
+    ui.setupUi(this);
+    ui.lstCounts->SetColumns({{tr("Count"), Qt::AlignRight, 64},
+                              {tr("Date"), Qt::AlignLeft, 104},
+                              {tr("Time"), Qt::AlignLeft, 104},
+                              {tr("Counted by"), Qt::AlignLeft, -1},
+                              {tr("Should be"), Qt::AlignRight, 96},
+                              {tr("Counted"), Qt::AlignRight, 96},
+                              {tr("Difference"), Qt::AlignRight, 96},
+                              {tr("Remark"), Qt::AlignLeft, 120}});
+    ui.lstCounts->SetEmptyText(tr("Nothing was counted yet. Count the drawer on the page before and keep the count."));
+    NumericKeys({ui.txtPutIn, ui.txtTakenOut});
+    ShrinkFigures({ui.txtDifference});
+    OnChange(ui.txtPutIn, &DrawerPage::Figures_Change);
+    OnChange(ui.txtTakenOut, &DrawerPage::Figures_Change);
+    EnterMovesOn({ui.txtPutIn, ui.txtTakenOut, ui.txtRemark});
+    On(ui.cmdKeep, &DrawerPage::cmdKeep_Click);
+    On(ui.cmdEmpty, &DrawerPage::cmdEmpty_Click);
+    On(ui.cmdPieces, &DrawerPage::cmdPieces_Click);
+    On(ui.cmdPrint, &DrawerPage::cmdPrint_Click);
+    connect(ui.lstCounts->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            Guarded(&DrawerPage::lstCounts_Chosen));
+}
+
+void DrawerPage::Form_Load() {
+    OpenKept();
+    LayOutRows();
+    OfferFiscalCash();
+    ListCounts();
+}
+
+void DrawerPage::Form_Activate() {
+    ReadSold();
+    Figures_Change();
+}
+
+// Without counts the page still sums up what is typed.
+void DrawerPage::OpenKept() {
+    ui.lblFault->hide();
+    try {
+        if (QFile::exists(output::InProgramFolder(upkeep::ManagerFile))) Kept();
+    } catch (const values::Error& error) {
+        ui.lblFault->setText(tr("Counts can't be kept or shown. %1").arg(error.Description()));
+        ui.lblFault->show();
+        ui.cmdKeep->setEnabled(false);
+        ui.cmdPieces->setEnabled(false);
+    }
+}
+
+store::Database& DrawerPage::Kept() {
+    if (!kept_) kept_ = upkeep::OpenManagerStore(output::ProgramFolder());
+    return *kept_;
+}
+
+// Two columns of notes and coins side by side, the larger ones on the left.
+void DrawerPage::LayOutRows() {
+    qDeleteAll(ui.panelPieces->findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
+    rows_.clear();
+    QGridLayout& grid = *ui.layoutPieces;
+    const QList<Money> worths = upkeep::DenominationsOf(kept_.get(), TheSettings.Currency);
+    if (worths.isEmpty()) {
+        auto* none = new QLabel(tr("Which notes and coins %1 has is not known yet. Press \"Notes and coins\" and type them.")
+                                    .arg(TheSettings.Currency),
+                                ui.panelPieces);
+        none->setWordWrap(true);
+        grid.addWidget(none, 0, 0, 1, 6);
+    }
+    const int rowsEach = static_cast<int>(worths.size() + 1) / 2;
+    QWidget* before = ui.tabParts;
+    for (int number = 0; number < worths.size(); ++number) {
+        const int row = number % rowsEach;
+        const int column = 3 * (number / rowsEach);
+        auto* pieces = new QLineEdit(ui.panelPieces);
+        auto* worth = new QLabel(AmountText(worths[number]), ui.panelPieces);
+        auto* sum = new QLabel(ui.panelPieces);
+        pieces->setObjectName(u"txtPieces%1"_s.arg(number));
+        pieces->setAccessibleName(tr("Pieces of %1").arg(worth->text()));
+        pieces->setMaximumWidth(forms::Scaled(WidestPieces));
+        pieces->setAlignment(Qt::AlignRight);
+        pieces->setMaxLength(7);
+        worth->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        worth->setBuddy(pieces);
+        sum->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        sum->setProperty("role", u"muted"_s);
+        grid.addWidget(worth, row, column);
+        grid.addWidget(pieces, row, column + 1);
+        grid.addWidget(sum, row, column + 2);
+        NumericKeys({pieces});
+        EnterMovesOn({pieces});
+        OnChange(pieces, &DrawerPage::Figures_Change);
+        setTabOrder(before, pieces);
+        before = pieces;
+        rows_.push_back({worths[number], pieces, sum});
+    }
+    for (const int column : {2, 5}) grid.setColumnMinimumWidth(column, forms::Scaled(WidestSum));
+    grid.setColumnStretch(6, 1);
+    for (int row = 0; row < grid.rowCount(); ++row) grid.setRowStretch(row, 0);
+    grid.setRowStretch(rowsEach, 1);
+    Figures_Change();
+}
+
+void DrawerPage::ReadSold() {
+    sold_ = upkeep::ReadCashSold(MainStore());
+}
+
+void DrawerPage::OfferFiscalCash() {
+    QFile commands(output::InProgramFolder(TheSettings.FiskalniFile));
+    if (TheSettings.FiskalniFile.isEmpty() || !commands.open(QIODevice::ReadOnly)) return;
+    const upkeep::FiscalCash cash = upkeep::ReadFiscalCash(commands);
+    if (cash.putIn != Money()) ui.txtPutIn->setText(AmountText(cash.putIn));
+    if (cash.takenOut != Money()) ui.txtTakenOut->setText(AmountText(cash.takenOut));
+}
+
+upkeep::Denominations DrawerPage::Pieces() const {
+    upkeep::Denominations pieces;
+    for (const Row& row : rows_)
+        if (const qint64 count = PiecesIn(*row.pieces); count > 0) pieces << upkeep::Denomination{row.worth, count};
+    return pieces;
+}
+
+upkeep::DrawerCount DrawerPage::Count() const {
+    const upkeep::Denominations pieces = Pieces();
+    return {.number = 0,
+            .day = values::Today(),
+            .time = values::TimeNow(),
+            .userID = TheSession.SessionUserID,
+            .userName = TheSession.SessionUserName,
+            .currency = TheSettings.Currency,
+            .pieces = pieces,
+            .counted = SumOf(pieces),
+            .sold = sold_.cash,
+            .putIn = AmountIn(*ui.txtPutIn),
+            .takenOut = AmountIn(*ui.txtTakenOut),
+            .remark = ui.txtRemark->text()};
+}
+
+void DrawerPage::Figures_Change() {
+    for (const Row& row : rows_) {
+        const qint64 pieces = PiecesIn(*row.pieces);
+        row.sum->setText(pieces < 0    ? u"?"_s
+                         : pieces == 0 ? QString()
+                                       : AmountText(row.worth * Money::FromWhole(pieces)));
+    }
+    const upkeep::DrawerCount count = Count();
+    ui.lblSold->setText(AmountText(count.sold));
+    ui.lblExpected->setText(AmountText(count.Expected()));
+    ui.lblCounted->setText(AmountText(count.counted));
+    ui.lblDifference->setText(count.Difference() > Money()   ? tr("Too much in the drawer")
+                              : count.Difference() < Money() ? tr("Missing in the drawer")
+                                                             : tr("Difference"));
+    ui.txtDifference->setText((count.Difference() > Money() ? u"+"_s : QString()) + AmountText(count.Difference()));
+}
+
+QLineEdit* DrawerPage::FirstFault() const {
+    for (const Row& row : rows_)
+        if (PiecesIn(*row.pieces) < 0) return row.pieces;
+    for (QLineEdit* box : {ui.txtPutIn, ui.txtTakenOut})
+        if (!HoldsAmount(*box)) return box;
+    return nullptr;
+}
+
+// The drawer was counted beside the figure on the page; one that is another now must be looked at first.
+void DrawerPage::cmdKeep_Click() {
+    if (QLineEdit* fault = FirstFault()) {
+        forms::Inform(tr("This is no number of pieces and no amount."), Caption());
+        return forms::GoTo(fault);
+    }
+    const Money seen = sold_.cash;
+    ReadSold();
+    if (sold_.cash != seen) {
+        Figures_Change();
+        return forms::Inform(tr("Something was sold, or an End Report was made, since this page came up. The count is "
+                                "not kept: look at the difference again."),
+                             Caption());
+    }
+    const qint64 number = upkeep::KeepCount(Kept(), Count());
+    cmdEmpty_Click();
+    ListCounts();
+    forms::Inform(tr("Count %1 is kept.").arg(number), Caption());
+}
+
+void DrawerPage::cmdEmpty_Click() {
+    for (const Row& row : rows_) row.pieces->clear();
+    for (QLineEdit* box : {ui.txtPutIn, ui.txtTakenOut, ui.txtRemark}) box->clear();
+    OfferFiscalCash();
+    if (!rows_.empty()) rows_.front().pieces->setFocus();
+}
+
+void DrawerPage::cmdPieces_Click() {
+    NotesAndCoins entry(TheSettings.Currency, upkeep::DenominationsOf(kept_.get(), TheSettings.Currency));
+    entry.ShowModal();
+    if (!entry.Chosen()) return;
+    upkeep::ChooseDenominations(Kept(), TheSettings.Currency, *entry.Chosen());
+    LayOutRows();
+}
+
+void DrawerPage::ListCounts() {
+    if (!kept_) return lstCounts_Chosen();
+    counts_ = upkeep::KeptCounts(*kept_);
+    ui.lstCounts->Clear();
+    for (const upkeep::DrawerCount& count : counts_)
+        ui.lstCounts->Add({QString::number(count.number), values::DateText(count.day), values::TimeText(count.time),
+                           count.userName, AmountText(count.Expected()), AmountText(count.counted),
+                           AmountText(count.Difference()), count.remark});
+    if (!counts_.isEmpty()) ui.lstCounts->Select(0);
+    lstCounts_Chosen();
+}
+
+void DrawerPage::lstCounts_Chosen() {
+    const int row = ui.lstCounts->Selected();
+    const bool isChosen = row >= 0 && row < counts_.size();
+    ui.cmdPrint->setEnabled(isChosen);
+    ui.lblPieces->setText(isChosen ? PiecesText(counts_[row]) : QString());
+}
+
+void DrawerPage::cmdPrint_Click() {
+    const int row = ui.lstCounts->Selected();
+    if (row < 0) return;
+    output::PagePrinter& printer = output::ThePagePrinter();
+    try {
+        for (const QString& line : DrawerLines(counts_[row])) printer.PrintLine(line);
+        printer.EndJob();
+    } catch (const output::OutputError& error) {
+        printer.Abandon();
+        return forms::Tell(error.Description(), forms::Icon::Warning, Caption());
+    }
+    forms::Inform(tr("Count %1 is printed.").arg(counts_[row].number), Caption());
+}
+
+}  // namespace manager
