@@ -27,8 +27,10 @@ namespace manager {
 
 namespace {
 
-constexpr int WidestPieces = 84;
-constexpr int WidestSum = 110;
+constexpr int PiecesWidth = 72;
+constexpr int SumWidth = 72;
+constexpr int BetweenHalves = 24;
+constexpr int SecondHalf = 4;  // its first column
 constexpr qint64 MostPieces = 1'000'000;
 
 // An empty box counts nothing; -1 for what is no number of pieces.
@@ -121,19 +123,19 @@ void DrawerPage::LayOutRows() {
                                     .arg(TheSettings.Currency),
                                 ui.panelPieces);
         none->setWordWrap(true);
-        grid.addWidget(none, 0, 0, 1, 6);
+        grid.addWidget(none, 0, 0, 1, 2 * SecondHalf);
     }
     const int rowsEach = static_cast<int>(worths.size() + 1) / 2;
     QWidget* before = ui.tabParts;
     for (int number = 0; number < worths.size(); ++number) {
         const int row = number % rowsEach;
-        const int column = 3 * (number / rowsEach);
+        const int column = SecondHalf * (number / rowsEach);
         auto* pieces = new QLineEdit(ui.panelPieces);
         auto* worth = new QLabel(AmountText(worths[number]), ui.panelPieces);
         auto* sum = new QLabel(ui.panelPieces);
         pieces->setObjectName(u"txtPieces%1"_s.arg(number));
         pieces->setAccessibleName(tr("Pieces of %1").arg(worth->text()));
-        pieces->setMaximumWidth(forms::Scaled(WidestPieces));
+        pieces->setFixedWidth(forms::Scaled(PiecesWidth));
         pieces->setAlignment(Qt::AlignRight);
         pieces->setMaxLength(7);
         worth->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -150,8 +152,9 @@ void DrawerPage::LayOutRows() {
         before = pieces;
         rows_.push_back({worths[number], pieces, sum});
     }
-    for (const int column : {2, 5}) grid.setColumnMinimumWidth(column, forms::Scaled(WidestSum));
-    grid.setColumnStretch(6, 1);
+    for (const int column : {2, SecondHalf + 2}) grid.setColumnMinimumWidth(column, forms::Scaled(SumWidth));
+    grid.setColumnMinimumWidth(SecondHalf - 1, forms::Scaled(BetweenHalves));
+    grid.setColumnStretch(SecondHalf + 3, 1);
     for (int row = 0; row < grid.rowCount(); ++row) grid.setRowStretch(row, 0);
     grid.setRowStretch(rowsEach, 1);
     Figures_Change();

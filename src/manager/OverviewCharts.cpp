@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "values/DateText.h"
-#include "values/Format.h"
 #include "values/Locale.h"
 #include "values/Numbers.h"
 
@@ -167,11 +166,11 @@ HeatMap::Content HoursContent(const upkeep::Overview& overview, HoursShown hours
 }
 
 RankList::Content GoodsContent(const std::vector<upkeep::GoodsTakings>& goods, upkeep::By by) {
-    RankList::Content content{{Words::tr("Goods"), Words::tr("Code"), Words::tr("Pieces"), Words::tr("Taken")}, {}};
+    RankList::Content content{{Words::tr("Goods"), Words::tr("Code"), Words::tr("Pieces"), Words::tr("Taken")}, {}, {2}};
     for (const auto& each : goods)
         content.rows.push_back({each.name, by == upkeep::By::Total ? AmountText(each.total) : PiecesText(each),
                                 by == upkeep::By::Total ? each.total : each.pieces,
-                                {each.name, each.code, values::NumberText(each.pieces), each.total}});
+                                {each.name, each.code, each.pieces, each.total}});
     return content;
 }
 
@@ -190,7 +189,8 @@ RankList::Content NamedContent(const QString& heading, const std::vector<upkeep:
 RankList::Content TaxesContent(const std::vector<upkeep::TaxTakings>& taxes) {
     RankList::Content content{{Words::tr("Tax"), Words::tr("Rate"), Words::tr("Base"), Words::tr("Tax amount"),
                                Words::tr("With tax")},
-                              {}};
+                              {},
+                              {1}};
     for (const auto& [id, name, percent, amounts] : taxes)
         content.rows.push_back({Words::tr("%1, in %2").arg(name, AmountText(amounts.total)),
                                 AmountText(amounts.tax), amounts.tax,
@@ -203,11 +203,11 @@ RankList::Content RunningOutContent(const std::vector<upkeep::RunningOut>& list)
     constexpr qint64 month = 31;
     RankList::Content content{{Words::tr("Goods"), Words::tr("Code"), Words::tr("In stock"), Words::tr("Goes a day"),
                                Words::tr("Lasts days")},
-                              {}};
+                              {},
+                              {2, 3}};
     for (const auto& each : list)
         content.rows.push_back({each.goods.name, LastsText(each), Money::FromWhole(std::max<qint64>(month - each.days, 0)),
-                                {each.goods.name, each.goods.code, values::NumberText(each.stock),
-                                 values::NumberText(each.goods.pieces), each.days}});
+                                {each.goods.name, each.goods.code, each.stock, each.goods.pieces, each.days}});
     return content;
 }
 
@@ -217,10 +217,6 @@ QString ChangeText(Money now, Money before) {
     const auto half = static_cast<__int128>(percent < 0 ? -before.Units() : before.Units());
     const auto rounded = static_cast<qint64>((2 * percent + half) / (2 * before.Units()));
     return (rounded < 0 ? u"−"_s : u"+"_s) + QString::number(std::abs(rounded)) + u" %"_s;
-}
-
-QString AmountText(Money amount) {
-    return values::Format(amount, u"###,###,##0.00");
 }
 
 QString DaysText(const Days& days) {

@@ -34,7 +34,6 @@ RankList::Content RunningOutContent(const std::vector<upkeep::RunningOut>& list)
 
 // By how much in percent, "+12 %"; empty where there was nothing before.
 QString ChangeText(values::Money now, values::Money before);
-QString AmountText(values::Money amount);
 QString DaysText(const upkeep::Days& days);
 QString MonthText(QDate day);
 

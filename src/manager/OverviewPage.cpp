@@ -1,5 +1,6 @@
 #include "manager/OverviewPage.h"
 
+#include <QButtonGroup>
 #include <QSaveFile>
 
 #include "core/Installation.h"
@@ -43,8 +44,11 @@ OverviewPage::OverviewPage(QWidget* parent) : Page(parent) {
     ui.setupUi(this);
     PrepareCharts();
     forms::MakeScrollable(ui.panelFigures);
-    for (QPushButton* range : {ui.cmdToday, ui.cmdWeek, ui.cmdMonth, ui.cmdYear, ui.cmdAll, ui.cmdOwn})
+    auto* ranges = new QButtonGroup(this);
+    for (QPushButton* range : {ui.cmdToday, ui.cmdWeek, ui.cmdMonth, ui.cmdYear, ui.cmdAll, ui.cmdOwn}) {
+        ranges->addButton(range);
         On(range, &OverviewPage::Range_Click);
+    }
     On(ui.cmdShow, &OverviewPage::cmdShow_Click);
     On(ui.cmdTable, &OverviewPage::cmdTable_Click);
     On(ui.cmdPrint, &OverviewPage::cmdPrint_Click);

@@ -139,7 +139,7 @@ QList<Money> ReadDenominations(const QString& text) {
     static const QRegularExpression between(u"[\\s;]+"_s);
     QList<Money> worths;
     for (const QString& word : text.split(between, Qt::SkipEmptyParts)) {
-        const Money worth = values::CMoney(word);
+        const Money worth = values::IsNumeric(word) ? values::CMoney(word) : Money();
         if (worth <= Money())
             throw values::Error(values::TypeMismatch, Words::tr("'%1' is no amount above zero.").arg(word));
         if (!worths.contains(worth)) worths << worth;

@@ -4,6 +4,8 @@
 
 #include "cashier/DayClock.h"
 #include "cashier/Restart.h"
+#include "delivery/Delivery.h"
+#include "delivery/Trade.h"
 #include "manager/DrawerPage.h"
 #include "manager/InvoicesView.h"
 #include "manager/ManagerLogin.h"
@@ -12,7 +14,7 @@
 #include "manager/Start.h"
 #include "player/Keys.h"
 #include "player/ModalWatch.h"
-#include "screens/OlderShop.h"
+#include "store/StorePath.h"
 
 using namespace Qt::StringLiterals;
 
@@ -49,7 +51,8 @@ T& PageOf(manager::ManagerWindow& window, const QString& className) {
 
 // Weeks and months in figures, the invoices behind one of them, and a drawer that is counted.
 void LookAtOlderShop(const QString& shop, const Cashier::Camera& camera) {
-    MakeOlderShop(shop);
+    delivery::MakeProgramFolder(shop, {.withDemo = true});
+    delivery::TradeForWeeks(*store::Database::Open(store::MainPlace(shop), store::MainSchema()), values::Today());
     auto& window = LogIn(shop, {});
     QStringList views{u"manager-invoices"_s, u"manager-receipt"_s};
     const drivers::ModalWatch watch(

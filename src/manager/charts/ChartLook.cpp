@@ -4,9 +4,8 @@
 #include <cmath>
 
 #include "forms/Tokens.h"
-#include "values/Format.h"
-#include "values/Numbers.h"
 #include "manager/charts/ChartTable.h"
+#include "values/Format.h"
 
 namespace manager {
 
@@ -34,9 +33,17 @@ QColor ChartLook::Tint(double strength) const {
     return {mix(ground.red(), accent.red()), mix(ground.green(), accent.green()), mix(ground.blue(), accent.blue())};
 }
 
-QString CellText(const values::Value& value) {
-    if (value.GetKind() == values::Value::Kind::Money) return values::Format(value.As<values::Money>(), u"###,###,##0.00");
-    return value.TextOrEmpty();
+QStringList ChartTable::TextsOf(const std::vector<values::Value>& row) const {
+    QStringList texts;
+    for (const values::Value& cell : row) {
+        const bool isAmount = cell.GetKind() == values::Value::Kind::Money && !numbers.contains(texts.size());
+        texts << (isAmount ? AmountText(cell.As<values::Money>()) : cell.TextOrEmpty());
+    }
+    return texts;
+}
+
+QString AmountText(values::Money amount) {
+    return values::Format(amount, u"###,###,##0.00");
 }
 
 }  // namespace manager

@@ -4,6 +4,8 @@
 #include <QStackedLayout>
 #include <QVBoxLayout>
 
+#include "forms/Tokens.h"
+
 using namespace Qt::StringLiterals;
 
 namespace manager {
@@ -11,6 +13,7 @@ namespace manager {
 namespace {
 
 constexpr int NarrowestAmount = 100;
+constexpr int MostRows = 8;  // without scrolling
 
 }  // namespace
 
@@ -48,6 +51,7 @@ void ChartPanel::SetHeading(const QString& heading) {
 
 void ChartPanel::ShowAsTable(bool asTable) {
     if (asTable) FillList();
+    if (!asTable) list_->setMinimumHeight(0);
     stack_->setCurrentWidget(asTable ? static_cast<QWidget*>(list_) : chart_);
 }
 
@@ -66,12 +70,10 @@ void ChartPanel::FillList() {
     list_->SetColumns(std::move(columns));
     list_->Clear();
     list_->BeginFill();
-    for (const auto& row : table.rows) {
-        QStringList cells;
-        for (const values::Value& cell : row) cells << CellText(cell);
-        list_->Add(cells);
-    }
+    for (const auto& row : table.rows) list_->Add(table.TextsOf(row));
     list_->EndFill();
+    const int rows = std::clamp(list_->Count(), 2, MostRows) + 1;
+    list_->setMinimumHeight(rows * (forms::TheTokens().TightRowHeight + 1));
 }
 
 }  // namespace manager

@@ -11,9 +11,12 @@ namespace manager {
 struct ChartTable {
     QStringList headings;
     std::vector<std::vector<values::Value>> rows;
+    QList<int> numbers = {};  // columns of pieces and rates, which have no needless decimals as amounts do
+
+    // As a person reads it.
+    QStringList TextsOf(const std::vector<values::Value>& row) const;
 };
 
-// As a person reads it: amounts with two decimals, numbers of pieces without needless zeros.
-QString CellText(const values::Value& value);
+QString AmountText(values::Money amount);
 
 }  // namespace manager

@@ -62,8 +62,8 @@ int ColumnChart::Marks() const {
 
 QString ColumnChart::MarkText(int mark) const {
     const Column& column = content_.columns[static_cast<size_t>(mark)];
-    if (!HasBefore()) return tr("%1: %2").arg(column.name, CellText(column.amount));
-    return tr("%1: %2, before %3").arg(column.name, CellText(column.amount), CellText(column.before));
+    if (!HasBefore()) return tr("%1: %2").arg(column.name, AmountText(column.amount));
+    return tr("%1: %2, before %3").arg(column.name, AmountText(column.amount), AmountText(column.before));
 }
 
 void ColumnChart::Legend(QPainter& painter, const QRectF& head, const ChartLook& look) const {

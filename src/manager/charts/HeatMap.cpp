@@ -40,7 +40,7 @@ ChartTable HeatMap::Table() const {
 
 QString HeatMap::MarkText(int mark) const {
     return tr("%1, %2: %3").arg(content_.rows[RowOf(mark)], content_.columns[ColumnOf(mark)],
-                                CellText(content_.cells[static_cast<size_t>(mark)]));
+                                AmountText(content_.cells[static_cast<size_t>(mark)]));
 }
 
 QRectF HeatMap::GridOf(const QRectF& body, const ChartLook& look) const {

@@ -36,7 +36,7 @@ double RankList::HeightOf(int rows, const ChartLook& look) const {
 }
 
 ChartTable RankList::Table() const {
-    ChartTable table{content_.headings, {}};
+    ChartTable table{content_.headings, {}, content_.numbers};
     for (const Row& row : content_.rows) table.rows.push_back(row.cells);
     return table;
 }

@@ -18,6 +18,7 @@ public:
     struct Content {
         QStringList headings;
         std::vector<Row> rows;
+        QList<int> numbers = {};  // as in a ChartTable
     };
 
     explicit RankList(QWidget* parent);

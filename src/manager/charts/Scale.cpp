@@ -14,12 +14,10 @@ constexpr qint64 MostSteps = 5;
 
 // The smallest handsome step of which so many span the distance.
 qint64 StepFor(qint64 distance) {
-    qint64 power = Cent;
-    while (true) {
+    const qint64 least = (distance + MostSteps - 1) / MostSteps;
+    for (qint64 power = Cent;; power *= 10)
         for (const qint64 factor : {1, 2, 5})
-            if (power > distance / MostSteps || factor * power * MostSteps >= distance) return factor * power;
-        power *= 10;
-    }
+            if (factor * power >= least) return factor * power;
 }
 
 // Downwards also below zero.
@@ -47,7 +45,9 @@ std::vector<Money> Scale::Steps() const {
 }
 
 double Scale::PartOf(Money amount) const {
-    const auto part = [this](Money at) { return static_cast<double>(at.Units() - bottom_.Units()); };
+    const auto part = [this](Money at) {
+        return static_cast<double>(at.Units()) - static_cast<double>(bottom_.Units());
+    };
     return std::clamp(part(amount) / part(top_), 0.0, 1.0);
 }
 

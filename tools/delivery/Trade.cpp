@@ -1,19 +1,15 @@
-#include "screens/OlderShop.h"
+#include "delivery/Trade.h"
 
-#include <QDate>
 #include <array>
 #include <random>
 #include <vector>
 
-#include "delivery/Delivery.h"
-#include "store/Database.h"
-#include "store/StorePath.h"
 #include "values/Tax.h"
 
 using namespace Qt::StringLiterals;
 using values::Money;
 
-namespace screens {
+namespace delivery {
 
 namespace {
 
@@ -131,15 +127,13 @@ private:
 
 }  // namespace
 
-void MakeOlderShop(const QString& folder) {
-    const QDate today(2026, 11, 24);
-    delivery::MakeProgramFolder(folder, {.withDemo = true});
-    const auto main = store::Database::Open(store::MainPlace(folder), store::MainSchema());
-    store::Database::Batch batch(*main);
-    Trade trade(*main);
-    for (QDate day = today.addDays(-71); day <= today; day = day.addDays(1))
-        if (day.dayOfWeek() != Qt::Sunday) trade.SellOn(day, day == today);
+void TradeForWeeks(store::Database& main, QDate until) {
+    constexpr int days = 71;
+    store::Database::Batch batch(main);
+    Trade trade(main);
+    for (QDate day = until.addDays(-days); day <= until; day = day.addDays(1))
+        if (day.dayOfWeek() != Qt::Sunday) trade.SellOn(day, day == until);
     batch.Commit();
 }
 
-}  // namespace screens
+}  // namespace delivery
