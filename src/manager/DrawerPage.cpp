@@ -69,6 +69,13 @@ DrawerPage::DrawerPage(QWidget* parent) : Page(parent) {
                               {tr("Difference"), Qt::AlignRight, 96},
                               {tr("Remark"), Qt::AlignLeft, 120}});
     ui.lstCounts->SetEmptyText(tr("Nothing was counted yet. Count the drawer on the page before and keep the count."));
+    none_ = new QLabel(ui.panelPieces);
+    none_->setWordWrap(true);
+    ui.layoutPieces->addWidget(none_, 0, 0, 1, 2 * SecondHalf);
+    for (const int column : {2, SecondHalf + 2})
+        ui.layoutPieces->setColumnMinimumWidth(column, forms::Scaled(SumWidth));
+    ui.layoutPieces->setColumnMinimumWidth(SecondHalf - 1, forms::Scaled(BetweenHalves));
+    ui.layoutPieces->setColumnStretch(SecondHalf + 3, 1);
     NumericKeys({ui.txtPutIn, ui.txtTakenOut});
     ShrinkFigures({ui.txtDifference});
     OnChange(ui.txtPutIn, &DrawerPage::Figures_Change);
@@ -114,50 +121,60 @@ store::Database& DrawerPage::Kept() {
 
 // Two columns of notes and coins side by side, the larger ones on the left.
 void DrawerPage::LayOutRows() {
-    qDeleteAll(ui.panelPieces->findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
-    rows_.clear();
-    QGridLayout& grid = *ui.layoutPieces;
     const QList<Money> worths = upkeep::DenominationsOf(kept_.get(), TheSettings.Currency);
-    if (worths.isEmpty()) {
-        auto* none = new QLabel(tr("Which notes and coins %1 has is not known yet. Press \"Notes and coins\" and type them.")
-                                    .arg(TheSettings.Currency),
-                                ui.panelPieces);
-        none->setWordWrap(true);
-        grid.addWidget(none, 0, 0, 1, 2 * SecondHalf);
+    none_->setText(tr("Which notes and coins %1 has is not known yet. Press \"Notes and coins\" and type them.")
+                       .arg(TheSettings.Currency));
+    none_->setVisible(worths.isEmpty());
+    for (Row& row : rows_) {
+        for (QWidget* part : std::initializer_list<QWidget*>{row.name, row.pieces, row.sum}) part->hide();
+        ui.layoutPieces->removeWidget(row.name);
+        ui.layoutPieces->removeWidget(row.pieces);
+        ui.layoutPieces->removeWidget(row.sum);
     }
+    std::ranges::move(std::exchange(rows_, {}), std::back_inserter(spare_));
     const int rowsEach = static_cast<int>(worths.size() + 1) / 2;
     QWidget* before = ui.tabParts;
     for (int number = 0; number < worths.size(); ++number) {
-        const int row = number % rowsEach;
+        Row row = MakeRow(number);
+        row.worth = worths[number];
+        row.name->setText(AmountText(row.worth));
+        row.pieces->setAccessibleName(tr("Pieces of %1").arg(row.name->text()));
+        row.pieces->clear();
         const int column = SecondHalf * (number / rowsEach);
-        auto* pieces = new QLineEdit(ui.panelPieces);
-        auto* worth = new QLabel(AmountText(worths[number]), ui.panelPieces);
-        auto* sum = new QLabel(ui.panelPieces);
-        pieces->setObjectName(u"txtPieces%1"_s.arg(number));
-        pieces->setAccessibleName(tr("Pieces of %1").arg(worth->text()));
-        pieces->setFixedWidth(forms::Scaled(PiecesWidth));
-        pieces->setAlignment(Qt::AlignRight);
-        pieces->setMaxLength(7);
-        worth->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        worth->setBuddy(pieces);
-        sum->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        sum->setProperty("role", u"muted"_s);
-        grid.addWidget(worth, row, column);
-        grid.addWidget(pieces, row, column + 1);
-        grid.addWidget(sum, row, column + 2);
-        NumericKeys({pieces});
-        EnterMovesOn({pieces});
-        OnChange(pieces, &DrawerPage::Figures_Change);
-        setTabOrder(before, pieces);
-        before = pieces;
-        rows_.push_back({worths[number], pieces, sum});
+        ui.layoutPieces->addWidget(row.name, number % rowsEach, column);
+        ui.layoutPieces->addWidget(row.pieces, number % rowsEach, column + 1);
+        ui.layoutPieces->addWidget(row.sum, number % rowsEach, column + 2);
+        for (QWidget* part : std::initializer_list<QWidget*>{row.name, row.pieces, row.sum}) part->show();
+        setTabOrder(before, row.pieces);
+        before = row.pieces;
+        rows_.push_back(row);
     }
-    for (const int column : {2, SecondHalf + 2}) grid.setColumnMinimumWidth(column, forms::Scaled(SumWidth));
-    grid.setColumnMinimumWidth(SecondHalf - 1, forms::Scaled(BetweenHalves));
-    grid.setColumnStretch(SecondHalf + 3, 1);
-    for (int row = 0; row < grid.rowCount(); ++row) grid.setRowStretch(row, 0);
-    grid.setRowStretch(rowsEach, 1);
+    for (int row = 0; row < ui.layoutPieces->rowCount(); ++row) ui.layoutPieces->setRowStretch(row, row == rowsEach);
     Figures_Change();
+}
+
+// One that was laid out before, or a new one.
+DrawerPage::Row DrawerPage::MakeRow(int number) {
+    const QString name = u"txtPieces%1"_s.arg(number);
+    const auto spare = std::ranges::find_if(spare_, [&](const Row& row) { return row.pieces->objectName() == name; });
+    if (spare != spare_.end()) {
+        const Row row = *spare;
+        spare_.erase(spare);
+        return row;
+    }
+    const Row row{{}, new QLabel(ui.panelPieces), new QLineEdit(ui.panelPieces), new QLabel(ui.panelPieces)};
+    row.pieces->setObjectName(name);
+    row.pieces->setFixedWidth(forms::Scaled(PiecesWidth));
+    row.pieces->setAlignment(Qt::AlignRight);
+    row.pieces->setMaxLength(7);
+    row.name->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    row.name->setBuddy(row.pieces);
+    row.sum->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    row.sum->setProperty("role", u"muted"_s);
+    NumericKeys({row.pieces});
+    EnterMovesOn({row.pieces});
+    OnChange(row.pieces, &DrawerPage::Figures_Change);
+    return row;
 }
 
 void DrawerPage::ReadSold() {

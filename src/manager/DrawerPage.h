@@ -11,7 +11,8 @@ class QLabel;
 
 namespace manager {
 
-// The drawer is counted, note by note and coin by coin, beside what should be in it. A count that is kept stays as it is.
+// The drawer is counted, note by note and coin by coin, beside what should be in it. A count that is kept stays as it
+// is.
 class DrawerPage : public Page {
     Q_OBJECT
 
@@ -28,6 +29,7 @@ private:
     // One note or coin on the page.
     struct Row {
         values::Money worth;
+        QLabel* name;
         QLineEdit* pieces;
         QLabel* sum;
     };
@@ -42,6 +44,7 @@ private:
     void OpenKept();
     store::Database& Kept();
     void LayOutRows();
+    Row MakeRow(int number);
     void ReadSold();
     void OfferFiscalCash();
     upkeep::Denominations Pieces() const;
@@ -51,6 +54,8 @@ private:
 
     std::unique_ptr<store::Database> kept_;  // once there is a manager.pos
     std::vector<Row> rows_;
+    std::vector<Row> spare_;  // of a currency with more of them
+    QLabel* none_ = nullptr;
     upkeep::CashSold sold_;
     QList<upkeep::DrawerCount> counts_;
 };

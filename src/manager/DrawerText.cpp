@@ -28,10 +28,12 @@ QString Line(const QString& words, values::Money amount) {
 
 QStringList DrawerLines(const upkeep::DrawerCount& count) {
     const QString rule(Width, u'-');
-    QStringList lines{TheInstallation.heading.NazivFirme, {},
+    QStringList lines{TheInstallation.heading.NazivFirme,
+                      {},
                       Words::tr("Count %1 of the drawer, in %2").arg(count.number).arg(count.currency),
                       values::DateText(count.day) + u"  "_s + values::TimeText(count.time),
-                      Words::tr("Counted by %1").arg(count.userName), rule};
+                      Words::tr("Counted by %1").arg(count.userName),
+                      rule};
     for (const auto& [worth, pieces] : count.pieces)
         lines << Line(u"%1 x %2"_s.arg(pieces, 6).arg(AmountText(worth)), worth * values::Money::FromWhole(pieces));
     lines << rule << Line(Words::tr("Counted"), count.counted) << rule << Line(Words::tr("Sold in cash"), count.sold)

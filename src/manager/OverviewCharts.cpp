@@ -115,7 +115,8 @@ QString NameOf(const Span& span) {
     return QString::number(day.year());
 }
 
-// The days that are compared begin earlier by the same distance; of whole months and years each number stands for itself.
+// The days that are compared begin earlier by the same distance; of whole months and years each number stands for
+// itself.
 ColumnChart::Content TakingsContent(const upkeep::Overview& overview, const std::vector<Span>& spans) {
     const bool isByHour = spans.front().kind == Span::Kind::Hour;
     ColumnChart::Content content{isByHour ? Words::tr("Hour") : Words::tr("Days"), Words::tr("Taken"), {}, {}};
@@ -127,8 +128,8 @@ ColumnChart::Content TakingsContent(const upkeep::Overview& overview, const std:
         if (isByHour) {
             if (span.hour < hours.first || span.hour > hours.last) continue;
             const auto day = static_cast<size_t>(span.days.first.dayOfWeek() - 1);
-            content.columns.push_back({LabelOf(span, isRoomy), NameOf(span),
-                                       overview.byWeekday[day][static_cast<size_t>(span.hour)], {}});
+            content.columns.push_back(
+                {LabelOf(span, isRoomy), NameOf(span), overview.byWeekday[day][static_cast<size_t>(span.hour)], {}});
             continue;
         }
         Days compared{before.first.addDays(overview.days.first.daysTo(span.days.first)), {}};
@@ -166,9 +167,11 @@ HeatMap::Content HoursContent(const upkeep::Overview& overview, HoursShown hours
 }
 
 RankList::Content GoodsContent(const std::vector<upkeep::GoodsTakings>& goods, upkeep::By by) {
-    RankList::Content content{{Words::tr("Goods"), Words::tr("Code"), Words::tr("Pieces"), Words::tr("Taken")}, {}, {2}};
+    RankList::Content content{
+        {Words::tr("Goods"), Words::tr("Code"), Words::tr("Pieces"), Words::tr("Taken")}, {}, {2}};
     for (const auto& each : goods)
-        content.rows.push_back({each.name, by == upkeep::By::Total ? AmountText(each.total) : PiecesText(each),
+        content.rows.push_back({each.name,
+                                by == upkeep::By::Total ? AmountText(each.total) : PiecesText(each),
                                 by == upkeep::By::Total ? each.total : each.pieces,
                                 {each.name, each.code, each.pieces, each.total}});
     return content;
@@ -187,13 +190,14 @@ RankList::Content NamedContent(const QString& heading, const std::vector<upkeep:
 }
 
 RankList::Content TaxesContent(const std::vector<upkeep::TaxTakings>& taxes) {
-    RankList::Content content{{Words::tr("Tax"), Words::tr("Rate"), Words::tr("Base"), Words::tr("Tax amount"),
-                               Words::tr("With tax")},
-                              {},
-                              {1}};
+    RankList::Content content{
+        {Words::tr("Tax"), Words::tr("Rate"), Words::tr("Base"), Words::tr("Tax amount"), Words::tr("With tax")},
+        {},
+        {1}};
     for (const auto& [id, name, percent, amounts] : taxes)
         content.rows.push_back({Words::tr("%1, in %2").arg(name, AmountText(amounts.total)),
-                                AmountText(amounts.tax), amounts.tax,
+                                AmountText(amounts.tax),
+                                amounts.tax,
                                 {name, percent, amounts.total - amounts.tax, amounts.tax, amounts.total}});
     return content;
 }
@@ -206,7 +210,9 @@ RankList::Content RunningOutContent(const std::vector<upkeep::RunningOut>& list)
                               {},
                               {2, 3}};
     for (const auto& each : list)
-        content.rows.push_back({each.goods.name, LastsText(each), Money::FromWhole(std::max<qint64>(month - each.days, 0)),
+        content.rows.push_back({each.goods.name,
+                                LastsText(each),
+                                Money::FromWhole(std::max<qint64>(month - each.days, 0)),
                                 {each.goods.name, each.goods.code, each.stock, each.goods.pieces, each.days}});
     return content;
 }

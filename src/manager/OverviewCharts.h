@@ -28,7 +28,8 @@ struct HoursShown {
 HoursShown HoursOf(const upkeep::Overview& overview);
 HeatMap::Content HoursContent(const upkeep::Overview& overview, HoursShown hours);
 RankList::Content GoodsContent(const std::vector<upkeep::GoodsTakings>& goods, upkeep::By by);
-RankList::Content NamedContent(const QString& heading, const std::vector<upkeep::NamedTakings>& list, bool withInvoices);
+RankList::Content NamedContent(const QString& heading, const std::vector<upkeep::NamedTakings>& list,
+                               bool withInvoices);
 RankList::Content TaxesContent(const std::vector<upkeep::TaxTakings>& taxes);
 RankList::Content RunningOutContent(const std::vector<upkeep::RunningOut>& list);
 

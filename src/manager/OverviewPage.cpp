@@ -59,7 +59,8 @@ OverviewPage::OverviewPage(QWidget* parent) : Page(parent) {
     On(ui.optPieces, &OverviewPage::optBy_Click);
     FunctionKeys({{Qt::Key_Escape, ui.cmdStop}});
     EnterMovesOn({ui.dtpFirst, ui.dtpLast});
-    connect(&run_, &OverviewRun::Told, this, [this](const upkeep::Overview& overview) { Run([&] { Show(overview); }); });
+    connect(&run_, &OverviewRun::Told, this,
+            [this](const upkeep::Overview& overview) { Run([&] { Show(overview); }); });
     connect(&run_, &OverviewRun::Ended, this, [this](const QString& fault) { ShowState(fault); });
 }
 
@@ -81,7 +82,7 @@ void OverviewPage::PrepareCharts() {
 }
 
 QList<ChartPanel*> OverviewPage::Panels() const {
-    return {ui.panelTakings, ui.panelHours,  ui.panelBest,     ui.panelIdle,
+    return {ui.panelTakings,    ui.panelHours,  ui.panelBest,     ui.panelIdle,
             ui.panelRunningOut, ui.panelGroups, ui.panelCashiers, ui.panelTaxes};
 }
 
@@ -97,6 +98,12 @@ void OverviewPage::Form_Load() {
 void OverviewPage::Form_Activate() {
     if (run_.IsRunning() || (sinceRead_.isValid() && sinceRead_.elapsed() < Fresh)) return;
     Read();
+}
+
+// The thread must not outlive the program.
+bool OverviewPage::Form_Unload() {
+    run_.Stop();
+    return true;
 }
 
 Days OverviewPage::ChosenDays() const {
@@ -151,7 +158,8 @@ void OverviewPage::Show(const upkeep::Overview& overview) {
     for (ChartPanel* panel : Panels()) panel->FiguresChanged();
     ui.prgRead->setRange(0, static_cast<int>(shown_.days.Count()));
     ui.prgRead->setValue(static_cast<int>(shown_.daysRead));
-    ui.lblState->setText(tr("Reading back from %1 ...").arg(values::DateText(shown_.days.last.addDays(1 - shown_.daysRead))));
+    ui.lblState->setText(
+        tr("Reading back from %1 ...").arg(values::DateText(shown_.days.last.addDays(1 - shown_.daysRead))));
 }
 
 void OverviewPage::ShowBoxes() {
@@ -167,13 +175,15 @@ void OverviewPage::ShowBoxes() {
     ui.lblToday->setText(tr("Today, %1 %2").arg(weekday, values::DateText(day)));
     ui.lblTodaySum->setText(AmountText(takenToday));
     ui.lblTodayNote1->setText(compared(tr("A week ago"), takenToday, weekBefore.amounts.total));
-    ShowText(ui.lblTodayNote2, weekdays < 2 ? QString() : compared(tr("Mean of the last %1").arg(weekdays), takenToday, mean));
+    ShowText(ui.lblTodayNote2,
+             weekdays < 2 ? QString() : compared(tr("Mean of the last %1").arg(weekdays), takenToday, mean));
 
     const Days before = upkeep::DaysBefore(upkeep::MonthOf(day));
     const QDate sameDay = std::min(before.first.addDays(day.day() - 1), before.last);
     ui.lblMonth->setText(MonthText(day));
     ui.lblMonthSum->setText(AmountText(month.amounts.total));
-    ui.lblMonthNote1->setText(compared(tr("Until %1").arg(values::DateText(sameDay)), month.amounts.total, toDate.amounts.total));
+    ui.lblMonthNote1->setText(
+        compared(tr("Until %1").arg(values::DateText(sameDay)), month.amounts.total, toDate.amounts.total));
     ui.lblMonthNote2->setText(tr("%1: %2").arg(MonthText(before.first), AmountText(monthBefore.amounts.total)));
 
     const upkeep::Takings& chosen = shown_.takings;
@@ -181,8 +191,9 @@ void OverviewPage::ShowBoxes() {
     ui.lblDaysSum->setText(AmountText(chosen.amounts.total));
     const Money meanInvoice =
         chosen.invoices == 0 ? Money() : Money::FromUnits(chosen.amounts.total.Units() / chosen.invoices);
-    ui.lblDaysNote1->setText(chosen.invoices == 1 ? tr("1 invoice")
-                                                  : tr("%1 invoices, %2 each").arg(chosen.invoices).arg(AmountText(meanInvoice)));
+    ui.lblDaysNote1->setText(chosen.invoices == 1
+                                 ? tr("1 invoice")
+                                 : tr("%1 invoices, %2 each").arg(chosen.invoices).arg(AmountText(meanInvoice)));
     upkeep::Takings compare;
     for (const auto& [date, takings] : shown_.before) compare += takings;
     ShowText(ui.lblDaysNote2, shown_.before.empty() ? QString()
@@ -232,8 +243,8 @@ void OverviewPage::Arrange(bool asTables) {
         int row, column, columns;
     };
     constexpr int all = 6;
-    const Place places[] = {{ui.panelTakings, 1, 0, 4}, {ui.panelHours, 1, 4, 2},  {ui.panelBest, 3, 0, 2},
-                            {ui.panelIdle, 3, 2, 2},    {ui.panelRunningOut, 3, 4, 2}, {ui.panelGroups, 4, 0, 2},
+    const Place places[] = {{ui.panelTakings, 1, 0, 4},  {ui.panelHours, 1, 4, 2},      {ui.panelBest, 3, 0, 2},
+                            {ui.panelIdle, 3, 2, 2},     {ui.panelRunningOut, 3, 4, 2}, {ui.panelGroups, 4, 0, 2},
                             {ui.panelCashiers, 4, 2, 2}, {ui.panelTaxes, 4, 4, 2}};
     for (const Place& place : places) ui.layoutFigures->removeWidget(place.panel);
     ui.layoutFigures->removeItem(ui.layoutGoods);
@@ -314,10 +325,18 @@ void OverviewPage::cmdPrint_Click() {
     forms::Inform(tr("The overview is printed."), Caption());
 }
 
+// The dialog has asked only for the name that was typed.
+QString OverviewPage::AskFile(const QString& title, const QString& filter, const QString& suffix) {
+    const QString path = forms::AskSaveName(this, title, filter);
+    if (path.isEmpty() || path.endsWith(suffix, Qt::CaseInsensitive)) return path;
+    const QString whole = path + suffix;
+    const bool replaces = QFile::exists(whole);
+    return !replaces || forms::Ask(tr("%1 is there already. Replace it?").arg(whole), Caption()) ? whole : QString();
+}
+
 void OverviewPage::cmdPdf_Click() {
-    QString path = forms::AskSaveName(this, tr("Save the overview"), tr("Document (*.pdf)"));
+    const QString path = AskFile(tr("Save the overview"), tr("Document (*.pdf)"), u".pdf"_s);
     if (path.isEmpty()) return;
-    if (!path.endsWith(u".pdf"_s, Qt::CaseInsensitive)) path += u".pdf"_s;
     try {
         output::PageDevice pages(path, QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
                                                    QMarginsF(12, 12, 12, 12), QPageLayout::Millimeter));
@@ -330,9 +349,8 @@ void OverviewPage::cmdPdf_Click() {
 }
 
 void OverviewPage::cmdCsv_Click() {
-    QString path = forms::AskSaveName(this, tr("Save the figures"), tr("Table (*.csv)"));
+    const QString path = AskFile(tr("Save the figures"), tr("Table (*.csv)"), u".csv"_s);
     if (path.isEmpty()) return;
-    if (!path.endsWith(u".csv"_s, Qt::CaseInsensitive)) path += u".csv"_s;
     QList<QList<values::Value>> rows{{tr("Overview"), DaysText(shown_.days)},
                                      {tr("Taken"), shown_.takings.amounts.total},
                                      {tr("Tax in it"), shown_.takings.amounts.tax},

@@ -29,6 +29,7 @@ public:
 protected:
     void Form_Load() override;
     void Form_Activate() override;
+    bool Form_Unload() override;
 
 private:
     void Range_Click();
@@ -52,6 +53,7 @@ private:
     void ChooseCashier(int mark);
     void ShowInvoices(const QString& what, const upkeep::InvoicesWish& wish);
     void Arrange(bool asTables);
+    QString AskFile(const QString& title, const QString& filter, const QString& suffix);
     QList<ChartPanel*> Panels() const;
     OverviewPaper Paper() const;
 

@@ -73,7 +73,8 @@ void OverviewPaper::PaintOn(output::PageDevice& pages) const {
         sheet.Text(inner, boxes[box].title, 12, look.muted);
         sheet.Text(inner.adjusted(0, 16, 0, 0), boxes[box].figure, 22, look.ink, true);
         double top = 46;
-        for (const QString& note : boxes[box].notes) sheet.Text(inner.adjusted(0, std::exchange(top, top + 16), 0, 0), note, 11, look.muted);
+        for (const QString& note : boxes[box].notes)
+            sheet.Text(inner.adjusted(0, std::exchange(top, top + 16), 0, 0), note, 11, look.muted);
     }
     sheet.Advance(BoxHeight + Gap);
     int column = 0;

@@ -38,7 +38,10 @@ void OverviewRun::WaitFor(std::chrono::milliseconds atMost) {
 
 // The thread's part.
 void OverviewRun::Work(const std::stop_token& stop, const upkeep::OverviewWish& wish, int run) {
-    const auto tell = [this, run] { QMetaObject::invokeMethod(this, [this, run] { TakeIn(run); }, Qt::QueuedConnection); };
+    const auto tell = [this, run] {
+        QMetaObject::invokeMethod(
+            this, [this, run] { TakeIn(run); }, Qt::QueuedConnection);
+    };
     QString fault;
     try {
         if (!store_) store_ = store::Database::Open(store::MainPlace(output::ProgramFolder()), store::MainSchema());

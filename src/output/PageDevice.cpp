@@ -75,7 +75,8 @@ void PageDevice::NewPage() {
 }
 
 void PageDevice::End() {
-    if (!painter_.end() || DeviceFailed(*device_)) throw OutputError(values::DeviceError, u"The page printer failed."_s);
+    if (!painter_.end() || DeviceFailed(*device_))
+        throw OutputError(values::DeviceError, u"The page printer failed."_s);
     if (pdf_.isOpen()) SavePdf(pdfPath_.isEmpty() ? NewPdfPath() : pdfPath_, pdf_.data());
 }
 

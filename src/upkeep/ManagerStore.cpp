@@ -49,7 +49,8 @@ store::Table DenominationsTable() {
 
 QList<Money> PlainWorths(const QString& text) {
     QList<Money> worths;
-    for (const QString& word : text.split(u' ', Qt::SkipEmptyParts)) worths << ReadValue(word.toUtf8(), Type::Money).ToMoney();
+    for (const QString& word : text.split(u' ', Qt::SkipEmptyParts))
+        worths << ReadValue(word.toUtf8(), Type::Money).ToMoney();
     return worths;
 }
 
@@ -60,17 +61,15 @@ QString PlainText(const QList<Money>& worths) {
 }
 
 QString UsualDenominations(const QString& currency) {
-    static const QHash<QString, QString> usual{
-        {u"KM"_s, u"200 100 50 20 10 5 2 1 0.5 0.2 0.1 0.05"_s},
-        {u"EUR"_s, u"500 200 100 50 20 10 5 2 1 0.5 0.2 0.1 0.05 0.02 0.01"_s},
-        {u"GBP"_s, u"50 20 10 5 2 1 0.5 0.2 0.1 0.05 0.02 0.01"_s},
-        {u"CHF"_s, u"1000 200 100 50 20 10 5 2 1 0.5 0.2 0.1 0.05"_s},
-        {u"RSD"_s, u"5000 2000 1000 500 200 100 50 20 10 5 2 1"_s},
-        {u"USD"_s, u"100 50 20 10 5 2 1 0.5 0.25 0.1 0.05 0.01"_s}};
-    static const QHash<QString, QString> names{{u"BAM"_s, u"KM"_s},  {u"€"_s, u"EUR"_s},  {u"EURO"_s, u"EUR"_s},
-                                               {u"£"_s, u"GBP"_s},   {u"FR"_s, u"CHF"_s}, {u"FR."_s, u"CHF"_s},
-                                               {u"SFR"_s, u"CHF"_s}, {u"DIN"_s, u"RSD"_s}, {u"DIN."_s, u"RSD"_s},
-                                               {u"$"_s, u"USD"_s}};
+    static const QHash<QString, QString> usual{{u"KM"_s, u"200 100 50 20 10 5 2 1 0.5 0.2 0.1 0.05"_s},
+                                               {u"EUR"_s, u"500 200 100 50 20 10 5 2 1 0.5 0.2 0.1 0.05 0.02 0.01"_s},
+                                               {u"GBP"_s, u"50 20 10 5 2 1 0.5 0.2 0.1 0.05 0.02 0.01"_s},
+                                               {u"CHF"_s, u"1000 200 100 50 20 10 5 2 1 0.5 0.2 0.1 0.05"_s},
+                                               {u"RSD"_s, u"5000 2000 1000 500 200 100 50 20 10 5 2 1"_s},
+                                               {u"USD"_s, u"100 50 20 10 5 2 1 0.5 0.25 0.1 0.05 0.01"_s}};
+    static const QHash<QString, QString> names{
+        {u"BAM"_s, u"KM"_s},  {u"€"_s, u"EUR"_s},   {u"EURO"_s, u"EUR"_s}, {u"£"_s, u"GBP"_s},    {u"FR"_s, u"CHF"_s},
+        {u"FR."_s, u"CHF"_s}, {u"SFR"_s, u"CHF"_s}, {u"DIN"_s, u"RSD"_s},  {u"DIN."_s, u"RSD"_s}, {u"$"_s, u"USD"_s}};
     const QString key = currency.trimmed().toUpper();
     return usual.value(names.value(key, key));
 }
@@ -145,7 +144,8 @@ QList<Money> ReadDenominations(const QString& text) {
         if (!worths.contains(worth)) worths << worth;
     }
     if (worths.isEmpty())
-        throw values::Error(values::TypeMismatch, Words::tr("There is no amount. Type some, with a blank between two."));
+        throw values::Error(values::TypeMismatch,
+                            Words::tr("There is no amount. Type some, with a blank between two."));
     std::ranges::sort(worths, std::greater());
     return worths;
 }

@@ -45,7 +45,7 @@ struct DrawerCount {
     QString currency;
     Denominations pieces;
     values::Money counted;
-    values::Money sold;     // in cash since the last End Report
+    values::Money sold;  // in cash since the last End Report
     values::Money putIn;
     values::Money takenOut;
     QString remark;

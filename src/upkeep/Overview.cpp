@@ -15,7 +15,7 @@ const auto InvoicesQuery =
     u"SELECT DateSold, TimeSold, CashAmount, TaxTotal, CashierID, CashierName FROM Invoices WHERE "_s;
 const auto FirstSaleQuery = u"SELECT Min(DateSold) FROM Invoices"_s;
 const auto LastSaleQuery = u"SELECT Max(DateSold) FROM Invoices"_s;
-const auto SaleBeforeQuery = u"SELECT Max(DateSold) FROM Invoices WHERE DateSold < #%1#"_s;
+const auto LastSaleUpToQuery = u"SELECT Max(DateSold) FROM Invoices WHERE DateSold <= #%1#"_s;
 
 constexpr int ButtonsPerTab = 32;
 
@@ -30,6 +30,10 @@ Money MoneyOf(const values::Value& value) {
 
 bool SoldMore(const GoodsTakings& a, const GoodsTakings& b) {
     return std::tie(b.total, b.pieces, a.code) < std::tie(a.total, a.pieces, b.code);
+}
+
+bool SoldLess(const GoodsTakings& a, const GoodsTakings& b) {
+    return std::tie(a.total, a.pieces, a.code) < std::tie(b.total, b.pieces, b.code);
 }
 
 bool TookMore(const NamedTakings& a, const NamedTakings& b) {
@@ -85,7 +89,7 @@ private:
     // The last month up to a day, or the part of it that was asked for; months without a sale are passed over.
     Days LastOf(QDate day) {
         if (day < overview_.days.first) return {};
-        const QDate sold = DayOf(main_, SaleBeforeQuery.arg(day.addDays(1).toString(u"MM-dd-yyyy"_s)));
+        const QDate sold = DayOf(main_, LastSaleUpToQuery.arg(day.toString(u"MM-dd-yyyy"_s)));
         if (!sold.isValid() || sold < overview_.days.first) return {};
         return {std::max(MonthOf(sold).first, overview_.days.first), std::min(MonthOf(sold).last, overview_.days.last)};
     }
@@ -151,7 +155,7 @@ private:
         shown.groups = std::move(groups);
         shown.cashiers = cashierList_;
         std::ranges::sort(shown.goods, SoldMore);
-        std::ranges::sort(shown.idle, [](const auto& a, const auto& b) { return SoldMore(b, a); });
+        std::ranges::sort(shown.idle, SoldLess);
         std::ranges::sort(shown.groups, TookMore);
         std::ranges::sort(shown.cashiers, TookMore);
         return shown;

@@ -106,7 +106,7 @@ std::vector<GoodsTakings> Least(const std::vector<GoodsTakings>& goods, By by, s
 
 struct OverviewWish {
     QDate today;
-    Days days;  // an invalid one stands for all days of the shop
+    Days days;        // an invalid one stands for all days of the shop
     QString noGroup;  // what goods are grouped under that are not on the touch table
 };
 

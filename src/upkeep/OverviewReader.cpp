@@ -36,8 +36,10 @@ Takings SumOf(const TakingsByDay& byDay, const Days& days) {
     return sum;
 }
 
+// Halves away from zero.
 Money Quotient(Money dividend, qint64 divisor) {
-    return Money::FromUnits((2 * dividend.Units() + divisor) / (2 * divisor));
+    const auto twice = static_cast<__int128>(dividend.Units()) * 2;
+    return Money::FromUnits(static_cast<qint64>((twice + (twice < 0 ? -divisor : divisor)) / (2 * divisor)));
 }
 
 }  // namespace
@@ -139,7 +141,8 @@ std::vector<RunningOut> ReadRunningOut(store::Database& main, Articles articles,
         entry.goods.pieces = Quotient(taken, pace.Count());
         // By what was taken, since the mean of a day is rounded.
         if (article.stock > Money())
-            entry.days = static_cast<qint64>(static_cast<__int128>(article.stock.Units()) * pace.Count() / taken.Units());
+            entry.days =
+                static_cast<qint64>(static_cast<__int128>(article.stock.Units()) * pace.Count() / taken.Units());
         list.push_back(std::move(entry));
     }
     std::ranges::stable_sort(list, {}, &RunningOut::days);

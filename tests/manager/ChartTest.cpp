@@ -22,7 +22,8 @@ class ChartTest : public drivers::ScreenTest {
 protected:
     static QString StepsOf(const char16_t* lowest, const char16_t* highest) {
         QStringList steps;
-        for (const Money step : Scale(MoneyOf(QString::fromUtf16(lowest)), MoneyOf(QString::fromUtf16(highest))).Steps())
+        for (const Money step :
+             Scale(MoneyOf(QString::fromUtf16(lowest)), MoneyOf(QString::fromUtf16(highest))).Steps())
             steps << PlainText(step);
         return steps.join(u' ');
     }
@@ -70,7 +71,9 @@ TEST_F(ChartTest, APlaceIsHitUpToItsEdgeAndLabelsAreLeftOutWhereTheyWouldTouch) 
 
 TEST_F(ChartTest, KeysAndMouseReachTheBarsAndTheTableHasTheirFigures) {
     ColumnChart chart(nullptr);
-    chart.Show({u"Days"_s, u"Taken"_s, u"Before"_s,
+    chart.Show({u"Days"_s,
+                u"Taken"_s,
+                u"Before"_s,
                 {{u"1"_s, u"Mon"_s, Money::FromWhole(10), Money::FromWhole(5)},
                  {u"2"_s, u"Tue"_s, Money(), Money::FromWhole(7)},
                  {u"3"_s, u"Wed"_s, Money::FromWhole(30), Money()}}});
@@ -91,8 +94,8 @@ TEST_F(ChartTest, KeysAndMouseReachTheBarsAndTheTableHasTheirFigures) {
     QList<int> marks;
     for (const auto& arguments : chosen) marks << arguments[0].toInt();
     EXPECT_EQ(marks, QList<int>({2, 0, 2}));
-    EXPECT_EQ(RowsOf(chart.Table()), QStringList({u"Days|Taken|Before"_s, u"Mon|10.00|5.00"_s, u"Tue|0.00|7.00"_s,
-                                                  u"Wed|30.00|0.00"_s}));
+    EXPECT_EQ(RowsOf(chart.Table()),
+              QStringList({u"Days|Taken|Before"_s, u"Mon|10.00|5.00"_s, u"Tue|0.00|7.00"_s, u"Wed|30.00|0.00"_s}));
     chart.Show({u"Days"_s, u"Taken"_s, {}, {{u"1"_s, u"Mon"_s, Money(), Money()}}});
     EXPECT_EQ(chart.Marks(), 0);
     EXPECT_EQ(chart.Figure(), QString());
@@ -102,8 +105,14 @@ TEST_F(ChartTest, KeysAndMouseReachTheBarsAndTheTableHasTheirFigures) {
 
 TEST_F(ChartTest, AHeatMapIsWalkedInBothDirectionsAndListsWhatWasSold) {
     HeatMap map(nullptr);
-    HeatMap::Content content{u"Day"_s, u"Hour"_s, u"Taken"_s, {u"Mon"_s, u"Tue"_s}, {u"M"_s, u"T"_s},
-                             {u"8"_s, u"9"_s, u"10"_s}, {u"8"_s, u"9"_s, u"10"_s}, std::vector<Money>(6)};
+    HeatMap::Content content{u"Day"_s,
+                             u"Hour"_s,
+                             u"Taken"_s,
+                             {u"Mon"_s, u"Tue"_s},
+                             {u"M"_s, u"T"_s},
+                             {u"8"_s, u"9"_s, u"10"_s},
+                             {u"8"_s, u"9"_s, u"10"_s},
+                             std::vector<Money>(6)};
     map.Show(content);
     EXPECT_EQ(map.Marks(), 0);
     content.cells[1] = Money::FromWhole(4);

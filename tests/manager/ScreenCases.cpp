@@ -113,12 +113,14 @@ void CheckFigures(ScreenCase& at, const QString& rest, const Step& step) {
     EXPECT_EQ(PartOf(overview, words.last()).join(u'\n').toStdString(), expected.join(u'\n').toStdString());
 }
 
-[[maybe_unused]] const bool added = ScreenCase::AddWords({
-    {u"manager"_s, [](ScreenCase& at, const QString&, const Step&) { StartManager(at); }},
-    {u"page"_s, GoToPage},
-    {u"ready"_s, WaitUntilReady},
-    {u"figures"_s, CheckFigures},
-}, {u"figures"_s});
+[[maybe_unused]] const bool added = ScreenCase::AddWords(
+    {
+        {u"manager"_s, [](ScreenCase& at, const QString&, const Step&) { StartManager(at); }},
+        {u"page"_s, GoToPage},
+        {u"ready"_s, WaitUntilReady},
+        {u"figures"_s, CheckFigures},
+    },
+    {u"figures"_s});
 
 }  // namespace
 

@@ -28,7 +28,8 @@ void ScreenCase::PlayStep(const Step& step) {
     const testing::ScopedTrace trace(step.file.c_str(), step.line, step.text.toStdString());
     const QString word = step.text.section(u' ', 0, 0);
     ASSERT_TRUE(Words().contains(word)) << "nobody knows the word " << word.toStdString();
-    ASSERT_TRUE(step.inner.empty() || WordsWithLines().contains(word) || !step.form.isEmpty()) << "no form for the lines under it";
+    ASSERT_TRUE(step.inner.empty() || WordsWithLines().contains(word) || !step.form.isEmpty())
+        << "no form for the lines under it";
     const int before = boxes_.Left();
     if (!step.form.isEmpty())
         boxes_.ExpectForm(step.form, [&](QWidget& form) { PlayIn(static_cast<forms::Form&>(form), step); });

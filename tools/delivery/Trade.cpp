@@ -32,7 +32,8 @@ public:
         auto rows = main.OpenSnapshot(
             u"SELECT ProdCode, ProdDescription, Unit, TaxID, UnitPrice, TaxPercent FROM Products ORDER BY ID"_s);
         for (auto& row : rows)
-            goods_.push_back({row[0].Text(), row[1].Text(), row[2].Text(), row[3].Text(), row[4].Money(), row[5].Money()});
+            goods_.push_back(
+                {row[0].Text(), row[1].Text(), row[2].Text(), row[3].Text(), row[4].Money(), row[5].Money()});
     }
 
     void SellOn(QDate day, bool isToday) {
@@ -98,7 +99,8 @@ private:
         Money total, tax;
     };
     void AddLine(const Goods& goods, Amounts& sum) {
-        const Money pieces = goods.unit == u"kg" ? Money::FromUnits((Draw(28) + 3) * 500) : Money::FromWhole(1 + Draw(3));
+        const Money pieces =
+            goods.unit == u"kg" ? Money::FromUnits((Draw(28) + 3) * 500) : Money::FromWhole(1 + Draw(3));
         const Money amount = Money::FromUnits((goods.price * pieces).Units() / 100 * 100);
         const Money tax = Money::FromUnits(values::ContainedTax(amount, goods.percent.ToDouble()).Units() / 100 * 100);
         lines_.AddNew();

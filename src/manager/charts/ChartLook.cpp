@@ -29,7 +29,9 @@ ChartLook ChartLook::OfPaper() {
 }
 
 QColor ChartLook::Tint(double strength) const {
-    const auto mix = [strength](int from, int to) { return static_cast<int>(std::lround(from + (to - from) * strength)); };
+    const auto mix = [strength](int from, int to) {
+        return static_cast<int>(std::lround(from + (to - from) * strength));
+    };
     return {mix(ground.red(), accent.red()), mix(ground.green(), accent.green()), mix(ground.blue(), accent.blue())};
 }
 

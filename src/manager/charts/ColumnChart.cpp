@@ -85,8 +85,8 @@ void ColumnChart::Legend(QPainter& painter, const QRectF& head, const ChartLook&
 
 QRectF ColumnChart::PlotOf(const QRectF& body, const ChartLook& look) const {
     const QFontMetricsF metrics(look.text);
-    const double figures =
-        std::max(metrics.horizontalAdvance(AxisText(scale_.Top())), metrics.horizontalAdvance(AxisText(scale_.Bottom())));
+    const double figures = std::max(metrics.horizontalAdvance(AxisText(scale_.Top())),
+                                    metrics.horizontalAdvance(AxisText(scale_.Bottom())));
     return body.adjusted(figures + 8, metrics.height() / 2, -4, -metrics.height() - 4);
 }
 

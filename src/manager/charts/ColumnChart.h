@@ -17,7 +17,7 @@ public:
         values::Money before;
     };
     struct Content {
-        QString heading;      // what the columns are
+        QString heading;  // what the columns are
         QString amountName;
         QString beforeName;  // empty when there is nothing to compare with
         std::vector<Column> columns;

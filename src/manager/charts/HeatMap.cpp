@@ -39,8 +39,9 @@ ChartTable HeatMap::Table() const {
 }
 
 QString HeatMap::MarkText(int mark) const {
-    return tr("%1, %2: %3").arg(content_.rows[RowOf(mark)], content_.columns[ColumnOf(mark)],
-                                AmountText(content_.cells[static_cast<size_t>(mark)]));
+    return tr("%1, %2: %3")
+        .arg(content_.rows[RowOf(mark)], content_.columns[ColumnOf(mark)],
+             AmountText(content_.cells[static_cast<size_t>(mark)]));
 }
 
 QRectF HeatMap::GridOf(const QRectF& body, const ChartLook& look) const {

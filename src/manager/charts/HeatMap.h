@@ -13,9 +13,9 @@ public:
         QString rowHeading;
         QString columnHeading;
         QString amountName;
-        QStringList rows;        // in words and in the table
-        QStringList rowLabels;   // beside them
-        QStringList columns;     // in words and in the table
+        QStringList rows;       // in words and in the table
+        QStringList rowLabels;  // beside them
+        QStringList columns;    // in words and in the table
         QStringList columnLabels;
         std::vector<values::Money> cells;  // row by row
     };

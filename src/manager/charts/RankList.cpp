@@ -22,7 +22,8 @@ RankList::RankList(QWidget* parent) : Chart(parent) {
 void RankList::Show(Content content) {
     content_ = std::move(content);
     longest_ = {};
-    for (int row = 0; row < Marks(); ++row) longest_ = std::max(longest_, content_.rows[static_cast<size_t>(row)].length);
+    for (int row = 0; row < Marks(); ++row)
+        longest_ = std::max(longest_, content_.rows[static_cast<size_t>(row)].length);
     FiguresChanged();
 }
 

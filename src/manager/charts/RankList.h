@@ -11,8 +11,8 @@ class RankList : public Chart {
 public:
     struct Row {
         QString name;
-        QString figure;       // beside it
-        values::Money length;  // of its bar
+        QString figure;                    // beside it
+        values::Money length;              // of its bar
         std::vector<values::Value> cells;  // in the table
     };
     struct Content {

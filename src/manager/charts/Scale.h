@@ -7,8 +7,8 @@
 
 namespace manager {
 
-// The axis of amounts: from the lowest to the highest that are to be shown, zero among them, in steps of 1, 2 or 5 times
-// a power of ten, so that there are three to six of them.
+// The axis of amounts: from the lowest to the highest that are to be shown, zero among them, in steps of 1, 2 or 5
+// times a power of ten, so that there are three to six of them.
 class Scale {
 public:
     Scale(values::Money lowest, values::Money highest);
