@@ -149,7 +149,8 @@ void DrawerPage::LayOutRows() {
         before = row.pieces;
         rows_.push_back(row);
     }
-    for (int row = 0; row < ui.layoutPieces->rowCount(); ++row) ui.layoutPieces->setRowStretch(row, row == rowsEach);
+    for (int row = 0; row < ui.layoutPieces->rowCount(); ++row) ui.layoutPieces->setRowStretch(row, 0);
+    ui.layoutPieces->setRowStretch(rowsEach, 1);  // the rest is empty
     Figures_Change();
 }
 
