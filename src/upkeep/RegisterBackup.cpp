@@ -12,7 +12,7 @@
 #include "store/StorePath.h"
 #include "upkeep/BackupState.h"
 #include "upkeep/DayTotals.h"
-#include "upkeep/DrawerCount.h"
+#include "upkeep/ManagerStore.h"
 #include "upkeep/Words.h"
 #include "values/Clock.h"
 #include "values/FileError.h"

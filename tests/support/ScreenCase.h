@@ -44,8 +44,8 @@ namespace drivers {
 class ScreenCase : public TillTest, public testing::WithParamInterface<CaseText> {
 public:
     using Word = std::function<void(ScreenCase& at, const QString& rest, const Step& step)>;
-    // Words of a room's own.
-    static bool AddWords(const QMap<QString, Word>& words);
+    // Words of a room's own; some of them have lines under them without a form.
+    static bool AddWords(const QMap<QString, Word>& words, const QStringList& withLines = {});
 
     // The form in which the case is played.
     QWidget& Form();
@@ -63,6 +63,7 @@ protected:
 
 private:
     static QMap<QString, Word>& Words();
+    static QStringList& WordsWithLines();
     static QMap<QString, Word> States();
     static QMap<QString, Word> Deeds();
     static QMap<QString, Word> Announcements();
