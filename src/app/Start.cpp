@@ -6,6 +6,7 @@
 
 #include "app/Screens.h"
 #include "core/Installation.h"
+#include "core/KeptErrors.h"
 #include "core/PrinterWait.h"
 #include "core/Settings.h"
 #include "core/frmLogin.h"
@@ -59,6 +60,7 @@ void PrepareApplication() {
 }
 
 bool StartProgram() {
+    KeepErrors(u"velton"_s);
     ShowWaitsOfOutput();
     forms::UseKeypad([] { return TheSettings.POSMonitor == u"2"; });
     forms::Run(

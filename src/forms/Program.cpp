@@ -12,6 +12,7 @@ namespace {
 
 bool ending = false;
 int endCode = 0;
+std::function<void(const std::exception&)> noteError;
 
 void StopAllLoops(int exitCode) {
     if (!ending) {
@@ -37,6 +38,7 @@ void Report(const std::exception& error, Icon icon, const QString& title) {
 }
 
 void ReportAndPerhapsEnd(const std::exception& error, const QString& title, bool ends) {
+    if (noteError) noteError(error);
     Report(error, ends ? Icon::Critical : Icon::Information, title);
     if (ends) StopAllLoops(1);
 }
@@ -81,6 +83,10 @@ void RunTitled(const std::function<void()>& handler, const std::function<QString
     } catch (const std::exception& error) {
         ReportAndPerhapsEnd(error, title(), fatal);
     }
+}
+
+void NoteErrors(std::function<void(const std::exception&)> note) {
+    noteError = std::move(note);
 }
 
 QString ErrorText(const std::exception& error) {

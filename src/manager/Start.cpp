@@ -6,6 +6,7 @@
 #include <csignal>
 
 #include "core/Installation.h"
+#include "core/KeptErrors.h"
 #include "core/Settings.h"
 #include "core/dbModule.h"
 #include "forms/MsgBox.h"
@@ -65,6 +66,7 @@ void PrepareManager() {
 
 bool StartManager(const QString& folder) {
     output::SetProgramFolder(folder);
+    KeepErrors(u"velton-manager"_s);
     forms::Run(
         [] {
             OpenShop();

@@ -80,6 +80,10 @@ void AddCalls(CLI::App& app, Arguments& a) {
     call = AddCall(app, a, "check", "Looks both stores over; damage gives 1, notes alone give 0");
     call->callback([&a] { tool::Check(Text(a.folder)); });
 
+    call = AddCall(app, a, "report", "Tells whoever helps what the matter may be, without names and sales");
+    call->add_option("FILE", a.file, "Where to, instead of standard output");
+    call->callback([&a] { tool::Report(Text(a.folder), Text(a.file)); });
+
     call = AddCall(app, a, "backup", "Copies the main store while registers work");
     call->add_option("FILE", a.file, "The copy, a file that does not exist yet")->required();
     call->callback([&a] { tool::Backup(Text(a.folder), Text(a.file)); });

@@ -25,7 +25,8 @@ Modules ModulesOf(Barcode kind, const QString& code) {
     if (ZBarcode_Encode(symbol.get(), reinterpret_cast<const uchar*>(data.constData()),
                         static_cast<int>(data.size())) >= ZINT_ERROR)
         return {};
-    Modules modules{.quietLeft = 10, .quietRight = 10};
+    Modules modules;
+    modules.quietLeft = modules.quietRight = 10;
     if (kind == Barcode::Ean13) modules.quietLeft = 11, modules.quietRight = 7;
     if (kind == Barcode::Ean8) modules.quietLeft = modules.quietRight = 7;
     for (int i = 0; i < symbol->width; ++i)
