@@ -86,7 +86,7 @@ QString HealthPage::Verdict() const {
     if (!findings_.IsSound()) return tr("Something is damaged. Read what to do before you go on selling.");
     const int notes = static_cast<int>(
         std::ranges::count(lines_, HealthLevel::Note, [](const upkeep::HealthLine& line) { return line.level; }));
-    if (notes > 0) return tr("Nothing is damaged. %n note(s) tell of what does not fit together.", nullptr, notes);
+    if (notes > 0) return tr("Nothing is damaged. Notes of what does not fit together: %n.", nullptr, notes);
     return tr("All is well.");
 }
 

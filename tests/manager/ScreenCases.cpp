@@ -35,4 +35,4 @@ void GoToPage(ScreenCase& at, const QString& page, const Step&) {
 
 }  // namespace
 
-INSTANTIATE_SCREEN_CASES(Manager, u"manager-setup"_s, u"manager-start"_s);
+INSTANTIATE_SCREEN_CASES(Manager, u"manager-health"_s, u"manager-labels"_s, u"manager-setup"_s, u"manager-start"_s);

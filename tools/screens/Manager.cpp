@@ -4,10 +4,13 @@
 
 #include "cashier/DayClock.h"
 #include "cashier/Restart.h"
+#include "manager/HealthReport.h"
 #include "manager/ManagerLogin.h"
 #include "manager/ManagerWindow.h"
 #include "manager/Start.h"
 #include "player/Keys.h"
+#include "upkeep/CheckRegister.h"
+#include "upkeep/health/HelpReport.h"
 
 using namespace Qt::StringLiterals;
 
@@ -30,6 +33,29 @@ void ShowSteps(manager::ManagerWindow& window, const Cashier::Camera& camera) {
     steps->setCurrentIndex(0);
 }
 
+// Goods are chosen, and what comes of them is shown.
+void ShowLabels(manager::ManagerWindow& window, const Cashier::Camera& camera) {
+    window.findChild<QComboBox*>(u"cboGroup"_s)->setCurrentIndex(1);
+    window.findChild<QPushButton*>(u"cmdAddAll"_s)->click();
+    window.findChild<QSpinBox*>(u"spnCopies"_s)->setValue(3);
+    drivers::Settle();
+    camera(window, u"manager-labels"_s);
+    auto* parts = window.findChild<QTabWidget*>(u"tabParts"_s);
+    for (const QString& picture : {u"sheet"_s, u"prices"_s}) {
+        parts->setCurrentIndex(parts->currentIndex() + 1);
+        drivers::Settle();
+        camera(window, u"manager-labels-"_s + picture);
+    }
+}
+
+void ShowReport(const QString& shop, const Cashier::Camera& camera) {
+    manager::HealthReport report(upkeep::HelpReport(shop, upkeep::CheckRegister(shop)));
+    report.Show();
+    drivers::Settle();
+    camera(report, u"manager-health-report"_s);
+    report.Unload();
+}
+
 }  // namespace
 
 void LookAtManager(const QString& shop, const Cashier::Camera& camera) {
@@ -49,6 +75,8 @@ void LookAtManager(const QString& shop, const Cashier::Camera& camera) {
         drivers::Settle();
         camera(window, PictureOfPage(entry.className));
         if (entry.className == u"SetupPage") ShowSteps(window, camera);
+        if (entry.className == u"LabelsPage") ShowLabels(window, camera);
+        if (entry.className == u"HealthPage") ShowReport(shop, camera);
     }
     drivers::ForgetProgram();
 }

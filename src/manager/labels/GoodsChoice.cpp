@@ -48,7 +48,7 @@ void FillBox(QComboBox& box, const std::vector<std::pair<QString, QVariant>>& en
 GoodsChoice::GoodsChoice(QWidget* parent) : QWidget(parent) {
     ui.setupUi(this);
     ui.lstGoods->SetColumns(
-        {{tr("Code"), Qt::AlignLeft, 118}, {tr("Name"), Qt::AlignLeft, -1}, {tr("Price"), Qt::AlignRight, 74}});
+        {{tr("Code"), Qt::AlignLeft, 138}, {tr("Name"), Qt::AlignLeft, -1}, {tr("Price"), Qt::AlignRight, 74}});
     ui.lstGoods->SetEmptyText(tr("There are no such goods."));
     ui.lstChosen->SetColumns({{tr("Copies"), Qt::AlignRight, 66}, {tr("Name"), Qt::AlignLeft, -1}});
     ui.lstChosen->SetEmptyText(tr("Add goods from the left."));
@@ -88,7 +88,7 @@ void GoodsChoice::Find() {
     for (size_t i = 0; i < goods_->goods.size(); ++i)
         if (filter.Takes(goods_->goods[i])) found_.push_back(i);
     ui.lstGoods->ShowRows(std::make_unique<FoundGoods>(goods_, found_));
-    ui.lblFound->setText(tr("%n product(s)", nullptr, static_cast<int>(found_.size())));
+    ui.lblFound->setText(tr("Found: %n", nullptr, static_cast<int>(found_.size())));
     ui.cmdAdd->setEnabled(!found_.empty());
     ui.cmdAddAll->setEnabled(!found_.empty());
 }

@@ -48,7 +48,7 @@ void Lines::AddGood() {
     if (findings_.IsSound()) Good(Words::tr("The files of the shop and of this till are whole."));
     const int invoices = static_cast<int>(findings_.extent.invoices);
     if (invoices > 0 && HasNoneOf({InvoiceTotal, InvoiceTax, InvoiceTwice, InvoiceWithoutLines, LineWithoutInvoice}))
-        Good(Words::tr("All %n invoice(s) agree with their lines and taxes.", nullptr, invoices));
+        Good(Words::tr("Every invoice agrees with its lines and taxes. Looked at: %n.", nullptr, invoices));
     if (invoices > 0 && HasNoneOf({PeriodTotal, PeriodTwice, InvoiceWithoutPeriod}))
         Good(Words::tr("The takings of each End Report are the sum of its invoices."));
     const auto& periods = findings_.Periods();
@@ -58,11 +58,11 @@ void Lines::AddGood() {
         Good(Words::tr("The numbers of the invoices run on without a gap."));
     const int receipts = static_cast<int>(findings_.extent.receipts);
     if (receipts > 0 && !HasDamage(RibbonAhead))
-        Good(Words::tr("All %n printed receipt(s) are in the shop's data.", nullptr, receipts));
+        Good(Words::tr("Every printed receipt is in the shop's data. Looked at: %n.", nullptr, receipts));
     const int goods = static_cast<int>(findings_.extent.goods);
     if (goods > 0 && HasNoneOf({GoodsWithoutTax, GoodsWithOtherRate, GoodsWithoutRate, GoodsWithoutPrice,
                                 CodeWithApostrophe, CodeWithBlanks, GoodsWithoutUnit}))
-        Good(Words::tr("All %n product(s) can be sold, and are taxed as their taxes say.", nullptr, goods));
+        Good(Words::tr("Every product can be sold, and is taxed as its tax says. Looked at: %n.", nullptr, goods));
 }
 
 void Lines::AddDamage() {
@@ -118,7 +118,7 @@ void Lines::AddPeriods() {
         const int count = static_cast<int>(each->invoices);
         const QString what =
             count == 0 ? Words::tr("%1: no invoices.").arg(name)
-                       : Words::tr("%1: %n invoice(s), total %2, tax %3.", nullptr, count).arg(name, total, tax);
+                       : Words::tr("%1: invoices %n, total %2, tax %3.", nullptr, count).arg(name, total, tax);
         const QString advice =
             each->Agrees()
                 ? QString()

@@ -6,6 +6,7 @@
 #include <QStorageInfo>
 #include <QSysInfo>
 
+#include "store/Database.h"
 #include "store/OptionsTable.h"
 #include "store/StorePath.h"
 #include "upkeep/health/IniReport.h"
