@@ -3,6 +3,7 @@
 #include "forms/Program.h"
 #include "output/Folder.h"
 #include "values/Clock.h"
+#include "values/Error.h"
 #include "values/ErrorLog.h"
 
 using namespace Qt::StringLiterals;

@@ -56,10 +56,11 @@ void Shorten(int file) {
 }  // namespace
 
 QString WithoutNames(const QString& text) {
+    // A character of nobody's stands for a quotation until all rules have been kept.
+    static const QString quotation(QChar(0xE000));
     static const std::pair<QRegularExpression, QString> rules[] = {
-        {QRegularExpression(u"['‘][^'’]*['’]|[\"„“”][^\"“”]*[\"“”]|[»«][^»«]*[»«]"_s), u"'...'"_s},
-        {QRegularExpression(u"['\"„“«»‘](?!\\.\\.\\.').*$"_s, QRegularExpression::DotMatchesEverythingOption),
-         u"'...'"_s},
+        {QRegularExpression(u"['‘][^'’]*['’]|[\"„“”][^\"“”]*[\"“”]|[»«][^»«]*[»«]"_s), quotation},
+        {QRegularExpression(u"['\"„“«»‘].*$"_s, QRegularExpression::DotMatchesEverythingOption), quotation},
         {QRegularExpression(u"\\w+://\\S+|\\S+@\\S+|\\d+\\.\\d+\\.\\d+\\.\\d+(?::\\d+)?|\\S+:\\d{2,5}\\b"_s),
          u"(address)"_s},
         // A folder's name may hold blanks: from the first part of a path to the last.
@@ -67,6 +68,7 @@ QString WithoutNames(const QString& text) {
          u"(file)"_s},
         {QRegularExpression(u"\\d{6,}"_s), u"(number)"_s},
         {QRegularExpression(u"\\s+"_s), u" "_s},
+        {QRegularExpression(quotation), u"'...'"_s},
     };
     QString result = text;
     for (const auto& [pattern, word] : rules) result.replace(pattern, word);

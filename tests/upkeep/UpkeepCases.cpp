@@ -72,8 +72,7 @@ const QMap<QString, drivers::Function> Functions{
     {u"Unit price"_s, UnitPriceText},
     {u"Cell"_s, [](At at) { return Corners(CellOf(SheetOf(at[0]), at[1].toInt())); }},
     {u"Printable"_s, [](At at) { return Corners(PrintableOf(SheetOf(at[0]), at[1].toInt())); }},
-    {u"Sheets"_s,
-     [](At at) { return QString::number(SheetsFor(SheetOf(at[0]), at[1].toInt(), at[2].toInt())); }},
+    {u"Sheets"_s, [](At at) { return QString::number(SheetsFor(SheetOf(at[0]), at[1].toInt(), at[2].toInt())); }},
     {u"Fault"_s,
      [](At at) {
          const QString fault = FaultOf(SheetOf(at[0]));

@@ -1,5 +1,6 @@
 #include "screens/Manager.h"
 
+#include <QSpinBox>
 #include <QTabWidget>
 
 #include "cashier/DayClock.h"
@@ -73,7 +74,7 @@ void LookAtManager(const QString& shop, const Cashier::Camera& camera) {
     for (const auto& entry : manager::AllPages()) {
         window.ShowPage(entry.className);
         drivers::Settle();
-        camera(window, PictureOfPage(entry.className));
+        if (entry.className != u"LabelsPage") camera(window, PictureOfPage(entry.className));
         if (entry.className == u"SetupPage") ShowSteps(window, camera);
         if (entry.className == u"LabelsPage") ShowLabels(window, camera);
         if (entry.className == u"HealthPage") ShowReport(shop, camera);
