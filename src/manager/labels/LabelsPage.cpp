@@ -75,7 +75,7 @@ void LabelsPage::Goods_Changed() {
     std::vector<LabelCopies> labels;
     std::vector<upkeep::ShelfGood> goods;
     for (const GoodsChoice::Chosen& each : goods_->All()) {
-        labels.push_back({FactsOf(each.good, TheSettings.Currency), each.copies});
+        labels.push_back({each.label, each.copies});
         goods.push_back(each.good);
     }
     labels_->SetLabels(std::move(labels));
