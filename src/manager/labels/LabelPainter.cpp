@@ -119,6 +119,7 @@ LabelFacts FactsOf(const upkeep::ShelfGood& good, const QString& currency) {
         .unit =
             each.isEmpty() || !good.price ? QString() : Words(QT_TRANSLATE_NOOP("manager::Label", "per %1")).arg(each),
         .unitPrice = UnitPriceText(good, currency),
+        .isUnitPriceUnknown = good.price && !upkeep::UnitPriceOf(good.name, good.unit, *good.price),
         .code = good.code,
         .barcode = barcode,
         .modules = modules.black.empty() ? 0 : modules.Width(),

@@ -96,6 +96,9 @@ void LabelsPage::TellWhatComes() {
         if (const int bare = pages->WithoutBars(); bare > 0)
             said << tr("Labels without bars: %n. They are too narrow for the code, or bars can't carry its letters.",
                        nullptr, bare);
+        if (const int unknown = pages->WithoutUnitPrice(); unknown > 0)
+            said << tr("Without the price of a kilogram or litre: %n. The name doesn't tell how much is in it.",
+                       nullptr, unknown);
     }
     if (gone_ > 0) said << tr("Chosen goods that are no longer there: %n", nullptr, gone_);
     ui.lblSaid->setText(said.join(u"   –   "_s));
