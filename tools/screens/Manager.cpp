@@ -48,6 +48,11 @@ void ShowLabels(manager::ManagerWindow& window, const Cashier::Camera& camera) {
         drivers::Settle();
         camera(window, u"manager-labels-"_s + picture);
     }
+    auto* sheets = window.findChild<QComboBox*>(u"cboSheet"_s);
+    sheets->setCurrentIndex(sheets->findText(u"Own size on A4"_s));
+    parts->setCurrentIndex(1);
+    drivers::Settle();
+    camera(window, u"manager-labels-own"_s);
 }
 
 // What differs from machine to machine is always the same in a picture.

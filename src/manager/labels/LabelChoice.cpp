@@ -2,6 +2,7 @@
 
 #include <QScopedValueRollback>
 
+#include "forms/Scrollable.h"
 #include "values/Error.h"
 #include "values/IniEdit.h"
 #include "values/IniFile.h"
@@ -35,6 +36,7 @@ void ShowTurning(const PagePreview& preview, QLabel& told, QPushButton& before, 
 
 LabelChoice::LabelChoice(QWidget* parent) : QWidget(parent) {
     ui.setupUi(this);
+    forms::MakeScrollable(ui.pnlChoices);
     const auto& sheets = upkeep::CommonSheets();
     for (size_t i = 0; i < sheets.size(); ++i) {
         const QString width = Millimetres(sheets[i].label.width()), height = Millimetres(sheets[i].label.height());
