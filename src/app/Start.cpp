@@ -4,6 +4,7 @@
 
 #include <csignal>
 
+#include "app/Backups.h"
 #include "app/Screens.h"
 #include "core/Installation.h"
 #include "core/KeptErrors.h"
@@ -44,6 +45,9 @@ void ShowSalesScreen() {
     main.showMaximized();
     main.raise();
     main.activateWindow();
+    // Once the login has done all that it does.
+    QMetaObject::invokeMethod(
+        &main, [] { forms::Run(LookAfterBackups, u"VELTON"_s); }, Qt::QueuedConnection);
 }
 
 }  // namespace
@@ -60,8 +64,8 @@ void PrepareApplication() {
 }
 
 bool StartProgram() {
-    KeepErrors(u"velton"_s);
     ShowWaitsOfOutput();
+    KeepErrors(u"velton"_s);
     forms::UseKeypad([] { return TheSettings.POSMonitor == u"2"; });
     forms::Run(
         [] {

@@ -9,6 +9,7 @@
 // delivered.
 struct Installation {
     Heading heading = BuiltInHeading();                 // [heading] name, address, ident, phone
+    QString backupFolder;                               // [backup] folder; days, weeks, months say how many are kept
     bool sound = true;                                  // [till] sound = yes | no
     forms::Contrast contrast = forms::Contrast::Usual;  // [till] contrast = usual | high | dark
 };

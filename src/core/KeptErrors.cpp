@@ -9,7 +9,7 @@
 using namespace Qt::StringLiterals;
 
 void KeepErrors(const QString& program) {
-    forms::NoteErrors([program](const std::exception& error) {
+    forms::OnUntrappedError([program](const std::exception& error) {
         const auto* known = dynamic_cast<const values::Error*>(&error);
         values::LogError(output::InProgramFolder(u"errors.log"_s), values::Now(), program,
                          known ? known->Number() : int{values::InternalError},

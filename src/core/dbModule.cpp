@@ -72,6 +72,10 @@ void ExecuteSql(const QString& text) {
     MainStore().Execute(text);
 }
 
+QString Quoted(QString text) {
+    return u'\'' + text.replace(u'\'', u"''"_s) + u'\'';
+}
+
 QString ProperCase(const QString& text) {
     if (text.isEmpty()) return {};
     QString result = text;

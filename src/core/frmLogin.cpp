@@ -1,7 +1,6 @@
 #include "core/frmLogin.h"
 
 #include "core/Installation.h"
-#include "core/InstanceLock.h"
 #include "core/Session.h"
 #include "core/Settings.h"
 #include "core/UserList.h"
@@ -11,6 +10,7 @@
 #include "output/Folder.h"
 #include "values/Clock.h"
 #include "values/Format.h"
+#include "values/InstanceLock.h"
 #include "values/Locale.h"
 #include "values/Numbers.h"
 

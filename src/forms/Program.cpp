@@ -30,6 +30,7 @@ void StopAllLoops(int exitCode) {
 }
 
 void Report(const std::exception& error, Icon icon, const QString& title) {
+    if (noteError) noteError(error);
     try {
         Tell(ErrorText(error), icon, title);
     } catch (const ProgramEnds&) {
@@ -38,7 +39,6 @@ void Report(const std::exception& error, Icon icon, const QString& title) {
 }
 
 void ReportAndPerhapsEnd(const std::exception& error, const QString& title, bool ends) {
-    if (noteError) noteError(error);
     Report(error, ends ? Icon::Critical : Icon::Information, title);
     if (ends) StopAllLoops(1);
 }
@@ -85,7 +85,7 @@ void RunTitled(const std::function<void()>& handler, const std::function<QString
     }
 }
 
-void NoteErrors(std::function<void(const std::exception&)> note) {
+void OnUntrappedError(std::function<void(const std::exception&)> note) {
     noteError = std::move(note);
 }
 

@@ -24,8 +24,8 @@ void Run(const std::function<void()>& handler, const QString& title, bool fatal 
 // The same under the title that holds when the error is told.
 void RunTitled(const std::function<void()>& handler, const std::function<QString()>& title, bool fatal);
 
-// Told each error that Run reports, before its box: for a log. It throws nothing.
-void NoteErrors(std::function<void(const std::exception& error)> note);
+// Told of each error that a handler did not trap, before the user is. It must not throw.
+void OnUntrappedError(std::function<void(const std::exception&)> note);
 
 // "number" directly followed by "description", as the system's own handlers show an error.
 QString ErrorText(const std::exception& error);

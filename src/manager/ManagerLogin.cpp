@@ -13,7 +13,7 @@ namespace manager {
 namespace {
 
 const auto UsersQuery = u"SELECT * FROM Users"_s;
-const auto UserCriteria = u"UserName = '%1'"_s;
+const auto UserCriteria = u"UserName = %1"_s;
 
 constexpr int OwnersLevel = 3;
 
@@ -39,7 +39,7 @@ void ManagerLogin::Form_Load() {
 
 void ManagerLogin::cmdLogin_Click() {
     auto user = MainStore().OpenRecordset(UsersQuery);
-    user.FindFirst(UserCriteria.arg(QString(ui.cboUser->currentText()).replace(u'\'', u"''"_s)));
+    user.FindFirst(UserCriteria.arg(Quoted(ui.cboUser->currentText())));
     // One answer for all, so that nobody learns what was wrong.
     if (user.NoMatch() || user[u"Password"].IsNull() || user[u"Password"].Text() != ui.txtPassword->text() ||
         values::Val(user[u"AccLevel"].TextOrEmpty()) < OwnersLevel) {

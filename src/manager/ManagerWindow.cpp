@@ -1,10 +1,13 @@
 #include "manager/ManagerWindow.h"
 
+#include <QDir>
 #include <QItemSelectionModel>
 #include <QShortcut>
 
 #include "core/Installation.h"
+#include "manager/Texts.h"
 #include "output/Folder.h"
+#include "upkeep/BackupState.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,6 +24,7 @@ ManagerWindow::ManagerWindow() {
                 [this, step = step] {
                     ui.lstPages->Select(qBound(0, ui.lstPages->Selected() + step, ui.lstPages->Count() - 1));
                 });
+    connect(new QShortcut(QKeySequence::Quit, this), &QShortcut::activated, this, &QWidget::close);
 }
 
 void ManagerWindow::Form_Load() {
@@ -35,14 +39,18 @@ void ManagerWindow::lstPages_Chosen() {
 
 void ManagerWindow::BringUp(size_t number) {
     Page*& page = pages_[number];
-    if (page == nullptr) {
-        page = entries_[number].make(ui.stkPages);
-        ui.stkPages->addWidget(page);
-        connect(page, &Page::ShopChanged, this, Guarded(&ManagerWindow::TellOfShop));
-        page->Load();
-    }
+    if (page == nullptr) page = Made(number);
     ui.lblPage->setText(page->Name());
     ui.stkPages->setCurrentWidget(page);
+}
+
+// One that can't be shown is not there, and is tried again the next time.
+Page* ManagerWindow::Made(size_t number) {
+    std::unique_ptr<Page> page(entries_[number].make(ui.stkPages));
+    connect(page.get(), &Page::ShopChanged, this, Guarded(&ManagerWindow::TellOfShop));
+    page->Load();
+    ui.stkPages->addWidget(page.get());
+    return page.release();
 }
 
 void ManagerWindow::ShowPage(const QString& className) {
@@ -58,7 +66,13 @@ bool ManagerWindow::Form_Unload() {
 }
 
 void ManagerWindow::TellOfShop() {
-    ui.lblStatus->setText(tr("%1   –   %2").arg(TheInstallation.heading.NazivFirme, output::ProgramFolder()));
+    const upkeep::BackupState backup = upkeep::ReadBackupState(output::ProgramFolder());
+    const QString told = backup.good.isValid() ? tr("last backup %1, %2, in %3")
+                                                     .arg(MomentText(backup.good), SizeText(backup.bytes),
+                                                          QDir::toNativeSeparators(backup.path))
+                                               : tr("no backup yet");
+    ui.lblStatus->setText(
+        tr("%1   –   %2   –   %3").arg(TheInstallation.heading.NazivFirme, output::ProgramFolder(), told));
 }
 
 }  // namespace manager

@@ -7,6 +7,7 @@
 
 #include "core/Installation.h"
 #include "core/KeptErrors.h"
+#include "core/PrinterWait.h"
 #include "core/Settings.h"
 #include "core/dbModule.h"
 #include "forms/MsgBox.h"
@@ -14,7 +15,6 @@
 #include "manager/ManagerLogin.h"
 #include "manager/ManagerWindow.h"
 #include "output/Folder.h"
-#include "values/Locale.h"
 
 using namespace Qt::StringLiterals;
 
@@ -35,22 +35,11 @@ bool IsAsDelivered() {
            MainStore().OpenRecordset(InvoicesQuery).AtEOF();
 }
 
-void OpenShop() {
-    const QStringList refused = ReadInstallation();
-    forms::UseContrast(TheInstallation.contrast);
-    if (!refused.isEmpty()) forms::Inform(refused.join(u'\n'), Title);
-    OpenOptionsStore();
-    auto options = OptionsStore().OpenRecordset(u"SELECT * FROM Options"_s);
-    options.MoveFirst();
-    ReadSettings(options);
-    OpenMainStore();
-    ShowWaitsOfMainStore();
-}
-
-void ShowWindow() {
+ManagerWindow* ShowWindow() {
     auto* window = forms::Open<ManagerWindow>();
     QObject::connect(window, &forms::Form::Unloaded, [] { forms::Run([] { forms::EndProgram(); }, Title); });
     window->Show();
+    return window;
 }
 
 }  // namespace
@@ -64,14 +53,28 @@ void PrepareManager() {
     forms::InstallTheme();
 }
 
+void OpenShop() {
+    const QStringList refused = ReadInstallation();
+    forms::UseContrast(TheInstallation.contrast);
+    if (!refused.isEmpty()) forms::Inform(refused.join(u'\n'), Title);
+    OpenOptionsStore();
+    auto options = OptionsStore().OpenRecordset(u"SELECT * FROM Options"_s);
+    options.MoveFirst();
+    ReadSettings(options);
+    static_cast<Heading&>(TheSettings) = TheInstallation.heading;
+    OpenMainStore();
+    ShowWaitsOfMainStore();
+}
+
 bool StartManager(const QString& folder) {
     output::SetProgramFolder(folder);
+    ShowWaitsOfOutput();
     KeepErrors(u"velton-manager"_s);
     forms::Run(
         [] {
             OpenShop();
-            if (IsAsDelivered()) return ShowWindow();
-            forms::Open<ManagerLogin>(ShowWindow)->Show();
+            if (IsAsDelivered()) return ShowWindow()->ShowPage(u"SetupPage"_s);
+            forms::Open<ManagerLogin>([] { ShowWindow(); })->Show();
         },
         Title, true);
     return !forms::ProgramIsEnding() && !forms::LoadedForms().isEmpty();

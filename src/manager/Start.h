@@ -7,6 +7,9 @@ namespace manager {
 // What the process is, before the application starts.
 void PrepareManager();
 
+// Opens the stores of the register, anew where they were closed, and reads its settings.
+void OpenShop();
+
 // Starts the owner's program on the folder of a register: the login, or at once the window of a shop that is as it was
 // delivered, has sold nothing, and so has nothing to hide. False when it has ended already, as it does without a shop
 // in the folder.

@@ -1,12 +1,9 @@
 #include "receipts/SampleReceipt.h"
 
-#include <QFile>
 #include <QScopedValueRollback>
-#include <QTemporaryDir>
 
-#include "output/Channel.h"
-#include "output/CodePage.h"
 #include "receipts/PrintInvoice.h"
+#include "receipts/PrintedText.h"
 #include "values/Format.h"
 
 using namespace Qt::StringLiterals;
@@ -55,12 +52,6 @@ InvoiceText Invented() {
 }  // namespace
 
 QString SampleReceipt(const Settings& settings) {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"receipt"_s);
     const QScopedValueRollback<Settings> kept(TheSettings, settings);
-    output::Channel1().OpenForOutput(path);
-    PrintReceiptText(Mode, Invented());
-    output::Channel1().Close();
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? output::FromCodePage(file.readAll()).remove(u'\r') : QString();
+    return PrintedText([] { PrintReceiptText(Mode, Invented()); });
 }

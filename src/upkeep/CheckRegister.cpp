@@ -60,7 +60,7 @@ StorePointer CheckStore(const QString& name, const std::function<StorePointer()>
         StorePointer database = open();
         const auto watch = course.WatchOver(*database);
         const QStringList faults = database->CheckIntegrity();
-        course.Begin(Words::tr("Looking at the stores"));  // a check that was left found nothing
+        course.Begin(Words::tr("The stores are looked at."));  // a check that was left found nothing
         for (const QString& fault : faults) damage(store::NotAStore, fault, FindingKind::StoreDamaged);
         return faults.isEmpty() ? std::move(database) : nullptr;
     } catch (const store::StoreError& error) {
@@ -88,7 +88,7 @@ bool WritesRibbon(store::Database* options) {
 Findings CheckRegister(const QString& folder, const GoesOn& goesOn) {
     Findings findings;
     Course course(goesOn);
-    course.Begin(Words::tr("Looking at the stores"));
+    course.Begin(Words::tr("The stores are looked at."));
     // Before the store, so that what is printed meanwhile is in the store already.
     const std::vector<Receipt> ribbon = RibbonOf(folder);
     const StorePointer main = CheckStore(
@@ -99,15 +99,15 @@ Findings CheckRegister(const QString& folder, const GoesOn& goesOn) {
         course, findings);
     if (main) {
         const auto watch = course.WatchOver(*main);
-        course.Begin(Words::tr("Reading the sales"));
+        course.Begin(Words::tr("The sales are read."));
         const SalesBook book = ReadSalesBook(*main);
         const DistinctKeys products = KeysOf(*main, {u"Products"_s, u"ProdCode"_s});
         CheckIndexes(*main, findings);
-        course.Begin(Words::tr("Looking at the invoices"));
+        course.Begin(Words::tr("The invoices are looked at."));
         CheckSales(*main, book, products, findings);
-        course.Begin(Words::tr("Looking at the goods"));
+        course.Begin(Words::tr("The goods are looked at."));
         CheckGoods(*main, products, findings);
-        course.Begin(Words::tr("Looking at the receipts"));
+        course.Begin(Words::tr("The receipts are looked at."));
         CheckRibbon(ribbon, WritesRibbon(options.get()), book, findings);
         CheckPeriods(book, findings);
     }

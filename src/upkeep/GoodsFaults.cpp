@@ -6,17 +6,20 @@ namespace upkeep {
 
 namespace {
 
-constexpr int LongestCode = 13, LongestName = 40;  // that of their boxes
-
 QString KeyOf(store::Recordset& row, const QString& field) {
     return row[field].TextOrEmpty().toCaseFolded();
 }
 
 }  // namespace
 
-GoodsFaults::GoodsFaults(store::Database& main) {
+QHash<QString, values::Value> RatesOf(store::Database& main) {
+    QHash<QString, values::Value> rates;
     auto taxes = main.OpenSnapshot(u"SELECT TaxID, Percent FROM Tax"_s);
-    for (auto& tax : taxes) rates_.insert(KeyOf(tax, u"TaxID"_s), tax[u"Percent"].Get());
+    for (auto& tax : taxes) rates.insert(KeyOf(tax, u"TaxID"_s), tax[u"Percent"].Get());
+    return rates;
+}
+
+GoodsFaults::GoodsFaults(store::Database& main) : rates_(RatesOf(main)) {
     auto units = main.OpenSnapshot(u"SELECT Abr FROM Unit"_s);
     for (auto& unit : units) units_.insert(KeyOf(unit, u"Abr"_s));
 }

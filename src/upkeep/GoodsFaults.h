@@ -10,6 +10,12 @@
 
 namespace upkeep {
 
+// As many signs as their boxes at the till have.
+inline constexpr int LongestCode = 13, LongestName = 40;
+
+// The percentages by the keys of the taxes, case folded.
+QHash<QString, values::Value> RatesOf(store::Database& main);
+
 struct GoodsFault {
     FindingKind kind = FindingKind::Other;
     QString words;

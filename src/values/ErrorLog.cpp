@@ -1,13 +1,15 @@
 #include "values/ErrorLog.h"
 
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <QByteArrayList>
 #include <QFile>
 #include <QRegularExpression>
+#include <QScopeGuard>
+
+#include "values/FileError.h"
 
 using namespace Qt::StringLiterals;
 
@@ -41,16 +43,11 @@ QByteArray ReadAll(int file, qint64 size) {
     return read < 0 ? QByteArray() : bytes.first(read);
 }
 
-// Others that add meanwhile wait for nobody: a line of theirs may be lost, never the file.
-void Shorten(int file) {
+// Whole or not at all. A line that another program adds at this moment may be lost, never the file.
+void Shorten(int file, const QString& path) {
     struct stat facts {};
     if (::fstat(file, &facts) != 0 || facts.st_size <= LargestFile) return;
-    if (::flock(file, LOCK_EX | LOCK_NB) != 0) return;
-    const QByteArray kept =
-        LastLines(ReadAll(file, std::min<qint64>(facts.st_size, 2 * LargestFile))).join('\n') + '\n';
-    // It is opened for appending, so what is written comes to the new end.
-    if (::ftruncate(file, 0) == 0) (void)!::write(file, kept.constData(), static_cast<size_t>(kept.size()));
-    ::flock(file, LOCK_UN);
+    SaveFile(path, LastLines(ReadAll(file, std::min<qint64>(facts.st_size, 2 * LargestFile))).join('\n') + '\n');
 }
 
 }  // namespace
@@ -85,9 +82,9 @@ void LogError(const QString& path, const QDateTime& time, const QString& program
         const QByteArray bytes = line.toUtf8();
         const int file = OpenLog(path);
         if (file < 0) return;
+        const auto closed = qScopeGuard([file] { ::close(file); });
         (void)!::write(file, bytes.constData(), static_cast<size_t>(bytes.size()));
-        Shorten(file);
-        ::close(file);
+        Shorten(file, path);
     } catch (...) {
         return;
     }

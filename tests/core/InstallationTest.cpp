@@ -4,6 +4,7 @@
 #include <QFile>
 
 #include "output/Folder.h"
+#include "support/Files.h"
 #include "support/ScreenTest.h"
 #include "values/FileError.h"
 
@@ -17,10 +18,7 @@ protected:
     ~InstallationTest() override { TheInstallation = {}; }
 
     QStringList Read(const QByteArray& text) {
-        QFile file(folder.filePath(u"velton.ini"_s));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
-        file.close();
+        drivers::WriteFile(folder.filePath(u"velton.ini"_s), text);
         return ReadInstallation();
     }
 };

@@ -49,7 +49,7 @@ void FillBox(QComboBox& box, const std::vector<std::pair<QString, QVariant>>& en
 GoodsChoice::GoodsChoice(QWidget* parent) : QWidget(parent) {
     ui.setupUi(this);
     ui.lstGoods->SetColumns(
-        {{tr("Code"), Qt::AlignLeft, 138}, {tr("Name"), Qt::AlignLeft, -1}, {tr("Price"), Qt::AlignRight, 74}});
+        {{tr("Code"), Qt::AlignLeft, 150}, {tr("Name"), Qt::AlignLeft, -1}, {tr("Price"), Qt::AlignRight, 74}});
     ui.lstGoods->SetEmptyText(tr("There are no such goods."));
     ui.lstChosen->SetColumns({{tr("Copies"), Qt::AlignRight, 66}, {tr("Name"), Qt::AlignLeft, -1}});
     ui.lstChosen->SetEmptyText(tr("Add goods from the left."));

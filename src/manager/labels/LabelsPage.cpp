@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <QItemSelectionModel>
+#include <functional>
 
 #include "core/dbModule.h"
 #include "forms/FileDialog.h"
@@ -38,7 +39,9 @@ LabelsPage::LabelsPage(QWidget* parent)
 }
 
 void LabelsPage::TieGoods() {
-    const auto to = [this](void (GoodsChoice::*work)()) { return [this, work] { Run([&] { (goods_->*work)(); }); }; };
+    const auto to = [this](void (GoodsChoice::*work)()) {
+        return [this, work] { Run([&] { std::invoke(work, goods_); }); };
+    };
     auto& goods = goods_->ui;
     connect(goods.txtSearch, &QLineEdit::textChanged, this, to(&GoodsChoice::Find));
     for (QComboBox* box : {goods.cboGroup, goods.cboTax})

@@ -1,7 +1,5 @@
 #include "manager/setup/HeadingStep.h"
 
-#include <QTemporaryFile>
-
 #include "core/Installation.h"
 #include "core/dbModule.h"
 #include "forms/MsgBox.h"
@@ -30,7 +28,6 @@ HeadingStep::HeadingStep() {
     for (const ReceiptLayout* layout : ReceiptLayouts())
         ui.cboLayout->addItem(tr("%1, %2 columns").arg(layout->tipRacuna, QString::number(layout->width)),
                               layout->tipRacuna);
-    ui.txtReceipt->SetDecoder([](const QByteArray& line) { return QString::fromUtf8(line); });
     for (QLineEdit* box : {ui.txtName, ui.txtAddress, ui.txtIdent, ui.txtPhone})
         connect(box, &QLineEdit::textChanged, this, &HeadingStep::ShowReceipt);
     for (QComboBox* box : {ui.cboCurrency, ui.cboLayout})
@@ -86,13 +83,11 @@ void HeadingStep::ShowReceipt() {
     static_cast<Heading&>(settings) = Typed();
     settings.Currency = ui.cboCurrency->currentText();
     settings.TipRacuna = ui.cboLayout->currentData().toString();
-    QTemporaryFile file;
     try {
-        if (!file.open() || file.write(SampleReceipt(settings).toUtf8()) < 0 || !file.flush()) return;
+        ui.txtReceipt->ShowText(SampleReceipt(settings));
     } catch (const values::Error&) {
-        return ui.txtReceipt->Clear();  // what can't be printed now is told where it is printed
+        ui.txtReceipt->Clear();  // what can't be printed now is told where it is printed
     }
-    ui.txtReceipt->Open(file.fileName());
 }
 
 void HeadingStep::TellOfWidth() {

@@ -11,12 +11,12 @@ namespace manager {
 namespace {
 
 const auto UsersQuery = u"SELECT * FROM Users"_s;
-const auto UserQuery = u"SELECT * FROM Users WHERE UserName = '%1'"_s;
+const auto UserQuery = u"SELECT * FROM Users WHERE UserName = %1"_s;
 
 const auto Delivered = u"1234"_s;
 
 store::Recordset OpenUser(const QString& name) {
-    return MainStore().OpenRecordset(UserQuery.arg(QString(name).replace(u'\'', u"''"_s)));
+    return MainStore().OpenRecordset(UserQuery.arg(Quoted(name)));
 }
 
 }  // namespace

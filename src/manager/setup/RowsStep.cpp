@@ -22,7 +22,7 @@ void RowsStep::Begin(const Facts& facts) {
 }
 
 store::Recordset RowsStep::OpenRow(const QString& key) const {
-    return MainStore().OpenRecordset(facts_.rowQuery.arg(QString(key).replace(u'\'', u"''"_s)));
+    return MainStore().OpenRecordset(facts_.rowQuery.arg(Quoted(key)));
 }
 
 void RowsStep::Fill() {

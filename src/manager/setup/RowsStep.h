@@ -25,7 +25,7 @@ protected:
         QPushButton* add;
         QPushButton* remove;
         QString query;      // of all rows; the first of its columns that are listed is the key
-        QString rowQuery;   // of the row with the key %1
+        QString rowQuery;   // of the row with the key %1, which comes quoted
         QString duplicate;  // what a key that is taken is told as
         QString isProtected;
         QString question;  // whether to remove %1

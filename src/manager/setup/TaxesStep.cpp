@@ -11,8 +11,8 @@ namespace manager {
 namespace {
 
 const auto TaxesQuery = u"SELECT * FROM Tax"_s;
-const auto TaxQuery = u"SELECT * FROM Tax WHERE TaxID = '%1'"_s;
-const auto GoodsQuery = u"SELECT ProdCode FROM Products WHERE TaxID = '%1'"_s;
+const auto TaxQuery = u"SELECT * FROM Tax WHERE TaxID = %1"_s;
+const auto GoodsQuery = u"SELECT ProdCode FROM Products WHERE TaxID = %1"_s;
 
 }  // namespace
 
@@ -66,7 +66,7 @@ std::pair<QString, QWidget*> TaxesStep::Fault() const {
 
 QString TaxesStep::WhyItStays(store::Recordset& tax) const {
     const QString code = tax[u"TaxID"].TextOrEmpty();
-    const auto goods = MainStore().OpenSnapshot(GoodsQuery.arg(QString(code).replace(u'\'', u"''"_s)));
+    const auto goods = MainStore().OpenSnapshot(GoodsQuery.arg(Quoted(code)));
     return goods.AtEOF() ? QString()
                          : tr("%n product(s) belong to this tax.", nullptr, static_cast<int>(goods.RecordCount()));
 }

@@ -10,13 +10,13 @@ namespace manager {
 namespace {
 
 const auto UsersQuery = u"SELECT * FROM Users"_s;
-const auto UserQuery = u"SELECT * FROM Users WHERE UserID = '%1'"_s;
-const auto OtherOwnersQuery = u"SELECT UserID FROM Users WHERE AccLevel = '3' AND UserID <> '%1'"_s;
+const auto UserQuery = u"SELECT * FROM Users WHERE UserID = %1"_s;
+const auto OtherOwnersQuery = u"SELECT UserID FROM Users WHERE AccLevel = '3' AND UserID <> %1"_s;
 
 const auto Owner = u"3"_s;
 
 bool IsLastOwner(const QString& userID) {
-    return MainStore().OpenSnapshot(OtherOwnersQuery.arg(QString(userID).replace(u'\'', u"''"_s))).AtEOF();
+    return MainStore().OpenSnapshot(OtherOwnersQuery.arg(Quoted(userID))).AtEOF();
 }
 
 }  // namespace

@@ -22,7 +22,7 @@ const QMap<FindingKind, Entry>& Entries() {
         {StoreMissing,
          {SAID("A file of the shop is not there."),
           SAID("Don't sell on this till. Look whether the disk or the network drive is connected. If the file is gone, "
-               "take back the last backup.")}},
+               "restore the last good backup, on the page Backup.")}},
         {StoreHeld,
          {SAID("Another program holds the shop's data for itself."),
           SAID("Close other programs that work with the shop, such as a backup, and look again.")}},
@@ -35,23 +35,23 @@ const QMap<FindingKind, Entry>& Entries() {
                "computer can put that right.")}},
         {StoreDamaged,
          {SAID("A file of the shop is damaged."),
-          SAID("Stop selling on this till. Copy the whole folder of the register before anything else, then take back "
-               "the last backup. Damage comes from a failing disk or a power cut: have the disk looked at.")}},
+          SAID("Stop selling on this till. Copy the whole folder of the register before anything else, then restore "
+               "the last good backup, on the page Backup. Damage comes from a failing disk or a power cut: have the "
+               "disk looked at.")}},
         {RibbonAhead,
          {SAID("There are printed receipts that the shop's data lacks."),
-          SAID("Sales were lost, after a power cut or when an older backup was taken back. The receipts can be read in "
+          SAID("Sales were lost, after a power cut or when an older backup was restored. The receipts can be read in "
                "invoices.txt in the register's folder: tell the book-keeper their numbers.")}},
         {SettingsNotOneRow,
-         {SAID("The settings of this till are damaged."),
-          SAID("Take back the file opt.pos from the last backup of the register's folder.")}},
+         {SAID("The settings of this till are damaged."), SAID("Restore the last good backup, on the page Backup.")}},
         {NumberExpected,
          {SAID("Numbers in the sales that are no numbers: %n."),
           SAID("Tables were brought in from elsewhere, or changed by hand. The till works on; reports may leave such "
                "rows out.")}},
         {InvoiceTwice,
          {SAID("Invoice numbers that stand twice: %n."),
-          SAID("Two tills sold under the same number. Look that each till has a number of its own, and tell the "
-               "book-keeper the invoices.")}},
+          SAID("Two tills sold under the same number; both invoices are there. Look that each till has a number of its "
+               "own, and tell the book-keeper the invoices.")}},
         {InvoiceWithoutLines,
          {SAID("Invoices without lines: %n."),
           SAID("A posting was cut short, by a power cut for instance. Look for the receipt on paper or in invoices.txt "
@@ -94,17 +94,16 @@ const QMap<FindingKind, Entry>& Entries() {
               "customer or the tax office needs the paper.")}},
         {GoodsWithoutTax,
          {SAID("Products with a tax that is not there: %n."),
-          SAID("Choose one of today's taxes for them under Settings, Products.")}},
+          SAID("Choose one of today's taxes for them under Settings, Products, or add the tax on the page Set-up.")}},
         {GoodsWithOtherRate,
          {SAID("Products with another rate than that of their tax: %n."),
-          SAID("The rate was changed after they were saved. Open each under Settings, Products and save it again, or "
-               "change them together on the page of prices.")}},
+          SAID("The rate was changed after they were saved. Give them the rate of their tax on the page Prices.")}},
         {GoodsWithoutRate,
          {SAID("Products without a tax rate, which can't be sold: %n."),
           SAID("Choose their tax under Settings, Products, and save.")}},
         {GoodsWithoutPrice,
          {SAID("Products without a price, which can't be sold: %n."),
-          SAID("Give them a price under Settings, Products.")}},
+          SAID("Give them a price under Settings, Products, or take them in anew on the page Goods.")}},
         {CodeWithApostrophe,
          {SAID("Products with an apostrophe in the code, which the till can't look up: %n."),
           SAID("Make the product anew under a code without it, and delete this one.")}},
@@ -122,7 +121,8 @@ const QMap<FindingKind, Entry>& Entries() {
           SAID("Choose one of the units under Settings, Products.")}},
         {StockBelowZero,
          {SAID("Products with a stock below zero: %n."),
-          SAID("More was sold than was entered. Count them and correct the stock under Settings, Products.")}},
+          SAID("More was sold than was entered. Enter the delivery, or count them and correct the stock under "
+               "Settings, Products.")}},
         {ButtonBeyond,
          {SAID("Products on a touch button that is not there: %n."),
           SAID("Give them another button under Settings, Click table.")}},
@@ -139,7 +139,7 @@ const QMap<FindingKind, Entry>& Entries() {
                "row.")}},
         {IndexMissing,
          {SAID("Missing indexes, so that the till gets slow: %n."),
-          SAID("Whoever looks after the till can make them anew: a backup that is taken back has them again.")}},
+          SAID("Whoever looks after the till can make them anew: a backup that is restored has them again.")}},
         {SettingMissing,
          {SAID("Settings of this till without a value, at which it stops when it starts: %n."),
           SAID("Set them under Settings on the till, or on the page Set-up here.")}},
