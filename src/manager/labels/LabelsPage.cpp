@@ -62,6 +62,7 @@ void LabelsPage::TieGoods() {
 
 void LabelsPage::Form_Load() {
     labels_->Recall(output::InProgramFolder(ChoicesFile));
+    Form_Activate();
 }
 
 // Prices may be others by now.
