@@ -6,8 +6,8 @@
 
 #include "app/Backups.h"
 #include "app/Screens.h"
-#include "core/ErrorLog.h"
 #include "core/Installation.h"
+#include "core/KeptErrors.h"
 #include "core/PrinterWait.h"
 #include "core/Settings.h"
 #include "core/frmLogin.h"
@@ -65,7 +65,7 @@ void PrepareApplication() {
 
 bool StartProgram() {
     ShowWaitsOfOutput();
-    KeepErrorLog();
+    KeepErrors(u"velton"_s);
     forms::UseKeypad([] { return TheSettings.POSMonitor == u"2"; });
     forms::Run(
         [] {

@@ -2,11 +2,11 @@
 
 #include <QCoreApplication>
 
-#include "manager/HealthPage.h"
 #include "manager/backup/BackupPage.h"
 #include "manager/drawer/DrawerPage.h"
 #include "manager/goods/GoodsPage.h"
 #include "manager/goods/PricesPage.h"
+#include "manager/health/HealthPage.h"
 #include "manager/labels/LabelsPage.h"
 #include "manager/overview/OverviewPage.h"
 #include "manager/printers/PrintersPage.h"

@@ -5,8 +5,8 @@
 #include <QApplication>
 #include <csignal>
 
-#include "core/ErrorLog.h"
 #include "core/Installation.h"
+#include "core/KeptErrors.h"
 #include "core/PrinterWait.h"
 #include "core/Settings.h"
 #include "core/dbModule.h"
@@ -69,7 +69,7 @@ void OpenShop() {
 bool StartManager(const QString& folder) {
     output::SetProgramFolder(folder);
     ShowWaitsOfOutput();
-    KeepErrorLog();
+    KeepErrors(u"velton-manager"_s);
     forms::Run(
         [] {
             OpenShop();

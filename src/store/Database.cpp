@@ -96,6 +96,10 @@ const Schema& Database::GetSchema() const {
     return internals_->schema;
 }
 
+QString Database::EngineVersion() {
+    return engine_->Version();
+}
+
 QStringList Database::CheckIntegrity() {
     return engine_->CheckIntegrity();
 }

@@ -59,6 +59,8 @@ public:
         bool open_ = true;
     };
 
+    // What the store is kept by: "SQLite 3.40.1", "PostgreSQL 15.6".
+    QString EngineVersion();
     // The engine's own integrity check: empty when the file is sound, else one line a fault.
     QStringList CheckIntegrity();
     // The indexes of the schema that the store lacks, as Table.Column+Column.

@@ -134,6 +134,8 @@ public:
     virtual QString PrepareToRetire() = 0;
     virtual void Retire() = 0;
 
+    // Its name and version, as whoever helps asks for them.
+    virtual QString Version() = 0;
     virtual QStringList CheckIntegrity() = 0;
     virtual QStringList MissingIndexes(const Schema& schema) = 0;
     virtual void BackupTo(const QString& path) = 0;

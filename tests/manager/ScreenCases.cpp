@@ -1,4 +1,3 @@
-#include <QProcess>
 #include <QTemporaryDir>
 #include <list>
 
@@ -126,16 +125,6 @@ void CheckTail(ScreenCase& at, const QString& rest, const Step& step) {
         EXPECT_EQ(rows[rows.size() - lines + i].join(u'|'), step.inner[static_cast<size_t>(i)].text);
 }
 
-// `bars FILE BARS`: what a scanner reads on the first page of a PDF, among others.
-void ReadBars(ScreenCase& at, const QString& rest, const Step&) {
-    QProcess scanner;
-    scanner.setWorkingDirectory(at.Path({}));
-    scanner.start(u"sh"_s, {u"-c"_s, u"pdftoppm -r 203 -gray -png -singlefile %1 page && zbarimg -q page.png"_s.arg(
-                                         rest.section(u' ', 0, 0))});
-    EXPECT_TRUE(scanner.waitForFinished());
-    EXPECT_TRUE(scanner.readAllStandardOutput().contains(rest.section(u' ', 1).toUtf8())) << rest.toStdString();
-}
-
 // `elsewhere NAME`: a folder of the case that lies on another disk, as it were.
 void LieElsewhere(ScreenCase& at, const QString& rest, const Step&) {
     static std::list<QTemporaryDir> disks;
@@ -149,7 +138,6 @@ void LieElsewhere(ScreenCase& at, const QString& rest, const Step&) {
         {u"ready"_s, WaitUntilReady},
         {u"figures"_s, CheckFigures},
         {u"tail"_s, CheckTail},
-        {u"bars"_s, ReadBars},
         {u"elsewhere"_s, LieElsewhere},
     },
     {u"figures"_s, u"tail"_s});

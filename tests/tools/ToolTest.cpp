@@ -59,6 +59,7 @@ tool() { LC_ALL=${locale:-en_US.UTF-8} "$TOOL" "$@"; }
 sql() { tool sql shop "$@"; }
 insert() { tool insert shop "$@"; }
 check() { tool check shop; }
+report() { tool report shop "$@"; }
 bytes() { printf "$2" | tr '|' '\t' > rows.tsv; tool load shop "$1" rows.tsv; }
 load() { bytes "$1" "$2\n"; }
 raw() { "$STRANGER" shop "$1" "${2-$1}"; }

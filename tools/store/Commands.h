@@ -17,8 +17,8 @@ void Sql(const QString& folder, const QString& text, Which which);
 void Insert(const QString& folder, const QString& table, const QStringList& fields, Which which);
 void Load(const QString& folder, const QString& table, const QString& file);
 void Check(const QString& folder);
-// What whoever helps has to know.
-void Report(const QString& folder);
+// What whoever helps has to know, without names and sales: in a file, or where none is named on standard output.
+void Report(const QString& folder, const QString& file);
 // The main store alone, as a file.
 void Backup(const QString& folder, const QString& file);
 // Whole registers, in `place`, or where velton.ini says when it is empty.

@@ -118,7 +118,8 @@ void AddCalls(CLI::App& app, Arguments& a) {
     call->callback([&a] { tool::Check(Text(a.folder)); });
 
     call = AddCall(app, a, "report", "Tells whoever helps of the register, without names, sales and passwords");
-    call->callback([&a] { tool::Report(Text(a.folder)); });
+    call->add_option("FILE", a.file, "Where to, instead of standard output");
+    call->callback([&a] { tool::Report(Text(a.folder), Text(a.file)); });
 
     call = AddCall(app, a, "backup", "Copies the main store into FILE, or the whole register, while registers work");
     CLI::Option* file = call->add_option("FILE", a.file, "The copy of the main store, a file that does not exist yet");

@@ -58,6 +58,7 @@ public:
     QString PrepareToRetire() override;
     void Retire() override;
 
+    QString Version() override;
     QStringList CheckIntegrity() override;
     QStringList MissingIndexes(const Schema& schema) override;
     void BackupTo(const QString& path) override;

@@ -66,6 +66,10 @@ std::unique_ptr<Engine> SqliteEngine::OpenBeside() {
     }
 }
 
+QString SqliteEngine::Version() {
+    return u"SQLite "_s + QString::fromLatin1(sqlite3_libversion());
+}
+
 QStringList SqliteEngine::CheckIntegrity() {
     return FaultsOf(*connection_);
 }

@@ -5,12 +5,12 @@
 
 namespace manager {
 
-// The file for whoever helps, to be read before it is saved.
+// The text for whoever helps, shown whole before it is saved.
 class SupportForm : public forms::Form {
     Q_OBJECT
 
 public:
-    explicit SupportForm(QString text);
+    explicit SupportForm(const QString& text);
 
     Ui::SupportForm ui;
 
