@@ -5,6 +5,7 @@
 #include <csignal>
 
 #include "app/Screens.h"
+#include "core/BackupStart.h"
 #include "core/Installation.h"
 #include "core/PrinterWait.h"
 #include "core/Settings.h"
@@ -64,7 +65,8 @@ bool StartProgram() {
     forms::Run(
         [] {
             TakeInstallation();
-            forms::Open<frmLogin>(ShowSalesScreen)->Show();
+            forms::Open<frmLogin>(ShowSalesScreen, TellOfBackups)->Show();
+            StartBackupOfTheDay();
         },
         u"VELTON"_s);
     return !forms::ProgramIsEnding() && !forms::LoadedForms().isEmpty();

@@ -63,7 +63,7 @@ QString Refusal(const Key& key, const values::IniFile::Value& value) {
 }
 
 bool IsKnown(const values::IniFile::Key& key) {
-    return std::ranges::any_of(Keys, [&](const Key& known) {
+    return upkeep::IsBackupKey(key.section, key.name) || std::ranges::any_of(Keys, [&](const Key& known) {
         return key.section.compare(QStringView(known.section), Qt::CaseInsensitive) == 0 &&
                key.name.compare(QStringView(known.name), Qt::CaseInsensitive) == 0;
     });
@@ -83,5 +83,7 @@ QStringList ReadInstallation() {
         const auto value = ini.Find(QString::fromUtf16(key.section), QString::fromUtf16(key.name));
         if (value && !Take(key, value->text, TheInstallation)) refused << Refusal(key, *value);
     }
+    // Also read by programs without a screen.
+    TheInstallation.backup = upkeep::ReadBackupPlan(ini, output::ProgramFolder(), refused);
     return refused;
 }

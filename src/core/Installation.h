@@ -4,6 +4,7 @@
 
 #include "core/Settings.h"
 #include "forms/Theme.h"
+#include "upkeep/BackupPlan.h"
 
 // What velton.ini in the program's folder adds to this installation. Without the file, or a key, the till is as
 // delivered.
@@ -11,6 +12,7 @@ struct Installation {
     Heading heading = BuiltInHeading();                 // [heading] name, address, ident, phone
     bool sound = true;                                  // [till] sound = yes | no
     forms::Contrast contrast = forms::Contrast::Usual;  // [till] contrast = usual | high | dark
+    upkeep::BackupPlan backup;                          // [backup] folder, days, weeks, months
 };
 
 inline Installation TheInstallation;

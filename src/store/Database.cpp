@@ -116,6 +116,10 @@ void Database::Retire() {
     engine_->Retire();
 }
 
+void Database::RetireFor(const Place& successor) {
+    engine_->RetireFor(successor);
+}
+
 void Database::AddAllOf(Database& other) {
     AddAllOf(*other.engine_);
 }
@@ -127,6 +131,10 @@ void Database::AddAllOf(Engine& other) {
 
 void Database::BackupTo(const QString& path) {
     engine_->BackupTo(path);
+}
+
+void Database::CopyFile(const QString& from, const QString& to) {
+    sqlite::CopyFile(from, to);
 }
 
 QString Database::ExplainPlan(const QString& query) {

@@ -4,6 +4,7 @@
 
 #include "store/Creation.h"
 #include "store/StorePath.h"
+#include "upkeep/DayTotals.h"
 #include "values/IniEdit.h"
 
 using namespace Qt::StringLiterals;
@@ -14,7 +15,7 @@ namespace {
 
 struct Totals {
     QStringList tables;  // a line each, with its number of rows
-    QStringList days;    // with invoices, takings and tax
+    DayTotals days;
     qint64 rows = 0;
     bool operator==(const Totals&) const = default;
 };
@@ -26,13 +27,7 @@ Totals TotalsOf(store::Database& database) {
         totals.tables += u"%1 %2"_s.arg(table.name).arg(rows);
         totals.rows += rows;
     }
-    auto days = database.OpenSnapshot(
-        u"SELECT DateSold, Count(*) AS N, Sum(CashAmount) AS Cash, Sum(TaxTotal) AS Tax FROM Invoices GROUP BY DateSold"_s);
-    for (auto& day : days) {
-        QStringList cells;
-        for (int i = 0; i < day.FieldCount(); ++i) cells += day[i].TextOrEmpty();
-        totals.days += cells.join(u' ');
-    }
+    totals.days = ReadDayTotals(database);
     return totals;
 }
 

@@ -18,6 +18,10 @@ void Insert(const QString& folder, const QString& table, const QStringList& fiel
 void Load(const QString& folder, const QString& table, const QString& file);
 void Check(const QString& folder);
 void Backup(const QString& folder, const QString& file);
+// Of the whole register; where nothing is named, into the folder that velton.ini names.
+void BackupRegister(const QString& folder, const QString& to);
+void Backups(const QString& folder, const QString& in);
+void Restore(const QString& folder, const QString& backup, const QString& in);
 // To a server, or into the folder where the address is empty.
 void Move(const QString& folder, const QString& address);
 

@@ -29,7 +29,7 @@ int Report(int number, const QString& description) {
 
 // What the command line gave, in bytes.
 struct Arguments {
-    std::string folder, table, file, text, server;
+    std::string folder, table, file, text, server, backups, backup;
     std::vector<std::string> fields;
     bool withDemo = false;
     bool options = false;
@@ -52,6 +52,26 @@ CLI::App* AddCall(CLI::App& app, Arguments& arguments, const char* name, const c
     CLI::App* call = app.add_subcommand(name, description);
     call->add_option("FOLDER", arguments.folder, "The program's folder")->required();
     return call;
+}
+
+void AddBackupCalls(CLI::App& app, Arguments& a) {
+    CLI::App* call = AddCall(app, a, "backup", "Backs up the whole register, or copies the main store, at work");
+    CLI::Option* file = call->add_option("FILE", a.file, "A copy of the main store alone, a file that does not exist");
+    call->add_option("--to", a.backups, "A folder for backups; that of velton.ini when it is not said")->excludes(file);
+    call->callback([&a] {
+        a.file.empty() ? tool::BackupRegister(Text(a.folder), Text(a.backups))
+                       : tool::Backup(Text(a.folder), Text(a.file));
+    });
+
+    constexpr auto usualIn = "The folder for backups; that of velton.ini when it is not said";
+    call = AddCall(app, a, "backups", "Lists the backups, the newest first");
+    call->add_option("--in", a.backups, usualIn);
+    call->callback([&a] { tool::Backups(Text(a.folder), Text(a.backups)); });
+
+    call = AddCall(app, a, "restore", "Puts a backup in the place of the register's data, while no till runs");
+    call->add_option("BACKUP", a.backup, "Its name, or its folder")->required();
+    call->add_option("--in", a.backups, usualIn);
+    call->callback([&a] { tool::Restore(Text(a.folder), Text(a.backup), Text(a.backups)); });
 }
 
 void AddCalls(CLI::App& app, Arguments& a) {
@@ -80,9 +100,7 @@ void AddCalls(CLI::App& app, Arguments& a) {
     call = AddCall(app, a, "check", "Looks both stores over; damage gives 1, notes alone give 0");
     call->callback([&a] { tool::Check(Text(a.folder)); });
 
-    call = AddCall(app, a, "backup", "Copies the main store while registers work");
-    call->add_option("FILE", a.file, "The copy, a file that does not exist yet")->required();
-    call->callback([&a] { tool::Backup(Text(a.folder), Text(a.file)); });
+    AddBackupCalls(app, a);
 
     call = AddCall(app, a, "move", "Moves the main store to a server or back, while no till runs");
     CLI::Option_group* where = call->add_option_group("where");
