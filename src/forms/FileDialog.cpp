@@ -12,12 +12,12 @@ namespace forms {
 
 namespace {
 
-QString AskName(QFileDialog* made) {
+// A missing file is no business of the dialog: the screens have their own words for it.
+QString AskName(QFileDialog* made, QFileDialog::FileMode mode = QFileDialog::AnyFile) {
     if (ProgramIsEnding()) throw ProgramEnds{};
     const FocusReturn focus;
     const QPointer<QFileDialog> dialog = made;
-    // A missing name is no business of the dialog: the screens have their own words for it.
-    dialog->setFileMode(QFileDialog::AnyFile);
+    dialog->setFileMode(mode);
     const bool chosen = dialog->exec() == QDialog::Accepted && dialog;
     const QStringList names = chosen ? dialog->selectedFiles() : QStringList();
     delete dialog;
@@ -47,6 +47,12 @@ QString AskOpenName(QWidget* parent, const QString& title, const QString& filter
     dialog->setAcceptMode(QFileDialog::AcceptOpen);
     dialog->setOption(QFileDialog::HideNameFilterDetails);
     return AskName(dialog);
+}
+
+QString AskFolder(QWidget* parent, const QString& title) {
+    QFileDialog* dialog = NewDialog(parent, title, {});
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+    return AskName(dialog, QFileDialog::Directory);
 }
 
 }  // namespace forms

@@ -4,6 +4,7 @@
 #include <QShortcut>
 
 #include "core/Installation.h"
+#include "manager/BackupWords.h"
 #include "output/Folder.h"
 
 using namespace Qt::StringLiterals;
@@ -39,6 +40,7 @@ void ManagerWindow::BringUp(size_t number) {
         page = entries_[number].make(ui.stkPages);
         ui.stkPages->addWidget(page);
         connect(page, &Page::ShopChanged, this, Guarded(&ManagerWindow::TellOfShop));
+        connect(page, &Page::ShopGoes, this, [this, page = page](bool* goes) { DropOthers(page, goes); });
         page->Load();
     }
     ui.lblPage->setText(page->Name());
@@ -57,8 +59,21 @@ bool ManagerWindow::Form_Unload() {
     return true;
 }
 
+// They are made anew when they are chosen.
+void ManagerWindow::DropOthers(const Page* page, bool* goes) {
+    for (Page*& other : pages_) {
+        if (other == nullptr || other == page) continue;
+        if (!other->Unload()) {
+            *goes = false;
+            return;
+        }
+        delete std::exchange(other, nullptr);
+    }
+}
+
 void ManagerWindow::TellOfShop() {
-    ui.lblStatus->setText(tr("%1   –   %2").arg(TheInstallation.heading.NazivFirme, output::ProgramFolder()));
+    ui.lblStatus->setText(tr("%1   –   %2   –   %3")
+                              .arg(TheInstallation.heading.NazivFirme, output::ProgramFolder(), LastBackupInWords()));
 }
 
 }  // namespace manager

@@ -26,6 +26,7 @@ private:
     void lstPages_Chosen();
     void BringUp(size_t number);
     void TellOfShop();
+    void DropOthers(const Page* page, bool* goes);
 
     const std::vector<PageEntry> entries_ = AllPages();
     std::vector<Page*> pages_{entries_.size()};

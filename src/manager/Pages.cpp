@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 
+#include "manager/BackupPage.h"
 #include "manager/HealthPage.h"
 
 using namespace Qt::StringLiterals;
@@ -24,6 +25,7 @@ QString Named(const char* name) {
 std::vector<PageEntry> AllPages() {
     return {
         {u"HealthPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Health")), Make<HealthPage>},
+        {u"BackupPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Backup")), Make<BackupPage>},
     };
 }
 

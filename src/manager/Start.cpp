@@ -13,6 +13,7 @@
 #include "manager/ManagerLogin.h"
 #include "manager/ManagerWindow.h"
 #include "output/Folder.h"
+#include "upkeep/Restore.h"
 #include "values/Locale.h"
 
 using namespace Qt::StringLiterals;
@@ -34,7 +35,20 @@ bool IsAsDelivered() {
            MainStore().OpenRecordset(InvoicesQuery).AtEOF();
 }
 
+void ShowWindow() {
+    auto* window = forms::Open<ManagerWindow>();
+    QObject::connect(window, &forms::Form::Unloaded, [] { forms::Run([] { forms::EndProgram(); }, Title); });
+    window->Show();
+}
+
+}  // namespace
+
+void CloseShop() {
+    CloseStores();
+}
+
 void OpenShop() {
+    upkeep::EndBrokenRestore(output::ProgramFolder());
     const QStringList refused = ReadInstallation();
     forms::UseContrast(TheInstallation.contrast);
     if (!refused.isEmpty()) forms::Inform(refused.join(u'\n'), Title);
@@ -45,14 +59,6 @@ void OpenShop() {
     OpenMainStore();
     ShowWaitsOfMainStore();
 }
-
-void ShowWindow() {
-    auto* window = forms::Open<ManagerWindow>();
-    QObject::connect(window, &forms::Form::Unloaded, [] { forms::Run([] { forms::EndProgram(); }, Title); });
-    window->Show();
-}
-
-}  // namespace
 
 void PrepareManager() {
     ::umask(077);  // a shop's files belong to its user alone

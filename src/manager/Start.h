@@ -12,4 +12,8 @@ void PrepareManager();
 // in the folder.
 bool StartManager(const QString& folder);
 
+// Closes the stores for what takes their place, and opens what is there then; throws when that can't be opened.
+void CloseShop();
+void OpenShop();
+
 }  // namespace manager

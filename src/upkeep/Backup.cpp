@@ -30,11 +30,11 @@ qint64 SizeOf(const QString& store) {
 class Work {
 public:
     Work(const QString& registerFolder, const BackupPlan& plan, const Progress& progress)
-        : register_(registerFolder),
+        : register_(QDir(registerFolder).absolutePath()),
           plan_(plan),
           progress_(progress),
           begin_(values::Now()),
-          own_(OwnFolder(plan.folder, registerFolder)),
+          own_(OwnFolder(plan.folder, register_.path())),
           shop_(register_.filePath(u".backup.part"_s)) {}
     ~Work() {
         RemoveFolder(shop_.path());

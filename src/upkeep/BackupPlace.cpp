@@ -1,5 +1,6 @@
 #include "upkeep/BackupPlace.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QCryptographicHash>
@@ -83,6 +84,12 @@ void ChooseBackupFolder(const QString& folder, const QString& registerFolder) {
     values::IniEdit ini(QDir(registerFolder).filePath(u"velton.ini"_s));
     ini.Set(u"backup"_s, u"folder"_s, chosen);
     ini.Save();
+}
+
+bool IsOnSameDisk(const QString& folder, const QString& registerFolder) {
+    struct stat one = {}, other = {};
+    return ::stat(QFile::encodeName(folder).constData(), &one) == 0 &&
+           ::stat(QFile::encodeName(registerFolder).constData(), &other) == 0 && one.st_dev == other.st_dev;
 }
 
 QString BackupLock(const QString& registerFolder) {

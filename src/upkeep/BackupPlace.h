@@ -16,6 +16,9 @@ void RequireFit(const QString& folder, const QString& registerFolder);
 // The same, and the till backs up there from now on (velton.ini).
 void ChooseBackupFolder(const QString& folder, const QString& registerFolder);
 
+// A broken disk would take both.
+bool IsOnSameDisk(const QString& folder, const QString& registerFolder);
+
 // What this register's backups have to themselves there; several registers may use one folder.
 QString OwnFolder(const QString& folder, const QString& registerFolder);
 // Held for as long as one program works at the backups of a register.

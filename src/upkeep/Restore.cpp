@@ -33,11 +33,11 @@ void RequireSound(store::Database& database, const QString& name) {
 class Work {
 public:
     Work(const QString& registerFolder, const BackupFacts& backup, const Progress& progress)
-        : register_(registerFolder),
+        : register_(QDir(registerFolder).absolutePath()),
           backup_(backup),
           progress_(progress),
-          steps_(registerFolder),
-          place_(store::MainPlace(registerFolder)),
+          steps_(register_.path()),
+          place_(store::MainPlace(register_.path())),
           keptAs_(values::Now().toString(u"'replaced-'yyyy-MM-dd-HHmmss"_s)),
           comingStore_(steps_.ComingStore(place_.Path())) {}
 

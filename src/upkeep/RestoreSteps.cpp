@@ -21,7 +21,7 @@ QStringList StoreEndings() {
 }
 
 RestoreSteps::RestoreSteps(const QString& registerFolder)
-    : register_(registerFolder),
+    : register_(QDir(registerFolder).absolutePath()),
       coming_(register_.filePath(u".restore.part"_s)),
       file_(register_.filePath(u"restore.todo"_s)) {}
 

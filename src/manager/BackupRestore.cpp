@@ -1,0 +1,56 @@
+#include "manager/BackupRestore.h"
+
+#include "core/Settings.h"
+#include "manager/BackupWords.h"
+#include "values/DateText.h"
+
+using namespace Qt::StringLiterals;
+
+namespace manager {
+
+BackupRestore::BackupRestore(const upkeep::RestorePreview& preview) {
+    ui.setupUi(this);
+    ui.lstDays->SetColumns({{tr("Day"), Qt::AlignLeft, 120},
+                            {tr("Invoices now"), Qt::AlignRight, 120},
+                            {tr("Takings now"), Qt::AlignRight, 130},
+                            {tr("in the backup"), Qt::AlignRight, 120},
+                            {tr("Takings there"), Qt::AlignRight, 130},
+                            {u""_s, Qt::AlignLeft, -1}});
+    ui.lstDays->SetEmptyText(tr("Neither the shop nor the backup has sold anything yet."));
+    FunctionKeys({{Qt::Key_Escape, ui.cmdCancel}});
+    On(ui.cmdReplace, &BackupRestore::cmdReplace_Click);
+    On(ui.cmdCancel, &BackupRestore::cmdCancel_Click);
+    ui.lblBackup->setText(tr("The backup of %1, with %2 invoices. Takings are in %3.")
+                              .arg(MomentInWords(preview.backup.made), QString::number(preview.backup.invoices),
+                                   TheSettings.Currency));
+    const auto differing = std::ranges::count_if(preview.days, [](const auto& day) { return !day.IsSame(); });
+    if (!preview.liveFault.isEmpty())
+        ui.lblChanges->setText(tr("The shop can't be read: %1").arg(preview.liveFault));
+    else if (differing == 0)
+        ui.lblChanges->setText(tr("All days are the same in the shop and in the backup."));
+    else
+        ui.lblChanges->setText(tr("%n day(s) differ and stand first. What is in the shop now and not in the backup will "
+                                  "be gone from it; what is replaced is kept beside it.",
+                                  nullptr, static_cast<int>(differing)));
+    ShowDays(preview.days);
+}
+
+void BackupRestore::ShowDays(const QList<upkeep::DayInTwo>& days) {
+    for (const upkeep::DayInTwo& day : days)
+        ui.lstDays->Add({day.one.day.isValid() ? values::DateText(day.one.day) : tr("without a day"),
+                         QString::number(day.one.invoices), AmountInWords(day.one.takings),
+                         QString::number(day.other.invoices), AmountInWords(day.other.takings),
+                         day.IsSame() ? QString() : tr("differs")});
+    if (!days.isEmpty()) ui.lstDays->Select(0);
+}
+
+void BackupRestore::cmdReplace_Click() {
+    isWanted_ = true;
+    Unload();
+}
+
+void BackupRestore::cmdCancel_Click() {
+    Unload();
+}
+
+}  // namespace manager
