@@ -29,9 +29,9 @@ BackupRestore::BackupRestore(const upkeep::RestorePreview& preview) {
     else if (differing == 0)
         ui.lblChanges->setText(tr("All days are the same in the shop and in the backup."));
     else
-        ui.lblChanges->setText(tr("%n day(s) differ and stand first. What is in the shop now and not in the backup will "
-                                  "be gone from it; what is replaced is kept beside it.",
-                                  nullptr, static_cast<int>(differing)));
+        ui.lblChanges->setText(tr("Days that differ: %1. They stand first. What the shop has now and the backup has not "
+                                  "will be gone from it; all that is replaced is kept in a folder beside it.")
+                                   .arg(differing));
     ShowDays(preview.days);
 }
 

@@ -93,7 +93,9 @@ private:
     void NameIt() {
         for (QDateTime time = begin_; facts_.path.isEmpty(); time = time.addSecs(1)) {
             const QString path = QDir(own_).filePath(backup::Prefix + time.toString(u"yyyy-MM-dd-HHmmss"_s));
-            if (!QFileInfo::exists(path)) facts_.path = path;
+            if (QFileInfo::exists(path)) continue;
+            facts_.path = path;
+            facts_.made = time;
         }
         part_ = facts_.path + backup::Unfinished;
     }
@@ -194,11 +196,10 @@ private:
         Rename(part_, facts_.path);
         part_.clear();
         SyncFolder(own_);
-        NoteGood(register_.path(), begin_, facts_.path, facts_.bytes);
+        NoteGood(register_.path(), facts_.made, facts_.path, facts_.bytes);
     }
 
     void WriteFacts() {
-        facts_.made = begin_;
         facts_.version = QStringLiteral(VELTON_VERSION);
         facts_.registerName = RegisterName(register_.path());
         for (const DayTotal& day : std::as_const(days_)) facts_.invoices += day.invoices;

@@ -30,6 +30,14 @@ void RequireSound(store::Database& database, const QString& name) {
         throw store::StoreError(store::NotAStore, Words::tr("%1 in the backup is damaged: %2").arg(name, faults.first()));
 }
 
+// Nothing that was kept before is touched.
+QString FreeName(const QDir& registerFolder) {
+    for (QDateTime time = values::Now();; time = time.addSecs(1)) {
+        QString name = time.toString(u"'replaced-'yyyy-MM-dd-HHmmss"_s);
+        if (!registerFolder.exists(name)) return name;
+    }
+}
+
 class Work {
 public:
     Work(const QString& registerFolder, const BackupFacts& backup, const Progress& progress)
@@ -38,7 +46,7 @@ public:
           progress_(progress),
           steps_(register_.path()),
           place_(store::MainPlace(register_.path())),
-          keptAs_(values::Now().toString(u"'replaced-'yyyy-MM-dd-HHmmss"_s)),
+          keptAs_(FreeName(register_)),
           comingStore_(steps_.ComingStore(place_.Path())) {}
 
     Restored Restore() {

@@ -28,11 +28,19 @@ void GoToPage(ScreenCase& at, const QString& page, const Step&) {
     at.GoOnIn(*form);
 }
 
+// `restore TEXT`: the days are looked at, the shop is replaced, and a box that begins so tells of it.
+void Restore(ScreenCase& at, const QString& text, const Step&) {
+    at.Coming().ExpectForm(u"BackupRestore"_s, [](QWidget& form) { drivers::Click(drivers::Get<QWidget>(form, u"cmdReplace")); });
+    at.Coming().ExpectBeginning(text);
+    drivers::Click(drivers::Get<QWidget>(at.Form(), u"cmdRestore"));
+}
+
 [[maybe_unused]] const bool added = ScreenCase::AddWords({
     {u"manager"_s, [](ScreenCase& at, const QString&, const Step&) { StartManager(at); }},
     {u"page"_s, GoToPage},
+    {u"restore"_s, Restore},
 });
 
 }  // namespace
 
-INSTANTIATE_SCREEN_CASES(Manager, u"manager-start"_s);
+INSTANTIATE_SCREEN_CASES(Manager, u"manager-start"_s, u"manager-backup"_s);

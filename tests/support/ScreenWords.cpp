@@ -9,6 +9,7 @@
 #include <QTabWidget>
 #include <QToolBar>
 
+#include "core/BackupStart.h"
 #include "core/Settings.h"
 #include "forms/Program.h"
 #include "player/Input.h"
@@ -192,6 +193,15 @@ QMap<QString, ScreenCase::Word> ScreenCase::States() {
          [](ScreenCase& at, const QString& rest, const Step&) { EXPECT_TRUE(QFile::remove(at.Path(rest))); }},
         {u"folder"_s,
          [](ScreenCase& at, const QString& rest, const Step&) { EXPECT_TRUE(QDir().mkdir(at.Path(rest))); }},
+        {u"stick"_s,
+         [](ScreenCase& at, const QString&, const Step&) { EXPECT_TRUE(QDir().mkdir(at.Path({}) + u"-stick"_s)); }},
+        {u"backup-program"_s,
+         [](ScreenCase&, const QString&, const Step&) {
+             UseBackupProgram([](const QString& registerFolder) {
+                 QFile notes(registerFolder + u"/started"_s);
+                 return notes.open(QIODevice::Append) && notes.write("x") == 1;
+             });
+         }},
         {u"engine"_s,
          [](ScreenCase& at, const QString& rest, const Step&) {
              DoBehind(at.folder.path(), rest.section(u" | "_s, 0, 0), rest.section(u" | "_s, 1));
@@ -256,12 +266,11 @@ QMap<QString, ScreenCase::Word> ScreenCase::Deeds() {
 
 QMap<QString, ScreenCase::Word> ScreenCase::Announcements() {
     return {
-        {u"box"_s, [](ScreenCase& at, const QString& rest,
-                      const Step&) { ExpectBox(at.boxes_, QString(rest).replace(u"{folder}"_s, at.folder.path())); }},
+        {u"box"_s, [](ScreenCase& at, const QString& rest, const Step&) { ExpectBox(at.boxes_, rest); }},
         {u"pick"_s,
          [](ScreenCase& at, const QString& rest, const Step&) {
              const QString name = rest.section(u" | "_s, 0, 0);
-             at.boxes_.ExpectFile(name.isEmpty() ? name : at.Path(name));
+             at.boxes_.ExpectFile(name.isEmpty() ? name : QDir(at.Path({})).filePath(name));
              if (rest.contains(u" | ")) at.boxes_.Titled(rest.section(u" | "_s, 1));
          }},
         {u"help"_s, [](ScreenCase& at, const QString& rest, const Step&) { ExpectHelp(at.boxes_, rest); }},
