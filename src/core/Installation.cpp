@@ -64,9 +64,9 @@ QString Refusal(const Key& key, const values::IniFile::Value& value) {
 
 bool IsKnown(const values::IniFile::Key& key) {
     return upkeep::IsBackupKey(key.section, key.name) || std::ranges::any_of(Keys, [&](const Key& known) {
-        return key.section.compare(QStringView(known.section), Qt::CaseInsensitive) == 0 &&
-               key.name.compare(QStringView(known.name), Qt::CaseInsensitive) == 0;
-    });
+               return key.section.compare(QStringView(known.section), Qt::CaseInsensitive) == 0 &&
+                      key.name.compare(QStringView(known.name), Qt::CaseInsensitive) == 0;
+           });
 }
 
 }  // namespace

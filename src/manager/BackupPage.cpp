@@ -23,7 +23,7 @@ namespace manager {
 
 BackupPage::BackupPage(QWidget* parent) : Page(parent) {
     ui.setupUi(this);
-    ui.lstBackups->SetColumns({{tr("Made"), Qt::AlignLeft, 170},
+    ui.lstBackups->SetColumns({{tr("Made"), Qt::AlignLeft, 190},
                                {tr("Size"), Qt::AlignRight, 80},
                                {tr("Invoices"), Qt::AlignRight, 80},
                                {tr("Last day"), Qt::AlignLeft, 100},
@@ -47,8 +47,9 @@ void BackupPage::ShowFolder() {
     const bool isChosen = !plan.folder.isEmpty();
     ui.cmdNow->setEnabled(isChosen);
     if (!isChosen) {
-        ui.lblFolder->setText(tr("No folder has been chosen yet, and the till makes no backups. Choose one on a second "
-                                 "disk, on a stick or in the network."));
+        ui.lblFolder->setText(
+            tr("No folder has been chosen yet, and the till makes no backups. Choose one on a second "
+               "disk, on a stick or in the network."));
         ui.lblKept->clear();
         return;
     }
@@ -57,18 +58,18 @@ void BackupPage::ShowFolder() {
                               ? tr("Backups go to %1, on the same disk as the shop: if it breaks, both are lost.")
                               : tr("Backups go to %1.");
     ui.lblFolder->setText(where.arg(plan.folder));
-    ui.lblKept->setText(tr("The till makes one at each End Report and when it is first started on a day. Kept are the "
-                           "newest of each of %1 days, %2 weeks and %3 months.")
-                            .arg(QString::number(plan.days), QString::number(plan.weeks),
-                                 QString::number(plan.months)));
+    ui.lblKept->setText(
+        tr("The till makes one at each End Report and when it is first started on a day. Kept are the "
+           "newest of each of %1 days, %2 weeks and %3 months.")
+            .arg(QString::number(plan.days), QString::number(plan.weeks), QString::number(plan.months)));
 }
 
 void BackupPage::ShowLast() {
     const upkeep::BackupState state = upkeep::ReadBackupState(ProgramFolder());
     const bool hasFailed = state.failed.isValid() && !(state.failed < state.good);
-    ui.lblLast->setText(hasFailed ? tr("%1.\nThe try of %2 failed: %3")
-                                        .arg(LastBackupInWords(), MomentInWords(state.failed), state.why)
-                                  : tr("%1.").arg(LastBackupInWords()));
+    ui.lblLast->setText(
+        hasFailed ? tr("%1.\nThe try of %2 failed: %3").arg(LastBackupInWords(), MomentInWords(state.failed), state.why)
+                  : tr("%1.").arg(LastBackupInWords()));
 }
 
 void BackupPage::ShowBackups() {
@@ -141,8 +142,7 @@ void BackupPage::Restore(const BackupFacts& backup) {
         why = error.Description();
     }
     OpenShop();
-    if (!why.isEmpty())
-        return forms::Tell(tr("Nothing was restored. %1").arg(why), forms::Icon::Warning, Caption());
+    if (!why.isEmpty()) return forms::Tell(tr("Nothing was restored. %1").arg(why), forms::Icon::Warning, Caption());
     forms::Inform(tr("The shop is as it was in the backup of %1, with %2 invoices. What was replaced is kept in %3.")
                       .arg(MomentInWords(backup.made), QString::number(restored.invoices), restored.keptAs),
                   Caption());

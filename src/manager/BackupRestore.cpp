@@ -13,25 +13,26 @@ BackupRestore::BackupRestore(const upkeep::RestorePreview& preview) {
     ui.lstDays->SetColumns({{tr("Day"), Qt::AlignLeft, 120},
                             {tr("Invoices now"), Qt::AlignRight, 120},
                             {tr("Takings now"), Qt::AlignRight, 130},
-                            {tr("in the backup"), Qt::AlignRight, 120},
+                            {tr("Invoices there"), Qt::AlignRight, 120},
                             {tr("Takings there"), Qt::AlignRight, 130},
                             {u""_s, Qt::AlignLeft, -1}});
     ui.lstDays->SetEmptyText(tr("Neither the shop nor the backup has sold anything yet."));
     FunctionKeys({{Qt::Key_Escape, ui.cmdCancel}});
     On(ui.cmdReplace, &BackupRestore::cmdReplace_Click);
     On(ui.cmdCancel, &BackupRestore::cmdCancel_Click);
-    ui.lblBackup->setText(tr("The backup of %1, with %2 invoices. Takings are in %3.")
-                              .arg(MomentInWords(preview.backup.made), QString::number(preview.backup.invoices),
-                                   TheSettings.Currency));
+    ui.lblBackup->setText(
+        tr("The backup of %1, with %2 invoices. Takings are in %3.")
+            .arg(MomentInWords(preview.backup.made), QString::number(preview.backup.invoices), TheSettings.Currency));
     const auto differing = std::ranges::count_if(preview.days, [](const auto& day) { return !day.IsSame(); });
     if (!preview.liveFault.isEmpty())
         ui.lblChanges->setText(tr("The shop can't be read: %1").arg(preview.liveFault));
     else if (differing == 0)
         ui.lblChanges->setText(tr("All days are the same in the shop and in the backup."));
     else
-        ui.lblChanges->setText(tr("Days that differ: %1. They stand first. What the shop has now and the backup has not "
-                                  "will be gone from it; all that is replaced is kept in a folder beside it.")
-                                   .arg(differing));
+        ui.lblChanges->setText(
+            tr("Days that differ: %1. They stand first. What the shop has now and the backup has not "
+               "will be gone from it; all that is replaced is kept in a folder beside it.")
+                .arg(differing));
     ShowDays(preview.days);
 }
 

@@ -37,7 +37,7 @@ QString LastBackupInWords() {
     const upkeep::BackupState state = upkeep::ReadBackupState(output::ProgramFolder());
     if (!state.good.isValid()) return Words::tr("No backup yet");
     return Words::tr("Last good backup: %1, %2, in %3")
-        .arg(MomentInWords(state.good), SizeInWords(state.bytes), QFileInfo(state.path).path());
+        .arg(MomentInWords(state.good), SizeInWords(state.bytes), QFileInfo(QFileInfo(state.path).path()).path());
 }
 
 }  // namespace manager

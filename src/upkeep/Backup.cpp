@@ -110,8 +110,7 @@ private:
         constexpr int tries = 3;
         for (int i = 1; !CopyMain(*main); ++i)
             if (i == tries)
-                throw store::StoreError(store::NotAStore,
-                                        Words::tr("The days in the copy are not those of the shop."));
+                throw store::StoreError(store::NotAStore, Words::tr("The days in the copy are not those of the shop."));
         GoOn(progress_, Words::tr("Copying the settings"));
         const QString copy = shop_.filePath(store::OptionsFile);
         options->BackupTo(copy);
@@ -178,9 +177,9 @@ private:
             GoOn(progress_, Words::tr("Reading %1 back").arg(file.key()));
             const QString path = QDir(target_).filePath(file.key());
             if (FingerprintOf(path) == *file) continue;
-            throw values::FileError(values::DeviceError,
-                                    Words::tr("%1 can't be read back as it was written: the disk or stick is worn out.")
-                                        .arg(path));
+            throw values::FileError(
+                values::DeviceError,
+                Words::tr("%1 can't be read back as it was written: the disk or stick is worn out.").arg(path));
         }
     }
 

@@ -71,10 +71,11 @@ void RequireFit(const QString& folder, const QString& registerFolder) {
     if (ReadBackupState(registerFolder).place != folder) return MakeFit(folder, registerFolder);
     RequireFolder(folder);
     if (!IsFit(folder))
-        throw values::FileError(values::PathNotFound,
-                                Words::tr("The folder %1 is not the one that was chosen for backups. Is the right stick "
-                                          "or disk plugged in? If it is, choose the folder anew.")
-                                    .arg(folder));
+        throw values::FileError(
+            values::PathNotFound,
+            Words::tr("The folder %1 is not the one that was chosen for backups. Is the right stick "
+                      "or disk plugged in? If it is, choose the folder anew.")
+                .arg(folder));
     RequireRights(folder);
 }
 

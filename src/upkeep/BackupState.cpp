@@ -88,8 +88,7 @@ void NotePlace(const QString& registerFolder, const QString& place) {
 
 void NoteAsked(const QString& registerFolder, const QDateTime& time) {
     if (ReadBackupState(registerFolder).asked.isValid()) return;
-    Change(registerFolder,
-           [&](values::IniEdit& state) { state.Set(Till, u"asked"_s, time.toString(Qt::ISODate)); });
+    Change(registerFolder, [&](values::IniEdit& state) { state.Set(Till, u"asked"_s, time.toString(Qt::ISODate)); });
 }
 
 void NoteTold(const QString& registerFolder, QDate day) {
@@ -99,9 +98,8 @@ void NoteTold(const QString& registerFolder, QDate day) {
 QString BackupNotice(const BackupState& state, const QDateTime& now, QDate lastSale) {
     constexpr int oldest = 3;  // days
     if (state.told == now.date()) return {};
-    const QString lastGood = state.good.isValid()
-                                 ? Words::tr("The last good backup is of %1.").arg(Moment(state.good))
-                                 : Words::tr("There is no good backup yet.");
+    const QString lastGood = state.good.isValid() ? Words::tr("The last good backup is of %1.").arg(Moment(state.good))
+                                                  : Words::tr("There is no good backup yet.");
     if (state.failed.isValid() && !(state.failed < state.good))
         return Words::tr("The backup of %1 could not be made: %2\n%3").arg(Moment(state.failed), state.why, lastGood);
     const QDateTime since = state.good.isValid() ? state.good : state.asked;

@@ -162,10 +162,10 @@ void RequireRoom(const QString& folder, qint64 bytes) {
     const QStorageInfo disk(folder);
     if (!disk.isValid() || disk.bytesAvailable() >= bytes + Spare) return;
     const QLocale& locale = values::UserLocale();
-    throw values::FileError(values::DiskFull,
-                            Words::tr("There is too little room in %1: %2 are needed, and %3 are free.")
-                                .arg(folder, locale.formattedDataSize(bytes + Spare),
-                                     locale.formattedDataSize(disk.bytesAvailable())));
+    throw values::FileError(
+        values::DiskFull,
+        Words::tr("There is too little room in %1: %2 are needed, and %3 are free.")
+            .arg(folder, locale.formattedDataSize(bytes + Spare), locale.formattedDataSize(disk.bytesAvailable())));
 }
 
 }  // namespace upkeep

@@ -1,6 +1,7 @@
 #include "upkeep/Restore.h"
 
 #include <QDir>
+#include <QUuid>
 #include <algorithm>
 
 #include "store/Creation.h"
@@ -27,7 +28,8 @@ const auto RibbonFile = u"invoices.txt"_s;
 void RequireSound(store::Database& database, const QString& name) {
     const QStringList faults = database.CheckIntegrity();
     if (!faults.isEmpty())
-        throw store::StoreError(store::NotAStore, Words::tr("%1 in the backup is damaged: %2").arg(name, faults.first()));
+        throw store::StoreError(store::NotAStore,
+                                Words::tr("%1 in the backup is damaged: %2").arg(name, faults.first()));
 }
 
 // Nothing that was kept before is touched.
@@ -120,9 +122,8 @@ private:
         if (days_ != DaysOf(backup_))
             throw store::StoreError(store::NotAStore,
                                     Words::tr("The days in the backup's shop are not those that it was made with."));
-        RequireSound(
-            *store::Database::Open(steps_.Coming().filePath(store::OptionsFile), store::OptionsSchema()),
-            store::OptionsFile);
+        RequireSound(*store::Database::Open(steps_.Coming().filePath(store::OptionsFile), store::OptionsSchema()),
+                     store::OptionsFile);
     }
 
     // None where there is no store, or one that can't be opened any more.
@@ -145,8 +146,8 @@ private:
             live->RetireFor(comingStore_);
         } else {
             const bool isHere = QFileInfo(place_.Path()).absolutePath() == register_.absolutePath();
-            oldStore_ = isHere ? QDir(register_.filePath(keptAs_)).filePath(store::MainFile)
-                               : place_.Path() + u'-' + keptAs_;
+            oldStore_ =
+                isHere ? QDir(register_.filePath(keptAs_)).filePath(store::MainFile) : place_.Path() + u'-' + keptAs_;
             steps_.Begin(comingStore_, oldStore_, keptAs_);
             for (const QString& ending : StoreEndings())
                 if (QFileInfo::exists(place_.Path() + ending)) Rename(place_.Path() + ending, oldStore_ + ending);
@@ -158,7 +159,7 @@ private:
     // In a schema of its own until it is whole.
     void ReplaceOnServer(store::Database* live) {
         const auto source = store::Database::Open(comingStore_, store::MainSchema());
-        const QString apart = values::Now().toString(u"'velton_restored_'yyyyMMdd_HHmmss"_s);
+        const QString apart = u"velton_restored_"_s + QUuid::createUuid().toString(QUuid::Id128).first(16);
         const store::Place place = live != nullptr ? place_.WithSchema(apart) : place_;
         store::Creation creation(place, store::MainSchema());
         creation.Store().AddAllOf(*source);

@@ -30,7 +30,8 @@ void GoToPage(ScreenCase& at, const QString& page, const Step&) {
 
 // `restore TEXT`: the days are looked at, the shop is replaced, and a box that begins so tells of it.
 void Restore(ScreenCase& at, const QString& text, const Step&) {
-    at.Coming().ExpectForm(u"BackupRestore"_s, [](QWidget& form) { drivers::Click(drivers::Get<QWidget>(form, u"cmdReplace")); });
+    at.Coming().ExpectForm(u"BackupRestore"_s,
+                           [](QWidget& form) { drivers::Click(drivers::Get<QWidget>(form, u"cmdReplace")); });
     at.Coming().ExpectBeginning(text);
     drivers::Click(drivers::Get<QWidget>(at.Form(), u"cmdRestore"));
 }

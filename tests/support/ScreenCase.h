@@ -9,10 +9,10 @@
 namespace drivers {
 
 // Plays a case of tests/data/screens: a line is a word and what it is about. A text stands as it is, several of them
-// between " | ", and {folder} for where the case plays; a form that a line brings up stands behind " => ", and the lines under it are played in that form,
-// which is closed after them if it is still there. Every box that a line brings up stands in the lines before it, and
-// has to come with that line and no later. Without a `login` of its own a case begins with the administrator at the
-// till, or with the user that `as` names.
+// between " | ", and {folder} for where the case plays; a form that a line brings up stands behind " => ", and the
+// lines under it are played in that form, which is closed after them if it is still there. Every box that a line brings
+// up stands in the lines before it, and has to come with that line and no later. Without a `login` of its own a case
+// begins with the administrator at the till, or with the user that `as` names.
 //
 // To begin with, and in between:
 //   run QUERY            an action query, on the store that has the table; another register acts like this, too

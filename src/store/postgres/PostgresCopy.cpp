@@ -106,10 +106,9 @@ void PostgresEngine::Retire() {
 }
 
 void PostgresEngine::RetireFor(const Place& successor) {
-    connection_->Write(Connection::Right::ToWriteMany, nullptr,
-                       "ALTER SCHEMA " + Quoted(successor.SchemaName()) + " RENAME TO " +
-                           Quoted(connection_->At().SchemaName()),
-                       {});
+    connection_->Write(
+        Connection::Right::ToWriteMany, nullptr,
+        "ALTER SCHEMA " + Quoted(successor.SchemaName()) + " RENAME TO " + Quoted(connection_->At().SchemaName()), {});
     Commit();
 }
 
