@@ -68,7 +68,7 @@ void MakeFit(const QString& folder, const QString& registerFolder) {
 }
 
 void RequireFit(const QString& folder, const QString& registerFolder) {
-    if (ReadBackupState(registerFolder).place != folder) return MakeFit(folder, registerFolder);
+    if (!HasUsedPlace(registerFolder, folder)) return MakeFit(folder, registerFolder);
     RequireFolder(folder);
     if (!IsFit(folder))
         throw values::FileError(

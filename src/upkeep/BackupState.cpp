@@ -1,5 +1,6 @@
 #include "upkeep/BackupState.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 
 #include "upkeep/FileLock.h"
@@ -17,9 +18,25 @@ namespace {
 const auto Last = u"last"_s;
 const auto Failure = u"failure"_s;
 const auto Till = u"till"_s;
+const auto Folders = u"folders"_s;
 
 QString StateFile(const QString& registerFolder) {
     return QDir(registerFolder).filePath(u"backup.state"_s);
+}
+
+values::IniFile ReadState(const QString& registerFolder) {
+    try {
+        return values::IniFile::Read(StateFile(registerFolder));
+    } catch (const values::FileError&) {
+        return {};
+    }
+}
+
+// A path can't be a key as it stands.
+QString KeyOf(const QString& place) {
+    constexpr int digits = 12;
+    return QString::fromLatin1(
+        QCryptographicHash::hash(place.toUtf8(), QCryptographicHash::Sha256).toHex().first(digits));
 }
 
 // Several programs note here; what one reads and writes is one step.
@@ -42,12 +59,7 @@ QString Moment(const QDateTime& time) {
 }  // namespace
 
 BackupState ReadBackupState(const QString& registerFolder) {
-    values::IniFile ini;
-    try {
-        ini = values::IniFile::Read(StateFile(registerFolder));
-    } catch (const values::FileError&) {
-        return {};
-    }
+    const values::IniFile ini = ReadState(registerFolder);
     const auto text = [&ini](const QString& section, const QString& key) {
         return ini.Entry(section, key).value_or(QString());
     };
@@ -59,7 +71,6 @@ BackupState ReadBackupState(const QString& registerFolder) {
             .bytes = text(Last, u"bytes"_s).toLongLong(),
             .failed = time(Failure, u"time"_s),
             .why = text(Failure, u"words"_s),
-            .place = text(u"folder"_s, u"path"_s),
             .asked = time(Till, u"asked"_s),
             .told = QDate::fromString(text(Till, u"told"_s), Qt::ISODate)};
 }
@@ -83,7 +94,12 @@ void NoteFailure(const QString& registerFolder, const QDateTime& time, const QSt
 }
 
 void NotePlace(const QString& registerFolder, const QString& place) {
-    Change(registerFolder, [&](values::IniEdit& state) { state.Set(u"folder"_s, u"path"_s, place); });
+    if (HasUsedPlace(registerFolder, place)) return;
+    Change(registerFolder, [&](values::IniEdit& state) { state.Set(Folders, KeyOf(place), place); });
+}
+
+bool HasUsedPlace(const QString& registerFolder, const QString& place) {
+    return ReadState(registerFolder).Entry(Folders, KeyOf(place)).has_value();
 }
 
 void NoteAsked(const QString& registerFolder, const QDateTime& time) {

@@ -14,7 +14,6 @@ struct BackupState {
     qint64 bytes = 0;
     QDateTime failed;  // the last that could not be made
     QString why;
-    QString place;    // the folder that was found or made fit for backups
     QDateTime asked;  // since when one was asked for by the till in vain
     QDate told;       // when the owner was last told of it
 };
@@ -25,7 +24,9 @@ BackupState ReadBackupState(const QString& registerFolder);
 // What can't be kept is left: a backup counts without its note, and the till must not stop for it.
 void NoteGood(const QString& registerFolder, const QDateTime& time, const QString& path, qint64 bytes);
 void NoteFailure(const QString& registerFolder, const QDateTime& time, const QString& why);
+// A folder that was made fit for backups; several may be used in turn.
 void NotePlace(const QString& registerFolder, const QString& place);
+bool HasUsedPlace(const QString& registerFolder, const QString& place);
 void NoteAsked(const QString& registerFolder, const QDateTime& time);
 void NoteTold(const QString& registerFolder, QDate day);
 
