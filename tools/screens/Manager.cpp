@@ -1,5 +1,6 @@
 #include "screens/Manager.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QRegularExpression>
@@ -8,6 +9,7 @@
 
 #include "cashier/DayClock.h"
 #include "cashier/Restart.h"
+#include "core/Installation.h"
 #include "core/dbModule.h"
 #include "delivery/Delivery.h"
 #include "delivery/Trade.h"
@@ -24,9 +26,10 @@
 #include "player/Keys.h"
 #include "player/ModalWatch.h"
 #include "store/StorePath.h"
-#include "upkeep/RegisterBackup.h"
+#include "upkeep/Backup.h"
+#include "upkeep/BackupPlace.h"
+#include "upkeep/Restore.h"
 #include "upkeep/health/SupportReport.h"
-#include "values/IniEdit.h"
 
 using namespace Qt::StringLiterals;
 
@@ -62,17 +65,14 @@ void ShowSupport(const QString& shop, const Cashier::Camera& camera) {
     camera(form, u"manager-support"_s);
 }
 
-// The day after the backup, on which more was sold.
+// The question before a backup is brought back, on a day on which more was sold.
 void ShowRestore(const QString& shop, const Cashier::Camera& camera) {
-    const upkeep::BackupPlan plan = upkeep::ReadBackupPlan(shop);
-    auto backup = upkeep::BackupsIn(upkeep::FolderOfRegister(plan.place, shop)).front();
-    const auto day = [](int invoices, qint64 hundredths) {
-        return upkeep::DayTotal{.day = QDate(2026, 11, 25),
-                                .invoices = invoices,
-                                .takings = values::Money::FromUnits(100 * hundredths),
-                                .tax = {}};
-    };
-    manager::RestoreForm form(backup, {{.day = QDate(2026, 11, 25), .inStore = day(4, 3120), .inBackup = day(0, 0)}});
+    const auto backups = upkeep::ListBackups(TheInstallation.backup.folder, shop);
+    if (backups.isEmpty()) throw std::runtime_error("no backup was made");
+    upkeep::RestorePreview preview = upkeep::PreviewRestore(shop, backups.first());
+    preview.days.first().one.invoices += 3;
+    preview.days.first().one.takings += values::Money::FromWhole(27);
+    manager::RestoreForm form(preview);
     form.Show();
     drivers::Settle();
     camera(form, u"manager-restore"_s);
@@ -127,12 +127,10 @@ void ReadTable(const QString& shop) {
 
 // What a shop has that was set up well.
 void BackUp(const QString& shop) {
-    const QString place = QFileInfo(shop).path() + u"/stick"_s;
-    upkeep::TakeAsPlace(place);
-    values::IniEdit ini(shop + u"/velton.ini"_s);
-    ini.Set(u"backup"_s, u"folder"_s, place);
-    ini.Save();
-    upkeep::BackUpRegister(shop, place, {});
+    const QString stick = QFileInfo(shop).path() + u"/stick"_s;
+    QDir().mkdir(stick);
+    upkeep::ChooseBackupFolder(stick, shop);
+    upkeep::MakeBackup(shop, upkeep::ReadBackupPlan(shop));
 }
 
 manager::ManagerWindow& LogIn(const QString& shop, const Cashier::Camera& camera) {

@@ -21,10 +21,10 @@ void Check(const QString& folder);
 void Report(const QString& folder, const QString& file);
 // The main store alone, as a file.
 void Backup(const QString& folder, const QString& file);
-// Whole registers, in `place`, or where velton.ini says when it is empty.
-void BackupRegister(const QString& folder, const QString& place);
-void Backups(const QString& folder, const QString& place);
-void Restore(const QString& folder, const QString& backup);
+// Of the whole register; where nothing is named, into the folder that velton.ini names.
+void BackupRegister(const QString& folder, const QString& to);
+void Backups(const QString& folder, const QString& in);
+void Restore(const QString& folder, const QString& backup, const QString& in);
 // To a server, or into the folder where the address is empty.
 void Move(const QString& folder, const QString& address);
 

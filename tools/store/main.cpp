@@ -29,7 +29,7 @@ int Report(int number, const QString& description) {
 
 // What the command line gave, in bytes.
 struct Arguments {
-    std::string folder, table, file, text, server, place;
+    std::string folder, table, file, text, server, backups, backup;
     std::vector<std::string> fields;
     bool withDemo = false;
     bool options = false;
@@ -91,6 +91,26 @@ void AddGoodsCalls(CLI::App& app, Arguments& a) {
     call->callback([&a] { tool::Export(Text(a.folder), Text(a.text), Text(a.file)); });
 }
 
+void AddBackupCalls(CLI::App& app, Arguments& a) {
+    CLI::App* call = AddCall(app, a, "backup", "Backs up the whole register, or copies the main store, at work");
+    CLI::Option* file = call->add_option("FILE", a.file, "A copy of the main store alone, a file that does not exist");
+    call->add_option("--to", a.backups, "A folder for backups; that of velton.ini when it is not said")->excludes(file);
+    call->callback([&a] {
+        a.file.empty() ? tool::BackupRegister(Text(a.folder), Text(a.backups))
+                       : tool::Backup(Text(a.folder), Text(a.file));
+    });
+
+    constexpr auto usualIn = "The folder for backups; that of velton.ini when it is not said";
+    call = AddCall(app, a, "backups", "Lists the backups, the newest first");
+    call->add_option("--in", a.backups, usualIn);
+    call->callback([&a] { tool::Backups(Text(a.folder), Text(a.backups)); });
+
+    call = AddCall(app, a, "restore", "Puts a backup in the place of the register's data, while no till runs");
+    call->add_option("BACKUP", a.backup, "Its name, or its folder")->required();
+    call->add_option("--in", a.backups, usualIn);
+    call->callback([&a] { tool::Restore(Text(a.folder), Text(a.backup), Text(a.backups)); });
+}
+
 void AddCalls(CLI::App& app, Arguments& a) {
     CLI::App* call = AddCall(app, a, "new", "Makes a program folder: program, stores, pictures, help, ports.ini");
     call->add_flag("--demo", a.withDemo, "With the demo shop");
@@ -121,22 +141,7 @@ void AddCalls(CLI::App& app, Arguments& a) {
     call->add_option("FILE", a.file, "Where to, instead of standard output");
     call->callback([&a] { tool::Report(Text(a.folder), Text(a.file)); });
 
-    call = AddCall(app, a, "backup", "Copies the main store into FILE, or the whole register, while registers work");
-    CLI::Option* file = call->add_option("FILE", a.file, "The copy of the main store, a file that does not exist yet");
-    call->add_option("--to", a.place, "The folder for backups of whole registers; else as velton.ini has it")
-        ->excludes(file);
-    call->callback([&a] {
-        a.file.empty() ? tool::BackupRegister(Text(a.folder), Text(a.place))
-                       : tool::Backup(Text(a.folder), Text(a.file));
-    });
-
-    call = AddCall(app, a, "backups", "Lists the backups of the whole register, the newest first");
-    call->add_option("--to", a.place, "The folder for backups; else as velton.ini has it");
-    call->callback([&a] { tool::Backups(Text(a.folder), Text(a.place)); });
-
-    call = AddCall(app, a, "restore", "Puts a backup of the whole register in its place, while no till runs");
-    call->add_option("BACKUP", a.file, "The folder of one backup")->required();
-    call->callback([&a] { tool::Restore(Text(a.folder), Text(a.file)); });
+    AddBackupCalls(app, a);
 
     call = AddCall(app, a, "move", "Moves the main store to a server or back, while no till runs");
     CLI::Option_group* where = call->add_option_group("where");
