@@ -8,6 +8,7 @@
 #include "upkeep/BackupPruning.h"
 #include "upkeep/BackupState.h"
 #include "upkeep/FileLock.h"
+#include "upkeep/ManagerStore.h"
 #include "upkeep/Restore.h"
 #include "upkeep/Words.h"
 #include "values/Clock.h"
@@ -19,7 +20,6 @@ namespace upkeep {
 
 namespace {
 
-const auto ManagerFile = u"manager.pos"_s;
 const auto RibbonFile = u"invoices.txt"_s;
 
 // What a store may take: its log is a part of it.
