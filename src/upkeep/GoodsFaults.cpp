@@ -6,8 +6,6 @@ namespace upkeep {
 
 namespace {
 
-constexpr int LongestCode = 13, LongestName = 40;  // that of their boxes
-
 QString KeyOf(store::Recordset& row, const QString& field) {
     return row[field].TextOrEmpty().toCaseFolded();
 }

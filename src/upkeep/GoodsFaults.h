@@ -8,6 +8,9 @@
 
 namespace upkeep {
 
+// What the boxes of the till take.
+inline constexpr int LongestCode = 13, LongestName = 40;
+
 // What a table from elsewhere brings in and no screen would: goods that the till refuses, cuts or taxes wrongly. Knows
 // the taxes and units of a shop as they were when it was made.
 class GoodsFaults {

@@ -21,6 +21,18 @@ void Backup(const QString& folder, const QString& file);
 // To a server, or into the folder where the address is empty.
 void Move(const QString& folder, const QString& address);
 
+// How a table of goods comes in; what is empty is guessed.
+struct ImportCall {
+    QStringList columns;  // COLUMN=FIELD
+    QString encoding, separator, decimal, tax, unit;
+    bool dryRun = false, skipRefused = false;
+    bool addOnly = false, updateOnly = false, keepPrice = false, keepQuantity = false;
+};
+void Import(const QString& folder, const QString& file, const ImportCall& call);
+void UndoImport(const QString& folder);
+// `what`: a table's name, goods, or customers.
+void Export(const QString& folder, const QString& what, const QString& file);
+
 // The store of a program's folder, the main one where store.ini says.
 std::unique_ptr<store::Database> OpenStore(const QString& folder, Which which);
 

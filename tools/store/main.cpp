@@ -54,6 +54,55 @@ CLI::App* AddCall(CLI::App& app, Arguments& arguments, const char* name, const c
     return call;
 }
 
+// Goods and customers, in and out as tables of a spreadsheet.
+struct SheetArguments {
+    std::string folder, file, what, encoding, separator, decimal, tax, unit;
+    std::vector<std::string> columns;
+    tool::ImportCall call;
+
+    tool::ImportCall Call() {
+        call.columns = Texts(columns);
+        call.encoding = Text(encoding);
+        call.separator = Text(separator);
+        call.decimal = Text(decimal);
+        call.tax = Text(tax);
+        call.unit = Text(unit);
+        return call;
+    }
+};
+
+void AddSheetCalls(CLI::App& app, SheetArguments& a) {
+    CLI::App* call = app.add_subcommand("import", "Takes goods from a spreadsheet's CSV, all rows or none");
+    call->add_option("FOLDER", a.folder, "The program's folder")->required();
+    call->add_option("FILE", a.file, "The table")->required();
+    call->add_flag("--dry-run", a.call.dryRun, "Tells what would be done and writes nothing");
+    call->add_option("--map", a.columns,
+                     "COLUMN=FIELD: a heading or number, and code, name, price, quantity, unit, tax, group, "
+                     "picture or none")
+        ->allow_extra_args(false);
+    CLI::Option* addOnly = call->add_flag("--add-only", a.call.addOnly, "Only goods that are new");
+    call->add_flag("--update-only", a.call.updateOnly, "Only goods that are there")->excludes(addOnly);
+    call->add_flag("--keep-price", a.call.keepPrice, "Leaves prices of goods that are there");
+    call->add_flag("--keep-quantity", a.call.keepQuantity, "Leaves quantities of goods that are there");
+    call->add_flag("--skip-refused", a.call.skipRefused, "Writes the other rows when some are refused");
+    call->add_option("--encoding", a.encoding, "UTF-8, UTF-16LE, windows-1250, ...; guessed when it is not said");
+    call->add_option("--separator", a.separator, "Between cells: , ; or tab");
+    call->add_option("--decimal", a.decimal, "Before decimals: , or .");
+    call->add_option("--tax", a.tax, "The tax of new goods whose row says none");
+    call->add_option("--unit", a.unit, "The unit of new goods whose row says none");
+    call->callback([&a] { tool::Import(Text(a.folder), Text(a.file), a.Call()); });
+
+    call = app.add_subcommand("undo-import", "Takes the last import, or change of prices, back");
+    call->add_option("FOLDER", a.folder, "The program's folder")->required();
+    call->callback([&a] { tool::UndoImport(Text(a.folder)); });
+
+    call = app.add_subcommand("export", "Writes a table that a spreadsheet opens");
+    call->add_option("FOLDER", a.folder, "The program's folder")->required();
+    call->add_option("TABLE", a.what, "goods, customers, or a table's name")->required();
+    call->add_option("FILE", a.file, "FILE.csv or FILE.xlsx")->required();
+    call->callback([&a] { tool::Export(Text(a.folder), Text(a.what), Text(a.file)); });
+}
+
 void AddCalls(CLI::App& app, Arguments& a) {
     CLI::App* call = AddCall(app, a, "new", "Makes a program folder: program, stores, pictures, help, ports.ini");
     call->add_flag("--demo", a.withDemo, "With the demo shop");
@@ -98,6 +147,8 @@ int Run(int argc, char** argv) {
     app.require_subcommand(1);
     Arguments arguments;
     AddCalls(app, arguments);
+    SheetArguments sheets;
+    AddSheetCalls(app, sheets);
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {
