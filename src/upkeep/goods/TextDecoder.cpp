@@ -23,26 +23,36 @@ constexpr qsizetype LookedAt = qsizetype{64} * 1024;
 using Detector = std::unique_ptr<UCharsetDetector, decltype(&ucsdet_close)>;
 using Converter = std::unique_ptr<UConverter, decltype(&ucnv_close)>;
 
-// The pages of ISO hold the letters of those beside them at the same places, but for a few; spreadsheets write the
-// latter.
-QString PageFor(const QString& found) {
-    if (found == u"ISO-8859-1") return u"windows-1252"_s;
-    return KnownEncodings().contains(found) ? found : QString();
+bool IsLatinLetter(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+
+// The pages of one half of Europe hold the German letters at the same places, and differ in the others: which of them
+// are there tells more than the detector, which does not know every language of the region.
+QString LatinPage(const QByteArray& bytes) {
+    constexpr QByteArrayView central("\x8A\x8E\x9A\x9E\xC6\xC8\xD0\xE6\xE8\xF0");      // Š Ž š ž Ć Č Đ ć č đ
+    constexpr QByteArrayView centralIso("\xA9\xAE\xB9\xBE");                           // Š Ž š ž
+    constexpr QByteArrayView western("\xC0\xCA\xD1\xD2\xD9\xE0\xEA\xF1\xF2\xF9\xFB");  // À Ê Ñ Ò Ù à ê ñ ò ù û
+    qsizetype ofCentral = 0, ofIso = 0, ofWestern = 0;
+    for (qsizetype i = 0; i < bytes.size(); ++i) {
+        ofCentral += central.contains(bytes[i]);
+        ofWestern += western.contains(bytes[i]);
+        // Signs in the other pages, and never within a word.
+        ofIso += centralIso.contains(bytes[i]) && i + 1 < bytes.size() && IsLatinLetter(bytes[i + 1]);
+    }
+    if (ofWestern > ofCentral + ofIso) return u"windows-1252"_s;
+    return ofIso > 0 && !bytes.contains('\x9A') && !bytes.contains('\x9E') ? u"ISO-8859-2"_s : UsualPage;
 }
 
 QString PageOf(const QByteArray& bytes) {
+    const QByteArray head = bytes.first(std::min(bytes.size(), LookedAt));
     UErrorCode status = U_ZERO_ERROR;
     const Detector detector(ucsdet_open(&status), ucsdet_close);
-    const QByteArray head = bytes.first(std::min(bytes.size(), LookedAt));
     ucsdet_setText(detector.get(), head.constData(), static_cast<int32_t>(head.size()), &status);
-    int32_t count = 0;
-    const UCharsetMatch** matches = ucsdet_detectAll(detector.get(), &count, &status);
-    if (U_FAILURE(status)) return UsualPage;
-    for (int32_t i = 0; i < count; ++i) {
-        const char* name = ucsdet_getName(matches[i], &status);
-        if (const QString page = PageFor(QString::fromLatin1(name)); !page.isEmpty()) return page;
-    }
-    return UsualPage;
+    const UCharsetMatch* match = ucsdet_detect(detector.get(), &status);
+    const char* name = U_SUCCESS(status) && match != nullptr ? ucsdet_getName(match, &status) : nullptr;
+    const bool isCyrillic = name != nullptr && QByteArrayView(name) == "windows-1251";
+    return isCyrillic ? u"windows-1251"_s : LatinPage(head);
 }
 
 // Where every second byte of Latin text is a zero.

@@ -28,8 +28,8 @@ constexpr qint64 MostCells = 5'000'000;
 class RowReader {
 public:
     explicit RowReader(char separator) {
-        // A quote that is never closed would make one cell of the rest of the file.
-        if (csv_init(&parser_, CSV_STRICT_FINI | CSV_APPEND_NULL) != 0) throw std::bad_alloc();
+        // Not strict: a sign for inches is no quotation mark.
+        if (csv_init(&parser_, 0) != 0) throw std::bad_alloc();
         csv_set_delim(&parser_, static_cast<unsigned char>(separator));
         csv_set_blk_size(&parser_, 4096);
     }
@@ -47,12 +47,17 @@ public:
                             this) == static_cast<size_t>(end - begin));
             begin = end;
         }
+        // A quote that is never closed has made one cell of the rest of the file.
+        if (parser_.pstate == FieldBegun && parser_.quoted != 0)
+            Refuse(
+                Words::tr("The row that begins in line %1 has a quotation mark that is never closed.").arg(row_.line));
         Check(csv_fini(&parser_, TakeCell, TakeRow, this) == 0);
         return std::move(rows_);
     }
 
 private:
-    static constexpr int RowNotBegun = 0;
+    // States of the parser.
+    static constexpr int RowNotBegun = 0, FieldBegun = 2;
 
     // Behind its CR, LF, or both.
     static qsizetype EndOfLine(const QByteArray& text, qsizetype from) {
@@ -64,8 +69,7 @@ private:
     void Check(bool isRead) {
         if (!words_.isEmpty()) Refuse(words_);
         if (isRead) return;
-        if (csv_error(&parser_) == CSV_ENOMEM) throw std::bad_alloc();
-        Refuse(Words::tr("The row that begins in line %1 has a quotation mark that is never closed.").arg(row_.line));
+        throw std::bad_alloc();
     }
 
     static void TakeCell(void* bytes, size_t length, void* self) {
