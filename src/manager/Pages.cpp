@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 
 #include "manager/HealthPage.h"
+#include "manager/goods/GoodsPage.h"
+#include "manager/goods/PricesPage.h"
 
 using namespace Qt::StringLiterals;
 
@@ -24,6 +26,8 @@ QString Named(const char* name) {
 std::vector<PageEntry> AllPages() {
     return {
         {u"HealthPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Health")), Make<HealthPage>},
+        {u"GoodsPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Goods")), Make<GoodsPage>},
+        {u"PricesPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Prices")), Make<PricesPage>},
     };
 }
 

@@ -92,7 +92,9 @@ void Import(const QString& folder, const QString& file, const ImportCall& call) 
     if (const size_t refused = preview.Count(RowKind::Refused); refused > 0 && !call.skipRefused)
         throw store::StoreError(
             store::ConversionFailed,
-            u"%1 rows are refused, so nothing is written (--skip-refused writes the others)."_s.arg(refused));
+            refused == 1
+                ? u"1 row is refused, so nothing is written; --skip-refused writes the others."_s
+                : u"%1 rows are refused, so nothing is written; --skip-refused writes the others."_s.arg(refused));
     if (call.dryRun) return;
     const Written written = WriteGoods(*database, folder, QFileInfo(file).fileName(), preview.Changes());
     output.Write(u"Written: %1 new, %2 changed.\n"_s.arg(written.added).arg(written.changed).toUtf8());

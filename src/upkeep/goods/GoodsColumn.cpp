@@ -26,7 +26,7 @@ const Fact& FactOf(GoodsColumn column) {
         {u"TaxID"_s, QT_TRANSLATE_NOOP("upkeep", "Tax")},
         {u"TaxPercent"_s, QT_TRANSLATE_NOOP("upkeep", "Tax rate"), true},
         {u"Pict"_s, QT_TRANSLATE_NOOP("upkeep", "Picture")},
-        {u"Tab"_s, QT_TRANSLATE_NOOP("upkeep", "Button")},
+        {u"Tab"_s, QT_TRANSLATE_NOOP("upkeep", "Group")},
     }};
     return facts[static_cast<size_t>(column)];
 }

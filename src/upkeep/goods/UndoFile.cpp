@@ -144,6 +144,10 @@ void MakeUndoCertain(const QString& path) {
     while (files.size() > Kept) QFile::remove(undo.filePath(files.takeFirst()));
 }
 
+bool HasUndo(const QString& folder) {
+    return !FilesIn(FolderOf(folder)).isEmpty();
+}
+
 std::optional<UndoRecord> LastUndo(const QString& folder) {
     const QDir undo = FolderOf(folder);
     const QStringList files = FilesIn(undo);

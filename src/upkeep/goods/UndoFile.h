@@ -25,6 +25,7 @@ QString KeepForUndo(const QString& folder, const UndoRecord& record);
 void MakeUndoCertain(const QString& path);
 void DropUndo(const QString& path);
 
+bool HasUndo(const QString& folder);
 // The last one; none when there is none. A file that is damaged throws a FileError.
 std::optional<UndoRecord> LastUndo(const QString& folder);
 
