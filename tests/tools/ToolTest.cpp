@@ -34,7 +34,7 @@ void PrintTo(const Talk& talk, std::ostream* out) {
 std::vector<Talk> Talks() {
     std::vector<Talk> talks;
     for (const auto& topic :
-         {u"backup"_s, u"check"_s, u"delivery"_s, u"files"_s, u"insert"_s, u"load"_s, u"new"_s, u"sql"_s}) {
+         {u"backup"_s, u"check"_s, u"delivery"_s, u"files"_s, u"goods"_s, u"insert"_s, u"load"_s, u"new"_s, u"sql"_s}) {
         QFile file(QStringLiteral(TEST_DATA "/tools/%1.txt").arg(topic));
         EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << topic.toStdString();
         QString shell;

@@ -20,6 +20,12 @@ const auto Utf8 = u"UTF-8"_s, Utf16Low = u"UTF-16LE"_s, Utf16High = u"UTF-16BE"_
 const auto UsualPage = u"windows-1250"_s;
 constexpr qsizetype LookedAt = qsizetype{64} * 1024;
 
+// The most likely one first.
+const QStringList& OtherScripts() {
+    static const QStringList pages{u"windows-1251"_s, u"windows-1253"_s, u"KOI8-R"_s};
+    return pages;
+}
+
 using Detector = std::unique_ptr<UCharsetDetector, decltype(&ucsdet_close)>;
 using Converter = std::unique_ptr<UConverter, decltype(&ucnv_close)>;
 
@@ -30,7 +36,8 @@ bool IsLatinLetter(char c) {
 // The pages of one half of Europe hold the German letters at the same places, and differ in the others: which of them
 // are there tells more than the detector, which does not know every language of the region.
 QString LatinPage(const QByteArray& bytes) {
-    constexpr QByteArrayView central("\x8A\x8E\x9A\x9E\xC6\xC8\xD0\xE6\xE8\xF0");      // Š Ž š ž Ć Č Đ ć č đ
+    // Not Č and č, which the others have as È and è.
+    constexpr QByteArrayView central("\x8A\x8E\x9A\x9E\xC6\xD0\xE6\xF0");              // Š Ž š ž Ć Đ ć đ
     constexpr QByteArrayView centralIso("\xA9\xAE\xB9\xBE");                           // Š Ž š ž
     constexpr QByteArrayView western("\xC0\xCA\xD1\xD2\xD9\xE0\xEA\xF1\xF2\xF9\xFB");  // À Ê Ñ Ò Ù à ê ñ ò ù û
     qsizetype ofCentral = 0, ofIso = 0, ofWestern = 0;
@@ -44,15 +51,28 @@ QString LatinPage(const QByteArray& bytes) {
     return ofIso > 0 && !bytes.contains('\x9A') && !bytes.contains('\x9E') ? u"ISO-8859-2"_s : UsualPage;
 }
 
+// Other scripts have words of such letters, Latin ones a letter here and there.
+bool IsLatin(const QByteArray& bytes) {
+    const auto isHigh = [&](qsizetype i) { return i >= 0 && i < bytes.size() && (bytes[i] & 0x80) != 0; };
+    qsizetype alone = 0, beside = 0;
+    for (qsizetype i = 0; i < bytes.size(); ++i)
+        if (isHigh(i)) ++(isHigh(i - 1) || isHigh(i + 1) ? beside : alone);
+    return beside <= alone;
+}
+
 QString PageOf(const QByteArray& bytes) {
     const QByteArray head = bytes.first(std::min(bytes.size(), LookedAt));
+    if (IsLatin(head)) return LatinPage(head);
     UErrorCode status = U_ZERO_ERROR;
     const Detector detector(ucsdet_open(&status), ucsdet_close);
     ucsdet_setText(detector.get(), head.constData(), static_cast<int32_t>(head.size()), &status);
-    const UCharsetMatch* match = ucsdet_detect(detector.get(), &status);
-    const char* name = U_SUCCESS(status) && match != nullptr ? ucsdet_getName(match, &status) : nullptr;
-    const bool isCyrillic = name != nullptr && QByteArrayView(name) == "windows-1251";
-    return isCyrillic ? u"windows-1251"_s : LatinPage(head);
+    int32_t count = 0;
+    const UCharsetMatch** matches = ucsdet_detectAll(detector.get(), &count, &status);
+    for (int32_t i = 0; U_SUCCESS(status) && i < count; ++i) {
+        const QString name = QString::fromLatin1(ucsdet_getName(matches[i], &status));
+        if (OtherScripts().contains(name)) return name;
+    }
+    return OtherScripts().first();
 }
 
 // Where every second byte of Latin text is a zero.
@@ -72,15 +92,9 @@ QString WideByZeros(const QByteArray& bytes) {
 }  // namespace
 
 QStringList KnownEncodings() {
-    return {Utf8,
-            Utf16Low,
-            Utf16High,
-            UsualPage,
-            u"windows-1252"_s,
-            u"windows-1251"_s,
-            u"ISO-8859-2"_s,
-            u"ISO-8859-15"_s,
-            u"IBM852"_s};
+    return QStringList{Utf8,       Utf16Low, Utf16High, UsualPage, u"windows-1252"_s, u"ISO-8859-2"_s, u"ISO-8859-15"_s,
+                       u"IBM852"_s} +
+           OtherScripts();
 }
 
 QString GuessEncoding(const QByteArray& bytes) {
