@@ -35,4 +35,4 @@ void GoToPage(ScreenCase& at, const QString& page, const Step&) {
 
 }  // namespace
 
-INSTANTIATE_SCREEN_CASES(Manager, u"manager-start"_s);
+INSTANTIATE_SCREEN_CASES(Manager, u"manager-goods"_s, u"manager-start"_s);

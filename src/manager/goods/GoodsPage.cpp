@@ -78,6 +78,7 @@ void GoodsPage::PreviewAgain() {
 
 void GoodsPage::Preview(const std::function<bool()>& goesOn) {
     preview_.reset();
+    if (sheet_.ColumnOf(upkeep::SheetField::Code) < 0) return;
     preview_ = std::make_shared<const upkeep::Preview>(
         upkeep::PreviewGoods(MainStore(), sheet_, ui.panelChoices->Options(), goesOn));
 }
@@ -96,6 +97,10 @@ void GoodsPage::ShowPreview() {
 }
 
 void GoodsPage::ForgetPreview() {
+    // No box: whoever goes through a list of columns by the arrow keys meets it on the way.
+    const bool lacksCode = ui.panelChoices->isEnabled() && sheet_.ColumnOf(upkeep::SheetField::Code) < 0;
+    ui.lstPreview->SetEmptyText(lacksCode ? tr("Say which column is the code of the goods.")
+                                          : tr("Choose a table of goods that a spreadsheet saved as CSV."));
     ui.lstPreview->Clear();
     ui.lblCounts->clear();
     ui.lblRow->clear();

@@ -111,6 +111,8 @@ void ImportChoices::ChooseForm() {
 }
 
 void ImportChoices::ChooseField(SheetField field) {
+    // The last word on a field counts, so that what it took from another on the way is given back.
+    wish_.columns.removeIf([field](const upkeep::ColumnChoice& choice) { return choice.field == field; });
     wish_.columns.append({BoxOf(field)->currentData().toString(), field});
     Q_EMIT FormChosen();
 }
