@@ -83,20 +83,29 @@ QString Plain(const QString& heading) {
     return plain.simplified();
 }
 
+const QStringList& PlainHeadings(const Fact& fact) {
+    static const std::array<QStringList, 8> plain = [] {
+        std::array<QStringList, 8> all;
+        for (size_t i = 0; i < all.size(); ++i)
+            for (const QString& heading : Facts()[i].headings) all[i] += Plain(heading);
+        return all;
+    }();
+    return plain[static_cast<size_t>(&fact - Facts().data())];
+}
+
 // 0: it can't be this. A whole heading says more than the beginning of one.
 int Likeness(const Fact& fact, const QString& heading) {
     constexpr int whole = 1000, beginning = 500;
-    for (qsizetype i = 0; i < fact.headings.size(); ++i) {
-        const QString known = Plain(fact.headings[i]);
-        if (heading == known) return whole - static_cast<int>(i);
-        if (heading == Plain(QCoreApplication::translate("upkeep", fact.name))) return whole;
-    }
-    const QStringList words = heading.split(u' ');
+    if (heading.isEmpty()) return 0;
+    // As it goes out, in the language of its reader.
+    if (heading == Plain(QCoreApplication::translate("upkeep", fact.name))) return whole;
+    const QStringList& known = PlainHeadings(fact);
+    if (const qsizetype place = known.indexOf(heading); place >= 0) return whole - static_cast<int>(place);
     if (fact.field == SheetField::Price)
-        for (const QString& word : words)
+        for (const QString& word : heading.split(u' '))
             if (OtherPrices().contains(word)) return 0;
-    for (qsizetype i = 0; i < fact.headings.size(); ++i)
-        if (heading.startsWith(Plain(fact.headings[i]) + u' ')) return beginning - static_cast<int>(i);
+    for (qsizetype i = 0; i < known.size(); ++i)
+        if (heading.startsWith(known[i] + u' ')) return beginning - static_cast<int>(i);
     return 0;
 }
 
