@@ -47,17 +47,12 @@ public:
                             this) == static_cast<size_t>(end - begin));
             begin = end;
         }
-        // A quote that is never closed has made one cell of the rest of the file.
-        if (parser_.pstate == FieldBegun && parser_.quoted != 0)
-            Refuse(
-                Words::tr("The row that begins in line %1 has a quotation mark that is never closed.").arg(row_.line));
         Check(csv_fini(&parser_, TakeCell, TakeRow, this) == 0);
         return std::move(rows_);
     }
 
 private:
-    // States of the parser.
-    static constexpr int RowNotBegun = 0, FieldBegun = 2;
+    static constexpr int RowNotBegun = 0;  // a state of the parser
 
     // Behind its CR, LF, or both.
     static qsizetype EndOfLine(const QByteArray& text, qsizetype from) {
@@ -103,6 +98,34 @@ private:
     qint64 cells_ = 0;
     QString words_;  // why it can't go on
 };
+
+// The parser goes on reading a cell that has text behind its closing quotation mark, or none, up to the next such mark,
+// rows further down: whose cell that is nobody could say.
+void RequireClosedQuotes(const QString& text, QChar separator) {
+    enum class At { Begin, Bare, Quoted, Behind } at = At::Begin;
+    qint64 line = 1, begin = 1;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar c = text[i];
+        const bool endsLine = c == u'\n' || (c == u'\r' && (i + 1 == text.size() || text[i + 1] != u'\n'));
+        if (at == At::Quoted) {
+            if (c == u'"') at = At::Behind;
+        } else if (c == separator || c == u'\n' || c == u'\r') {
+            at = At::Begin;
+        } else if (c == u'"' && at != At::Bare) {
+            if (at == At::Begin) begin = line;
+            at = At::Quoted;
+        } else if (at == At::Behind && c != u' ' && c != u'\t') {
+            Refuse(
+                Words::tr(
+                    "In line %1 there is text behind a closing quotation mark. A mark within quotes has to be doubled.")
+                    .arg(line));
+        } else if (at == At::Begin && c != u' ' && c != u'\t') {
+            at = At::Bare;
+        }
+        if (endsLine) ++line;
+    }
+    if (at == At::Quoted) Refuse(Words::tr("The quotation mark in line %1 is never closed.").arg(begin));
+}
 
 // How many of each sign stand outside of quotes in the first lines.
 QChar GuessSeparator(const QString& text) {
@@ -164,6 +187,7 @@ TextTable ReadTextTable(const QString& path, const TableForm& form) {
         RequireText(text);
         const QChar named = TakeSeparatorLine(text);
         if (form.separator.isNull()) table.form.separator = named.isNull() ? GuessSeparator(text) : named;
+        RequireClosedQuotes(text, table.form.separator);
         utf8 = text.toUtf8();
     }
     table.rows = RowReader(static_cast<char>(table.form.separator.unicode())).Read(utf8);
