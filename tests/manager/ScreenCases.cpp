@@ -144,5 +144,5 @@ void Restore(ScreenCase& at, const QString& text, const Step&) {
 }  // namespace
 
 INSTANTIATE_SCREEN_CASES(Manager, u"manager-backup"_s, u"manager-drawer"_s, u"manager-figures"_s, u"manager-goods"_s,
-                         u"manager-health"_s, u"manager-labels"_s, u"manager-overview"_s, u"manager-prices"_s,
-                         u"manager-printers"_s, u"manager-setup"_s, u"manager-start"_s);
+                         u"manager-health"_s, u"manager-labels"_s, u"manager-overview"_s, u"manager-printers"_s,
+                         u"manager-reports"_s, u"manager-setup"_s, u"manager-start"_s);

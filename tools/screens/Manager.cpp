@@ -42,6 +42,32 @@ QString PictureOfPage(const QString& className) {
     return u"manager-"_s + className.chopped(4).toLower();
 }
 
+// A table of a wholesaler: goods that are there, new ones, and rows that can't be taken.
+void ReadTable(const QString& shop) {
+    QFile table(QFileInfo(shop).path() + u"/cjenik.csv"_s);
+    if (!table.open(QIODevice::WriteOnly)) throw std::runtime_error("the table can't be written");
+    table.write(
+        u"EAN;Naziv;JM;MPC;PDV;Zaliha;Grupa\r\n"
+        "3850101040019;Mineralna voda 0,5 l;pcs;1,25;17;96;Pića\r\n"
+        "3850101040088;Mineralna voda 1,5 l;pcs;1,60;17;60;Pića\r\n"
+        "3850101040156;Izvorska voda 0,5 l;pcs;1,05;17;120;Pića\r\n"
+        "3850101099994;Limunada 0,33 l;pcs;1,90;17;24;Pića\r\n"
+        "3850101099987;Kruška 1 kg;kg;3,49;17;12,5;Voće\r\n"
+        "3,85E+12;Ledeni čaj 1,5 l;pcs;2,20;17;30;Pića\r\n"
+        "3850101099970;Sok od bazge;pcs;2.4;17;18;Pića\r\n"_s.toUtf8());
+    table.close();
+    dynamic_cast<manager::GoodsPage&>(*forms::FindForm(u"GoodsPage")).LookAt(table.fileName());
+    drivers::Settle();
+}
+
+void RaisePrices() {
+    auto& page = dynamic_cast<manager::PricesPage&>(*forms::FindForm(u"PricesPage"));
+    page.ui.txtPercent->setText(u"5"_s);
+    page.ui.cboEnding->setCurrentIndex(1);
+    page.ui.cmdLook->click();
+    drivers::Settle();
+}
+
 // What differs from machine to machine is always the same in a picture.
 QString OnAnyMachine(QString report) {
     const std::pair<QString, QString> facts[] = {
@@ -108,21 +134,6 @@ void ShowLabels(manager::ManagerWindow& window, const Cashier::Camera& camera) {
     parts->setCurrentIndex(1);
     drivers::Settle();
     camera(window, u"manager-labels-own"_s);
-}
-
-// A table with a bit of everything.
-void ReadTable(const QString& shop) {
-    auto& page = dynamic_cast<manager::GoodsPage&>(*forms::FindForm(u"GoodsPage"));
-    const QString path = QFileInfo(shop).path() + u"/prices.csv"_s;
-    QFile table(path);
-    if (!table.open(QIODevice::WriteOnly)) throw std::runtime_error("the table can't be written");
-    table.write(
-        "Artikelnummer;Bezeichnung;VK-Preis;Bestand;MwSt;Einheit\n3850101040019;Mlijeko 2,8 % 1 l;2,45;;P;Stk.\n"
-        "4001;K\xC3\xA4se jung;14,90;6,5;P;kg\n4002;Brot;\"1,2,3\";;P;Stk.\n3,85E+12;Wasser;1,10;;P;Stk.\n");
-    table.close();
-    page.ui.txtFile->setText(path);
-    for (const int separator : {1, 0}) page.ui.cboSeparator->setCurrentIndex(separator);
-    drivers::Settle();
 }
 
 // What a shop has that was set up well.
@@ -234,8 +245,7 @@ void LookAtManager(const QString& shop, const Cashier::Camera& camera) {
         PageOf<manager::Page>(window, entry.className);
         if (entry.className == u"GoodsPage") ReadTable(shop);
         if (entry.className == u"LabelsPage") ChooseGoods(window);
-        if (auto* prices = dynamic_cast<manager::PricesPage*>(forms::FindForm(entry.className)))
-            prices->ui.txtPercent->setText(u"4"_s);
+        if (entry.className == u"PricesPage") RaisePrices();
         camera(window, PictureOfPage(entry.className));
         if (entry.className == u"LabelsPage") ShowLabels(window, camera);
         if (entry.className == u"HealthPage") ShowSupport(shop, camera);

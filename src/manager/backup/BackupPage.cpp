@@ -102,7 +102,7 @@ void BackupPage::cmdFolder_Click() {
 
 void BackupPage::cmdNow_Click() {
     try {
-        RunBeside(this, tr("The backup is made."), [](const Progress& progress) {
+        RunBeside(this, tr("The backup is made."), [](const upkeep::Progress& progress) {
             upkeep::MakeBackup(ProgramFolder(), TheInstallation.backup, progress);
         });
     } catch (const values::Error& error) {
@@ -120,7 +120,7 @@ void BackupPage::cmdRestore_Click() {
         return forms::Tell(tr("This backup can't be restored: %1").arg(backup.fault), forms::Icon::Warning, Caption());
     upkeep::RestorePreview preview;
     RunBeside(this, tr("The backup is looked at."),
-              [&](const Progress&) { preview = upkeep::PreviewRestore(ProgramFolder(), backup); });
+              [&](const upkeep::Progress&) { preview = upkeep::PreviewRestore(ProgramFolder(), backup); });
     RestoreForm question(preview);
     question.ShowModal();
     if (question.IsWanted()) Restore(backup);
@@ -137,7 +137,7 @@ void BackupPage::Restore(const BackupFacts& backup) {
     QString why;
     CloseShop();
     try {
-        RunBeside(this, tr("The backup is brought back."), [&](const Progress& progress) {
+        RunBeside(this, tr("The backup is brought back."), [&](const upkeep::Progress& progress) {
             restored = upkeep::RestoreBackup(ProgramFolder(), backup, progress);
         });
     } catch (const values::Error& error) {
