@@ -4,10 +4,10 @@
 
 #include <csignal>
 
-#include "app/Backups.h"
 #include "app/Screens.h"
-#include "core/ErrorLog.h"
+#include "core/BackupStart.h"
 #include "core/Installation.h"
+#include "core/KeptErrors.h"
 #include "core/PrinterWait.h"
 #include "core/Settings.h"
 #include "core/frmLogin.h"
@@ -45,9 +45,6 @@ void ShowSalesScreen() {
     main.showMaximized();
     main.raise();
     main.activateWindow();
-    // Once the login has done all that it does.
-    QMetaObject::invokeMethod(
-        &main, [] { forms::Run(LookAfterBackups, u"VELTON"_s); }, Qt::QueuedConnection);
 }
 
 }  // namespace
@@ -65,12 +62,13 @@ void PrepareApplication() {
 
 bool StartProgram() {
     ShowWaitsOfOutput();
-    KeepErrorLog();
+    KeepErrors(u"velton"_s);
     forms::UseKeypad([] { return TheSettings.POSMonitor == u"2"; });
     forms::Run(
         [] {
             TakeInstallation();
-            forms::Open<frmLogin>(ShowSalesScreen)->Show();
+            forms::Open<frmLogin>(ShowSalesScreen, TellOfBackups)->Show();
+            StartBackupOfTheDay();
         },
         u"VELTON"_s);
     return !forms::ProgramIsEnding() && !forms::LoadedForms().isEmpty();

@@ -12,10 +12,15 @@ class Page : public forms::Form {
 public:
     // What stands beside other pages' names, and above the page.
     virtual QString Name() const { return Caption(); }
+    // Whether something is still under way beside the window, after which the page will look otherwise.
+    virtual bool IsBusy() const { return false; }
 
 Q_SIGNALS:
     // What the window tells below its pages may be another now: the last backup, the shop's name.
     void ShopChanged();
+    // The stores are to be closed and others opened in their place: the other pages go, unless one of them wants to
+    // stay, which makes `goes` false.
+    void ShopGoes(bool* goes);
 
 protected:
     using forms::Form::Form;

@@ -2,14 +2,15 @@
 
 #include <QCoreApplication>
 
-#include "manager/HealthPage.h"
 #include "manager/backup/BackupPage.h"
 #include "manager/drawer/DrawerPage.h"
 #include "manager/goods/GoodsPage.h"
 #include "manager/goods/PricesPage.h"
+#include "manager/health/HealthPage.h"
 #include "manager/labels/LabelsPage.h"
 #include "manager/overview/OverviewPage.h"
 #include "manager/printers/PrintersPage.h"
+#include "manager/reports/ReportsPage.h"
 #include "manager/setup/SetupPage.h"
 
 using namespace Qt::StringLiterals;
@@ -32,6 +33,7 @@ QString Named(const char* name) {
 std::vector<PageEntry> AllPages() {
     return {
         {u"OverviewPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Overview")), Make<OverviewPage>},
+        {u"ReportsPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Reports")), Make<ReportsPage>},
         {u"DrawerPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Drawer")), Make<DrawerPage>},
         {u"GoodsPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Goods")), Make<GoodsPage>},
         {u"PricesPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Prices")), Make<PricesPage>},

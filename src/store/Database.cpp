@@ -95,6 +95,10 @@ const Schema& Database::GetSchema() const {
     return internals_->schema;
 }
 
+QString Database::EngineVersion() {
+    return engine_->Version();
+}
+
 QStringList Database::CheckIntegrity() {
     return engine_->CheckIntegrity();
 }
@@ -115,6 +119,10 @@ void Database::Retire() {
     engine_->Retire();
 }
 
+void Database::RetireFor(const Place& successor) {
+    engine_->RetireFor(successor);
+}
+
 void Database::AddAllOf(Database& other) {
     AddAllOf(*other.engine_);
 }
@@ -126,6 +134,10 @@ void Database::AddAllOf(Engine& other) {
 
 void Database::BackupTo(const QString& path) {
     engine_->BackupTo(path);
+}
+
+void Database::CopyFile(const QString& from, const QString& to) {
+    sqlite::CopyFile(from, to);
 }
 
 QString Database::ExplainPlan(const QString& query) {

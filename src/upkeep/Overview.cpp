@@ -1,10 +1,8 @@
 #include "upkeep/Overview.h"
 
-#include <QHash>
 #include <algorithm>
-#include <cmath>
 
-#include "upkeep/Words.h"
+#include "upkeep/OverviewReader.h"
 
 using namespace Qt::StringLiterals;
 using values::Money;
@@ -14,221 +12,195 @@ namespace upkeep {
 namespace {
 
 const auto InvoicesQuery =
-    u"SELECT DateSold, TimeSold, CashAmount, CashierName FROM Invoices WHERE DateSold BETWEEN %1 AND %2"_s;
-const auto LinesQuery =
-    u"SELECT SalesDetails.ProdCode, SalesDetails.TaxID, Max(SalesDetails.ProdDescription) AS Name,"
-    u" Sum(SalesDetails.Amount) AS Takings, Sum(SalesDetails.QtySold) AS Pieces, Sum(SalesDetails.TaxAmount) AS Tax"
-    u" FROM Invoices INNER JOIN SalesDetails ON Invoices.InvoiceID = SalesDetails.InvoiceID"
-    u" WHERE DateSold BETWEEN %1 AND %2 GROUP BY SalesDetails.ProdCode, SalesDetails.TaxID"_s;
-const auto SoldQuery =
-    u"SELECT Sum(CashAmount) AS Takings, Count(*) AS N FROM Invoices WHERE DateSold BETWEEN %1 AND %2"_s;
-const auto EachLineQuery =
-    u"SELECT SalesDetails.InvoiceID, SalesDetails.ProdCode, SalesDetails.TaxID"
-    u" FROM Invoices INNER JOIN SalesDetails ON Invoices.InvoiceID = SalesDetails.InvoiceID"
-    u" WHERE DateSold BETWEEN %1 AND %2"_s;
+    u"SELECT DateSold, TimeSold, CashAmount, TaxTotal, CashierID, CashierName FROM Invoices WHERE "_s;
+const auto FirstSaleQuery = u"SELECT Min(DateSold) FROM Invoices"_s;
+const auto LastSaleQuery = u"SELECT Max(DateSold) FROM Invoices"_s;
+const auto LastSaleUpToQuery = u"SELECT Max(DateSold) FROM Invoices WHERE DateSold <= #%1#"_s;
 
-constexpr int PaceDays = 28;
+constexpr int ButtonsPerTab = 32;
 
-QString Literal(QDate day) {
-    return u'#' + day.toString(u"MM-dd-yyyy") + u'#';
+QDate DayOf(store::Database& main, const QString& query) {
+    auto row = main.OpenSnapshot(query);
+    return row.AtEOF() || row[0].IsNull() ? QDate() : row[0].Get().ToDate();
 }
 
-QString Between(const QString& query, QDate from, QDate to) {
-    return query.arg(Literal(from), Literal(to));
+Money MoneyOf(const values::Value& value) {
+    return value.IsNull() ? Money() : value.ToMoney();
 }
 
-Sold ReadSold(store::Database& main, QDate from, QDate to) {
-    auto row = main.OpenSnapshot(Between(SoldQuery, from, to));
-    return {.takings = row[0].MoneyOrZero(), .invoices = static_cast<int>(row[1].Whole())};
+bool SoldMore(const GoodsTakings& a, const GoodsTakings& b) {
+    return std::tie(b.total, b.pieces, a.code) < std::tie(a.total, a.pieces, b.code);
 }
 
-// Sums by key, in the order in which they first came.
-class Sums {
-public:
-    NamedSold& Of(const QString& key) {
-        const auto known = place_.constFind(key);
-        if (known != place_.cend()) return sums_[*known];
-        place_.insert(key, sums_.size());
-        sums_.push_back({.key = key, .name = {}});
-        return sums_.back();
-    }
-    std::vector<NamedSold> BestFirst() && {
-        std::ranges::stable_sort(sums_, std::greater(), &NamedSold::takings);
-        return std::move(sums_);
-    }
-
-private:
-    QHash<QString, size_t> place_;
-    std::vector<NamedSold> sums_;
-};
-
-void Add(NamedSold& sum, const NamedSold& part) {
-    sum.takings += part.takings;
-    sum.pieces += part.pieces;
-    sum.tax += part.tax;
-    sum.invoices += part.invoices;
+bool SoldLess(const GoodsTakings& a, const GoodsTakings& b) {
+    return std::tie(a.total, a.pieces, a.code) < std::tie(b.total, b.pieces, b.code);
 }
 
-// Which group of the touch table a product stands in, and what the groups are called.
-struct Groups {
-    QHash<QString, int> tabOf;  // by code
-    QStringList names;
+bool TookMore(const NamedTakings& a, const NamedTakings& b) {
+    return std::tie(b.takings.amounts.total, a.id) < std::tie(a.takings.amounts.total, b.id);
+}
 
-    explicit Groups(store::Database& main) {
-        auto tabs = main.OpenSnapshot(u"SELECT * FROM TabControl"_s);
-        for (auto& tab : tabs) names << tab[u"TabDescription"].TextOrEmpty();
-        auto products = main.OpenSnapshot(u"SELECT ProdCode, Tab FROM Products WHERE Tab > -1"_s);
-        for (auto& product : products)
-            tabOf.insert(product[0].TextOrEmpty(), static_cast<int>(product[1].Whole()) / store::PlacesPerTab);
-    }
-    QString NameOf(int tab) const {
-        return tab < 0 ? Words::tr("not on the touch table") : names.value(tab, QString::number(tab + 1));
-    }
-};
+std::vector<GoodsTakings> FirstOf(std::vector<GoodsTakings> goods, By by, size_t most, bool largest) {
+    const auto key = [by](const GoodsTakings& each) { return by == By::Total ? each.total : each.pieces; };
+    const auto before = [&](const GoodsTakings& a, const GoodsTakings& b) {
+        if (key(a) != key(b)) return largest ? key(a) > key(b) : key(a) < key(b);
+        return a.code < b.code;
+    };
+    const size_t count = std::min(most, goods.size());
+    std::ranges::partial_sort(goods, goods.begin() + static_cast<std::ptrdiff_t>(count), before);
+    goods.resize(count);
+    return goods;
+}
 
 class Reader {
 public:
-    Reader(store::Database& main, QDate from, QDate to) : main_(main), groups_(main) {
-        overview_.from = from;
-        overview_.to = to;
-        for (QDate day = from; day <= to; day = day.addDays(1)) overview_.days.push_back({.day = day, .sold = {}});
-        auto taxes = main.OpenSnapshot(u"SELECT TaxID, Name FROM Tax"_s);
-        for (auto& tax : taxes) taxNames_.insert(tax[0].TextOrEmpty(), tax[1].TextOrEmpty());
+    Reader(store::Database& main, const OverviewWish& wish) : main_(main), wish_(wish), articles_(main) {
+        overview_.days = wish.days;
     }
 
-    void TakeIn(QDate from, QDate to) {
-        auto invoices = main_.OpenSnapshot(Between(InvoicesQuery, from, to));
-        for (auto& invoice : invoices) TakeInvoice(invoice);
-        auto lines = main_.OpenSnapshot(Between(LinesQuery, from, to));
-        for (auto& line : lines) TakeLine(line);
-    }
-
-    Overview Finish() && {
-        overview_.goods = std::move(goods_).BestFirst();
-        overview_.groups = std::move(tabs_).BestFirst();
-        overview_.cashiers = std::move(cashiers_).BestFirst();
-        overview_.taxes = std::move(taxes_).BestFirst();
-        return std::move(overview_);
+    Overview Read(const TellOverview& tell) {
+        const QDate firstSale = DayOf(main_, FirstSaleQuery);
+        if (!overview_.days.IsValid()) overview_.days = AllDays(firstSale);
+        overview_.standing = ReadStanding(main_, wish_.today, firstSale);
+        ReadTables();
+        overview_.runningOut = ReadRunningOut(main_, articles_, wish_.today, firstSale);
+        if (wish_.days.IsValid()) overview_.before = ReadTakingsByDay(main_, DaysBefore(overview_.days));
+        bool goesOn = true;
+        for (Days month = LastOf(overview_.days.last); goesOn && month.IsValid();
+             month = LastOf(month.first.addDays(-1))) {
+            ReadInvoices(month);
+            ReadLines(main_, month, [this](const QString& code, const QString& tax, Money pieces, const Amounts& sold) {
+                articles_.Add(code, pieces, sold.total);
+                if (const Place place = taxes_.Find(tax); place != Nowhere) overview_.taxes[place].amounts += sold;
+            });
+            overview_.daysRead = month.first.daysTo(overview_.days.last) + 1;
+            if (tell) goesOn = tell(InOrder());
+        }
+        if (goesOn) overview_.daysRead = overview_.days.Count();
+        return InOrder();
     }
 
 private:
-    void TakeInvoice(store::Recordset& invoice) {
-        const Sold sold{.takings = invoice[2].MoneyOrZero(), .invoices = 1};
-        const QDate day = invoice[0].Get().ToDate();
-        overview_.sold += sold;
-        overview_.days[static_cast<size_t>(overview_.from.daysTo(day))].sold += sold;
-        const int hour = invoice[1].IsNull() ? 0 : invoice[1].Get().ToTime().hour();
-        overview_.hours[static_cast<size_t>(day.dayOfWeek() - 1)][static_cast<size_t>(hour)] += sold;
-        const QString name = invoice[3].TextOrEmpty();
-        NamedSold& cashier = cashiers_.Of(name);
-        cashier.name = name;
-        Add(cashier, {.key = {}, .name = {}, .takings = sold.takings, .invoices = 1});
+    Days AllDays(QDate firstSale) {
+        if (!firstSale.isValid()) return {wish_.today, wish_.today};
+        return {std::min(firstSale, wish_.today), std::max(DayOf(main_, LastSaleQuery), wish_.today)};
     }
 
-    void TakeLine(store::Recordset& line) {
-        const QString code = line[0].TextOrEmpty(), tax = line[1].TextOrEmpty();
-        const NamedSold part{.key = {},
-                             .name = {},
-                             .takings = line[3].MoneyOrZero(),
-                             .pieces = line[4].MoneyOrZero(),
-                             .tax = line[5].MoneyOrZero()};
-        NamedSold& product = goods_.Of(code);
-        product.name = line[2].TextOrEmpty();
-        Add(product, part);
-        const int tab = groups_.tabOf.value(code, -1);
-        NamedSold& group = tabs_.Of(QString::number(tab));
-        group.name = groups_.NameOf(tab);
-        Add(group, part);
-        NamedSold& rate = taxes_.Of(tax);
-        rate.name = taxNames_.value(tax, tax);
-        Add(rate, part);
+    // The last month up to a day, or the part of it that was asked for; months without a sale are passed over.
+    Days LastOf(QDate day) {
+        if (day < overview_.days.first) return {};
+        const QDate sold = DayOf(main_, LastSaleUpToQuery.arg(day.toString(u"MM-dd-yyyy"_s)));
+        if (!sold.isValid() || sold < overview_.days.first) return {};
+        return {std::max(MonthOf(sold).first, overview_.days.first), std::min(MonthOf(sold).last, overview_.days.last)};
+    }
+
+    void ReadTables() {
+        auto taxes = main_.OpenSnapshot(u"SELECT TaxID, Name, Percent FROM Tax"_s);
+        for (auto& tax : taxes) {
+            const QString id = tax[0].TextOrEmpty();
+            if (taxes_.FindOrAdd(id) == overview_.taxes.size())
+                overview_.taxes.push_back({id, tax[1].TextOrEmpty(), MoneyOf(tax[2].Get()), {}});
+        }
+        auto users = main_.OpenSnapshot(u"SELECT UserID, UserName FROM Users"_s);
+        for (auto& user : users) cashierNames_[user[0].TextOrEmpty().toCaseFolded()] = user[1].TextOrEmpty();
+        auto tabs = main_.OpenSnapshot(u"SELECT TabControl, TabDescription FROM TabControl ORDER BY TabControl"_s);
+        for (auto& tab : tabs) tabNames_.push_back(tab[1].TextOrEmpty());
+    }
+
+    void ReadInvoices(const Days& days) {
+        store::Listing rows = main_.ReadListing(InvoicesQuery + WithinDays(days));
+        const qint64 count = rows.WaitFor(0);
+        for (qint64 row = 0; row < count; ++row) {
+            const Takings takings{{MoneyOf(rows.At(row, 2)), MoneyOf(rows.At(row, 3))}, 1};
+            const QDate day = rows.At(row, 0).ToDate();
+            overview_.takings += takings;
+            overview_.byDay[day] += takings;
+            if (const values::Value time = rows.At(row, 1); !time.IsNull()) {
+                Hours& hours = overview_.byWeekday[static_cast<size_t>(day.dayOfWeek() - 1)];
+                hours[static_cast<size_t>(time.ToTime().hour())] += takings.amounts.total;
+            }
+            CashierOf(rows, row).takings += takings;
+        }
+    }
+
+    NamedTakings& CashierOf(const store::Listing& rows, qint64 row) {
+        const QString id = rows.At(row, 4).TextOrEmpty();
+        const Place place = cashiers_.FindOrAdd(id);
+        if (place == cashierList_.size()) {
+            const QString name = cashierNames_.value(id.toCaseFolded());
+            cashierList_.push_back({id, name.isEmpty() ? rows.At(row, 5).TextOrEmpty() : name, {}});
+        }
+        return cashierList_[place];
+    }
+
+    // As it is shown, while the rest is still being read.
+    Overview InOrder() {
+        articles_.CountParts();
+        Overview shown = overview_;
+        std::vector<NamedTakings> groups(tabNames_.size());
+        for (size_t tab = 0; tab < groups.size(); ++tab) groups[tab] = {QString::number(tab), tabNames_[tab], {}};
+        groups.push_back({{}, wish_.noGroup, {}});
+        for (const Article& article : articles_.List()) {
+            const bool isOnTable = article.tab >= 0 && article.tab / ButtonsPerTab < static_cast<int>(tabNames_.size());
+            const size_t group = isOnTable ? static_cast<size_t>(article.tab / ButtonsPerTab) : groups.size() - 1;
+            groups[group].takings.amounts.total += article.sold.total;
+            if (article.sold.pieces != Money() || article.sold.total != Money()) shown.goods.push_back(article.sold);
+            if (article.isKept && !article.isComposed && article.stock > Money() && article.taken == Money())
+                shown.idle.push_back(article.sold);
+        }
+        for (GoodsTakings& goods : shown.goods)
+            if (goods.name.isEmpty()) goods.name = goods.code;
+        std::erase_if(groups, [](const auto& group) { return group.takings.amounts.total == Money(); });
+        std::erase_if(shown.taxes, [](const auto& tax) { return tax.amounts == Amounts(); });
+        shown.groups = std::move(groups);
+        shown.cashiers = cashierList_;
+        std::ranges::sort(shown.goods, SoldMore);
+        std::ranges::sort(shown.idle, SoldLess);
+        std::ranges::sort(shown.groups, TookMore);
+        std::ranges::sort(shown.cashiers, TookMore);
+        return shown;
     }
 
     store::Database& main_;
-    const Groups groups_;
-    QHash<QString, QString> taxNames_;
+    const OverviewWish& wish_;
     Overview overview_;
-    Sums goods_, tabs_, cashiers_, taxes_;
+    Articles articles_;
+    KeyPlaces taxes_, cashiers_;
+    std::vector<NamedTakings> cashierList_;
+    QHash<QString, QString> cashierNames_;
+    std::vector<QString> tabNames_;
 };
-
-// What a day of the last weeks took of each product, parts of compositions in the place of the whole.
-QHash<QString, double> PerDay(store::Database& main, QDate today) {
-    QHash<QString, double> sold;
-    auto lines = main.OpenSnapshot(Between(LinesQuery, today.addDays(-PaceDays), today.addDays(-1)));
-    for (auto& line : lines) sold[line[0].TextOrEmpty()] += line[4].IsNull() ? 0 : line[4].Double();
-    QMultiHash<QString, std::pair<QString, double>> parts;
-    auto compositions = main.OpenSnapshot(u"SELECT SIF, CONsif, ConSIFQty FROM ProductsCon"_s);
-    for (auto& part : compositions)
-        parts.insert(part[0].TextOrEmpty(), {part[1].TextOrEmpty(), part[2].IsNull() ? 0 : part[2].Double()});
-    QHash<QString, double> taken;
-    for (auto one = sold.cbegin(); one != sold.cend(); ++one) {
-        const auto made = parts.values(one.key());
-        if (made.isEmpty()) taken[one.key()] += one.value() / PaceDays;
-        for (const auto& [code, quantity] : made) taken[code] += quantity * one.value() / PaceDays;
-    }
-    return taken;
-}
 
 }  // namespace
 
-Sold& Sold::operator+=(const Sold& other) {
-    takings += other.takings;
+Takings& Takings::operator+=(const Takings& other) {
+    amounts += other.amounts;
     invoices += other.invoices;
     return *this;
 }
 
-Overview ReadOverview(store::Database& main, QDate from, QDate to, const DayProgress& progress) {
-    Reader reader(main, from, to);
-    const int all = static_cast<int>(from.daysTo(to)) + 1;
-    for (QDate begin = from; begin <= to;) {
-        if (progress && !progress(static_cast<int>(from.daysTo(begin)), all))
-            throw store::StoreError(store::Cancelled, Words::tr("The overview was left."));
-        const QDate end = std::min(to, QDate(begin.year(), begin.month(), begin.daysInMonth()));
-        reader.TakeIn(begin, end);
-        begin = end.addDays(1);
-    }
-    return std::move(reader).Finish();
+Days MonthOf(QDate day) {
+    return {{day.year(), day.month(), 1}, {day.year(), day.month(), day.daysInMonth()}};
 }
 
-TodaysFigures ReadTodaysFigures(store::Database& main, QDate today) {
-    TodaysFigures figures;
-    figures.today = ReadSold(main, today, today);
-    figures.weekAgo = ReadSold(main, today.addDays(-7), today.addDays(-7));
-    qint64 four = 0;
-    for (int week = 1; week <= 4; ++week)
-        four += ReadSold(main, today.addDays(-7 * week), today.addDays(-7 * week)).takings.Units();
-    figures.meanOfFour = Money::FromUnits(four / 4);
-    const QDate first(today.year(), today.month(), 1);
-    figures.month = ReadSold(main, first, today);
-    figures.monthBefore = ReadSold(main, first.addMonths(-1), today.addMonths(-1));
-    return figures;
+Days DaysBefore(const Days& days) {
+    const QDate last = days.first.addDays(-1);
+    if (days == MonthOf(days.first)) return MonthOf(last);
+    if (days.first.dayOfYear() == 1 && days.last == QDate(days.first.year(), 12, 31))
+        return {days.first.addYears(-1), last};
+    return {days.first.addDays(-days.Count()), last};
 }
 
-std::vector<RunningOut> ReadRunningOut(store::Database& main, QDate today, int within) {
-    const QHash<QString, double> perDay = PerDay(main, today);
-    std::vector<RunningOut> out;
-    auto products = main.OpenSnapshot(u"SELECT ProdCode, ProdDescription, Qty FROM Products"_s);
-    for (auto& product : products) {
-        const double pace = perDay.value(product[0].TextOrEmpty());
-        const Money stock = product[2].MoneyOrZero();
-        if (pace <= 0 || stock <= Money()) continue;
-        const double days = static_cast<double>(stock.Units()) / Money::Scale / pace;
-        if (days > within) continue;
-        out.push_back({.code = product[0].TextOrEmpty(),
-                       .name = product[1].TextOrEmpty(),
-                       .stock = stock,
-                       .perDay = pace,
-                       .days = static_cast<int>(std::floor(days))});
-    }
-    std::ranges::stable_sort(out, {}, &RunningOut::days);
-    return out;
+std::vector<GoodsTakings> Best(const std::vector<GoodsTakings>& goods, By by, size_t most) {
+    return FirstOf(goods, by, most, true);
 }
 
-std::vector<LineOfInvoice> ReadLines(store::Database& main, QDate from, QDate to) {
-    std::vector<LineOfInvoice> lines;
-    auto rows = main.OpenSnapshot(Between(EachLineQuery, from, to));
-    for (auto& row : rows) lines.push_back({row[0].TextOrEmpty(), row[1].TextOrEmpty(), row[2].TextOrEmpty()});
-    return lines;
+std::vector<GoodsTakings> Least(const std::vector<GoodsTakings>& goods, By by, size_t most) {
+    return FirstOf(goods, by, most, false);
+}
+
+Overview ReadOverview(store::Database& main, const OverviewWish& wish, const TellOverview& tell) {
+    return Reader(main, wish).Read(tell);
 }
 
 }  // namespace upkeep

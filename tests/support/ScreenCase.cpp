@@ -28,13 +28,13 @@ void ScreenCase::PlayStep(const Step& step) {
     const testing::ScopedTrace trace(step.file.c_str(), step.line, step.text.toStdString());
     const QString word = step.text.section(u' ', 0, 0);
     ASSERT_TRUE(Words().contains(word)) << "nobody knows the word " << word.toStdString();
-    const bool hasRows = word == u"list" || word == u"tail" || word == u"rows" || word == u"load";
-    ASSERT_TRUE(step.inner.empty() || hasRows || !step.form.isEmpty()) << "no form for the lines under it";
+    ASSERT_TRUE(step.inner.empty() || WordsWithLines().contains(word) || !step.form.isEmpty())
+        << "no form for the lines under it";
     const int before = boxes_.Left();
     if (!step.form.isEmpty())
         boxes_.ExpectForm(step.form, [&](QWidget& form) { PlayIn(static_cast<forms::Form&>(form), step); });
     try {
-        Words()[word](*this, step.text.mid(word.size() + 1), step);
+        Words()[word](*this, step.text.mid(word.size() + 1).replace(u"{folder}"_s, folder.path()), step);
     } catch (const std::exception& error) {
         ADD_FAILURE() << error.what();
     }
@@ -98,9 +98,15 @@ std::unique_ptr<store::Database> ScreenCase::StoreOf(const QString& query) const
     return OpenMain();
 }
 
-bool ScreenCase::AddWords(const QMap<QString, Word>& words) {
+bool ScreenCase::AddWords(const QMap<QString, Word>& words, const QStringList& withLines) {
     Words().insert(words);
+    WordsWithLines() += withLines;
     return true;
+}
+
+QStringList& ScreenCase::WordsWithLines() {
+    static QStringList words{u"list"_s, u"rows"_s, u"load"_s};
+    return words;
 }
 
 QMap<QString, ScreenCase::Word>& ScreenCase::Words() {

@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 
@@ -10,10 +8,13 @@
 #include "store/StorePath.h"
 #include "support/CaseText.h"
 #include "support/Engines.h"
+#include "support/Files.h"
 #include "support/Server.h"
 #include "support/TestFolder.h"
 #include "support/ValueOf.h"
 #include "upkeep/ValueText.h"
+#include "upkeep/goods/AmountText.h"
+#include "upkeep/goods/PriceChange.h"
 
 using namespace Qt::StringLiterals;
 
@@ -35,16 +36,15 @@ void PrintTo(const Talk& talk, std::ostream* out) {
 
 std::vector<Talk> Talks() {
     std::vector<Talk> talks;
-    for (const auto& topic : {u"backup"_s, u"backup-register"_s, u"check"_s, u"delivery"_s, u"files"_s, u"import"_s,
+    for (const auto& topic : {u"backup"_s, u"backup-register"_s, u"check"_s, u"delivery"_s, u"files"_s, u"goods"_s,
                               u"insert"_s, u"load"_s, u"move"_s, u"new"_s, u"report"_s, u"sql"_s}) {
-        QFile file(QStringLiteral(TEST_DATA "/tools/%1.txt").arg(topic));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << topic.toStdString();
+        const auto file = QStringLiteral(TEST_DATA "/tools/%1.txt").arg(topic);
         QString shell;
         bool isInCase = false;
-        for (int number = 1; const QString& line : QString::fromUtf8(file.readAll()).split(u'\n')) {
+        for (int number = 1; const QString& line : QString::fromUtf8(drivers::ReadFile(file)).split(u'\n')) {
             isInCase = isInCase || line.startsWith(u"== ");
             if (line.startsWith(u"== "))
-                talks.push_back({line.mid(3), file.fileName(), shell, {}});
+                talks.push_back({line.mid(3), file, shell, {}});
             else if (!isInCase)
                 shell += line + u'\n';
             else if (!line.isEmpty() && !line.startsWith(u"# "))
@@ -61,6 +61,7 @@ tool() { LC_ALL=${locale:-en_US.UTF-8} "$TOOL" "$@"; }
 sql() { tool sql shop "$@"; }
 insert() { tool insert shop "$@"; }
 check() { tool check shop; }
+report() { tool report shop "$@"; }
 bytes() { printf "$2" | tr '|' '\t' > rows.tsv; tool load shop "$1" rows.tsv; }
 load() { bytes "$1" "$2\n"; }
 raw() { "$STRANGER" shop "$1" "${2-$1}"; }
@@ -83,8 +84,8 @@ protected:
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
         environment.insert(u"TOOL"_s, QStringLiteral(PROGRAMS "/velton-store"));
-        environment.insert(u"SERVER"_s, server_);
         environment.insert(u"STRANGER"_s, QCoreApplication::applicationFilePath());
+        environment.insert(u"SERVER"_s, server_);
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(folder_.path());
         process.start(u"bash"_s, {u"-c"_s, Shell + GetParam().shell + command}, QIODevice::ReadOnly);
@@ -110,13 +111,8 @@ protected:
             << expected.join(u'\n').toStdString();
     }
 
-    static bool AsksForServer() {
-        return std::ranges::any_of(GetParam().lines, [](const auto& line) { return line.second.contains(u"$SERVER"); });
-    }
-
     const QTemporaryDir folder_{FolderTemplate()};
-    // Of a shop on a server that nobody has used.
-    const QString server_ = AsksForServer() ? drivers::Server::Running().NewShop() : QString();
+    const QString server_ = GetParam().file.endsWith(u"move.txt") ? drivers::Server::Running().NewShop() : QString();
 };
 
 }  // namespace
@@ -169,6 +165,35 @@ TEST_P(CellTest, GivesWhatItsRowsSay) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Tool, CellTest, testing::ValuesIn(drivers::ReadCases(u"tools"_s, {u"cells"_s})),
+                         [](const auto& info) { return info.param.name.toStdString(); });
+
+class AmountTest : public testing::TestWithParam<drivers::CaseText> {};
+
+TEST_P(AmountTest, GivesWhatItsRowsSay) {
+    const auto sign = [](const QString& text) { return text.isEmpty() ? QChar() : text[0]; };
+    const auto amount = [&](const QStringList& at) {
+        const auto read = upkeep::ReadAmount(at[0], sign(at[1]));
+        if (const auto* fault = std::get_if<upkeep::AmountFault>(&read))
+            return u"fault %1"_s.arg(static_cast<int>(*fault));
+        return upkeep::ShownAmount(std::get<values::Money>(read));
+    };
+    const auto votes = [](const QStringList& at) {
+        upkeep::DecimalVotes counted;
+        for (const QString& text : at[0].split(u' ')) counted.Count(text);
+        return counted.Winner().isNull() ? u"unclear"_s : QString(counted.Winner());
+    };
+    const auto price = [](const QStringList& at) {
+        const auto money = [](const QString& text) {
+            return upkeep::ReadValue(text.toUtf8(), store::Type::Money).ToMoney();
+        };
+        return upkeep::ShownAmount(
+            upkeep::ChangedPrice(money(at[0]), money(at[1]), static_cast<upkeep::PriceEnding>(at[2].toInt())));
+    };
+    for (const drivers::Step& step : GetParam().steps.inner)
+        CheckRows(step, {{u"Amount"_s, amount}, {u"Votes"_s, votes}, {u"Price"_s, price}});
+}
+
+INSTANTIATE_TEST_SUITE_P(Tool, AmountTest, testing::ValuesIn(drivers::ReadCases(u"tools"_s, {u"amounts"_s})),
                          [](const auto& info) { return info.param.name.toStdString(); });
 
 TEST(ValueText, TextsThatNoFileOfCasesHoldsAreKeptOrRefused) {

@@ -1,24 +1,35 @@
 #include "screens/Manager.h"
 
-#include <QAbstractButton>
+#include <QDir>
 #include <QFileInfo>
+#include <QMessageBox>
+#include <QRegularExpression>
 #include <QSpinBox>
 #include <QTabWidget>
 
 #include "cashier/DayClock.h"
 #include "cashier/Restart.h"
+#include "core/Installation.h"
+#include "core/dbModule.h"
+#include "delivery/Delivery.h"
+#include "delivery/Trade.h"
 #include "manager/ManagerLogin.h"
 #include "manager/ManagerWindow.h"
 #include "manager/Start.h"
-#include "manager/SupportForm.h"
 #include "manager/backup/RestoreForm.h"
+#include "manager/drawer/DrawerPage.h"
 #include "manager/goods/GoodsPage.h"
 #include "manager/goods/PricesPage.h"
-#include "manager/overview/InvoicesForm.h"
+#include "manager/health/SupportForm.h"
+#include "manager/overview/InvoicesView.h"
+#include "manager/overview/OverviewPage.h"
 #include "player/Keys.h"
-#include "upkeep/RegisterBackup.h"
-#include "upkeep/SupportReport.h"
-#include "values/IniEdit.h"
+#include "player/ModalWatch.h"
+#include "store/StorePath.h"
+#include "upkeep/Backup.h"
+#include "upkeep/BackupPlace.h"
+#include "upkeep/Restore.h"
+#include "upkeep/health/SupportReport.h"
 
 using namespace Qt::StringLiterals;
 
@@ -31,32 +42,63 @@ QString PictureOfPage(const QString& className) {
     return u"manager-"_s + className.chopped(4).toLower();
 }
 
+// A table of a wholesaler: goods that are there, new ones, and rows that can't be taken.
+void ReadTable(const QString& shop) {
+    QFile table(QFileInfo(shop).path() + u"/cjenik.csv"_s);
+    if (!table.open(QIODevice::WriteOnly)) throw std::runtime_error("the table can't be written");
+    table.write(
+        u"EAN;Naziv;JM;MPC;PDV;Zaliha;Grupa\r\n"
+        "3850101040019;Mineralna voda 0,5 l;pcs;1,25;17;96;Pića\r\n"
+        "3850101040088;Mineralna voda 1,5 l;pcs;1,60;17;60;Pića\r\n"
+        "3850101040156;Izvorska voda 0,5 l;pcs;1,05;17;120;Pića\r\n"
+        "3850101099994;Limunada 0,33 l;pcs;1,90;17;24;Pića\r\n"
+        "3850101099987;Kruška 1 kg;kg;3,49;17;12,5;Voće\r\n"
+        "3,85E+12;Ledeni čaj 1,5 l;pcs;2,20;17;30;Pića\r\n"
+        "3850101099970;Sok od bazge;pcs;2.4;17;18;Pića\r\n"_s.toUtf8());
+    table.close();
+    dynamic_cast<manager::GoodsPage&>(*forms::FindForm(u"GoodsPage")).LookAt(table.fileName());
+    drivers::Settle();
+}
+
+void RaisePrices() {
+    auto& page = dynamic_cast<manager::PricesPage&>(*forms::FindForm(u"PricesPage"));
+    page.ui.txtPercent->setText(u"5"_s);
+    page.ui.cboEnding->setCurrentIndex(1);
+    page.ui.cmdLook->click();
+    drivers::Settle();
+}
+
+// What differs from machine to machine is always the same in a picture.
+QString OnAnyMachine(QString report) {
+    const std::pair<QString, QString> facts[] = {
+        {u"Qt"_s, u"6.4.2"_s},
+        {u"system"_s, u"Debian GNU/Linux 12 (bookworm)"_s},
+        {u"kernel"_s, u"linux 6.1.0"_s},
+        {u"processor"_s, u"x86_64"_s},
+        {u"language"_s, u"en_US.UTF-8"_s},
+        {u"disk of the folder"_s, u"182400 MB free of 243000 MB, ext4"_s},
+        {u"engine"_s, u"SQLite 3.40.1"_s},
+    };
+    for (const auto& [name, value] : facts)
+        report.replace(QRegularExpression(u"\\n  %1: [^\\n]*"_s.arg(name)), u"\n  %1: %2"_s.arg(name, value));
+    return report;
+}
+
 void ShowSupport(const QString& shop, const Cashier::Camera& camera) {
-    manager::SupportForm form(upkeep::SupportReport(shop));
+    manager::SupportForm form(OnAnyMachine(upkeep::SupportReport(shop)));
     form.Show();
     drivers::Settle();
     camera(form, u"manager-support"_s);
 }
 
-void ShowInvoices(const Cashier::Camera& camera) {
-    manager::InvoicesForm form(
-        {.what = u"Fri, 9 to 10 o'clock"_s, .from = QDate(2026, 11, 20), .to = QDate(2026, 11, 24)});
-    form.Show();
-    drivers::Settle();
-    camera(form, u"manager-invoices"_s);
-}
-
-// The day after the backup, on which more was sold.
+// The question before a backup is brought back, on a day on which more was sold.
 void ShowRestore(const QString& shop, const Cashier::Camera& camera) {
-    const upkeep::BackupPlan plan = upkeep::ReadBackupPlan(shop);
-    auto backup = upkeep::BackupsIn(upkeep::FolderOfRegister(plan.place, shop)).front();
-    const auto day = [](int invoices, qint64 hundredths) {
-        return upkeep::DayTotal{.day = QDate(2026, 11, 25),
-                                .invoices = invoices,
-                                .takings = values::Money::FromUnits(100 * hundredths),
-                                .tax = {}};
-    };
-    manager::RestoreForm form(backup, {{.day = QDate(2026, 11, 25), .inStore = day(4, 3120), .inBackup = day(0, 0)}});
+    const auto backups = upkeep::ListBackups(TheInstallation.backup.folder, shop);
+    if (backups.isEmpty()) throw std::runtime_error("no backup was made");
+    upkeep::RestorePreview preview = upkeep::PreviewRestore(shop, backups.first());
+    preview.days.first().one.invoices += 3;
+    preview.days.first().one.takings += values::Money::FromWhole(27);
+    manager::RestoreForm form(preview);
     form.Show();
     drivers::Settle();
     camera(form, u"manager-restore"_s);
@@ -72,61 +114,145 @@ void ShowSteps(manager::ManagerWindow& window, const Cashier::Camera& camera) {
     steps->setCurrentIndex(0);
 }
 
-// A table with a bit of everything.
-void ReadTable(const QString& shop) {
-    auto& page = dynamic_cast<manager::GoodsPage&>(*forms::FindForm(u"GoodsPage"));
-    const QString path = QFileInfo(shop).path() + u"/prices.csv"_s;
-    QFile table(path);
-    if (!table.open(QIODevice::WriteOnly)) throw std::runtime_error("the table can't be written");
-    table.write(
-        "Artikelnummer;Bezeichnung;VK-Preis;Bestand;MwSt;Einheit\n3850101040019;Mlijeko 2,8 % 1 l;2,45;;P;Stk.\n"
-        "4001;K\xC3\xA4se jung;14,90;6,5;P;kg\n4002;Brot;\"1,2,3\";;P;Stk.\n3,85E+12;Wasser;1,10;;P;Stk.\n");
-    table.close();
-    page.ui.txtFile->setText(path);
-    for (const int separator : {1, 0}) page.ui.cboSeparator->setCurrentIndex(separator);
+void ChooseGoods(const manager::ManagerWindow& window) {
+    window.findChild<QComboBox*>(u"cboGroup"_s)->setCurrentIndex(1);
+    window.findChild<QPushButton*>(u"cmdAddAll"_s)->click();
+    window.findChild<QSpinBox*>(u"spnCopies"_s)->setValue(3);
     drivers::Settle();
+}
+
+// What comes of the goods that were chosen.
+void ShowLabels(manager::ManagerWindow& window, const Cashier::Camera& camera) {
+    auto* parts = window.findChild<QTabWidget*>(u"tabParts"_s);
+    for (const QString& picture : {u"sheet"_s, u"prices"_s}) {
+        parts->setCurrentIndex(parts->currentIndex() + 1);
+        drivers::Settle();
+        camera(window, u"manager-labels-"_s + picture);
+    }
+    auto* sheets = window.findChild<QComboBox*>(u"cboSheet"_s);
+    sheets->setCurrentIndex(sheets->findText(u"Own size on A4"_s));
+    parts->setCurrentIndex(1);
+    drivers::Settle();
+    camera(window, u"manager-labels-own"_s);
 }
 
 // What a shop has that was set up well.
 void BackUp(const QString& shop) {
-    const QString place = QFileInfo(shop).path() + u"/stick"_s;
-    upkeep::TakeAsPlace(place);
-    values::IniEdit ini(shop + u"/velton.ini"_s);
-    ini.Set(u"backup"_s, u"folder"_s, place);
-    ini.Save();
-    upkeep::BackUpRegister(shop, place, {});
+    const QString stick = QFileInfo(shop).path() + u"/stick"_s;
+    QDir().mkdir(stick);
+    upkeep::ChooseBackupFolder(stick, shop);
+    upkeep::MakeBackup(shop, upkeep::ReadBackupPlan(shop));
+}
+
+manager::ManagerWindow& LogIn(const QString& shop, const Cashier::Camera& camera) {
+    drivers::ForgetProgram();
+    manager::StartManager(shop);
+    drivers::Settle();
+    auto& login = dynamic_cast<manager::ManagerLogin&>(*forms::FindForm(u"ManagerLogin"));
+    login.ui.cboUser->setCurrentText(u"admin"_s);
+    if (camera) camera(login, u"manager-login"_s);
+    login.ui.txtPassword->setText(u"1234"_s);
+    login.ui.cmdLogin->click();
+    drivers::Settle();
+    return dynamic_cast<manager::ManagerWindow&>(*forms::FindForm(u"ManagerWindow"));
+}
+
+template <typename T>
+T& PageOf(manager::ManagerWindow& window, const QString& className) {
+    window.ShowPage(className);
+    drivers::Settle();
+    auto& page = dynamic_cast<T&>(*forms::FindForm(className));
+    while (page.IsBusy()) drivers::Settle();
+    return page;
+}
+
+// Weeks and months in figures, the invoices behind one of them, and a drawer that is counted.
+void LookAtOlderShop(const QString& shop, const Cashier::Camera& camera) {
+    delivery::MakeProgramFolder(shop, {.withDemo = true});
+    delivery::TradeForWeeks(*store::Database::Open(store::MainPlace(shop), store::MainSchema()), values::Today());
+    auto& window = LogIn(shop, {});
+    QStringList views{u"manager-invoices"_s, u"manager-receipt"_s};
+    const drivers::ModalWatch watch(
+        [&](QWidget& modal) {
+            if (auto* box = qobject_cast<QMessageBox*>(&modal)) {
+                box->accept();
+            } else if (auto* view = qobject_cast<manager::InvoicesView*>(&modal)) {
+                view->ui.lstInvoices->Select(4);
+                camera(*view, views[0]);
+                view->ui.cmdReceipt->click();
+                drivers::Settle();
+                camera(*view, views[1]);
+                view->Unload();
+            } else {
+                camera(modal, u"manager-notesandcoins"_s);
+                drivers::CloseByForce(modal);
+            }
+            return true;
+        },
+        [](const QWidget&) {});
+
+    auto& overview = PageOf<manager::OverviewPage>(window, u"OverviewPage"_s);
+    camera(window, u"manager-overview"_s);
+    auto* takings = window.findChild<manager::Chart*>(u"chtTakings"_s);
+    takings->setFocus();
+    drivers::Keys(u"{Home}{Right}{Right}"_s);
+    window.findChild<manager::Chart*>(u"chtTaxes"_s)->setFocus();
+    drivers::Settle();
+    camera(window, u"manager-overview-below"_s);
+    takings->setFocus();
+    overview.ui.cmdTable->click();
+    overview.ui.cmdWeek->click();
+    drivers::Settle();
+    camera(window, u"manager-overview-tables"_s);
+    overview.ui.cmdTable->click();
+    takings->setFocus();
+    drivers::Keys(u"{End}{Enter}"_s);
+
+    auto& drawer = PageOf<manager::DrawerPage>(window, u"DrawerPage"_s);
+    const auto count = [&](std::initializer_list<const char16_t*> pieces, const QString& remark) {
+        drawer.ui.txtPutIn->setText(u"100.00"_s);
+        drawer.ui.txtTakenOut->setText(u"50.00"_s);
+        drawer.ui.txtRemark->setText(remark);
+        int number = 0;
+        for (const char16_t* each : pieces)
+            window.findChild<QLineEdit*>(u"txtPieces%1"_s.arg(number++))->setText(QString::fromUtf16(each));
+        drivers::Settle();
+    };
+    count({u"", u"1", u"1", u"2", u"3", u"2", u"4", u"6", u"3", u"9", u"4", u"5"}, u"at noon"_s);
+    drawer.ui.cmdKeep->click();
+    count({u"", u"1", u"1", u"2", u"3", u"2", u"4", u"6", u"2", u"8", u"4", u"5"}, {});
+    camera(window, u"manager-drawer"_s);
+    drawer.ui.cmdKeep->click();
+    drawer.ui.cmdPieces->click();
+    drawer.ui.tabParts->setCurrentIndex(1);
+    drivers::Settle();
+    camera(window, u"manager-drawer-earlier"_s);
+    drivers::ForgetProgram();
 }
 
 }  // namespace
 
 void LookAtManager(const QString& shop, const Cashier::Camera& camera) {
-    drivers::ForgetProgram();
-    const DayClock clock(QDateTime(QDate(2026, 11, 25), QTime(8, 10)));
+    const DayClock clock(QDateTime(QDate(2026, 11, 24), QTime(18, 5)));
     BackUp(shop);
-    manager::StartManager(shop);
-    drivers::Settle();
-    auto& login = dynamic_cast<manager::ManagerLogin&>(*forms::FindForm(u"ManagerLogin"));
-    login.ui.cboUser->setCurrentText(u"admin"_s);
-    camera(login, u"manager-login"_s);
-    login.ui.txtPassword->setText(u"1234"_s);
-    login.ui.cmdLogin->click();
-    drivers::Settle();
-    auto& window = dynamic_cast<manager::ManagerWindow&>(*forms::FindForm(u"ManagerWindow"));
+    auto& window = LogIn(shop, camera);
     for (const auto& entry : manager::AllPages()) {
-        window.ShowPage(entry.className);
-        drivers::Settle();
+        // Of days alone they show too little.
+        if (entry.className == u"OverviewPage" || entry.className == u"DrawerPage") continue;
+        // What has to be done shows on a shop that sold more than it had.
+        if (entry.className == u"HealthPage")
+            MainStore().Execute(u"UPDATE Products SET Qty = -2 WHERE ProdCode = '3850101040859'"_s);
+        PageOf<manager::Page>(window, entry.className);
         if (entry.className == u"GoodsPage") ReadTable(shop);
-        if (entry.className == u"LabelsPage") window.findChild<QAbstractButton*>(u"cmdAddAll"_s)->click();
-        for (auto* box : window.findChildren<QSpinBox*>(u"spnPieces4"_s)) box->setValue(6);
-        if (auto* prices = dynamic_cast<manager::PricesPage*>(forms::FindForm(entry.className)))
-            prices->ui.txtPercent->setText(u"4"_s);
+        if (entry.className == u"LabelsPage") ChooseGoods(window);
+        if (entry.className == u"PricesPage") RaisePrices();
         camera(window, PictureOfPage(entry.className));
+        if (entry.className == u"LabelsPage") ShowLabels(window, camera);
         if (entry.className == u"HealthPage") ShowSupport(shop, camera);
-        if (entry.className == u"OverviewPage") ShowInvoices(camera);
         if (entry.className == u"SetupPage") ShowSteps(window, camera);
         if (entry.className == u"BackupPage") ShowRestore(shop, camera);
     }
-    drivers::ForgetProgram();
+    LookAtOlderShop(shop + u"-of-weeks"_s, camera);
 }
 
 }  // namespace screens

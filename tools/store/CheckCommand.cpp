@@ -1,7 +1,6 @@
 #include "Commands.h"
 #include "Output.h"
 #include "upkeep/CheckRegister.h"
-#include "upkeep/SupportReport.h"
 #include "upkeep/ValueText.h"
 
 using namespace Qt::StringLiterals;
@@ -17,12 +16,6 @@ void Check(const QString& folder) {
     if (findings.IsSound()) output.Write("Both stores are sound.\n"_ba);
     output.Finish();
     findings.ThrowDamage();
-}
-
-void Report(const QString& folder) {
-    Output output;
-    output.Write(upkeep::SupportReport(folder).toUtf8());
-    output.Finish();
 }
 
 }  // namespace tool

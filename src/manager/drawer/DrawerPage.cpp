@@ -1,21 +1,24 @@
 #include "manager/drawer/DrawerPage.h"
 
-#include <QGridLayout>
+#include <QFile>
+#include <QItemSelectionModel>
 #include <QLabel>
-#include <QSignalBlocker>
-#include <QSpinBox>
 
 #include "core/Session.h"
 #include "core/Settings.h"
 #include "core/dbModule.h"
+#include "forms/Controls.h"
 #include "forms/MsgBox.h"
+#include "forms/Theme.h"
 #include "manager/Texts.h"
+#include "manager/drawer/DrawerText.h"
+#include "manager/drawer/NotesAndCoins.h"
+#include "manager/overview/OverviewCharts.h"
 #include "output/Channel.h"
 #include "output/Folder.h"
 #include "output/PagePrinter.h"
 #include "values/Clock.h"
 #include "values/DateText.h"
-#include "values/Format.h"
 #include "values/Numbers.h"
 
 using namespace Qt::StringLiterals;
@@ -25,156 +28,283 @@ namespace manager {
 
 namespace {
 
-constexpr int ShownEndReports = 10;
-constexpr int MostPieces = 9999;
+constexpr int PiecesWidth = 72;
+constexpr int SumWidth = 72;
+constexpr int BetweenHalves = 24;
+constexpr int SecondHalf = 4;  // its first column
+constexpr qint64 MostPieces = 1'000'000;
 
-Money AmountIn(const QLineEdit* box) {
-    return values::IsNumeric(box->text()) ? values::CMoney(box->text()) : Money();
+// An empty box counts nothing; -1 for what is no number of pieces.
+qint64 PiecesIn(const QLineEdit& box) {
+    const QString text = box.text().trimmed();
+    if (text.isEmpty()) return 0;
+    bool isWhole = false;
+    const qint64 pieces = text.toLongLong(&isWhole);
+    return isWhole && pieces >= 0 && pieces <= MostPieces ? pieces : -1;
+}
+
+bool HoldsAmount(const QLineEdit& box) {
+    if (box.text().trimmed().isEmpty()) return true;
+    try {
+        const Money amount = values::CMoney(box.text());
+        return amount >= Money() && amount <= Money::FromWhole(1'000'000'000);
+    } catch (const values::Error&) {
+        return false;
+    }
+}
+
+Money AmountIn(const QLineEdit& box) {
+    return HoldsAmount(box) && !box.text().trimmed().isEmpty() ? values::CMoney(box.text()) : Money();
 }
 
 }  // namespace
 
 DrawerPage::DrawerPage(QWidget* parent) : Page(parent) {
     ui.setupUi(this);
-    BuildPieces();
-    ui.lstCounts->SetColumns({{tr("Counted"), Qt::AlignLeft, 146},
-                              {tr("By"), Qt::AlignLeft, 76},
-                              {tr("Found"), Qt::AlignRight, 88},
-                              {tr("Expected"), Qt::AlignRight, 88},
-                              {tr("Difference"), Qt::AlignRight, 88},
-                              {tr("Remark"), Qt::AlignLeft, -1}});
-    ui.lstCounts->SetEmptyText(tr("No drawer was counted yet."));
+    ui.lstCounts->SetColumns({{tr("Count"), Qt::AlignRight, 64},
+                              {tr("Date"), Qt::AlignLeft, 104},
+                              {tr("Time"), Qt::AlignLeft, 104},
+                              {tr("Counted by"), Qt::AlignLeft, -1},
+                              {tr("Should be"), Qt::AlignRight, 96},
+                              {tr("Counted"), Qt::AlignRight, 96},
+                              {tr("Difference"), Qt::AlignRight, 96},
+                              {tr("Remark"), Qt::AlignLeft, 120}});
+    ui.lstCounts->SetEmptyText(tr("Nothing was counted yet. Count the drawer on the page before and keep the count."));
+    none_ = new QLabel(ui.panelPieces);
+    none_->setWordWrap(true);
+    ui.layoutPieces->addWidget(none_, 0, 0, 1, 2 * SecondHalf);
+    for (const int column : {2, SecondHalf + 2})
+        ui.layoutPieces->setColumnMinimumWidth(column, forms::Scaled(SumWidth));
+    ui.layoutPieces->setColumnMinimumWidth(SecondHalf - 1, forms::Scaled(BetweenHalves));
+    ui.layoutPieces->setColumnStretch(SecondHalf + 3, 1);
     NumericKeys({ui.txtPutIn, ui.txtTakenOut});
-    EnterMovesOn();
-    OnChange(ui.cboPeriod, &DrawerPage::Count_Changed);
-    for (QLineEdit* box : {ui.txtPutIn, ui.txtTakenOut}) OnChange(box, &DrawerPage::Count_Changed);
-    On(ui.cmdStore, &DrawerPage::cmdStore_Click);
-    On(ui.cmdClear, &DrawerPage::cmdClear_Click);
+    ShrinkFigures({ui.txtDifference});
+    OnChange(ui.txtPutIn, &DrawerPage::Figures_Change);
+    OnChange(ui.txtTakenOut, &DrawerPage::Figures_Change);
+    EnterMovesOn({ui.txtPutIn, ui.txtTakenOut, ui.txtRemark});
+    On(ui.cmdKeep, &DrawerPage::cmdKeep_Click);
+    On(ui.cmdEmpty, &DrawerPage::cmdEmpty_Click);
+    On(ui.cmdPieces, &DrawerPage::cmdPieces_Click);
     On(ui.cmdPrint, &DrawerPage::cmdPrint_Click);
-}
-
-// In two columns, the notes before the coins.
-void DrawerPage::BuildPieces() {
-    denominations_ = upkeep::Denominations(TheSettings.Currency);
-    auto* grid = new QGridLayout(ui.fraPieces);
-    const int rows = (static_cast<int>(denominations_.size()) + 1) / 2;
-    for (int i = 0; i < static_cast<int>(denominations_.size()); ++i) {
-        auto* box = new QSpinBox(ui.fraPieces);
-        box->setObjectName(u"spnPieces%1"_s.arg(i));
-        box->setMaximum(MostPieces);
-        auto* label = new QLabel(values::Format(denominations_[static_cast<size_t>(i)], u"0.##"), ui.fraPieces);
-        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        label->setBuddy(box);
-        box->setAccessibleName(tr("Pieces of %1").arg(label->text()));
-        grid->addWidget(label, i % rows, 2 * (i / rows));
-        grid->addWidget(box, i % rows, 2 * (i / rows) + 1);
-        connect(box, &QSpinBox::valueChanged, this, Guarded(&DrawerPage::Count_Changed));
-        pieces_.push_back(box);
-    }
-    grid->setRowStretch(rows, 1);
+    connect(ui.lstCounts->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            Guarded(&DrawerPage::lstCounts_Chosen));
 }
 
 void DrawerPage::Form_Load() {
-    manager_ = upkeep::OpenManagerStore(output::ProgramFolder());
-    FillPeriods();
-    ShowCounts();
-    Count_Changed();
+    OpenKept();
+    LayOutRows();
+    OfferFiscalCash();
+    ListCounts();
 }
 
-// Tills sell on.
 void DrawerPage::Form_Activate() {
-    FillPeriods();
-    Count_Changed();
+    ReadSold();
+    Figures_Change();
 }
 
-void DrawerPage::FillPeriods() {
-    const QSignalBlocker quiet(ui.cboPeriod);
-    const int chosen = std::max(0, ui.cboPeriod->currentIndex());
-    periods_ = upkeep::DrawerPeriods(MainStore(), ShownEndReports);
-    ui.cboPeriod->clear();
-    for (const upkeep::DrawerPeriod& period : periods_)
-        ui.cboPeriod->addItem(period.endReport == 0
-                                  ? tr("Since the last End Report: %1").arg(AmountText(period.sales))
-                                  : tr("End Report %1 of %2: %3")
-                                        .arg(QString::number(period.endReport), values::DateText(period.closed),
-                                             AmountText(period.sales)));
-    ui.cboPeriod->setCurrentIndex(std::min(chosen, ui.cboPeriod->count() - 1));
-}
-
-upkeep::DrawerCount DrawerPage::Typed() const {
-    upkeep::DrawerCount count{.counted = values::Now(),
-                              .user = TheSession.SessionUserName,
-                              .period = ui.cboPeriod->currentText(),
-                              .pieces = {},
-                              .sales = periods_[static_cast<size_t>(std::max(0, ui.cboPeriod->currentIndex()))].sales,
-                              .putIn = AmountIn(ui.txtPutIn),
-                              .takenOut = AmountIn(ui.txtTakenOut),
-                              .remark = ui.txtRemark->text()};
-    QStringList pieces;
-    for (size_t i = 0; i < pieces_.size(); ++i) {
-        const int number = pieces_[i]->value();
-        if (number == 0) continue;
-        count.found += Money::FromUnits(denominations_[i].Units() * number);
-        pieces << u"%1 x %2"_s.arg(QString::number(number), values::Format(denominations_[i], u"0.##"));
+// Without counts the page still sums up what is typed.
+void DrawerPage::OpenKept() {
+    ui.lblFault->hide();
+    try {
+        if (QFile::exists(output::InProgramFolder(upkeep::ManagerFile))) Kept();
+    } catch (const values::Error& error) {
+        ui.lblFault->setText(tr("Counts can't be kept or shown. %1").arg(error.Description()));
+        ui.lblFault->show();
+        ui.cmdKeep->setEnabled(false);
+        ui.cmdPieces->setEnabled(false);
     }
-    count.pieces = pieces.join(u"; "_s);
-    return count;
 }
 
-void DrawerPage::Count_Changed() {
-    const upkeep::DrawerCount count = Typed();
-    ui.lblExpected->setText(tr("%1 should be there, %2 is").arg(AmountText(count.Expected()), AmountText(count.found)));
-    const Money difference = count.Difference();
-    ui.lblDifference->setText(difference == Money()  ? tr("It is exact")
-                              : difference > Money() ? tr("%1 too much").arg(AmountText(difference))
-                                                     : tr("%1 missing").arg(AmountText(-difference)));
-    ui.cmdStore->setEnabled(!count.pieces.isEmpty());
+store::Database& DrawerPage::Kept() {
+    if (!kept_) kept_ = upkeep::OpenManagerStore(output::ProgramFolder());
+    return *kept_;
 }
 
-void DrawerPage::ShowCounts() {
-    counts_ = upkeep::ReadCounts(*manager_);
+// Two columns of notes and coins side by side, the larger ones on the left.
+void DrawerPage::LayOutRows() {
+    const QList<Money> worths = upkeep::DenominationsOf(kept_.get(), TheSettings.Currency);
+    none_->setText(tr("Which notes and coins %1 has is not known yet. Press \"Notes and coins\" and type them.")
+                       .arg(TheSettings.Currency));
+    none_->setVisible(worths.isEmpty());
+    for (Row& row : rows_) {
+        for (QWidget* part : std::initializer_list<QWidget*>{row.name, row.pieces, row.sum}) part->hide();
+        ui.layoutPieces->removeWidget(row.name);
+        ui.layoutPieces->removeWidget(row.pieces);
+        ui.layoutPieces->removeWidget(row.sum);
+    }
+    std::ranges::move(std::exchange(rows_, {}), std::back_inserter(spare_));
+    const int rowsEach = static_cast<int>(worths.size() + 1) / 2;
+    QWidget* before = ui.tabParts;
+    for (int number = 0; number < worths.size(); ++number) {
+        Row row = MakeRow(number);
+        row.worth = worths[number];
+        row.name->setText(AmountText(row.worth));
+        row.pieces->setAccessibleName(tr("Pieces of %1").arg(row.name->text()));
+        row.pieces->clear();
+        const int column = SecondHalf * (number / rowsEach);
+        ui.layoutPieces->addWidget(row.name, number % rowsEach, column);
+        ui.layoutPieces->addWidget(row.pieces, number % rowsEach, column + 1);
+        ui.layoutPieces->addWidget(row.sum, number % rowsEach, column + 2);
+        for (QWidget* part : std::initializer_list<QWidget*>{row.name, row.pieces, row.sum}) part->show();
+        setTabOrder(before, row.pieces);
+        before = row.pieces;
+        rows_.push_back(row);
+    }
+    for (int row = 0; row < ui.layoutPieces->rowCount(); ++row) ui.layoutPieces->setRowStretch(row, 0);
+    ui.layoutPieces->setRowStretch(rowsEach, 1);  // the rest is empty
+    Figures_Change();
+}
+
+// One that was laid out before, or a new one.
+DrawerPage::Row DrawerPage::MakeRow(int number) {
+    const QString name = u"txtPieces%1"_s.arg(number);
+    const auto spare = std::ranges::find_if(spare_, [&](const Row& row) { return row.pieces->objectName() == name; });
+    if (spare != spare_.end()) {
+        const Row row = *spare;
+        spare_.erase(spare);
+        return row;
+    }
+    const Row row{{}, new QLabel(ui.panelPieces), new QLineEdit(ui.panelPieces), new QLabel(ui.panelPieces)};
+    row.pieces->setObjectName(name);
+    row.pieces->setFixedWidth(forms::Scaled(PiecesWidth));
+    row.pieces->setAlignment(Qt::AlignRight);
+    row.pieces->setMaxLength(7);
+    row.name->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    row.name->setBuddy(row.pieces);
+    row.sum->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    row.sum->setProperty("role", u"muted"_s);
+    NumericKeys({row.pieces});
+    EnterMovesOn({row.pieces});
+    OnChange(row.pieces, &DrawerPage::Figures_Change);
+    return row;
+}
+
+void DrawerPage::ReadSold() {
+    sold_ = upkeep::ReadCashSold(MainStore());
+}
+
+void DrawerPage::OfferFiscalCash() {
+    QFile commands(output::InProgramFolder(TheSettings.FiskalniFile));
+    if (TheSettings.FiskalniFile.isEmpty() || !commands.open(QIODevice::ReadOnly)) return;
+    const upkeep::FiscalCash cash = upkeep::ReadFiscalCash(commands);
+    if (cash.putIn != Money()) ui.txtPutIn->setText(AmountText(cash.putIn));
+    if (cash.takenOut != Money()) ui.txtTakenOut->setText(AmountText(cash.takenOut));
+}
+
+upkeep::Denominations DrawerPage::Pieces() const {
+    upkeep::Denominations pieces;
+    for (const Row& row : rows_)
+        if (const qint64 count = PiecesIn(*row.pieces); count > 0) pieces << upkeep::Denomination{row.worth, count};
+    return pieces;
+}
+
+upkeep::DrawerCount DrawerPage::Count() const {
+    const upkeep::Denominations pieces = Pieces();
+    return {.number = 0,
+            .day = values::Today(),
+            .time = values::TimeNow(),
+            .userID = TheSession.SessionUserID,
+            .userName = TheSession.SessionUserName,
+            .currency = TheSettings.Currency,
+            .pieces = pieces,
+            .counted = SumOf(pieces),
+            .sold = sold_.cash,
+            .putIn = AmountIn(*ui.txtPutIn),
+            .takenOut = AmountIn(*ui.txtTakenOut),
+            .remark = ui.txtRemark->text()};
+}
+
+void DrawerPage::Figures_Change() {
+    for (const Row& row : rows_) {
+        const qint64 pieces = PiecesIn(*row.pieces);
+        row.sum->setText(pieces < 0    ? u"?"_s
+                         : pieces == 0 ? QString()
+                                       : AmountText(row.worth * Money::FromWhole(pieces)));
+    }
+    const upkeep::DrawerCount count = Count();
+    ui.lblSold->setText(AmountText(count.sold));
+    ui.lblExpected->setText(AmountText(count.Expected()));
+    ui.lblCounted->setText(AmountText(count.counted));
+    ui.lblDifference->setText(count.Difference() > Money()   ? tr("Too much in the drawer")
+                              : count.Difference() < Money() ? tr("Missing in the drawer")
+                                                             : tr("Difference"));
+    ui.txtDifference->setText((count.Difference() > Money() ? u"+"_s : QString()) + AmountText(count.Difference()));
+}
+
+QLineEdit* DrawerPage::FirstFault() const {
+    for (const Row& row : rows_)
+        if (PiecesIn(*row.pieces) < 0) return row.pieces;
+    for (QLineEdit* box : {ui.txtPutIn, ui.txtTakenOut})
+        if (!HoldsAmount(*box)) return box;
+    return nullptr;
+}
+
+// The drawer was counted beside the figure on the page; one that is another now must be looked at first.
+void DrawerPage::cmdKeep_Click() {
+    if (QLineEdit* fault = FirstFault()) {
+        forms::Inform(tr("This is no number of pieces and no amount."), Caption());
+        return forms::GoTo(fault);
+    }
+    const Money seen = sold_.cash;
+    ReadSold();
+    if (sold_.cash != seen) {
+        Figures_Change();
+        return forms::Inform(tr("Something was sold, or an End Report was made, since this page came up. The count is "
+                                "not kept: look at the difference again."),
+                             Caption());
+    }
+    const qint64 number = upkeep::KeepCount(Kept(), Count());
+    cmdEmpty_Click();
+    ListCounts();
+    forms::Inform(tr("Count %1 is kept.").arg(number), Caption());
+}
+
+void DrawerPage::cmdEmpty_Click() {
+    for (const Row& row : rows_) row.pieces->clear();
+    for (QLineEdit* box : {ui.txtPutIn, ui.txtTakenOut, ui.txtRemark}) box->clear();
+    OfferFiscalCash();
+    if (!rows_.empty()) rows_.front().pieces->setFocus();
+}
+
+void DrawerPage::cmdPieces_Click() {
+    NotesAndCoins entry(TheSettings.Currency, upkeep::DenominationsOf(kept_.get(), TheSettings.Currency));
+    entry.ShowModal();
+    if (!entry.Chosen()) return;
+    upkeep::ChooseDenominations(Kept(), TheSettings.Currency, *entry.Chosen());
+    LayOutRows();
+}
+
+void DrawerPage::ListCounts() {
+    if (!kept_) return lstCounts_Chosen();
+    counts_ = upkeep::KeptCounts(*kept_);
     ui.lstCounts->Clear();
     for (const upkeep::DrawerCount& count : counts_)
-        ui.lstCounts->Add({MomentText(count.counted), count.user, AmountText(count.found), AmountText(count.Expected()),
+        ui.lstCounts->Add({QString::number(count.number), values::DateText(count.day), values::TimeText(count.time),
+                           count.userName, AmountText(count.Expected()), AmountText(count.counted),
                            AmountText(count.Difference()), count.remark});
-    if (!counts_.empty()) ui.lstCounts->Select(0);
-    ui.cmdPrint->setEnabled(!counts_.empty());
+    if (!counts_.isEmpty()) ui.lstCounts->Select(0);
+    lstCounts_Chosen();
 }
 
-void DrawerPage::cmdStore_Click() {
-    const upkeep::DrawerCount count = Typed();
-    if (!forms::Ask(tr("Keep this count? It can't be changed afterwards."), Caption())) return;
-    upkeep::StoreCount(*manager_, count);
-    cmdClear_Click();
-    ShowCounts();
-}
-
-void DrawerPage::cmdClear_Click() {
-    for (QSpinBox* box : pieces_) box->setValue(0);
-    for (QLineEdit* box : {ui.txtPutIn, ui.txtTakenOut, ui.txtRemark}) box->clear();
-    pieces_.front()->setFocus();
+void DrawerPage::lstCounts_Chosen() {
+    const int row = ui.lstCounts->Selected();
+    const bool isChosen = row >= 0 && row < counts_.size();
+    ui.cmdPrint->setEnabled(isChosen);
+    ui.lblPieces->setText(isChosen ? PiecesText(counts_[row]) : QString());
 }
 
 void DrawerPage::cmdPrint_Click() {
-    const int chosen = ui.lstCounts->Selected();
-    if (chosen < 0) return;
-    const upkeep::DrawerCount& count = counts_[static_cast<size_t>(chosen)];
-    const QStringList lines{
-        TheSettings.NazivFirme,
-        tr("Count of the drawer, %1, by %2").arg(MomentText(count.counted), count.user),
-        count.period,
-        count.pieces,
-        tr("Put in %1, taken out %2").arg(AmountText(count.putIn), AmountText(count.takenOut)),
-        tr("Found %1, expected %2, difference %3")
-            .arg(AmountText(count.found), AmountText(count.Expected()), AmountText(count.Difference())),
-        count.remark};
+    const int row = ui.lstCounts->Selected();
+    if (row < 0) return;
+    output::PagePrinter& printer = output::ThePagePrinter();
     try {
-        for (const QString& line : lines) output::ThePagePrinter().PrintLine(line);
-        output::ThePagePrinter().EndJob();
+        for (const QString& line : DrawerLines(counts_[row])) printer.PrintLine(line);
+        printer.EndJob();
     } catch (const output::OutputError& error) {
-        output::ThePagePrinter().Abandon();
-        forms::Inform(error.Description(), Caption());
+        printer.Abandon();
+        return forms::Tell(error.Description(), forms::Icon::Warning, Caption());
     }
+    forms::Inform(tr("Count %1 is printed.").arg(counts_[row].number), Caption());
 }
 
 }  // namespace manager

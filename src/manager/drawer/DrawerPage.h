@@ -1,14 +1,18 @@
 #pragma once
 
+#include <vector>
+
 #include "manager/Page.h"
 #include "ui_DrawerPage.h"
-#include "upkeep/DrawerCount.h"
+#include "upkeep/Drawer.h"
+#include "upkeep/ManagerStore.h"
 
-class QSpinBox;
+class QLabel;
 
 namespace manager {
 
-// The money in the drawer, counted by notes and coins and compared with what should be there.
+// The drawer is counted, note by note and coin by coin, beside what should be in it. A count that is kept stays as it
+// is.
 class DrawerPage : public Page {
     Q_OBJECT
 
@@ -22,21 +26,38 @@ protected:
     void Form_Activate() override;
 
 private:
-    void Count_Changed();
-    void cmdStore_Click();
-    void cmdClear_Click();
+    // One note or coin on the page.
+    struct Row {
+        values::Money worth;
+        QLabel* name;
+        QLineEdit* pieces;
+        QLabel* sum;
+    };
+
+    void cmdKeep_Click();
+    void cmdEmpty_Click();
+    void cmdPieces_Click();
     void cmdPrint_Click();
+    void Figures_Change();
+    void lstCounts_Chosen();
 
-    void BuildPieces();
-    void FillPeriods();
-    void ShowCounts();
-    upkeep::DrawerCount Typed() const;
+    void OpenKept();
+    store::Database& Kept();
+    void LayOutRows();
+    Row MakeRow(int number);
+    void ReadSold();
+    void OfferFiscalCash();
+    upkeep::Denominations Pieces() const;
+    upkeep::DrawerCount Count() const;
+    QLineEdit* FirstFault() const;
+    void ListCounts();
 
-    std::unique_ptr<store::Database> manager_;
-    std::vector<values::Money> denominations_;
-    std::vector<QSpinBox*> pieces_;  // of each
-    std::vector<upkeep::DrawerPeriod> periods_;
-    std::vector<upkeep::DrawerCount> counts_;
+    std::unique_ptr<store::Database> kept_;  // once there is a manager.pos
+    std::vector<Row> rows_;
+    std::vector<Row> spare_;  // of a currency with more of them
+    QLabel* none_ = nullptr;
+    upkeep::CashSold sold_;
+    QList<upkeep::DrawerCount> counts_;
 };
 
 }  // namespace manager

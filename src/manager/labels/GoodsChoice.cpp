@@ -5,6 +5,7 @@
 #include <QVariant>
 #include <algorithm>
 
+#include "core/Settings.h"
 #include "forms/RowSource.h"
 #include "values/Format.h"
 
@@ -61,7 +62,10 @@ int GoodsChoice::SetGoods(upkeep::ShelfGoods goods) {
         for (const upkeep::ShelfGood& good : goods_->goods) byCode.insert(good.code.toCaseFolded(), &good);
     const auto gone =
         std::erase_if(chosen_, [&](const Chosen& each) { return !byCode.contains(each.good.code.toCaseFolded()); });
-    for (Chosen& each : chosen_) each.good = *byCode.value(each.good.code.toCaseFolded());
+    for (Chosen& each : chosen_) {
+        each.good = *byCode.value(each.good.code.toCaseFolded());
+        each.label = FactsOf(each.good, TheSettings.Currency);
+    }
     FillFilters();
     Find();
     ShowChosen(ui.lstChosen->Selected());
@@ -88,7 +92,7 @@ void GoodsChoice::Find() {
     for (size_t i = 0; i < goods_->goods.size(); ++i)
         if (filter.Takes(goods_->goods[i])) found_.push_back(i);
     ui.lstGoods->ShowRows(std::make_unique<FoundGoods>(goods_, found_));
-    ui.lblFound->setText(tr("%n product(s)", nullptr, static_cast<int>(found_.size())));
+    ui.lblFound->setText(tr("Found: %n", nullptr, static_cast<int>(found_.size())));
     ui.cmdAdd->setEnabled(!found_.empty());
     ui.cmdAddAll->setEnabled(!found_.empty());
 }
@@ -99,7 +103,7 @@ void GoodsChoice::Take(const upkeep::ShelfGood& good) {
             each.copies = std::min(each.copies + 1, ui.spnCopies->maximum());
             return;
         }
-    chosen_.push_back({good});
+    chosen_.push_back({good, FactsOf(good, TheSettings.Currency)});
 }
 
 void GoodsChoice::Add() {
@@ -117,7 +121,7 @@ void GoodsChoice::AddAll() {
     for (size_t i = 0; i < chosen_.size(); ++i) places.insert(chosen_[i].good.code, i);
     for (const size_t i : found_) {
         const upkeep::ShelfGood& good = goods_->goods[i];
-        if (!places.contains(good.code)) chosen_.push_back({good});
+        if (!places.contains(good.code)) chosen_.push_back({good, FactsOf(good, TheSettings.Currency)});
     }
     ShowChosen(0);
 }

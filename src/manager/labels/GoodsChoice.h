@@ -4,8 +4,8 @@
 #include <memory>
 #include <vector>
 
+#include "manager/labels/LabelPainter.h"
 #include "ui_GoodsChoice.h"
-#include "upkeep/labels/ShelfGoods.h"
 
 namespace manager {
 
@@ -22,6 +22,7 @@ public:
 
     struct Chosen {
         upkeep::ShelfGood good;
+        LabelFacts label;
         int copies = 1;
     };
     const std::vector<Chosen>& All() const { return chosen_; }

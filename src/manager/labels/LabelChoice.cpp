@@ -2,6 +2,7 @@
 
 #include <QScopedValueRollback>
 
+#include "forms/Scrollable.h"
 #include "values/Error.h"
 #include "values/IniEdit.h"
 #include "values/IniFile.h"
@@ -35,6 +36,7 @@ void ShowTurning(const PagePreview& preview, QLabel& told, QPushButton& before, 
 
 LabelChoice::LabelChoice(QWidget* parent) : QWidget(parent) {
     ui.setupUi(this);
+    forms::MakeScrollable(ui.pnlChoices);
     const auto& sheets = upkeep::CommonSheets();
     for (size_t i = 0; i < sheets.size(); ++i) {
         const QString width = Millimetres(sheets[i].label.width()), height = Millimetres(sheets[i].label.height());
@@ -133,17 +135,19 @@ void LabelChoice::TakePlace(QPointF place) {
 void LabelChoice::Recall(const QString& iniFile) {
     try {
         const auto ini = values::IniFile::Read(iniFile);
-        const auto number = [&](const QString& key) { return ini.Entry(Section, key).value_or(QString()).toDouble(); };
         for (QComboBox* box : {ui.cboSheet, ui.cboDots}) {
             const auto entry = ini.Entry(Section, box->objectName().mid(3).toLower());
             if (const int at = entry ? box->findData(entry->toInt()) : -1; at >= 0) box->setCurrentIndex(at);
         }
-        for (QDoubleSpinBox* box : findChildren<QDoubleSpinBox*>())
-            if (const QString key = box->objectName().mid(3).toLower(); ini.Entry(Section, key))
-                box->setValue(number(key));
-        for (QSpinBox* box : {ui.spnAcross, ui.spnDown})
-            if (const QString key = box->objectName().mid(3).toLower(); ini.Entry(Section, key))
-                box->setValue(static_cast<int>(number(key)));
+        const auto take = [&](auto* box) {
+            bool isNumber = false;
+            const double number =
+                ini.Entry(Section, box->objectName().mid(3).toLower()).value_or(QString()).toDouble(&isNumber);
+            if (isNumber && number >= box->minimum() && number <= box->maximum())
+                box->setValue(static_cast<decltype(box->value())>(number));
+        };
+        for (QDoubleSpinBox* box : findChildren<QDoubleSpinBox*>()) take(box);
+        for (QSpinBox* box : {ui.spnAcross, ui.spnDown}) take(box);
     } catch (const values::Error&) {
         return;
     }

@@ -20,6 +20,10 @@ int LabelPages::WithoutBars() const {
         labels_, [&](const LabelFacts& facts) { return !facts.code.isEmpty() && !HasBars(dots_, place, facts); }));
 }
 
+int LabelPages::WithoutUnitPrice() const {
+    return static_cast<int>(std::ranges::count(labels_, true, &LabelFacts::isUnitPriceUnknown));
+}
+
 void LabelPages::Paint(QPainter& painter, int page) const {
     for (int place = 0; place < sheet_.Count(); ++place) {
         const int label = page * sheet_.Count() + place - firstPlace_;

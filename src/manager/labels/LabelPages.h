@@ -26,6 +26,8 @@ public:
     int Labels() const { return static_cast<int>(labels_.size()); }
     // How many of them have a code and no bars.
     int WithoutBars() const;
+    // How many have a price and none of a kilogram or litre.
+    int WithoutUnitPrice() const;
     // The outlines of all labels, for a preview: where they lie and whether they are used.
     void ShowPlaces() { showsPlaces_ = true; }
 

@@ -1,6 +1,7 @@
 #include "manager/labels/LabelPainter.h"
 
 #include <QCoreApplication>
+#include <QFontMetricsF>
 #include <algorithm>
 
 #include "manager/labels/Dots.h"
@@ -19,7 +20,7 @@ namespace {
 // Millimetres.
 constexpr double NarrowestEan = 0.245, NarrowestCode = 0.165, BestModule = 0.40;
 constexpr double SmallestName = 1.9, LargestName = 6, SmallestPrice = 2.5, LargestPrice = 18;
-constexpr double SmallType = 2.4, SmallestType = 1.7, CodeType = 2.5;
+constexpr double SmallType = 2.4, LargestSmallType = 4.5, SmallestType = 1.7, CodeType = 2.5;
 constexpr double LowestBars = 5, HighestBars = 14;
 // Shares of a label's height.
 constexpr double NameShare = 0.30, BarsShare = 0.27;
@@ -47,22 +48,33 @@ Shares Divide(const Dots& dots, const QRect& place, bool hasBars) {
     return shares;
 }
 
+// In the middle of the place, with room for the tail of a comma.
+void PaintFigure(QPainter& painter, const QRect& place, const FittedText& figure) {
+    const QRectF digits = QFontMetricsF(figure.font).tightBoundingRect(u"0,"_s);
+    painter.setFont(figure.font);
+    painter.drawText(QPointF(place.left(), place.top() + (place.height() - digits.height()) / 2 - digits.top()),
+                     figure.lines[0]);
+}
+
 // The figure large at the right, currency and unit small beside its end; what a kilogram costs at the left.
 void PaintPrice(QPainter& painter, const Dots& dots, const QRect& place, const LabelFacts& facts) {
-    constexpr double figureShare = 0.62, capHeight = 0.80;
+    constexpr double shareOfHeight = 0.92, heightOfDigits = 0.88, shareBesideUnitPrice = 0.62;
     const int gap = dots.Of(0.8);
-    const int small = std::min(dots.Of(SmallType), place.height() / 3);
+    // Beside a large figure the small type grows with it.
+    const int small =
+        std::clamp(place.height() / 5, std::min(dots.Of(SmallType), place.height() / 3), dots.Of(LargestSmallType));
     const int smallest = std::min(small, dots.Of(SmallestType));
     const FittedText unit = FitLine(facts.unit, place.width() / 4, smallest, small, false);
     const FittedText currency = FitLine(facts.currency, place.width() / 4, small, small * 3 / 2, true);
     const int beside = std::max(TextWidth(unit.font, unit.lines[0]), TextWidth(currency.font, currency.lines[0]));
-    const int largest = std::min(dots.Of(LargestPrice), qRound(place.height() / capHeight));
-    const FittedText figure = FitLine(facts.price, qRound(place.width() * figureShare) - beside,
-                                      std::min(dots.Of(SmallestPrice), largest), largest, true);
+    const int room = facts.unitPrice.isEmpty() ? place.width() : qRound(place.width() * shareBesideUnitPrice);
+    const int largest = std::min(dots.Of(LargestPrice), qRound(place.height() * shareOfHeight / heightOfDigits));
+    const FittedText figure =
+        FitLine(facts.price, room - beside - gap, std::min(dots.Of(SmallestPrice), largest), largest, true);
     const QRect right(place.left() + place.width() - beside, place.top(), beside, place.height());
     const int figureWidth = TextWidth(figure.font, figure.lines[0]);
     const QRect figurePlace(right.left() - gap - figureWidth, place.top(), figureWidth, place.height());
-    DrawLines(painter, figurePlace, Qt::AlignRight | Qt::AlignVCenter, figure);
+    PaintFigure(painter, figurePlace, figure);
     const int block = LineHeight(currency.font) + LineHeight(unit.font);
     const QRect words(right.left(), place.top() + (place.height() - block) / 2, beside, block);
     DrawLines(painter, words, Qt::AlignLeft | Qt::AlignTop, currency);
@@ -107,6 +119,7 @@ LabelFacts FactsOf(const upkeep::ShelfGood& good, const QString& currency) {
         .unit =
             each.isEmpty() || !good.price ? QString() : Words(QT_TRANSLATE_NOOP("manager::Label", "per %1")).arg(each),
         .unitPrice = UnitPriceText(good, currency),
+        .isUnitPriceUnknown = good.price && !upkeep::UnitPriceOf(good.name, good.unit, *good.price),
         .code = good.code,
         .barcode = barcode,
         .modules = modules.black.empty() ? 0 : modules.Width(),

@@ -12,10 +12,11 @@ class Dots;
 // What stands on a label, in the user's words and figures.
 struct LabelFacts {
     QString name;
-    QString price;      // "1.60"
-    QString currency;   // "KM"
-    QString unit;       // "per pcs"
-    QString unitPrice;  // "1 l = 3.20 KM"; empty where it can't be told, or is the price
+    QString price;                    // "1.60"
+    QString currency;                 // "KM"
+    QString unit;                     // "per pcs"
+    QString unitPrice;                // "1 l = 3.20 KM"; empty where it can't be told, or is the price
+    bool isUnitPriceUnknown = false;  // there should be one, and the name doesn't tell how much is in it
     QString code;
     upkeep::Barcode barcode = upkeep::Barcode::None;
     int modules = 0;  // of the bars with their quiet zones; 0 where there are none

@@ -1,15 +1,15 @@
 #include "manager/labels/LabelsPage.h"
 
-#include <QDir>
 #include <QItemSelectionModel>
 #include <functional>
 
 #include "core/dbModule.h"
-#include "forms/FileDialog.h"
 #include "forms/MsgBox.h"
+#include "manager/SaveAs.h"
 #include "manager/labels/GoodsChoice.h"
 #include "manager/labels/LabelChoice.h"
 #include "manager/labels/PriceListChoice.h"
+#include "output/Channel.h"
 #include "output/Folder.h"
 
 using namespace Qt::StringLiterals;
@@ -78,7 +78,7 @@ void LabelsPage::Goods_Changed() {
     std::vector<LabelCopies> labels;
     std::vector<upkeep::ShelfGood> goods;
     for (const GoodsChoice::Chosen& each : goods_->All()) {
-        labels.push_back({FactsOf(each.good, TheSettings.Currency), each.copies});
+        labels.push_back({each.label, each.copies});
         goods.push_back(each.good);
     }
     labels_->SetLabels(std::move(labels));
@@ -89,20 +89,21 @@ void LabelsPage::TellWhatComes() {
     ui.cmdPrint->setText(IsPriceList() ? tr("&Print price list") : tr("&Print labels"));
     QStringList said;
     if (IsPriceList()) {
-        said << tr("%n page(s)", nullptr, list_->Pages()->Count());
+        said << tr("Pages: %n", nullptr, list_->Pages()->Count());
     } else if (const QString fault = labels_->Fault(); !fault.isEmpty()) {
         said << fault;
     } else {
         const auto pages = labels_->Pages();
-        said << tr("%n label(s)", nullptr, pages->Labels());
-        said << tr("%n page(s)", nullptr, pages->Count());
+        said << tr("Labels: %n", nullptr, pages->Labels());
+        said << tr("Pages: %n", nullptr, pages->Count());
         if (const int bare = pages->WithoutBars(); bare > 0)
-            said << tr(
-                "%n label(s) without bars: the label is too narrow for the code, or it holds letters that bars "
-                "can't carry",
-                nullptr, bare);
+            said << tr("Labels without bars: %n. They are too narrow for the code, or bars can't carry its letters.",
+                       nullptr, bare);
+        if (const int unknown = pages->WithoutUnitPrice(); unknown > 0)
+            said << tr("Without the price of a kilogram or litre: %n. The name doesn't tell how much is in it.",
+                       nullptr, unknown);
     }
-    if (gone_ > 0) said << tr("%n chosen product(s) are no longer there", nullptr, gone_);
+    if (gone_ > 0) said << tr("Chosen goods that are no longer there: %n", nullptr, gone_);
     ui.lblSaid->setText(said.join(u"   –   "_s));
 }
 
@@ -122,16 +123,20 @@ std::shared_ptr<const PrintedPages> LabelsPage::PagesToPrint() {
     return nullptr;
 }
 
+// A printer that fails, or a stick that is full, is no reason to end.
 void LabelsPage::Print(const QString& pdfPath) {
     const auto pages = PagesToPrint();
     if (!pages) return;
-    const QString path = PrintPages(*pages, pdfPath);
+    QString path;
+    try {
+        path = PrintPages(*pages, pdfPath);
+    } catch (const output::OutputError& error) {
+        return forms::Inform(error.Description(), window()->windowTitle());
+    }
     labels_->Remember(output::InProgramFolder(ChoicesFile));
     gone_ = 0;
-    ui.lblSaid->setText(
-        path.isEmpty()
-            ? tr("%n page(s) are printed.", nullptr, pages->Count())
-            : tr("%n page(s) are saved as %1.", nullptr, pages->Count()).arg(QDir::toNativeSeparators(path)));
+    ui.lblSaid->setText(path.isEmpty() ? tr("Printed. Pages: %n.", nullptr, pages->Count())
+                                       : tr("Saved as %1. Pages: %n.", nullptr, pages->Count()).arg(path));
 }
 
 void LabelsPage::cmdPrint_Click() {
@@ -140,11 +145,8 @@ void LabelsPage::cmdPrint_Click() {
 
 void LabelsPage::cmdPdf_Click() {
     if (!PagesToPrint()) return;
-    QString path = forms::AskSaveName(this, tr("Save as PDF"), tr("PDF (*.pdf)"));
-    if (path.isEmpty()) return;
-    if (!path.endsWith(u".pdf"_s, Qt::CaseInsensitive)) path += u".pdf"_s;
-    if (QFileInfo::exists(path) && !forms::Ask(tr("Replace %1?").arg(path), window()->windowTitle())) return;
-    Print(path);
+    const QString path = AskSaveAs(this, tr("Save as PDF"), tr("PDF (*.pdf)"), {u".pdf"_s});
+    if (!path.isEmpty()) Print(path);
 }
 
 }  // namespace manager

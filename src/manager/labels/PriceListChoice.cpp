@@ -10,11 +10,11 @@ namespace manager {
 PriceListChoice::PriceListChoice(QWidget* parent) : QWidget(parent) {
     ui.setupUi(this);
     const auto turn = [this](int pages) {
-        ui.preview->Turn(pages);
-        ShowTurning(*ui.preview, *ui.lblPages, *ui.cmdBefore, *ui.cmdNext);
+        ui.listPreview->Turn(pages);
+        ShowTurning(*ui.listPreview, *ui.lblListPages, *ui.cmdListBefore, *ui.cmdListNext);
     };
-    connect(ui.cmdBefore, &QPushButton::clicked, this, [turn] { turn(-1); });
-    connect(ui.cmdNext, &QPushButton::clicked, this, [turn] { turn(1); });
+    connect(ui.cmdListBefore, &QPushButton::clicked, this, [turn] { turn(-1); });
+    connect(ui.cmdListNext, &QPushButton::clicked, this, [turn] { turn(1); });
     connect(ui.optAll, &QRadioButton::toggled, this, &PriceListChoice::ShowPages);
     ShowPages();
 }
@@ -32,8 +32,8 @@ void PriceListChoice::ShowPages() {
                               .currency = TheSettings.Currency,
                               .day = values::Format(values::Now().date(), u"dd.mm.yyyy"),
                               .groups = GroupsOf(ui.optAll->isChecked() ? all_.goods : chosen_, all_.groups)});
-    ui.preview->Show(pages_);
-    ShowTurning(*ui.preview, *ui.lblPages, *ui.cmdBefore, *ui.cmdNext);
+    ui.listPreview->Show(pages_);
+    ShowTurning(*ui.listPreview, *ui.lblListPages, *ui.cmdListBefore, *ui.cmdListNext);
     Q_EMIT Changed();
 }
 

@@ -1,331 +1,360 @@
 #include "manager/overview/OverviewPage.h"
 
-#include <QDir>
-#include <QPageLayout>
-#include <QPrinter>
-#include <QPrinterInfo>
-#include <QSignalBlocker>
-#include <QTextDocument>
-#include <algorithm>
+#include <QButtonGroup>
 
 #include "core/Installation.h"
 #include "core/Settings.h"
 #include "core/dbModule.h"
-#include "forms/FileDialog.h"
+#include "forms/LongWork.h"
 #include "forms/MsgBox.h"
-#include "manager/Beside.h"
+#include "forms/Scrollable.h"
+#include "manager/SaveAs.h"
 #include "manager/Texts.h"
-#include "output/Folder.h"
-#include "store/StorePath.h"
-#include "upkeep/goods/GoodsExport.h"
+#include "manager/overview/InvoicesView.h"
+#include "manager/overview/OverviewPaper.h"
+#include "output/Channel.h"
+#include "upkeep/InvoiceList.h"
 #include "values/Clock.h"
+#include "values/Csv.h"
 #include "values/DateText.h"
 #include "values/FileError.h"
-#include "values/Format.h"
+#include "values/Locale.h"
 
 using namespace Qt::StringLiterals;
-using upkeep::NamedSold;
+using namespace std::chrono_literals;
+using upkeep::Days;
 using values::Money;
 
 namespace manager {
 
 namespace {
 
-constexpr size_t ShownGoods = 10;
-constexpr int SoonDays = 14;
+constexpr auto AtOnce = 250ms;
+constexpr qint64 Fresh = 30'000;  // milliseconds for which figures stand when the page comes to the front again
+constexpr qint64 DaysOfWeek = 7;
 
-const auto StockQuery = u"SELECT ProdCode, ProdDescription FROM Products WHERE Qty > 0"_s;
-
-QString WeekdayName(int weekday) {
-    static const char* const names[] = {
-        QT_TRANSLATE_NOOP("manager::OverviewPage", "Mon"), QT_TRANSLATE_NOOP("manager::OverviewPage", "Tue"),
-        QT_TRANSLATE_NOOP("manager::OverviewPage", "Wed"), QT_TRANSLATE_NOOP("manager::OverviewPage", "Thu"),
-        QT_TRANSLATE_NOOP("manager::OverviewPage", "Fri"), QT_TRANSLATE_NOOP("manager::OverviewPage", "Sat"),
-        QT_TRANSLATE_NOOP("manager::OverviewPage", "Sun")};
-    return OverviewPage::tr(names[weekday - 1]);
-}
-
-double Height(Money amount) {
-    return std::max(0.0, static_cast<double>(amount.Units()));
-}
-
-QString Told(const upkeep::Sold& sold) {
-    return OverviewPage::tr("%1 in %n invoice(s)", nullptr, sold.invoices).arg(AmountText(sold.takings));
-}
-
-// "12 % more" than before.
-QString Against(Money now, Money before) {
-    if (before <= Money()) return {};
-    const double percent =
-        100.0 * static_cast<double>(now.Units() - before.Units()) / static_cast<double>(before.Units());
-    const QString size = QString::number(qRound(std::abs(percent)));
-    return percent < 0 ? OverviewPage::tr("%1 % less").arg(size) : OverviewPage::tr("%1 % more").arg(size);
-}
-
-std::vector<Chart::Figure> FiguresOf(const std::vector<NamedSold>& sold, size_t most = SIZE_MAX) {
-    std::vector<Chart::Figure> figures;
-    for (size_t i = 0; i < std::min(most, sold.size()); ++i)
-        figures.push_back(
-            {.name = sold[i].name, .value = Height(sold[i].takings), .told = AmountText(sold[i].takings)});
-    return figures;
-}
-
-// Those in stock that sold least, nothing first.
-std::vector<NamedSold> WorstOf(const upkeep::Overview& overview) {
-    QHash<QString, Money> takings;
-    for (const NamedSold& product : overview.goods) takings.insert(product.key, product.takings);
-    std::vector<NamedSold> worst;
-    auto products = MainStore().OpenSnapshot(StockQuery);
-    for (auto& product : products)
-        worst.push_back({.key = product[0].TextOrEmpty(),
-                         .name = product[1].TextOrEmpty(),
-                         .takings = takings.value(product[0].TextOrEmpty())});
-    std::ranges::stable_sort(worst, {}, &NamedSold::takings);
-    if (worst.size() > ShownGoods) worst.resize(ShownGoods);
-    return worst;
+void ShowText(QLabel* label, const QString& text) {
+    label->setText(text);
+    label->setVisible(!text.isEmpty());
 }
 
 }  // namespace
 
 OverviewPage::OverviewPage(QWidget* parent) : Page(parent) {
     ui.setupUi(this);
-    const QString nothing = tr("Nothing was sold on these days.");
-    ui.chtDays->SetKind(Chart::Kind::Columns);
-    ui.chtHours->SetKind(Chart::Kind::Heat, 24);
-    for (Chart* chart : findChildren<Chart*>()) {
-        chart->SetEmptyText(nothing);
-        connect(chart, &Chart::Chosen, this, [this, chart](int figure) { Run([&] { ShowBehind(chart, figure); }); });
+    PrepareCharts();
+    forms::MakeScrollable(ui.panelFigures);
+    auto* ranges = new QButtonGroup(this);
+    for (QPushButton* range : {ui.cmdToday, ui.cmdWeek, ui.cmdMonth, ui.cmdYear, ui.cmdAll, ui.cmdOwn}) {
+        ranges->addButton(range);
+        On(range, &OverviewPage::Range_Click);
     }
-    ui.chtWorst->SetEmptyText(tr("No goods in stock were sold on these days."));
-    ui.chtRunning->SetEmptyText(
-        tr("At the pace of the last four weeks nothing runs out within %1 days.").arg(SoonDays));
-    ui.lstFigures->SetColumns(
-        {{tr("What"), Qt::AlignLeft, 200}, {tr("Which"), Qt::AlignLeft, -1}, {tr("Figure"), Qt::AlignRight, 260}});
-    for (const auto& [name, days] :
-         {std::pair{tr("Today"), 1}, std::pair{tr("The last 7 days"), 7}, std::pair{tr("This month"), 0},
-          std::pair{tr("The last 12 months"), 365}, std::pair{tr("All"), -1}, std::pair{tr("Own days"), -2}})
-        ui.cboRange->addItem(name, days);
-    ui.cboRange->setCurrentIndex(2);
-    OnChange(ui.cboRange, &OverviewPage::cboRange_Choice);
-    On(ui.cmdLook, &OverviewPage::cmdLook_Click);
+    On(ui.cmdShow, &OverviewPage::cmdShow_Click);
     On(ui.cmdTable, &OverviewPage::cmdTable_Click);
     On(ui.cmdPrint, &OverviewPage::cmdPrint_Click);
-    On(ui.cmdSave, &OverviewPage::cmdSave_Click);
+    On(ui.cmdPdf, &OverviewPage::cmdPdf_Click);
+    On(ui.cmdCsv, &OverviewPage::cmdCsv_Click);
+    On(ui.cmdStop, &OverviewPage::cmdStop_Click);
+    On(ui.optTakings, &OverviewPage::optBy_Click);
+    On(ui.optPieces, &OverviewPage::optBy_Click);
+    FunctionKeys({{Qt::Key_Escape, ui.cmdStop}});
+    EnterMovesOn({ui.dtpFirst, ui.dtpLast});
+    connect(&run_, &OverviewRun::Told, this,
+            [this](const upkeep::Overview& overview) { Run([&] { Show(overview); }); });
+    connect(&run_, &OverviewRun::Ended, this, [this](const QString& fault) { ShowState(fault); });
+}
+
+void OverviewPage::PrepareCharts() {
+    takings_ = ui.panelTakings->Hold<ColumnChart>(u"Takings"_s);
+    byHour_ = ui.panelHours->Hold<HeatMap>(u"Hours"_s);
+    best_ = ui.panelBest->Hold<RankList>(u"Best"_s);
+    idle_ = ui.panelIdle->Hold<RankList>(u"Idle"_s);
+    runningOut_ = ui.panelRunningOut->Hold<RankList>(u"RunningOut"_s);
+    groups_ = ui.panelGroups->Hold<RankList>(u"Groups"_s);
+    cashiers_ = ui.panelCashiers->Hold<RankList>(u"Cashiers"_s);
+    taxes_ = ui.panelTaxes->Hold<RankList>(u"Taxes"_s);
+    for (ChartPanel* panel : Panels()) panel->Held().SetEmptyText(tr("Nothing was sold on these days."));
+    idle_->SetEmptyText(tr("No goods are in stock. Enter what you have on the page of the goods."));
+    runningOut_->SetEmptyText(tr("Nothing was sold in the last four weeks, so nothing runs out."));
+    connect(takings_, &Chart::Chosen, this, [this](int mark) { Run([&] { ChooseSpan(mark); }); });
+    connect(byHour_, &Chart::Chosen, this, [this](int mark) { Run([&] { ChooseHour(mark); }); });
+    connect(cashiers_, &Chart::Chosen, this, [this](int mark) { Run([&] { ChooseCashier(mark); }); });
+}
+
+QList<ChartPanel*> OverviewPage::Panels() const {
+    return {ui.panelTakings,    ui.panelHours,  ui.panelBest,     ui.panelIdle,
+            ui.panelRunningOut, ui.panelGroups, ui.panelCashiers, ui.panelTaxes};
 }
 
 void OverviewPage::Form_Load() {
-    cboRange_Choice();
-}
-
-void OverviewPage::cboRange_Choice() {
     const QDate today = values::Today();
-    const int days = ui.cboRange->currentData().toInt();
-    if (days == -2) return ui.dtpFrom->setFocus();
-    QDate from = days > 0 ? today.addDays(1 - days) : QDate(today.year(), today.month(), 1);
-    if (days == -1) {
-        auto first = MainStore().OpenSnapshot(u"SELECT Min(DateSold) AS D FROM Invoices"_s);
-        if (!first[0].IsNull()) from = first[0].Get().ToDate();
-    }
-    ui.dtpFrom->setDate(from);
-    ui.dtpTo->setDate(today);
-    cmdLook_Click();
+    ui.dtpFirst->setDate(upkeep::DaysBefore(upkeep::MonthOf(today)).first);
+    ui.dtpLast->setDate(today);
+    ui.cmdMonth->setChecked(true);
+    ui.panelDays->hide();
+    ui.panelState->hide();
 }
 
-// A thread reads by a connection of its own, so that the page stays where it is while ten years are summed up.
-void OverviewPage::cmdLook_Click() {
-    const QDate from = ui.dtpFrom->date(), to = ui.dtpTo->date(), today = values::Today();
-    if (from > to) return forms::Inform(tr("The first day lies behind the last."), Caption());
-    try {
-        upkeep::Overview overview;
-        RunBeside(this, tr("The sales are summed up."), [&](const Progress& progress) {
-            const auto main = store::Database::Open(store::MainPlace(output::ProgramFolder()), store::MainSchema());
-            overview = upkeep::ReadOverview(*main, from, to, [&](int done, int all) {
-                return progress(tr("%1 of %2 days are summed up.").arg(QString::number(done), QString::number(all)));
-            });
-        });
-        overview_ = std::move(overview);
-    } catch (const store::StoreError& error) {
-        if (error.Number() != store::Cancelled) throw;
-        return;
-    }
-    today_ = upkeep::ReadTodaysFigures(MainStore(), today);
-    running_ = upkeep::ReadRunningOut(MainStore(), today, SoonDays);
-    worst_ = WorstOf(overview_);
-    ShowAll();
+void OverviewPage::Form_Activate() {
+    if (run_.IsRunning() || (sinceRead_.isValid() && sinceRead_.elapsed() < Fresh)) return;
+    Read();
 }
 
-void OverviewPage::ShowAll() {
-    ShowTiles();
-    ShowDaysAndHours();
+// The thread must not outlive the program.
+bool OverviewPage::Form_Unload() {
+    run_.Stop();
+    return true;
+}
+
+Days OverviewPage::ChosenDays() const {
+    const QDate today = values::Today();
+    if (ui.cmdToday->isChecked()) return {today, today};
+    if (ui.cmdWeek->isChecked()) return {today.addDays(1 - DaysOfWeek), today};
+    if (ui.cmdMonth->isChecked()) return upkeep::MonthOf(today);
+    if (ui.cmdYear->isChecked()) return {{today.year(), 1, 1}, {today.year(), 12, 31}};
+    if (ui.cmdOwn->isChecked()) return {ui.dtpFirst->date(), ui.dtpLast->date()};
+    return {};
+}
+
+void OverviewPage::Range_Click() {
+    ui.panelDays->setVisible(ui.cmdOwn->isChecked());
+    if (ui.cmdOwn->isChecked()) ui.dtpFirst->setFocus();
+    Read();
+}
+
+void OverviewPage::cmdShow_Click() {
+    if (ui.dtpFirst->date() > ui.dtpLast->date()) {
+        forms::Inform(tr("The first day is after the last one."), Caption());
+        return ui.dtpFirst->setFocus();
+    }
+    Read();
+}
+
+void OverviewPage::Read() {
+    const Days days = ChosenDays();
+    if (!days.IsValid() && !ui.cmdAll->isChecked()) return;
+    run_.Begin({values::Today(), days, tr("Not on the touch table")});
+    run_.WaitFor(AtOnce);
+    if (!run_.IsRunning()) return;
+    ui.lblState->setText(tr("Reading ..."));
+    ui.prgRead->setRange(0, 0);
+    ui.prgRead->show();
+    ui.cmdStop->show();
+    ui.panelState->show();
+}
+
+void OverviewPage::Show(const upkeep::Overview& overview) {
+    shown_ = overview;
+    spans_ = SpansOf(shown_.days);
+    hours_ = HoursOf(shown_);
+    ShowBoxes();
+    takings_->Show(TakingsContent(shown_, spans_));
+    byHour_->Show(HoursContent(shown_, hours_));
+    runningOut_->Show(RunningOutContent(shown_.runningOut));
+    groups_->Show(NamedContent(tr("Group"), shown_.groups, false));
+    cashiers_->Show(NamedContent(tr("Cashier"), shown_.cashiers, true));
+    taxes_->Show(TaxesContent(shown_.taxes));
     ShowGoods();
-    ShowTable();
+    for (ChartPanel* panel : Panels()) panel->FiguresChanged();
+    ui.prgRead->setRange(0, static_cast<int>(shown_.days.Count()));
+    ui.prgRead->setValue(static_cast<int>(shown_.daysRead));
+    ui.lblState->setText(
+        tr("Reading back from %1 ...").arg(values::DateText(shown_.days.last.addDays(1 - shown_.daysRead))));
 }
 
-void OverviewPage::ShowTiles() {
-    const QString& currency = TheSettings.Currency;
-    const auto amount = [&](Money sum) { return AmountText(sum) + u' ' + currency; };
-    ui.lblToday->setText(amount(today_.today.takings));
-    const QString week = Against(today_.today.takings, today_.weekAgo.takings);
-    ui.lblTodayBefore->setText(tr("%1 a week ago, %2 in the mean of four weeks")
-                                   .arg(AmountText(today_.weekAgo.takings), AmountText(today_.meanOfFour)) +
-                               (week.isEmpty() ? QString() : u"; "_s + week));
-    ui.lblMonth->setText(amount(today_.month.takings));
-    const QString month = Against(today_.month.takings, today_.monthBefore.takings);
-    ui.lblMonthBefore->setText(tr("%1 on the same days of the last month").arg(AmountText(today_.monthBefore.takings)) +
-                               (month.isEmpty() ? QString() : u"; "_s + month));
-    ui.lblRange->setText(amount(overview_.sold.takings));
-    const int invoices = overview_.sold.invoices;
-    const Money mean = invoices == 0 ? Money() : Money::FromUnits(overview_.sold.takings.Units() / invoices);
-    ui.lblRangeBefore->setText(tr("%n invoice(s), %1 each", nullptr, invoices).arg(AmountText(mean)));
-}
+void OverviewPage::ShowBoxes() {
+    const auto& [today, weekBefore, mean, weekdays, month, monthBefore, toDate] = shown_.standing;
+    const QDate day = values::Today();
+    const QString weekday = values::UserLocale().standaloneDayName(day.dayOfWeek());
+    const auto compared = [](const QString& what, Money now, Money before) {
+        const QString change = ChangeText(now, before);
+        return change.isEmpty() ? tr("%1: %2").arg(what, AmountText(before))
+                                : tr("%1: %2  (%3)").arg(what, AmountText(before), change);
+    };
+    const Money takenToday = today.amounts.total;
+    ui.lblToday->setText(tr("Today, %1 %2").arg(weekday, values::DateText(day)));
+    ui.lblTodaySum->setText(AmountText(takenToday));
+    ui.lblTodayNote1->setText(compared(tr("A week ago"), takenToday, weekBefore.amounts.total));
+    ShowText(ui.lblTodayNote2,
+             weekdays < 2 ? QString() : compared(tr("Mean of the last %1").arg(weekdays), takenToday, mean));
 
-void OverviewPage::ShowDaysAndHours() {
-    std::vector<Chart::Figure> days;
-    for (size_t i = 0; i < overview_.days.size(); ++i) {
-        const auto& [day, sold] = overview_.days[i];
-        days.push_back({.name = values::Format(day, u"dd.mm."),
-                        .value = Height(sold.takings),
-                        .told = Told(sold),
-                        .before = i < 7 ? -1 : Height(overview_.days[i - 7].sold.takings)});
-    }
-    ui.chtDays->SetFigures(std::move(days));
-    QStringList rows, columns;
-    std::vector<Chart::Figure> hours;
-    for (int hour = 0; hour < 24; ++hour) columns << QString::number(hour);
-    for (int weekday = 1; weekday <= 7; ++weekday) {
-        rows << WeekdayName(weekday);
-        for (int hour = 0; hour < 24; ++hour) {
-            const upkeep::Sold& sold = overview_.hours[static_cast<size_t>(weekday - 1)][static_cast<size_t>(hour)];
-            hours.push_back({.name = tr("%1, %2 to %3 o'clock")
-                                         .arg(WeekdayName(weekday), QString::number(hour), QString::number(hour + 1)),
-                             .value = Height(sold.takings),
-                             .told = Told(sold)});
-        }
-    }
-    ui.chtHours->SetHeads(rows, columns);
-    ui.chtHours->SetFigures(std::move(hours));
+    const Days before = upkeep::DaysBefore(upkeep::MonthOf(day));
+    const QDate sameDay = std::min(before.first.addDays(day.day() - 1), before.last);
+    ui.lblMonth->setText(MonthText(day));
+    ui.lblMonthSum->setText(AmountText(month.amounts.total));
+    ui.lblMonthNote1->setText(
+        compared(tr("Until %1").arg(values::DateText(sameDay)), month.amounts.total, toDate.amounts.total));
+    ui.lblMonthNote2->setText(tr("%1: %2").arg(MonthText(before.first), AmountText(monthBefore.amounts.total)));
+
+    const upkeep::Takings& chosen = shown_.takings;
+    ui.lblDays->setText(tr("Chosen: %1").arg(DaysText(shown_.days)));
+    ui.lblDaysSum->setText(AmountText(chosen.amounts.total));
+    const Money meanInvoice =
+        chosen.invoices == 0 ? Money() : Money::FromUnits(chosen.amounts.total.Units() / chosen.invoices);
+    ui.lblDaysNote1->setText(chosen.invoices == 1
+                                 ? tr("1 invoice")
+                                 : tr("%1 invoices, %2 each").arg(chosen.invoices).arg(AmountText(meanInvoice)));
+    upkeep::Takings compare;
+    for (const auto& [date, takings] : shown_.before) compare += takings;
+    ShowText(ui.lblDaysNote2, shown_.before.empty() ? QString()
+                                                    : compared(DaysText(upkeep::DaysBefore(shown_.days)),
+                                                               chosen.amounts.total, compare.amounts.total));
 }
 
 void OverviewPage::ShowGoods() {
-    ui.chtBest->SetFigures(FiguresOf(overview_.goods, ShownGoods));
-    ui.chtWorst->SetFigures(FiguresOf(worst_));
-    ui.chtGroups->SetFigures(FiguresOf(overview_.groups, ShownGoods));
-    ui.chtCashiers->SetFigures(FiguresOf(overview_.cashiers, ShownGoods));
-    std::vector<Chart::Figure> taxes;
-    for (const NamedSold& tax : overview_.taxes)
-        taxes.push_back({.name = tax.name,
-                         .value = Height(tax.takings),
-                         .told = tr("%1, tax %2").arg(AmountText(tax.takings), AmountText(tax.tax))});
-    ui.chtTaxes->SetFigures(std::move(taxes));
-    std::vector<Chart::Figure> running;
-    for (const upkeep::RunningOut& product : running_)
-        if (running.size() < ShownGoods)
-            running.push_back(
-                {.name = product.name,
-                 .value = 1.0 + product.days,
-                 .told = tr("%n day(s), %1 left", nullptr, product.days).arg(values::Format(product.stock, u"0.##"))});
-    ui.chtRunning->SetFigures(std::move(running));
+    const upkeep::By by = ui.optPieces->isChecked() ? upkeep::By::Pieces : upkeep::By::Total;
+    best_->Show(GoodsContent(upkeep::Best(shown_.goods, by, shown_.goods.size()), by));
+    idle_->Show(GoodsContent(upkeep::Least(shown_.idle, by, shown_.idle.size()), by));
 }
 
-QList<QStringList> OverviewPage::TableOfFigures() const {
-    QList<QStringList> table{{tr("Today"), {}, AmountText(today_.today.takings)},
-                             {tr("A week ago"), {}, AmountText(today_.weekAgo.takings)},
-                             {tr("Mean of four weeks"), {}, AmountText(today_.meanOfFour)},
-                             {tr("This month"), {}, AmountText(today_.month.takings)},
-                             {tr("The same days of the last month"), {}, AmountText(today_.monthBefore.takings)},
-                             {tr("In the days chosen"), {}, Told(overview_.sold)}};
-    for (const auto& [day, sold] : overview_.days)
-        if (sold.invoices > 0) table << QStringList{tr("Day"), values::DateText(day), Told(sold)};
-    const std::pair<QString, const Chart*> charts[] = {{tr("Hour"), ui.chtHours},        {tr("Best goods"), ui.chtBest},
-                                                       {tr("Worst goods"), ui.chtWorst}, {tr("Group"), ui.chtGroups},
-                                                       {tr("Cashier"), ui.chtCashiers},  {tr("Tax"), ui.chtTaxes},
-                                                       {tr("Runs out"), ui.chtRunning}};
-    for (const auto& [what, chart] : charts)
-        for (int i = 0; i < chart->Count(); ++i)
-            if (chart->At(i).value > 0 || chart == ui.chtWorst)
-                table << QStringList{what, chart->At(i).name, chart->At(i).told};
-    return table;
+void OverviewPage::optBy_Click() {
+    ShowGoods();
+    ui.panelBest->FiguresChanged();
+    ui.panelIdle->FiguresChanged();
 }
 
-void OverviewPage::ShowTable() {
-    ui.lstFigures->Clear();
-    ui.lstFigures->BeginFill();
-    for (const QStringList& line : TableOfFigures()) ui.lstFigures->Add(line);
-    ui.lstFigures->EndFill();
+void OverviewPage::ShowState(const QString& fault) {
+    sinceRead_.start();
+    ui.prgRead->hide();
+    ui.cmdStop->hide();
+    ui.panelState->setVisible(!fault.isEmpty());
+    ui.lblState->setText(fault);
+}
+
+// Also the Esc key; what was read stays on the page.
+void OverviewPage::cmdStop_Click() {
+    if (!run_.IsRunning()) return;
+    run_.Stop();
+    const QDate back = shown_.days.last.addDays(1 - shown_.daysRead);
+    ShowState(shown_.daysRead > 0 ? tr("Read back to %1; what is older was left out.").arg(values::DateText(back))
+                                  : tr("The reading was left."));
 }
 
 void OverviewPage::cmdTable_Click() {
-    ui.stkFigures->setCurrentWidget(ui.cmdTable->isChecked() ? ui.pagTable : ui.pagCharts);
+    const bool asTables = ui.cmdTable->isChecked();
+    Arrange(asTables);
+    for (ChartPanel* panel : Panels()) panel->ShowAsTable(asTables);
 }
 
-void OverviewPage::ShowBehind(Chart* chart, int figure) {
-    InvoicesBehind behind{
-        .what = chart->At(figure).name + u": "_s + chart->At(figure).told, .from = overview_.from, .to = overview_.to};
-    const auto linesOf = [&](const auto& isMeant) {
-        behind.byNumber = true;
-        for (const upkeep::LineOfInvoice& line : upkeep::ReadLines(MainStore(), behind.from, behind.to))
-            if (isMeant(line)) behind.numbers << line.invoice;
+// Tables stand one below the other, since their columns need the whole width.
+void OverviewPage::Arrange(bool asTables) {
+    struct Place {
+        QWidget* panel;
+        int row, column, columns;
     };
-    const auto place = static_cast<size_t>(figure);
-    if (chart == ui.chtDays) behind.from = behind.to = overview_.days[place].day;
-    if (chart == ui.chtHours) {
-        behind.weekday = 1 + figure / 24;
-        behind.hour = figure % 24;
+    constexpr int all = 6;
+    const Place places[] = {{ui.panelTakings, 1, 0, 4},  {ui.panelHours, 1, 4, 2},      {ui.panelBest, 3, 0, 2},
+                            {ui.panelIdle, 3, 2, 2},     {ui.panelRunningOut, 3, 4, 2}, {ui.panelGroups, 4, 0, 2},
+                            {ui.panelCashiers, 4, 2, 2}, {ui.panelTaxes, 4, 4, 2}};
+    for (const Place& place : places) ui.layoutFigures->removeWidget(place.panel);
+    ui.layoutFigures->removeItem(ui.layoutGoods);
+    int row = 1;
+    for (const Place& place : places) {
+        if (place.panel == ui.panelBest) ui.layoutFigures->addLayout(ui.layoutGoods, asTables ? row++ : 2, 0, 1, all);
+        if (asTables)
+            ui.layoutFigures->addWidget(place.panel, row++, 0, 1, all);
+        else
+            ui.layoutFigures->addWidget(place.panel, place.row, place.column, 1, place.columns);
     }
-    if (chart == ui.chtCashiers) behind.cashier = overview_.cashiers[place].key;
-    if (chart == ui.chtTaxes) linesOf([&](const auto& line) { return line.tax == overview_.taxes[place].key; });
-    if (chart == ui.chtBest) linesOf([&](const auto& line) { return line.code == overview_.goods[place].key; });
-    if (chart == ui.chtWorst) linesOf([&](const auto& line) { return line.code == worst_[place].key; });
-    if (chart == ui.chtRunning) linesOf([&](const auto& line) { return line.code == running_[place].code; });
-    if (chart == ui.chtGroups) {
-        QSet<QString> codes;
-        const int tab = overview_.groups[place].key.toInt();
-        auto products = MainStore().OpenSnapshot(u"SELECT ProdCode, Tab FROM Products"_s);
-        for (auto& product : products) {
-            const qint64 at = product[1].IsNull() ? -1 : product[1].Whole();
-            if ((at < 0 ? -1 : static_cast<int>(at) / store::PlacesPerTab) == tab) codes << product[0].TextOrEmpty();
-        }
-        linesOf([&](const auto& line) { return codes.contains(line.code); });
-    }
-    InvoicesForm(behind).ShowModal();
 }
 
-QString OverviewPage::ReportAsHtml() const {
-    QString rows;
-    for (const QStringList& line : TableOfFigures())
-        rows += u"<tr><td>%1</td><td>%2</td><td align=\"right\">%3</td></tr>"_s.arg(
-            line[0].toHtmlEscaped(), line[1].toHtmlEscaped(), line[2].toHtmlEscaped());
-    return u"<h2>%1</h2><p>%2</p><table width=\"100%\" cellspacing=\"0\" cellpadding=\"2\">%3</table>"_s.arg(
-        TheInstallation.heading.NazivFirme.toHtmlEscaped(),
-        tr("%1 to %2").arg(values::DateText(overview_.from), values::DateText(overview_.to)).toHtmlEscaped(), rows);
+void OverviewPage::ChooseSpan(int mark) {
+    const bool isByHour = spans_.front().kind == Span::Kind::Hour;
+    const Span& span = spans_[static_cast<size_t>(isByHour ? hours_.first + mark : mark)];
+    upkeep::InvoicesWish wish{span.days, {}, {}, {}};
+    if (isByHour) wish.hour = span.hour;
+    ShowInvoices(NameOf(span), wish);
+}
+
+void OverviewPage::ChooseHour(int mark) {
+    ShowInvoices(byHour_->MarkText(mark),
+                 {shown_.days, hours_.first + byHour_->ColumnOf(mark), byHour_->RowOf(mark) + 1, {}});
+}
+
+void OverviewPage::ChooseCashier(int mark) {
+    const upkeep::NamedTakings& cashier = shown_.cashiers[static_cast<size_t>(mark)];
+    ShowInvoices(cashier.name, {shown_.days, {}, {}, cashier.id});
+}
+
+void OverviewPage::ShowInvoices(const QString& what, const upkeep::InvoicesWish& wish) {
+    std::vector<upkeep::ListedInvoice> invoices;
+    try {
+        forms::LongWork wait(this);
+        const store::Watch watch(MainStore(), [&wait] { return wait.GoesOn(); });
+        invoices = upkeep::ReadInvoices(MainStore(), wish);
+    } catch (const store::StoreError& error) {
+        if (error.Number() == store::Cancelled) return;
+        throw;
+    }
+    InvoicesView(what, std::move(invoices)).ShowModal();
+}
+
+OverviewPaper OverviewPage::Paper() const {
+    const auto notes = [](std::initializer_list<const QLabel*> labels) {
+        QStringList texts;
+        for (const QLabel* label : labels)
+            if (!label->isHidden()) texts << label->text();
+        return texts;
+    };
+    constexpr double wide = 230;
+    constexpr double ranks = 175;
+    OverviewPaper paper{
+        .title = TheInstallation.heading.NazivFirme,
+        .subtitle = tr("Overview of %1, printed on %2, amounts in %3")
+                        .arg(DaysText(shown_.days), values::DateText(values::Today()), TheSettings.Currency),
+        .boxes = {{ui.lblToday->text(), ui.lblTodaySum->text(), notes({ui.lblTodayNote1, ui.lblTodayNote2})},
+                  {ui.lblMonth->text(), ui.lblMonthSum->text(), notes({ui.lblMonthNote1, ui.lblMonthNote2})},
+                  {ui.lblDays->text(), ui.lblDaysSum->text(), notes({ui.lblDaysNote1, ui.lblDaysNote2})}},
+        .plates = {}};
+    for (const ChartPanel* panel : Panels()) {
+        const bool isWide = panel == ui.panelTakings || panel == ui.panelHours;
+        paper.plates.push_back({panel->Heading(), &panel->Held(), isWide ? wide : ranks, isWide ? 3 : 1});
+    }
+    return paper;
 }
 
 void OverviewPage::cmdPrint_Click() {
-    QPrinter printer(QPrinter::HighResolution);
-    if (QPrinterInfo::defaultPrinterName().isEmpty()) {
-        const QDir folder(output::InProgramFolder(u"printouts"_s));
-        folder.mkpath(u"."_s);
-        printer.setOutputFileName(folder.filePath(values::Now().toString(u"'overview-'yyyyMMdd-HHmmss'.pdf'"_s)));
+    try {
+        output::PageDevice pages(output::PageDevice::UsualPaper());
+        Paper().PaintOn(pages);
+        pages.End();
+    } catch (const output::OutputError& error) {
+        // Of a printer that fails the owner hears, and the program goes on.
+        return forms::Tell(error.Description(), forms::Icon::Warning, Caption());
     }
-    QTextDocument document;
-    document.setHtml(ReportAsHtml());
-    document.print(&printer);
+    forms::Inform(tr("The overview is printed."), Caption());
 }
 
-void OverviewPage::cmdSave_Click() {
-    const QString path = forms::AskSaveName(this, tr("Save the overview"), tr("PDF (*.pdf);;Table (*.csv)"));
+// The dialog has asked only for the name that was typed.
+void OverviewPage::cmdPdf_Click() {
+    const QString path = AskSaveAs(this, tr("Save the overview"), tr("Document (*.pdf)"), {u".pdf"_s});
     if (path.isEmpty()) return;
-    if (!path.endsWith(u".csv", Qt::CaseInsensitive)) {
-        QPrinter printer(QPrinter::HighResolution);
-        printer.setOutputFormat(QPrinter::PdfFormat);
-        printer.setOutputFileName(path.endsWith(u".pdf", Qt::CaseInsensitive) ? path : path + u".pdf"_s);
-        QTextDocument document;
-        document.setHtml(ReportAsHtml());
-        return document.print(&printer);
+    try {
+        output::PageDevice pages(path, QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
+                                                   QMarginsF(12, 12, 12, 12), QPageLayout::Millimeter));
+        Paper().PaintOn(pages);
+        pages.End();
+    } catch (const output::OutputError& error) {
+        return forms::Tell(error.Description(), forms::Icon::Warning, Caption());
     }
-    QByteArray lines = "\xEF\xBB\xBF";
-    for (const QStringList& line : TableOfFigures()) lines += upkeep::CsvLine(line);
-    values::SaveFile(path, lines);
+    forms::Inform(tr("Saved as %1.").arg(path), Caption());
+}
+
+void OverviewPage::cmdCsv_Click() {
+    const QString path = AskSaveAs(this, tr("Save the figures"), tr("Table (*.csv)"), {u".csv"_s});
+    if (path.isEmpty()) return;
+    QList<QList<values::Value>> rows{{tr("Overview"), DaysText(shown_.days)},
+                                     {tr("Taken"), shown_.takings.amounts.total},
+                                     {tr("Tax in it"), shown_.takings.amounts.tax},
+                                     {tr("Invoices"), shown_.takings.invoices}};
+    for (const ChartPanel* panel : Panels()) {
+        const ChartTable table = panel->Held().Table();
+        rows << QList<values::Value>() << QList<values::Value>{panel->Heading()};
+        rows << QList<values::Value>(table.headings.begin(), table.headings.end());
+        for (const auto& row : table.rows) rows << QList<values::Value>(row.begin(), row.end());
+    }
+    values::SaveFile(path, values::CsvText(rows));
+    forms::Inform(tr("Saved as %1.").arg(path), Caption());
 }
 
 }  // namespace manager

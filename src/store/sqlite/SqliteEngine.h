@@ -57,7 +57,9 @@ public:
     void TakeAlone() override;
     QString PrepareToRetire() override;
     void Retire() override;
+    void RetireFor(const Place& successor) override;
 
+    QString Version() override;
     QStringList CheckIntegrity() override;
     QStringList MissingIndexes(const Schema& schema) override;
     void BackupTo(const QString& path) override;
