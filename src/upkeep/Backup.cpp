@@ -7,12 +7,12 @@
 #include "upkeep/BackupPlace.h"
 #include "upkeep/BackupPruning.h"
 #include "upkeep/BackupState.h"
-#include "upkeep/FileLock.h"
 #include "upkeep/ManagerStore.h"
 #include "upkeep/Restore.h"
 #include "upkeep/Words.h"
 #include "values/Clock.h"
 #include "values/FileError.h"
+#include "values/FileLock.h"
 
 using namespace Qt::StringLiterals;
 
@@ -246,7 +246,7 @@ private:
 BackupFacts MakeBackup(const QString& registerFolder, const BackupPlan& plan, const Progress& progress) {
     if (plan.folder.isEmpty())
         throw values::FileError(values::PathNotFound, Words::tr("No folder for backups has been chosen yet."));
-    const FileLock making(BackupLock(registerFolder));
+    const values::FileLock making(BackupLock(registerFolder));
     if (!making.IsHeld())
         throw store::StoreError(store::StoreLocked, Words::tr("A backup of this register is being made just now."));
     const QDateTime begin = values::Now();

@@ -3,10 +3,10 @@
 #include <QCryptographicHash>
 #include <QDir>
 
-#include "upkeep/FileLock.h"
 #include "upkeep/Words.h"
 #include "values/DateText.h"
 #include "values/FileError.h"
+#include "values/FileLock.h"
 #include "values/IniFile.h"
 
 using namespace Qt::StringLiterals;
@@ -42,8 +42,8 @@ QString KeyOf(const QString& place) {
 // Several programs note here; what one reads and writes is one step.
 void Change(const QString& registerFolder, const std::function<void(values::IniEdit&)>& change) {
     try {
-        const FileLock turn(QDir(registerFolder).filePath(u".backup-state.lock"_s), FileLock::On::File,
-                            FileLock::When::Waiting);
+        const values::FileLock turn(QDir(registerFolder).filePath(u".backup-state.lock"_s), values::FileLock::On::File,
+                                    values::FileLock::When::Waiting);
         values::IniEdit state(StateFile(registerFolder));
         change(state);
         state.Save();

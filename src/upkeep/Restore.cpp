@@ -8,11 +8,11 @@
 #include "store/StorePath.h"
 #include "upkeep/BackupPlace.h"
 #include "upkeep/BackupPlan.h"
-#include "upkeep/FileLock.h"
 #include "upkeep/RestoreSteps.h"
 #include "upkeep/Words.h"
 #include "values/Clock.h"
 #include "values/FileError.h"
+#include "values/FileLock.h"
 #include "values/IniEdit.h"
 
 using namespace Qt::StringLiterals;
@@ -226,10 +226,10 @@ RestorePreview PreviewRestore(const QString& registerFolder, const BackupFacts& 
 Restored RestoreBackup(const QString& registerFolder, const BackupFacts& backup, const Progress& progress) {
     if (!backup.fault.isEmpty()) throw store::StoreError(store::NotAStore, backup.fault);
     EndBrokenRestore(registerFolder);
-    const FileLock till(registerFolder, FileLock::On::Folder);
+    const values::FileLock till(registerFolder, values::FileLock::On::Folder);
     if (!till.IsHeld())
         throw store::StoreError(store::StoreLocked, Words::tr("The till of this register is open. Close it first."));
-    const FileLock backups(BackupLock(registerFolder));
+    const values::FileLock backups(BackupLock(registerFolder));
     if (!backups.IsHeld())
         throw store::StoreError(store::StoreLocked,
                                 Words::tr("A backup of this register is being made just now. Try again in a minute."));
@@ -239,7 +239,7 @@ Restored RestoreBackup(const QString& registerFolder, const BackupFacts& backup,
 void EndBrokenRestore(const QString& registerFolder) {
     RestoreSteps steps(registerFolder);
     if (!steps.IsUnderWay()) return;
-    if (const FileLock alone(registerFolder, FileLock::On::Folder); alone.IsHeld()) steps.End();
+    if (const values::FileLock alone(registerFolder, values::FileLock::On::Folder); alone.IsHeld()) steps.End();
 }
 
 void RequireNoBrokenRestore(const QString& registerFolder) {

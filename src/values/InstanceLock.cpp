@@ -2,9 +2,9 @@
 
 #include <memory>
 
-#include "upkeep/FileLock.h"
+#include "values/FileLock.h"
 
-using upkeep::FileLock;
+using values::FileLock;
 
 namespace {
 

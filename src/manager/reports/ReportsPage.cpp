@@ -80,6 +80,7 @@ const upkeep::ShopReport& ReportsPage::Chosen() const {
 void ReportsPage::cboReport_Choice() {
     std::vector<forms::ListColumn> columns;
     for (const auto& column : Chosen().columns) columns.push_back(ListColumnOf(column));
+    columns.back().width = -1;
     ui.lstRows->SetColumns(std::move(columns));
     for (QWidget* box : {static_cast<QWidget*>(ui.dtpFrom), static_cast<QWidget*>(ui.dtpTo)})
         box->setEnabled(Chosen().hasDays);

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-namespace upkeep {
+namespace values {
 
 // A lock on a file or a folder, which ends with the process, however that ends. It counts between two of these in one
 // process, too.
@@ -24,4 +24,4 @@ private:
     int descriptor_ = -1;
 };
 
-}  // namespace upkeep
+}  // namespace values

@@ -1,4 +1,4 @@
-#include "upkeep/FileLock.h"
+#include "values/FileLock.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -11,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace upkeep {
+namespace values {
 
 FileLock::FileLock(const QString& path, On on, When when) {
     constexpr mode_t itsUserAlone = 0600;
@@ -19,9 +19,8 @@ FileLock::FileLock(const QString& path, On on, When when) {
     const int file = on == On::Folder ? ::open(name.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)
                                       : ::open(name.constData(), O_RDWR | O_CREAT | O_CLOEXEC, itsUserAlone);
     if (file < 0) {
-        if (on == On::Folder) throw values::Error(values::PathNotFound, u"The folder %1 can't be opened."_s.arg(path));
-        throw values::FileError(values::NumberOfOsError(errno),
-                                u"Cannot open '%1': %2"_s.arg(path, qt_error_string(errno)));
+        if (on == On::Folder) throw Error(PathNotFound, u"The folder %1 can't be opened."_s.arg(path));
+        throw FileError(NumberOfOsError(errno), u"Cannot open '%1': %2"_s.arg(path, qt_error_string(errno)));
     }
     int result = 0;
     do result = ::flock(file, LOCK_EX | (when == When::Now ? LOCK_NB : 0));
@@ -36,4 +35,4 @@ FileLock::~FileLock() {
     if (IsHeld()) ::close(descriptor_);
 }
 
-}  // namespace upkeep
+}  // namespace values
