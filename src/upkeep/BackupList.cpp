@@ -20,9 +20,9 @@ const auto Section = u"backup"_s;
 
 QByteArray ContentOf(const QString& path) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) throw values::FileError(file, u"read '%1'"_s.arg(path));
+    if (!file.open(QIODevice::ReadOnly)) throw values::FileError(file, values::FileWork::Reading);
     QByteArray content = file.readAll();
-    if (file.error() != QFileDevice::NoError) throw values::FileError(file, u"read '%1'"_s.arg(path));
+    if (file.error() != QFileDevice::NoError) throw values::FileError(file, values::FileWork::Reading);
     return content;
 }
 

@@ -3,6 +3,8 @@
 #include <QDir>
 #include <algorithm>
 
+#include "upkeep/Words.h"
+
 using namespace Qt::StringLiterals;
 
 namespace upkeep {
@@ -25,9 +27,9 @@ constexpr int Most = 1000;
 
 QString Refusal(const Count& count, const values::IniFile::Value& value) {
     constexpr int longestShown = 48;
-    return u"velton.ini, line %1: %2 can't be \"%3\", only a number from %4 to %5."_s.arg(
-        QString::number(value.line), QString::fromUtf16(count.name), value.text.left(longestShown),
-        QString::number(count.least), QString::number(Most));
+    return Words::tr("velton.ini, line %1: %2 can't be \"%3\", only a number from %4 to %5.")
+        .arg(QString::number(value.line), QString::fromUtf16(count.name), value.text.left(longestShown),
+             QString::number(count.least), QString::number(Most));
 }
 
 }  // namespace

@@ -14,10 +14,12 @@ void CheckProduct(store::Recordset& product, const GoodsFaults& faults, Findings
     const QString code = ShownKey(product[u"ProdCode"].TextOrEmpty());
     const auto quantity = product[u"Qty"];
     if (!quantity.IsNull() && quantity.Money() < values::Money())
-        findings.Note(u"products with a stock below zero"_s, code, FindingKind::StockBelowZero);
+        findings.Note(QT_TRANSLATE_NOOP("upkeep", "products with a stock below zero"), code,
+                      FindingKind::StockBelowZero);
     const auto button = product[u"Tab"];
     if (!button.IsNull() && button.Whole() >= Buttons)
-        findings.Note(u"products on a button that is not there"_s, code, FindingKind::ButtonBeyond);
+        findings.Note(QT_TRANSLATE_NOOP("upkeep", "products on a button that is not there"), code,
+                      FindingKind::ButtonBeyond);
     for (const GoodsFault& fault : faults.Of(product)) findings.Note(fault.words, code, fault.kind);
 }
 
@@ -35,16 +37,16 @@ void CheckButtons(store::Database& main, Findings& findings) {
     auto rows =
         main.OpenSnapshot(u"SELECT Tab, Count(*) AS N FROM Products WHERE Tab > -1 GROUP BY Tab HAVING Count(*) > 1"_s);
     for (auto& row : rows)
-        findings.Note(u"buttons of the click table with more than one product"_s, row[0].TextOrEmpty(),
-                      FindingKind::ButtonShared);
+        findings.Note(QT_TRANSLATE_NOOP("upkeep", "buttons of the click table with more than one product"),
+                      row[0].TextOrEmpty(), FindingKind::ButtonShared);
 }
 
 void CheckRowsOf(store::Database& main, const QString& table, int rowsExpected, Findings& findings) {
     auto rows = main.OpenRecordset(u"SELECT Count(*) AS N FROM [%1]"_s.arg(table));
     const qint64 found = rows[0].Whole();
     if (found != rowsExpected)
-        findings.Note(u"tables with more or fewer rows than delivered"_s, u"%1 (%2)"_s.arg(table).arg(found),
-                      FindingKind::RowsNotAsDelivered);
+        findings.Note(QT_TRANSLATE_NOOP("upkeep", "tables with more or fewer rows than delivered"),
+                      u"%1 (%2)"_s.arg(table).arg(found), FindingKind::RowsNotAsDelivered);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "upkeep/Check.h"
 #include "upkeep/ValueText.h"
+#include "upkeep/Words.h"
 
 using namespace Qt::StringLiterals;
 using values::Money;
@@ -22,8 +23,9 @@ struct Span {
 };
 
 QString NameOf(const Period& period) {
-    if (!period.isClosed) return u"Open period"_s;
-    return period.endReport == 0 ? u"Closed without an End Report"_s : u"End Report %1"_s.arg(period.endReport);
+    if (!period.isClosed) return Words::tr("Open period");
+    return period.endReport == 0 ? Words::tr("Closed without an End Report")
+                                 : Words::tr("End Report %1").arg(period.endReport);
 }
 
 QString Range(qint64 first, qint64 last) {
@@ -98,22 +100,24 @@ PeriodFact FactOf(bool isOpen, qint64 endReport, const Span& span, qint64 expect
 // What doesn't agree with the invoices, and the numbers that don't run on.
 QStringList Differences(const Span& span, const PeriodFact& fact) {
     QStringList differences;
-    if (fact.linesDiffer) differences.append(u"lines %1"_s.arg(ShownAmount(span.lines.total)));
-    if (fact.taxDiffers) differences.append(u"tax of the lines %1"_s.arg(ShownAmount(span.lines.tax)));
-    if (fact.takingsDiffer) differences.append(u"takings %1"_s.arg(ShownAmount(span.takings)));
-    if (!fact.leftOut.isEmpty()) differences.append(u"numbers left out %1"_s.arg(FirstFew(fact.leftOut)));
-    if (!fact.twice.isEmpty()) differences.append(u"numbers twice %1"_s.arg(FirstFew(fact.twice)));
+    if (fact.linesDiffer) differences.append(Words::tr("lines %1").arg(ShownAmount(span.lines.total)));
+    if (fact.taxDiffers) differences.append(Words::tr("tax of the lines %1").arg(ShownAmount(span.lines.tax)));
+    if (fact.takingsDiffer) differences.append(Words::tr("takings %1").arg(ShownAmount(span.takings)));
+    if (!fact.leftOut.isEmpty()) differences.append(Words::tr("numbers left out %1").arg(FirstFew(fact.leftOut)));
+    if (!fact.twice.isEmpty()) differences.append(Words::tr("numbers twice %1").arg(FirstFew(fact.twice)));
     return differences;
 }
 
 QString Head(const Span& span) {
-    const QString day = span.day.isValid() ? u" of "_s + span.day.toString(Qt::ISODate) : QString();
-    if (span.count == 0) return span.name + day + u": no invoices"_s;
-    const QString invoices = span.count == 1 ? u"1 invoice"_s : u"%1 invoices"_s.arg(span.count);
-    const QString head = u"%1%2: %3, total %4, tax %5"_s.arg(span.name, day, invoices, ShownAmount(span.invoices.total),
-                                                             ShownAmount(span.invoices.tax));
+    const QString name =
+        span.day.isValid() ? Words::tr("%1 of %2").arg(span.name, span.day.toString(Qt::ISODate)) : span.name;
+    if (span.count == 0) return Words::tr("%1: no invoices").arg(name);
+    const QString invoices =
+        span.count == 1 ? Words::tr("%1: 1 invoice, total %2, tax %3")
+                        : Words::tr("%1: %n invoices, total %2, tax %3", nullptr, static_cast<int>(span.count));
+    const QString head = invoices.arg(name, ShownAmount(span.invoices.total), ShownAmount(span.invoices.tax));
     if (span.numbers.empty()) return head;
-    return u"%1, numbers %2"_s.arg(head, Range(span.numbers.begin()->first, span.numbers.rbegin()->first));
+    return Words::tr("%1, numbers %2").arg(head, Range(span.numbers.begin()->first, span.numbers.rbegin()->first));
 }
 
 }  // namespace
@@ -126,9 +130,9 @@ void CheckPeriods(const SalesBook& book, Findings& findings) {
         const qint64 first = span.numbers.empty() ? 0 : span.numbers.begin()->first;
         const qint64 expected = last >= 0 && last < first ? last + 1 : first;
         const PeriodFact fact = FactOf(key.first, key.second, span, expected);
-        findings.Fact(
-            Head(span) + (fact.Agrees() ? u"; all agrees"_s : u"; differs: "_s + Differences(span, fact).join(u", ")),
-            fact);
+        findings.Fact(fact.Agrees() ? Words::tr("%1; all agrees").arg(Head(span))
+                                    : Words::tr("%1; differs: %2").arg(Head(span), Differences(span, fact).join(u", ")),
+                      fact);
         if (!span.numbers.empty()) last = span.numbers.rbegin()->first;
     }
 }

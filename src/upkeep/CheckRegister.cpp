@@ -54,7 +54,7 @@ FindingKind KindOf(const store::StoreError& error) {
 StorePointer CheckStore(const QString& name, const std::function<StorePointer()>& open, Course& course,
                         Findings& findings) {
     const auto damage = [&](int number, const QString& what, FindingKind kind) {
-        findings.Damage(number, name + u": "_s + what, kind);
+        findings.Damage(number, u"%1: %2"_s.arg(name, what), kind);
     };
     try {
         StorePointer database = open();
@@ -73,7 +73,7 @@ StorePointer CheckStore(const QString& name, const std::function<StorePointer()>
 std::vector<Receipt> RibbonOf(const QString& folder) {
     QFile ribbon(folder + u"/invoices.txt"_s);
     if (!ribbon.exists()) return {};
-    if (!ribbon.open(QIODevice::ReadOnly)) throw values::FileError(ribbon, u"read '%1'"_s.arg(ribbon.fileName()));
+    if (!ribbon.open(QIODevice::ReadOnly)) throw values::FileError(ribbon, values::FileWork::Reading);
     return ReadRibbon(ribbon);
 }
 
@@ -92,11 +92,11 @@ Findings CheckRegister(const QString& folder, const Progress& progress) {
     // Before the store, so that what is printed meanwhile is in the store already.
     const std::vector<Receipt> ribbon = RibbonOf(folder);
     const StorePointer main = CheckStore(
-        u"Main store"_s, [&] { return store::Database::Open(store::MainPlace(folder), store::MainSchema()); }, course,
-        findings);
-    const StorePointer options = CheckStore(
-        u"Options store"_s, [&] { return store::Database::Open(store::OptionsPlace(folder), store::OptionsSchema()); },
+        Words::tr("Main store"), [&] { return store::Database::Open(store::MainPlace(folder), store::MainSchema()); },
         course, findings);
+    const StorePointer options = CheckStore(
+        Words::tr("Options store"),
+        [&] { return store::Database::Open(store::OptionsPlace(folder), store::OptionsSchema()); }, course, findings);
     if (main) {
         const auto watch = course.WatchOver(*main);
         course.Begin(Words::tr("The sales are read."));

@@ -3,6 +3,7 @@
 
 #include "upkeep/Check.h"
 #include "upkeep/ValueText.h"
+#include "upkeep/Words.h"
 
 using namespace Qt::StringLiterals;
 
@@ -68,13 +69,14 @@ void CheckRibbon(const std::vector<Receipt>& ribbon, bool goesOn, const SalesBoo
     findings.extent.receipts = static_cast<qint64>(ribbon.size());
     const Comparison comparison(book, ribbon);
     if (!comparison.Lacking().isEmpty())
-        findings.Damage(
-            store::RowDeleted,
-            u"The ribbon of printed invoices has receipts that the store lacks: "_s + FirstFew(comparison.Lacking()),
-            FindingKind::RibbonAhead);
+        findings.Damage(store::RowDeleted,
+                        Words::tr("The ribbon of printed invoices has receipts that the store lacks: %1")
+                            .arg(FirstFew(comparison.Lacking())),
+                        FindingKind::RibbonAhead);
     for (const QString& number : comparison.NotPrinted(goesOn))
-        findings.Note(u"invoices that are not on the ribbon (never printed, or by another register)"_s, number,
-                      FindingKind::NotOnRibbon);
+        findings.Note(
+            QT_TRANSLATE_NOOP("upkeep", "invoices that are not on the ribbon (never printed, or by another register)"),
+            number, FindingKind::NotOnRibbon);
 }
 
 }  // namespace upkeep

@@ -1,5 +1,6 @@
 #include "upkeep/Check.h"
 #include "upkeep/ValueText.h"
+#include "upkeep/Words.h"
 
 using namespace Qt::StringLiterals;
 using values::Money;
@@ -8,36 +9,42 @@ namespace upkeep {
 
 namespace {
 
-void NoteUnlessEqual(FindingKind kind, const QString& text, const QString& id, Money told, Money summed,
+constexpr auto Twice = QT_TRANSLATE_NOOP("upkeep", "%1 that stands more than once");
+
+void NoteUnlessEqual(FindingKind kind, const char* text, const QString& id, Money told, Money summed,
                      Findings& findings) {
-    if (told != summed) findings.Note(text, u"%1 (%2, not %3)"_s.arg(id, ShownAmount(told), ShownAmount(summed)), kind);
+    if (told != summed)
+        findings.Note(text, Words::tr("%1 (%2, not %3)").arg(id, ShownAmount(told), ShownAmount(summed)), kind);
 }
 
 void NoteUnlessNumber(const QString& field, const QString& key, Findings& findings) {
     const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
     if (key.isEmpty() || !std::ranges::all_of(key, isDigit))
-        findings.Note(u"%1 that is no number"_s.arg(field), ShownKey(key), FindingKind::NumberExpected);
+        findings.Note(QT_TRANSLATE_NOOP("upkeep", "%1 that is no number"), ShownKey(key), FindingKind::NumberExpected,
+                      {field});
 }
 
 void CheckInvoice(const Invoice& invoice, Findings& findings) {
     NoteUnlessNumber(u"Invoices.InvoiceID"_s, invoice.id, findings);
     const QString id = ShownKey(invoice.id);
-    if (invoice.rows > 1)
-        findings.Note(u"Invoices.InvoiceID that stands more than once"_s, id, FindingKind::InvoiceTwice);
+    if (invoice.rows > 1) findings.Note(Twice, id, FindingKind::InvoiceTwice, {u"Invoices.InvoiceID"_s});
     if (invoice.lines == 0)
-        return findings.Note(u"Invoices.InvoiceID that has no SalesDetails.InvoiceID"_s, id,
-                             FindingKind::InvoiceWithoutLines);
-    NoteUnlessEqual(FindingKind::InvoiceTotal, u"invoices whose total is not the sum of their lines"_s, id,
+        return findings.Note(WithoutIts, id, FindingKind::InvoiceWithoutLines,
+                             {u"Invoices.InvoiceID"_s, u"SalesDetails.InvoiceID"_s});
+    NoteUnlessEqual(FindingKind::InvoiceTotal,
+                    QT_TRANSLATE_NOOP("upkeep", "invoices whose total is not the sum of their lines"), id,
                     invoice.head.total, invoice.sumOfLines.total, findings);
-    NoteUnlessEqual(FindingKind::InvoiceTax, u"invoices whose tax is not the sum of their lines' tax"_s, id,
+    NoteUnlessEqual(FindingKind::InvoiceTax,
+                    QT_TRANSLATE_NOOP("upkeep", "invoices whose tax is not the sum of their lines' tax"), id,
                     invoice.head.tax, invoice.sumOfLines.tax, findings);
 }
 
 void CheckPeriod(const Period& period, Findings& findings) {
     NoteUnlessNumber(u"Sales.SalesID"_s, period.id, findings);
     const QString id = ShownKey(period.id);
-    if (period.rows > 1) findings.Note(u"Sales.SalesID that stands more than once"_s, id, FindingKind::PeriodTwice);
-    NoteUnlessEqual(FindingKind::PeriodTotal, u"periods whose total is not the sum of their invoices"_s, id,
+    if (period.rows > 1) findings.Note(Twice, id, FindingKind::PeriodTwice, {u"Sales.SalesID"_s});
+    NoteUnlessEqual(FindingKind::PeriodTotal,
+                    QT_TRANSLATE_NOOP("upkeep", "periods whose total is not the sum of their invoices"), id,
                     period.takings, period.sold, findings);
 }
 

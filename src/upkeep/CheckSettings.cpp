@@ -1,6 +1,7 @@
 #include "store/OptionsTable.h"
 #include "upkeep/Check.h"
 #include "upkeep/TableLoader.h"
+#include "upkeep/Words.h"
 
 using namespace Qt::StringLiterals;
 
@@ -13,11 +14,11 @@ void CheckSettings(store::Database& options, Findings& findings) {
         ++count;
         for (const store::OptionsColumn& column : store::OptionsColumns())
             if (column.atStart == store::AtStart::Required && row[column.name].IsNull())
-                findings.Note(u"settings without a value, which start-up stops at"_s, column.name,
-                              FindingKind::SettingMissing);
+                findings.Note(QT_TRANSLATE_NOOP("upkeep", "settings without a value, which start-up stops at"),
+                              column.name, FindingKind::SettingMissing);
     }
     if (count != 1)
-        findings.Damage(store::NotAStore, u"Options store: Options has %1 rows instead of one."_s.arg(count),
+        findings.Damage(store::NotAStore, Words::tr("Options store: Options has %1 rows instead of one.").arg(count),
                         FindingKind::SettingsNotOneRow);
 }
 

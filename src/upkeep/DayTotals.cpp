@@ -5,6 +5,7 @@
 
 #include "store/StoreError.h"
 #include "upkeep/ValueText.h"
+#include "upkeep/Words.h"
 
 using namespace Qt::StringLiterals;
 
@@ -52,7 +53,8 @@ DayTotals ParseDayTotals(const QByteArray& lines) {
     for (const QByteArray& line : lines.split('\n')) {
         if (line.isEmpty()) continue;
         const QByteArrayList cells = line.split('\t');
-        if (cells.size() != 4) throw store::StoreError(store::NotAStore, u"The totals of the days can't be read."_s);
+        if (cells.size() != 4)
+            throw store::StoreError(store::NotAStore, Words::tr("The totals of the days can't be read."));
         days += FromValues(ReadValue(cells[0], store::Type::Date), ReadValue(cells[1], store::Type::Whole),
                            ReadValue(cells[2], store::Type::Money), ReadValue(cells[3], store::Type::Money));
     }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "upkeep/Words.h"
+
 using namespace Qt::StringLiterals;
 
 namespace upkeep {
@@ -10,11 +12,18 @@ namespace {
 
 constexpr int NamedCases = 10;
 
+QString Filled(QString text, const QStringList& fields) {
+    for (const QString& field : fields) text = text.arg(field);
+    return text;
+}
+
 }  // namespace
 
 QString FirstFew(const QStringList& cases) {
     const QString named = cases.first(std::min<qsizetype>(NamedCases, cases.size())).join(u", ");
-    return cases.size() <= NamedCases ? named : u"%1 and %2 more"_s.arg(named).arg(cases.size() - NamedCases);
+    return cases.size() <= NamedCases
+               ? named
+               : Words::tr("%1 and %2 more").arg(named, QString::number(cases.size() - NamedCases));
 }
 
 void Findings::Damage(int number, const QString& what, FindingKind kind) {
@@ -23,11 +32,12 @@ void Findings::Damage(int number, const QString& what, FindingKind kind) {
     damageKinds_.push_back(kind);
 }
 
-void Findings::Note(const QString& text, const QString& which, FindingKind kind) {
-    auto place = places_.constFind(text);
+void Findings::Note(const char* text, const QString& which, FindingKind kind, const QStringList& fields) {
+    const QString english = Filled(QString::fromUtf8(text), fields);
+    auto place = places_.constFind(english);
     if (place == places_.cend()) {
-        place = places_.insert(text, notes_.size());
-        notes_.push_back({kind, text, {}});
+        place = places_.insert(english, notes_.size());
+        notes_.push_back({kind, english, Filled(Words::tr(text), fields), {}});
     }
     notes_[place.value()].cases.append(which);
 }
@@ -43,7 +53,7 @@ bool Findings::HasNote(FindingKind kind) const {
 
 QStringList Findings::NoteLines() const {
     QStringList lines;
-    for (const Group& group : notes_) lines.append(u"%1: %2"_s.arg(group.text, FirstFew(group.cases)));
+    for (const Group& group : notes_) lines.append(u"%1: %2"_s.arg(group.told, FirstFew(group.cases)));
     return lines;
 }
 

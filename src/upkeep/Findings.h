@@ -37,7 +37,8 @@ class Findings {
 public:
     struct Group {
         FindingKind kind = FindingKind::Other;
-        QString text;
+        QString text;  // in English, for whoever helps
+        QString told;  // the same to the user
         QStringList cases;
     };
     // What was looked at.
@@ -48,8 +49,10 @@ public:
     };
 
     void Damage(int number, const QString& what, FindingKind kind = FindingKind::Other);
-    // Cases of one text are told in one line, the first of them by name.
-    void Note(const QString& text, const QString& which, FindingKind kind = FindingKind::Other);
+    // `text` is one of the context "upkeep" with `fields` for its %1 and %2. Cases of one text are told in one line,
+    // the first of them by name.
+    void Note(const char* text, const QString& which, FindingKind kind = FindingKind::Other,
+              const QStringList& fields = {});
     void Fact(const QString& line, const PeriodFact& fact);
 
     // Each note as "text: case, case and 7 more".

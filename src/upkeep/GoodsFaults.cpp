@@ -26,28 +26,33 @@ GoodsFaults::GoodsFaults(store::Database& main) : rates_(RatesOf(main)) {
 
 std::optional<GoodsFault> GoodsFaults::FaultOfTax(store::Recordset& product) const {
     const auto rate = rates_.constFind(KeyOf(product, u"TaxID"_s));
-    if (rate == rates_.cend()) return GoodsFault{FindingKind::GoodsWithoutTax, u"goods with a tax that is not there"_s};
+    if (rate == rates_.cend())
+        return GoodsFault{FindingKind::GoodsWithoutTax,
+                          QT_TRANSLATE_NOOP("upkeep", "goods with a tax that is not there")};
     const values::Value percent = product[u"TaxPercent"].Get();
     if (percent.IsNull() || percent == rate.value()) return {};
-    return GoodsFault{FindingKind::GoodsWithOtherRate, u"goods with another rate than that of their tax"_s};
+    return GoodsFault{FindingKind::GoodsWithOtherRate,
+                      QT_TRANSLATE_NOOP("upkeep", "goods with another rate than that of their tax")};
 }
 
 std::vector<GoodsFault> GoodsFaults::Of(store::Recordset& product) const {
     const QString code = product[u"ProdCode"].TextOrEmpty();
     const std::pair<bool, GoodsFault> faults[] = {
         {product[u"TaxPercent"].IsNull(),
-         {FindingKind::GoodsWithoutRate, u"goods without a tax rate, which can't be sold"_s}},
+         {FindingKind::GoodsWithoutRate, QT_TRANSLATE_NOOP("upkeep", "goods without a tax rate, which can't be sold")}},
         {product[u"UnitPrice"].IsNull(),
-         {FindingKind::GoodsWithoutPrice, u"goods without a price, which can't be sold"_s}},
+         {FindingKind::GoodsWithoutPrice, QT_TRANSLATE_NOOP("upkeep", "goods without a price, which can't be sold")}},
         {code.contains(u'\''),
-         {FindingKind::CodeWithApostrophe, u"goods with an apostrophe in the code, which can't be looked up"_s}},
+         {FindingKind::CodeWithApostrophe,
+          QT_TRANSLATE_NOOP("upkeep", "goods with an apostrophe in the code, which can't be looked up")}},
         {code.startsWith(u' ') || code.endsWith(u' '),
-         {FindingKind::CodeWithBlanks, u"goods with blanks at an end of the code"_s}},
-        {code.size() > LongestCode, {FindingKind::CodeTooLong, u"goods with a code longer than its box"_s}},
+         {FindingKind::CodeWithBlanks, QT_TRANSLATE_NOOP("upkeep", "goods with blanks at an end of the code")}},
+        {code.size() > LongestCode,
+         {FindingKind::CodeTooLong, QT_TRANSLATE_NOOP("upkeep", "goods with a code longer than its box")}},
         {product[u"ProdDescription"].TextOrEmpty().size() > LongestName,
-         {FindingKind::NameTooLong, u"goods with a name longer than its box"_s}},
+         {FindingKind::NameTooLong, QT_TRANSLATE_NOOP("upkeep", "goods with a name longer than its box")}},
         {!units_.contains(KeyOf(product, u"Unit"_s)),
-         {FindingKind::GoodsWithoutUnit, u"goods with a unit that is not there"_s}},
+         {FindingKind::GoodsWithoutUnit, QT_TRANSLATE_NOOP("upkeep", "goods with a unit that is not there")}},
     };
     std::vector<GoodsFault> found;
     for (const auto& [isFault, fault] : faults)

@@ -18,7 +18,7 @@ QHash<QString, values::Value> RatesOf(store::Database& main);
 
 struct GoodsFault {
     FindingKind kind = FindingKind::Other;
-    QString words;
+    const char* words = nullptr;  // of the context "upkeep"
 };
 
 // What a table from elsewhere brings in and no screen would: goods that the till refuses, cuts or taxes wrongly. Knows

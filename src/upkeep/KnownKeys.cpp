@@ -1,5 +1,7 @@
 #include "upkeep/KnownKeys.h"
 
+#include "upkeep/Words.h"
+
 using namespace Qt::StringLiterals;
 
 namespace upkeep {
@@ -39,7 +41,7 @@ Place KeyPlaces::FindOrAdd(const QString& key) {
 }
 
 QString ShownKey(const QString& key) {
-    return key.isEmpty() ? u"(empty)"_s : key;
+    return key.isEmpty() ? Words::tr("(empty)") : key;
 }
 
 DistinctKeys KeysOf(store::Database& main, const TableField& field) {
@@ -52,7 +54,7 @@ DistinctKeys KeysOf(store::Database& main, const TableField& field) {
 void NoteUnknown(const QString& from, const DistinctKeys& keys, const QString& to, const DistinctKeys& known,
                  FindingKind kind, Findings& findings) {
     for (const QString& key : keys.List())
-        if (!known.Contains(key)) findings.Note(u"%1 that has no %2"_s.arg(from, to), ShownKey(key), kind);
+        if (!known.Contains(key)) findings.Note(WithoutIts, ShownKey(key), kind, {from, to});
 }
 
 }  // namespace upkeep

@@ -35,6 +35,9 @@ private:
     QHash<QString, Place> texts_;
 };
 
+// The note of a key that one field has and another, where it belongs, has not.
+inline constexpr auto WithoutIts = QT_TRANSLATE_NOOP("upkeep", "%1 that has no %2");
+
 // A key as a note names it.
 QString ShownKey(const QString& key);
 

@@ -5,6 +5,7 @@
 #include "store/Creation.h"
 #include "store/StorePath.h"
 #include "upkeep/DayTotals.h"
+#include "upkeep/Words.h"
 #include "values/IniEdit.h"
 
 using namespace Qt::StringLiterals;
@@ -33,7 +34,7 @@ Totals TotalsOf(store::Database& database) {
 
 void RequireSame(const Totals& before, const Totals& after) {
     if (before == after) return;
-    throw store::StoreError(store::NotAStore, u"The copy of the store is not the same; nothing was changed."_s);
+    throw store::StoreError(store::NotAStore, Words::tr("The copy of the store is not the same; nothing was changed."));
 }
 
 }  // namespace

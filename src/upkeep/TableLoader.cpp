@@ -3,8 +3,10 @@
 #include <QSet>
 
 #include "upkeep/ValueText.h"
+#include "upkeep/Words.h"
 
 using namespace Qt::StringLiterals;
+using store::Table;
 
 namespace upkeep {
 
@@ -17,11 +19,13 @@ public:
 
     void Run() {
         try {
-            if (!ReadLine()) throw store::StoreError(store::ItemNotFound, u"There is no line of field names."_s);
+            if (!ReadLine())
+                throw store::StoreError(store::ItemNotFound, Words::tr("There is no line of field names."));
             ReadHeader();
             while (ReadLine()) AddRow();
         } catch (const values::Error& error) {
-            throw store::StoreError(error.Number(), u"Line %1: %2"_s.arg(line_).arg(error.Description()));
+            throw store::StoreError(error.Number(),
+                                    Words::tr("Line %1: %2").arg(QString::number(line_), error.Description()));
         }
     }
 
@@ -36,7 +40,7 @@ private:
         if (line_ == 1 && line.startsWith("\xEF\xBB\xBF")) line.remove(0, 3);
         if (line.contains('\r') || line.contains('\0'))
             throw store::StoreError(store::ConversionFailed,
-                                    u"A control character inside a text is written \\r or \\0."_s);
+                                    Words::tr("A control character inside a text is written \\r or \\0."));
         cells_ = line.split('\t');
         return true;
     }
@@ -47,7 +51,8 @@ private:
             const QString name = DecodeUtf8(cell);
             const int column = FindField(table_, name);
             if (named.contains(column))
-                throw store::StoreError(store::AmbiguousName, u"The field '%1' stands there twice."_s.arg(name));
+                throw store::StoreError(store::AmbiguousName,
+                                        Words::tr("The field '%1' stands there twice.").arg(name));
             named.insert(column);
             columns_.append(column);
         }
@@ -56,14 +61,14 @@ private:
     void AddRow() {
         if (cells_.size() != columns_.size())
             throw store::StoreError(store::ConversionFailed,
-                                    u"%1 cells for %2 fields."_s.arg(cells_.size()).arg(columns_.size()));
+                                    Words::tr("%1 cells for %2 fields.").arg(cells_.size()).arg(columns_.size()));
         rows_.AddNew();
         for (qsizetype i = 0; i < cells_.size(); ++i) SetField(rows_, table_.columns[columns_[i]], cells_[i]);
         if (look_) look_(rows_, line_);
         rows_.Update();
     }
 
-    const store::Table& table_;
+    const Table& table_;
     QIODevice& lines_;
     const RowLook& look_;
     store::Recordset rows_;
@@ -74,19 +79,20 @@ private:
 
 }  // namespace
 
-const store::Table& FindTable(const store::Database& database, const QString& name) {
-    if (const store::Table* table = database.GetSchema().Find(name)) return *table;
-    throw store::StoreError(store::UnknownTable, u"The store has no table '%1'."_s.arg(name));
+const Table& FindTable(const store::Database& database, const QString& name) {
+    if (const Table* table = database.GetSchema().Find(name)) return *table;
+    throw store::StoreError(store::UnknownTable, Words::tr("The store has no table '%1'.").arg(name));
 }
 
-store::Recordset OpenTable(store::Database& database, const store::Table& table) {
+store::Recordset OpenTable(store::Database& database, const Table& table) {
     return database.OpenRecordset(u"SELECT * FROM [%1]"_s.arg(table.name));
 }
 
-int FindField(const store::Table& table, const QString& name) {
+int FindField(const Table& table, const QString& name) {
     const int column = table.Find(name);
     if (column < 0)
-        throw store::StoreError(store::UnknownField, u"The table %1 has no field '%2'."_s.arg(table.name, name));
+        throw store::StoreError(store::UnknownField,
+                                Words::tr("The table %1 has no field '%2'.").arg(table.name, name));
     return column;
 }
 
@@ -94,7 +100,7 @@ void SetField(store::Recordset& row, const store::Column& column, const QByteArr
     try {
         row[column.name] = ReadValue(cell, column.type);
     } catch (const values::Error& error) {
-        throw store::StoreError(error.Number(), u"Field %1: %2"_s.arg(column.name, error.Description()));
+        throw store::StoreError(error.Number(), Words::tr("Field %1: %2").arg(column.name, error.Description()));
     }
 }
 

@@ -4,6 +4,7 @@
 #include <QStringDecoder>
 
 #include "store/StoreError.h"
+#include "upkeep/Words.h"
 
 using namespace Qt::StringLiterals;
 using store::Type;
@@ -38,11 +39,11 @@ QByteArray DoubleText(double number) {
     return shown == 0 ? "0"_ba : QByteArray::number(shown, 'f', QLocale::FloatingPointShortest);
 }
 
-[[noreturn]] void Refuse(const QByteArray& cell, const QString& whatItIsNot) {
+[[noreturn]] void Refuse(const QByteArray& cell, const QString& refusal) {
     constexpr int shown = 40;
     QString text = QString::fromUtf8(cell);
     if (text.size() > shown) text = text.left(shown) + u"..."_s;
-    throw store::StoreError(store::ConversionFailed, u"'%1' is no %2."_s.arg(text, whatItIsNot));
+    throw store::StoreError(store::ConversionFailed, refusal.arg(text));
 }
 
 bool Matches(const QByteArray& cell, const QRegularExpression& pattern) {
@@ -53,19 +54,19 @@ Value ReadWhole(const QByteArray& cell) {
     static const QRegularExpression pattern(u"\\A-?[0-9]+\\z"_s);
     bool fits = false;
     const qint64 whole = cell.toLongLong(&fits);
-    if (!fits || !Matches(cell, pattern)) Refuse(cell, u"whole number"_s);
+    if (!fits || !Matches(cell, pattern)) Refuse(cell, Words::tr("'%1' is no whole number."));
     return whole;
 }
 
 Value ReadScaled(const QByteArray& cell) {
     static const QRegularExpression pattern(u"\\A-?[0-9]+(\\.[0-9]{1,4})?\\z"_s);
-    if (!Matches(cell, pattern)) Refuse(cell, u"number with up to four decimals"_s);
+    if (!Matches(cell, pattern)) Refuse(cell, Words::tr("'%1' is no number with up to four decimals."));
     const qsizetype point = cell.indexOf('.');
     const QByteArray whole = point < 0 ? cell : cell.left(point);
     const QByteArray decimals = point < 0 ? QByteArray() : cell.mid(point + 1);
     bool fits = false;
     const qint64 units = (whole + decimals.leftJustified(4, '0')).toLongLong(&fits);
-    if (!fits) Refuse(cell, u"number within the range of a column"_s);
+    if (!fits) Refuse(cell, Words::tr("'%1' is no number within the range of a column."));
     return Money::FromUnits(units);
 }
 
@@ -73,28 +74,28 @@ Value ReadDouble(const QByteArray& cell) {
     static const QRegularExpression pattern(u"\\A-?[0-9]+(\\.[0-9]+)?\\z"_s);
     bool fits = false;
     const double number = cell.toDouble(&fits);
-    if (!fits || !Matches(cell, pattern)) Refuse(cell, u"number"_s);
+    if (!fits || !Matches(cell, pattern)) Refuse(cell, Words::tr("'%1' is no number."));
     return number;
 }
 
 Value ReadDate(const QByteArray& cell) {
     static const QRegularExpression pattern(u"\\A[0-9]{4}-[0-9]{2}-[0-9]{2}\\z"_s);
     const QDate date = QDate::fromString(QString::fromLatin1(cell), DatePattern);
-    if (!date.isValid() || !Matches(cell, pattern)) Refuse(cell, u"date (yyyy-mm-dd)"_s);
+    if (!date.isValid() || !Matches(cell, pattern)) Refuse(cell, Words::tr("'%1' is no date (yyyy-mm-dd)."));
     return date;
 }
 
 Value ReadTime(const QByteArray& cell) {
     static const QRegularExpression pattern(u"\\A[0-9]{2}:[0-9]{2}:[0-9]{2}\\z"_s);
     const QTime time = QTime::fromString(QString::fromLatin1(cell), TimePattern);
-    if (!time.isValid() || !Matches(cell, pattern)) Refuse(cell, u"time (hh:mm:ss)"_s);
+    if (!time.isValid() || !Matches(cell, pattern)) Refuse(cell, Words::tr("'%1' is no time (hh:mm:ss)."));
     return time;
 }
 
 Value ReadYesNo(const QByteArray& cell) {
     if (cell.compare("True", Qt::CaseInsensitive) == 0) return true;
     if (cell.compare("False", Qt::CaseInsensitive) == 0) return false;
-    Refuse(cell, u"yes/no (True, False)"_s);
+    Refuse(cell, Words::tr("'%1' is no yes/no (True, False)."));
 }
 
 Value ReadText(const QByteArray& cell) {
@@ -109,7 +110,8 @@ Value ReadText(const QByteArray& cell) {
         }
         const char code = ++i < raw.size() ? raw[i].toLatin1() : ' ';
         const qsizetype known = code == '\0' ? -1 : Codes.indexOf(code);
-        if (known < 0) Refuse(cell, u"text: a backslash is written \\\\ (known are \\t \\n \\r \\0 \\\\)"_s);
+        if (known < 0)
+            Refuse(cell, Words::tr("'%1' is no text: a backslash is written \\\\ (known are \\t \\n \\r \\0 \\\\)."));
         text += QLatin1Char(Specials[known]);
     }
     return text;
@@ -187,7 +189,7 @@ QString DecodeUtf8(const QByteArray& bytes) {
                            QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
     QString text = decoder(bytes);
     if (decoder.hasError() || !bytes.isValidUtf8())
-        throw store::StoreError(store::ConversionFailed, u"The text is not valid UTF-8."_s);
+        throw store::StoreError(store::ConversionFailed, Words::tr("The text is not valid UTF-8."));
     return text;
 }
 

@@ -1,9 +1,9 @@
 #include "Commands.h"
 #include "Output.h"
+#include "ToolWords.h"
 #include "upkeep/CheckRegister.h"
 #include "upkeep/ValueText.h"
 
-using namespace Qt::StringLiterals;
 using upkeep::WriteText;
 
 namespace tool {
@@ -13,7 +13,7 @@ void Check(const QString& folder) {
     Output output;
     for (const QString& line : findings.NoteLines()) output.Write("note: " + WriteText(line) + '\n');
     for (const QString& line : findings.FactLines()) output.Write(WriteText(line) + '\n');
-    if (findings.IsSound()) output.Write("Both stores are sound.\n"_ba);
+    if (findings.IsSound()) output.WriteLine(ToolWords::tr("Both stores are sound."));
     output.Finish();
     findings.ThrowDamage();
 }

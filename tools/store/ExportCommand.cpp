@@ -1,10 +1,9 @@
 #include "Commands.h"
+#include "ToolWords.h"
 #include "upkeep/goods/GoodsExport.h"
 #include "upkeep/reports/ShopReport.h"
 #include "values/Clock.h"
 #include "values/FileError.h"
-
-using namespace Qt::StringLiterals;
 
 namespace tool {
 
@@ -13,7 +12,8 @@ namespace {
 QDate DayOf(const QString& text, QDate usual) {
     if (text.isEmpty()) return usual;
     const QDate day = QDate::fromString(text, Qt::ISODate);
-    if (!day.isValid()) throw values::FileError(values::InvalidCall, u"'%1' is no day; write 2026-11-30."_s.arg(text));
+    if (!day.isValid())
+        throw values::FileError(values::InvalidCall, ToolWords::tr("'%1' is no day; write 2026-11-30.").arg(text));
     return day;
 }
 

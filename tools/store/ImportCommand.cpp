@@ -3,6 +3,7 @@
 
 #include "Commands.h"
 #include "Output.h"
+#include "ToolWords.h"
 #include "upkeep/ValueText.h"
 #include "upkeep/goods/GoodsImport.h"
 #include "upkeep/goods/GoodsUndo.h"
@@ -20,7 +21,7 @@ QChar SignOf(const QString& word, QStringView known) {
     if (word.isEmpty()) return {};
     if (word == u"tab" && known.contains(u'\t')) return u'\t';
     if (word.size() == 1 && known.contains(word[0])) return word[0];
-    throw values::FileError(values::InvalidCall, u"'%1' divides nothing that could be read."_s.arg(word));
+    throw values::FileError(values::InvalidCall, ToolWords::tr("'%1' divides nothing that could be read.").arg(word));
 }
 
 SheetWish WishOf(const ImportCall& call) {
@@ -30,7 +31,8 @@ SheetWish WishOf(const ImportCall& call) {
     for (const QString& choice : call.columns) {
         const qsizetype equals = choice.lastIndexOf(u'=');
         if (equals < 1)
-            throw values::FileError(values::InvalidCall, u"'%1' is not of the form COLUMN=FIELD."_s.arg(choice));
+            throw values::FileError(values::InvalidCall,
+                                    ToolWords::tr("'%1' is not of the form COLUMN=FIELD.").arg(choice));
         wish.columns.append({choice.first(equals), FieldOfWord(choice.sliced(equals + 1))});
     }
     return wish;
@@ -65,10 +67,10 @@ void PrintForm(const GoodsSheet& sheet, Output& output) {
         if (sheet.columns[i] != SheetField::None)
             columns += u"%1=%2"_s.arg(sheet.Headings()[i], FieldWord(sheet.columns[i]));
     const QChar separator = sheet.table.form.separator;
-    output.Write(u"%1, separator %2, decimals behind %3; %4\n"_s
-                     .arg(sheet.table.form.encoding, separator == u'\t' ? u"tab"_s : QString(separator),
-                          sheet.decimal.isNull() ? u"an unknown sign"_s : QString(sheet.decimal), columns.join(u", "))
-                     .toUtf8());
+    output.WriteLine(ToolWords::tr("%1, separator %2, decimals behind %3; %4")
+                         .arg(sheet.table.form.encoding, separator == u'\t' ? u"tab"_s : QString(separator),
+                              sheet.decimal.isNull() ? ToolWords::tr("an unknown sign") : QString(sheet.decimal),
+                              columns.join(u", ")));
 }
 
 }  // namespace
@@ -93,13 +95,14 @@ void Import(const QString& folder, const QString& file, const ImportCall& call) 
         throw store::StoreError(
             store::ConversionFailed,
             refused == 1
-                ? u"1 row is refused, so nothing is written; --skip-refused writes the others."_s
-                : u"%1 rows are refused, so nothing is written; --skip-refused writes the others."_s.arg(refused));
+                ? ToolWords::tr("1 row is refused, so nothing is written; --skip-refused writes the others.")
+                : ToolWords::tr("%n rows are refused, so nothing is written; --skip-refused writes the others.",
+                                nullptr, static_cast<int>(refused)));
     if (call.dryRun) return;
     const Written written = WriteGoods(*database, folder, QFileInfo(file).fileName(), preview.Changes());
-    output.Write(u"Written: %1 new, %2 changed.\n"_s.arg(written.added).arg(written.changed).toUtf8());
+    output.WriteLine(ToolWords::tr("Written: %1 new, %2 changed.").arg(written.added).arg(written.changed));
     if (!written.movedMeanwhile.isEmpty())
-        output.Write(u"Sold meanwhile, and taken off: %1\n"_s.arg(written.movedMeanwhile.join(u", ")).toUtf8());
+        output.WriteLine(ToolWords::tr("Sold meanwhile, and taken off: %1").arg(written.movedMeanwhile.join(u", ")));
     output.Finish();
 }
 
@@ -107,11 +110,9 @@ void UndoImport(const QString& folder) {
     const Undone undone = UndoGoods(*OpenStore(folder, Which::Main), folder);
     Output output;
     for (const QString& line : undone.kept) output.Write("note: " + WriteText(line) + '\n');
-    output.Write(u"%1 is taken back: %2 restored, %3 removed, %4 notes.\n"_s.arg(undone.title)
-                     .arg(undone.restored)
-                     .arg(undone.removed)
-                     .arg(undone.kept.size())
-                     .toUtf8());
+    output.WriteLine(ToolWords::tr("%1 is taken back: %2 restored, %3 removed, %4 notes.")
+                         .arg(undone.title, QString::number(undone.restored), QString::number(undone.removed),
+                              QString::number(undone.kept.size())));
     output.Finish();
 }
 

@@ -1,10 +1,9 @@
 #include <QSet>
 
 #include "Commands.h"
+#include "ToolWords.h"
 #include "upkeep/TableLoader.h"
 #include "values/FileError.h"
-
-using namespace Qt::StringLiterals;
 
 namespace tool {
 
@@ -17,11 +16,12 @@ void Insert(const QString& folder, const QString& tableName, const QStringList& 
     for (const QString& field : fields) {
         const qsizetype equals = field.indexOf(u'=');
         if (equals < 1)
-            throw values::FileError(values::InvalidCall, u"'%1' is not of the form FIELD=VALUE."_s.arg(field));
+            throw values::FileError(values::InvalidCall,
+                                    ToolWords::tr("'%1' is not of the form FIELD=VALUE.").arg(field));
         const int column = upkeep::FindField(table, field.first(equals));
         if (named.contains(column))
             throw store::StoreError(store::AmbiguousName,
-                                    u"The field '%1' stands there twice."_s.arg(field.first(equals)));
+                                    ToolWords::tr("The field '%1' stands there twice.").arg(field.first(equals)));
         named.insert(column);
         upkeep::SetField(rows, table.columns[column], field.sliced(equals + 1).toUtf8());
     }

@@ -2,13 +2,13 @@
 #include <cstdio>
 
 #include "Commands.h"
+#include "ToolWords.h"
 #include "upkeep/Findings.h"
 #include "upkeep/GoodsFaults.h"
 #include "upkeep/TableLoader.h"
 #include "upkeep/ValueText.h"
 #include "values/FileError.h"
 
-using namespace Qt::StringLiterals;
 using namespace upkeep;
 
 namespace tool {
@@ -24,7 +24,7 @@ void Warn(const Findings& findings) {
 RowLook LookAtGoods(store::Database& database, Findings& findings) {
     return [faults = GoodsFaults(database), &findings](store::Recordset& row, qint64 line) {
         for (const upkeep::GoodsFault& fault : faults.Of(row))
-            findings.Note(fault.words, u"line %1"_s.arg(line), fault.kind);
+            findings.Note(fault.words, ToolWords::tr("line %1").arg(line), fault.kind);
     };
 }
 
@@ -33,12 +33,12 @@ RowLook LookAtGoods(store::Database& database, Findings& findings) {
 void Load(const QString& folder, const QString& table, const QString& file) {
     const auto database = OpenStore(folder, Which::Main);
     QFile lines(file);
-    if (!lines.open(QIODevice::ReadOnly)) throw values::FileError(lines, u"read '%1'"_s.arg(file));
+    if (!lines.open(QIODevice::ReadOnly)) throw values::FileError(lines, values::FileWork::Reading);
     Findings findings;
     const bool areGoods = FindTable(*database, table).name == u"Products";
     store::Database::Batch batch(*database);
     LoadRows(*database, table, lines, areGoods ? LookAtGoods(*database, findings) : RowLook());
-    if (lines.error() != QFileDevice::NoError) throw values::FileError(lines, u"read '%1'"_s.arg(file));
+    if (lines.error() != QFileDevice::NoError) throw values::FileError(lines, values::FileWork::Reading);
     batch.Commit();
     Warn(findings);
 }

@@ -5,9 +5,8 @@
 
 #include <QFile>
 
+#include "ToolWords.h"
 #include "values/FileError.h"
-
-using namespace Qt::StringLiterals;
 
 namespace tool {
 
@@ -21,7 +20,8 @@ void Output::Finish() {
     QFile out;
     if (!out.open(STDOUT_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered) ||
         out.write(waiting_) != waiting_.size())
-        throw values::FileError(out, u"write the output"_s);
+        throw values::FileError(values::NumberOfFailure(out),
+                                ToolWords::tr("Cannot write the output: %1").arg(out.errorString()));
     waiting_.clear();
 }
 

@@ -8,6 +8,7 @@ namespace tool {
 class Output {
 public:
     void Write(const QByteArray& bytes);
+    void WriteLine(const QString& text) { Write(text.toUtf8() + '\n'); }
     void Finish();
 
 private:

@@ -7,6 +7,7 @@
 
 #include "Commands.h"
 #include "Output.h"
+#include "ToolWords.h"
 #include "upkeep/ValueText.h"
 #include "values/FileError.h"
 
@@ -187,7 +188,8 @@ int Run(int argc, char** argv) {
         output.Write(QByteArray::fromStdString(app.help()));
         output.Finish();
     } catch (const CLI::ParseError& error) {
-        return Report(values::InvalidCall, QString::fromUtf8(error.what()) + u" (velton-store --help tells more)"_s);
+        return Report(values::InvalidCall,
+                      tool::ToolWords::tr("%1 (velton-store --help tells more)").arg(QString::fromUtf8(error.what())));
     }
     return 0;
 }

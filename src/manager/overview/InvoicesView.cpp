@@ -71,7 +71,8 @@ void InvoicesView::cmdReceipt_Click() {
     QTemporaryFile file;
     const QByteArray text = ReceiptOf(invoices_[static_cast<size_t>(row)]);
     if (!file.open() || file.write(text) != text.size() || !file.flush())
-        throw values::FileError(file, tr("show the receipt"));
+        throw values::FileError(values::NumberOfFailure(file),
+                                tr("Cannot show the receipt: %1").arg(file.errorString()));
     ui.txtReceipt->SetDecoder([](const QByteArray& line) { return QString::fromUtf8(line); });
     ui.txtReceipt->Open(file.fileName());
     ui.stkParts->setCurrentIndex(1);

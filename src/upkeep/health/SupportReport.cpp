@@ -97,8 +97,8 @@ void AddTables(Text& text, store::Database& database) {
 void AddFindings(Text& text, const Findings& findings) {
     for (qsizetype i = 0; i < findings.DamageLines().size(); ++i) {
         const bool isOfSales = findings.Damages()[static_cast<size_t>(i)] == FindingKind::RibbonAhead;
-        const QString line = findings.DamageLines()[i];
-        text.Line(u"damage"_s, isOfSales ? line.section(u':', 0, 0) : values::WithoutNames(line));
+        text.Line(u"damage"_s, isOfSales ? u"The ribbon of printed invoices has receipts that the store lacks"_s
+                                         : values::WithoutNames(findings.DamageLines()[i]));
     }
     for (const Findings::Group& group : findings.Notes())
         text.Line(u"note"_s, u"%1: %2"_s.arg(group.text).arg(group.cases.size()));
