@@ -12,6 +12,7 @@
 
 #include "upkeep/Backup.h"
 #include "values/Error.h"
+#include "values/Language.h"
 
 using namespace Qt::StringLiterals;
 
@@ -39,6 +40,7 @@ int MakeBackupByItself(int argc, char* argv[]) {
     const QCoreApplication application(argc, argv);
     const QString folder = argc > 2 ? QString::fromLocal8Bit(argv[2]) : QCoreApplication::applicationDirPath();
     try {
+        values::UseLanguageOf(folder);
         const upkeep::BackupPlan plan = upkeep::ReadBackupPlan(folder);
         if (!plan.folder.isEmpty()) upkeep::MakeBackup(folder, plan);
         return 0;

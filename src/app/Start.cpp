@@ -17,6 +17,7 @@
 #include "forms/Sound.h"
 #include "forms/Theme.h"
 #include "sales/frmORVAtouch.h"
+#include "values/Language.h"
 
 using namespace Qt::StringLiterals;
 
@@ -30,6 +31,8 @@ void TakeInstallation() {
     } catch (const values::Error& error) {
         refused = {error.Description()};
     }
+    values::UseLanguage(values::Shown::OnScreens, TheInstallation.screens);
+    values::UseLanguage(values::Shown::OnPaper, TheInstallation.paper);
     forms::SetSound(TheInstallation.sound);
     forms::UseContrast(TheInstallation.contrast);
     if (!refused.isEmpty()) forms::Inform(refused.join(u'\n'), u"VELTON"_s);

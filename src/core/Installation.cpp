@@ -1,11 +1,13 @@
 #include "core/Installation.h"
 
 #include <algorithm>
+#include <functional>
 #include <vector>
 
 #include "core/CoreWords.h"
 #include "output/Folder.h"
 #include "values/IniFile.h"
+#include "values/Language.h"
 
 using namespace Qt::StringLiterals;
 
@@ -13,8 +15,8 @@ namespace {
 
 // What a key may say, and what each of it sets.
 struct Choice {
-    const char16_t* text;
-    void (*set)(Installation& installation);
+    QString text;
+    std::function<void(Installation& installation)> set;
 };
 
 struct Key {
@@ -28,6 +30,13 @@ using forms::Contrast;
 
 constexpr int LongestShown = 48;
 
+std::vector<Choice> LanguagesFor(QString Installation::*member) {
+    std::vector<Choice> choices;
+    for (const values::Language& language : values::Languages())
+        choices.push_back({language.code, [member, code = language.code](Installation& i) { i.*member = code; }});
+    return choices;
+}
+
 const std::vector<Key> Keys = {
     {u"heading", u"name", {}, [](Installation& i) -> QString& { return i.heading.NazivFirme; }},
     {u"heading", u"address", {}, [](Installation& i) -> QString& { return i.heading.Adresa; }},
@@ -35,12 +44,14 @@ const std::vector<Key> Keys = {
     {u"heading", u"phone", {}, [](Installation& i) -> QString& { return i.heading.Tel; }},
     {u"till",
      u"sound",
-     {{u"yes", [](Installation& i) { i.sound = true; }}, {u"no", [](Installation& i) { i.sound = false; }}}},
+     {{u"yes"_s, [](Installation& i) { i.sound = true; }}, {u"no"_s, [](Installation& i) { i.sound = false; }}}},
     {u"till",
      u"contrast",
-     {{u"usual", [](Installation& i) { i.contrast = Contrast::Usual; }},
-      {u"high", [](Installation& i) { i.contrast = Contrast::High; }},
-      {u"dark", [](Installation& i) { i.contrast = Contrast::Dark; }}}},
+     {{u"usual"_s, [](Installation& i) { i.contrast = Contrast::Usual; }},
+      {u"high"_s, [](Installation& i) { i.contrast = Contrast::High; }},
+      {u"dark"_s, [](Installation& i) { i.contrast = Contrast::Dark; }}}},
+    {u"language", u"screens", LanguagesFor(&Installation::screens)},
+    {u"language", u"paper", LanguagesFor(&Installation::paper)},
 };
 
 bool Take(const Key& key, const QString& text, Installation& installation) {
@@ -49,7 +60,7 @@ bool Take(const Key& key, const QString& text, Installation& installation) {
         return true;
     }
     for (const Choice& choice : key.choices) {
-        if (text.compare(QStringView(choice.text), Qt::CaseInsensitive) != 0) continue;
+        if (text.compare(choice.text, Qt::CaseInsensitive) != 0) continue;
         choice.set(installation);
         return true;
     }
@@ -58,7 +69,7 @@ bool Take(const Key& key, const QString& text, Installation& installation) {
 
 QString Refusal(const Key& key, const values::IniFile::Value& value) {
     QStringList known;
-    for (const Choice& choice : key.choices) known << QString::fromUtf16(choice.text);
+    for (const Choice& choice : key.choices) known << choice.text;
     //: %4: the words that it may be, "yes or no"
     return CoreWords::tr("velton.ini, line %1: %2 can't be \"%3\", only %4.")
         .arg(QString::number(value.line), QString::fromUtf16(key.name), value.text.left(LongestShown),

@@ -12,6 +12,8 @@ struct Installation {
     Heading heading = BuiltInHeading();                 // [heading] name, address, ident, phone
     bool sound = true;                                  // [till] sound = yes | no
     forms::Contrast contrast = forms::Contrast::Usual;  // [till] contrast = usual | high | dark
+    QString screens;                                    // [language] screens = hr and so on; empty: as delivered
+    QString paper;                                      // [language] paper
     upkeep::BackupPlan backup;                          // [backup] folder, days, weeks, months
 };
 

@@ -8,6 +8,7 @@
 #include "manager/goods/PricesPage.h"
 #include "manager/health/HealthPage.h"
 #include "manager/labels/LabelsPage.h"
+#include "manager/language/LanguagePage.h"
 #include "manager/overview/OverviewPage.h"
 #include "manager/printers/PrintersPage.h"
 #include "manager/reports/ReportsPage.h"
@@ -39,6 +40,7 @@ std::vector<PageEntry> AllPages() {
         {u"PricesPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Prices")), Make<PricesPage>},
         {u"LabelsPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Labels")), Make<LabelsPage>},
         {u"PrintersPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Printers")), Make<PrintersPage>},
+        {u"LanguagePage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Language")), Make<LanguagePage>},
         {u"SetupPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Set-up")), Make<SetupPage>},
         {u"BackupPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Backup")), Make<BackupPage>},
         {u"HealthPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Health")), Make<HealthPage>},

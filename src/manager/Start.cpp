@@ -16,6 +16,7 @@
 #include "manager/ManagerWindow.h"
 #include "output/Folder.h"
 #include "upkeep/Restore.h"
+#include "values/Language.h"
 
 using namespace Qt::StringLiterals;
 
@@ -34,6 +35,14 @@ bool IsAsDelivered() {
     return MainStore().OpenRecordset(DeliveredUserQuery).RecordCount() == 1 &&
            MainStore().OpenRecordset(OwnersQuery).RecordCount() == 1 &&
            MainStore().OpenRecordset(InvoicesQuery).AtEOF();
+}
+
+// A shop that has chosen none sees its owner's program in the language of the system.
+void UseLanguages() {
+    const QString& chosen = TheInstallation.screens;
+    values::UseLanguage(values::Shown::OnScreens,
+                        chosen.isEmpty() ? values::LanguageFor(QLocale::system().uiLanguages()) : chosen);
+    values::UseLanguage(values::Shown::OnPaper, TheInstallation.paper);
 }
 
 ManagerWindow* ShowWindow() {
@@ -61,6 +70,7 @@ void PrepareManager() {
 void OpenShop() {
     upkeep::EndBrokenRestore(output::ProgramFolder());
     const QStringList refused = ReadInstallation();
+    UseLanguages();
     forms::UseContrast(TheInstallation.contrast);
     if (!refused.isEmpty()) forms::Inform(refused.join(u'\n'), Title);
     OpenOptionsStore();

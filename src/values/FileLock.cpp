@@ -8,8 +8,7 @@
 #include <cerrno>
 
 #include "values/FileError.h"
-
-using namespace Qt::StringLiterals;
+#include "values/Words.h"
 
 namespace values {
 
@@ -19,8 +18,8 @@ FileLock::FileLock(const QString& path, On on, When when) {
     const int file = on == On::Folder ? ::open(name.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)
                                       : ::open(name.constData(), O_RDWR | O_CREAT | O_CLOEXEC, itsUserAlone);
     if (file < 0) {
-        if (on == On::Folder) throw Error(PathNotFound, u"The folder %1 can't be opened."_s.arg(path));
-        throw FileError(NumberOfOsError(errno), u"Cannot open '%1': %2"_s.arg(path, qt_error_string(errno)));
+        if (on == On::Folder) throw Error(PathNotFound, Words::tr("The folder %1 can't be opened.").arg(path));
+        throw FileError(NumberOfOsError(errno), Words::tr("Cannot open '%1': %2").arg(path, qt_error_string(errno)));
     }
     int result = 0;
     do result = ::flock(file, LOCK_EX | (when == When::Now ? LOCK_NB : 0));

@@ -2,8 +2,9 @@
 
 #include <QLibraryInfo>
 #include <QTranslator>
-#include <algorithm>
 #include <memory>
+
+#include "values/IniFile.h"
 
 using namespace Qt::StringLiterals;
 
@@ -48,19 +49,30 @@ const std::vector<Language>& Languages() {
     return all;
 }
 
-bool IsLanguage(const QString& code) {
-    return std::ranges::any_of(Languages(), [&](const Language& language) { return language.code == code; });
+namespace {
+
+// As it is written in the names of files; empty when there is none.
+QString Known(const QString& code) {
+    for (const Language& language : Languages())
+        if (language.code.compare(code, Qt::CaseInsensitive) == 0) return language.code;
+    return {};
 }
 
-QString LanguageFor(const QLocale& locale) {
-    const QString code = locale.language() == QLocale::Serbian ? u"sr_Latn"_s : locale.name().section(u'_', 0, 0);
-    return IsLanguage(code) ? code : QString();
+}  // namespace
+
+QString LanguageFor(const QStringList& wanted) {
+    for (const QString& name : wanted) {
+        const QString language = name.section(u'-', 0, 0);
+        if (const QString code = Known(language == u"sr" ? u"sr_Latn"_s : language); !code.isEmpty()) return code;
+    }
+    return {};
 }
 
-void UseLanguage(Shown where, const QString& code) {
+void UseLanguage(Shown where, const QString& wanted) {
     Translators& installed = InstalledFor(where);
     installed.clear();  // a translator that goes takes itself out of the program
-    if (!IsLanguage(code)) return;
+    const QString code = Known(wanted);
+    if (code.isEmpty()) return;
     if (where == Shown::OnScreens) {
         // What Qt's own boxes say; languages that Qt lacks have these texts among ours.
         auto qt = std::make_unique<QTranslator>();
@@ -68,6 +80,15 @@ void UseLanguage(Shown where, const QString& code) {
     }
     auto ours = std::make_unique<PartOfTexts>(where);
     if (ours->load(u":/languages/velton_%1.qm"_s.arg(code))) Install(installed, std::move(ours));
+}
+
+void UseLanguageOf(const QString& registerFolder) {
+    try {
+        const auto value = IniFile::Read(registerFolder + u"/velton.ini"_s).Find(u"language"_s, u"screens"_s);
+        if (value) UseLanguage(Shown::OnScreens, value->text);
+    } catch (const Error&) {
+        // It is told where it is read for what else it holds.
+    }
 }
 
 }  // namespace values

@@ -1,8 +1,7 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QLocale>
-#include <QString>
+#include <QStringList>
 #include <vector>
 
 namespace values {
@@ -15,16 +14,19 @@ struct Language {
 
 // Sorted by their names.
 const std::vector<Language>& Languages();
-bool IsLanguage(const QString& code);
 
-// The language that a user of this locale would choose; empty when there is none.
-QString LanguageFor(const QLocale& locale);
+// The first of these that there is, as a locale names the languages of its screens ("de-AT"); empty when there is none.
+QString LanguageFor(const QStringList& wanted);
 
 // Screens and paper each have their own. Without one, each shows the texts as the program has them itself.
 enum class Shown { OnScreens, OnPaper };
 
-// Holds for every text that is asked for from now on; an empty code is no language, and so is one that isn't there.
-void UseLanguage(Shown where, const QString& code);
+// Holds for every text that is asked for from now on. The case of the code does not matter; an empty one is no
+// language, and so is one that isn't there.
+void UseLanguage(Shown where, const QString& wanted);
+
+// For a program without screens: what velton.ini in the folder of a register has for them, where it can be read.
+void UseLanguageOf(const QString& registerFolder);
 
 // What is printed, or shown as it is printed: Paper::tr("...").
 class Paper {

@@ -4,11 +4,16 @@
 #include <QAbstractScrollArea>
 #include <QAbstractSpinBox>
 #include <QAccessible>
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QKeySequence>
 #include <QLineEdit>
+#include <QMap>
+#include <QMenu>
+#include <QMenuBar>
 #include <QRadioButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -36,12 +41,15 @@ public:
             Tell(window_, u"is larger than its screen"_s);
         for (const QWidget* control : window_.findChildren<QWidget*>())
             if (control->isVisible() && control->window() == &window_) LookAt(*control);
+        for (const QMenu* menu : window_.findChildren<QMenu*>()) LookAtEntries(menu->actions());
+        if (const auto* bar = window_.findChild<QMenuBar*>()) LookAtEntries(bar->actions());
         return faults_;
     }
 
 private:
     void LookAt(const QWidget& control) {
         LookWhetherItIsInside(control);
+        LookAtAccelerator(control);
         LookAtTexts(control);
         LookAtNeighbours(control);
         LookForName(control);
@@ -60,6 +68,33 @@ private:
         const QRect place(control.mapTo(&window_, QPoint()), control.size());
         if (!window_.rect().adjusted(-Tolerance, -Tolerance, Tolerance, Tolerance).contains(place))
             Tell(control, u"reaches beyond its window"_s);
+    }
+
+    // Two of one letter, and the key goes from one to the other instead of doing something.
+    void LookAtAccelerator(const QWidget& control) {
+        const auto* label = qobject_cast<const QLabel*>(&control);
+        if (label && !label->buddy()) return;
+        const auto* button = qobject_cast<const QAbstractButton*>(&control);
+        if (!label && !button) return;
+        const auto key = QKeySequence::mnemonic(label ? label->text() : button->text());
+        if (key.isEmpty() || qobject_cast<const TouchButton*>(button)) return;
+        const QString other = accelerators_.value(key);
+        if (other.isEmpty())
+            accelerators_[key] = control.objectName();
+        else
+            Tell(control, u"has %1 as %2 has"_s.arg(key.toString(), other));
+    }
+
+    void LookAtEntries(const QList<QAction*>& entries) {
+        QMap<QKeySequence, QString> seen;
+        for (const QAction* entry : entries) {
+            const auto key = QKeySequence::mnemonic(entry->text());
+            if (key.isEmpty()) continue;
+            if (seen.contains(key))
+                faults_ << u"%1: the entries %2 and %3 have %4"_s.arg(window_.objectName(), seen[key],
+                                                                       entry->objectName(), key.toString());
+            seen[key] = entry->objectName();
+        }
     }
 
     void LookAtTexts(const QWidget& control) {
@@ -139,6 +174,7 @@ private:
 
     const QWidget& window_;
     QStringList faults_;
+    QMap<QKeySequence, QString> accelerators_;  // and whose they are
 };
 
 }  // namespace

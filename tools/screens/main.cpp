@@ -15,6 +15,7 @@
 #include "screens/Tour.h"
 #include "store/Database.h"
 #include "store/StorePath.h"
+#include "values/FileError.h"
 
 using namespace Qt::StringLiterals;
 
@@ -24,18 +25,21 @@ struct Arguments {
     std::string folder;
     std::pair<int, int> size{1366, 768};
     std::string scale;
+    std::string language;
 };
 
 // As a shop sets its register that has a fiscal printer and writes customers on invoices.
-void MakeShop(const QString& path) {
+void MakeShop(const QString& path, const QString& language) {
     delivery::MakeProgramFolder(path, {.withDemo = true});
+    if (!language.isEmpty())
+        values::SaveFile(path + u"/velton.ini"_s, u"[language]\nscreens=%1\npaper=%1\n"_s.arg(language).toUtf8());
     const auto options = store::Database::Open(store::OptionsPlace(path), store::OptionsSchema());
     options->Execute(u"UPDATE Options SET FiskalniRacunDA = '1', Kupac = True"_s);
     output::SetProgramFolder(path);
 }
 
-int TakePictures(const QString& folder, const QString& shop) {
-    MakeShop(shop);
+int TakePictures(const QString& folder, const QString& shop, const QString& language) {
+    MakeShop(shop, language);
     screens::Album album(folder);
     const auto camera = [&](QWidget& window, const QString& name) { album.Add(window, name); };
     screens::TakeTour(camera);
@@ -59,6 +63,7 @@ int Run(int argc, char* argv[]) {
     app.add_option("--scale", arguments.scale, "How many dots of the screen make a pixel, 1 when nothing is said")
         ->check(CLI::Range(1.0, 4.0))
         ->type_name("FACTOR");
+    app.add_option("--language", arguments.language, "Of screens and paper; as delivered when nothing is said");
     CLI11_PARSE(app, argc, argv);
     if (!arguments.scale.empty()) qputenv("QT_SCALE_FACTOR", QByteArray::fromStdString(arguments.scale));
 
@@ -68,7 +73,8 @@ int Run(int argc, char* argv[]) {
     QApplication application(argc, argv);
     PrepareApplication();
     QApplication::setCursorFlashTime(0);  // the caret always shows
-    return TakePictures(QString::fromLocal8Bit(arguments.folder), temporary.filePath(u"shop"_s));
+    return TakePictures(QString::fromLocal8Bit(arguments.folder), temporary.filePath(u"shop"_s),
+                        QString::fromStdString(arguments.language));
 }
 
 }  // namespace
