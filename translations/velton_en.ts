@@ -28,104 +28,104 @@
     <name>ClickTable</name>
     <message>
         <source>The click table has no tab %1.</source>
-        <translation>ClickTable				The click table has no tab %1.</translation>
+        <translation>The click table has no tab %1.</translation>
     </message>
     <message>
         <source>The click table has no button %1.</source>
-        <translation>ClickTable				The click table has no button %1.</translation>
+        <translation>The click table has no button %1.</translation>
     </message>
 </context>
 <context>
     <name>CoreWords</name>
     <message>
         <source>The store is not open.</source>
-        <translation>CoreWords				The store is not open.</translation>
+        <translation>The store is not open.</translation>
     </message>
     <message>
         <source>Waiting for the server of the store, or for another register that is writing there.</source>
-        <translation>CoreWords				Waiting for the server of the store, or for another register that is writing there.</translation>
+        <translation>Waiting for the server of the store, or for another register that is writing there.</translation>
     </message>
     <message>
         <source>Waiting for another register, which is writing to the store.</source>
-        <translation>CoreWords				Waiting for another register, which is writing to the store.</translation>
+        <translation>Waiting for another register, which is writing to the store.</translation>
     </message>
     <message>
         <source>A text does not fit its line.</source>
-        <translation>CoreWords				A text does not fit its line.</translation>
+        <translation>A text does not fit its line.</translation>
     </message>
     <message>
         <source>velton.ini, line %1: %2 can&apos;t be &quot;%3&quot;, only %4.</source>
         <extracomment>%4: the words that it may be, &quot;yes or no&quot;</extracomment>
-        <translation>CoreWords			%4: the words that it may be, &quot;yes or no&quot;	velton.ini, line %1: %2 can&apos;t be &quot;%3&quot;, only %4.</translation>
+        <translation>velton.ini, line %1: %2 can&apos;t be &quot;%3&quot;, only %4.</translation>
     </message>
     <message>
         <source> or </source>
         <extracomment>between two words that a setting may be, with its blanks</extracomment>
-        <translation>CoreWords			between two words that a setting may be, with its blanks	 or </translation>
+        <translation> or </translation>
     </message>
     <message>
         <source>velton.ini, line %1: there is no %2 in [%3].</source>
-        <translation>CoreWords				velton.ini, line %1: there is no %2 in [%3].</translation>
+        <translation>velton.ini, line %1: there is no %2 in [%3].</translation>
     </message>
     <message>
         <source>The setting %1 can&apos;t be used. %2</source>
-        <translation>CoreWords				The setting %1 can&apos;t be used. %2</translation>
+        <translation>The setting %1 can&apos;t be used. %2</translation>
     </message>
 </context>
 <context>
     <name>CustomerEntry</name>
     <message>
         <source>ID:</source>
-        <translation>CustomerEntry				ID:</translation>
+        <translation>ID:</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation>CustomerEntry				Name:</translation>
+        <translation>Name:</translation>
     </message>
     <message>
         <source>Address:</source>
-        <translation>CustomerEntry				Address:</translation>
+        <translation>Address:</translation>
     </message>
     <message>
         <source>Ident:</source>
-        <translation>CustomerEntry,frmNewKupac				Ident:</translation>
+        <translation>Ident.:</translation>
     </message>
     <message>
         <source>Phone:</source>
-        <translation>CustomerEntry				Phone:</translation>
+        <translation>Phone:</translation>
     </message>
     <message>
         <source>Fax:</source>
-        <translation>CustomerEntry				Fax:</translation>
+        <translation>Fax:</translation>
     </message>
     <message>
         <source>Owner:</source>
-        <translation>CustomerEntry				Owner:</translation>
+        <translation>Owner:</translation>
     </message>
     <message>
         <source>Bank accounts:</source>
-        <translation>CustomerEntry				Bank accounts:</translation>
+        <translation>Bank accounts:</translation>
     </message>
     <message>
         <source>The rate approved rebates or rate margins for suppliers:</source>
-        <translation>CustomerEntry				The rate approved rebates or rate margins for suppliers:</translation>
+        <translation>Rebate approved, or the margin of a supplier:</translation>
     </message>
     <message>
         <source>F5-Save</source>
-        <translation>CustomerEntry,ProductEntry,TaxEntry,UserEntry				F5-Save</translation>
+        <translation>F5-Save</translation>
     </message>
     <message>
         <source>F1-Help</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F1-Help</translation>
+        <translation>F1-Help</translation>
     </message>
     <message>
         <source>F12-Close</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F12-Close</translation>
+        <translation>F12-Close</translation>
     </message>
     <message>
         <source>Change password!</source>
         <extracomment>the customer&apos;s ID is taken</extracomment>
-        <translation>CustomerEntry			the customer&apos;s ID is taken	Change password!</translation>
+        <translation>A customer with this ID exists already. Change the ID.</translation>
     </message>
 </context>
 <context>
@@ -207,14 +207,14 @@
     <name>EntryForm</name>
     <message>
         <source>Fill in all required fields.</source>
-        <translation>EntryForm				Fill in all required fields.</translation>
+        <translation>Fill in all required fields.</translation>
     </message>
 </context>
 <context>
     <name>FiscalEntry</name>
     <message>
         <source>OK</source>
-        <translation>FiscalEntry,frmAbout,frmChangeUser,frmFiskalniPeriodicniIzvjestaj				OK</translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
@@ -429,7 +429,7 @@
     </message>
     <message>
         <source>Unit:</source>
-        <translation>ImportChoices,ProductEntry,frmSastav				Unit:</translation>
+        <translation>Unit:</translation>
     </message>
     <message>
         <source>Tax:</source>
@@ -440,7 +440,7 @@
     <name>InvoicesView</name>
     <message>
         <source>Invoices</source>
-        <translation>InvoicesView,frmRacuni,manager::BackupPage,manager::OverviewCharts				Invoices</translation>
+        <translation>Invoices</translation>
     </message>
     <message>
         <source>Receipt</source>
@@ -580,55 +580,55 @@
     <name>ListReport</name>
     <message>
         <source>D A T E</source>
-        <translation>ListReport				D A T E</translation>
+        <translation>DATE</translation>
     </message>
     <message>
         <source>TIME PERIOD</source>
-        <translation>ListReport				TIME PERIOD</translation>
+        <translation>TIME PERIOD</translation>
     </message>
     <message>
         <source>From:</source>
-        <translation>ListReport,frmFiskalniPeriodicniIzvjestaj				From:</translation>
+        <translation>From:</translation>
     </message>
     <message>
         <source>To:</source>
-        <translation>ListReport,frmFiskalniPeriodicniIzvjestaj				To:</translation>
+        <translation>To:</translation>
     </message>
     <message>
         <source>Show period</source>
-        <translation>ListReport				Show period</translation>
+        <translation>Show period</translation>
     </message>
     <message>
         <source>Total by</source>
-        <translation>ListReport				Total by</translation>
+        <translation>Total by</translation>
     </message>
     <message>
         <source>F1-Help</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F1-Help</translation>
+        <translation>F1-Help</translation>
     </message>
     <message>
         <source>F12-Close</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F12-Close</translation>
+        <translation>F12-Close</translation>
     </message>
     <message>
         <source>F5-Print</source>
-        <translation>ListReport,TextPreview,frmORVAtouch,frmRacPRG				F5-Print</translation>
+        <translation>F5-Print</translation>
     </message>
     <message>
         <source>F4-Save</source>
-        <translation>ListReport,TextPreview,frmRacPRG,frmSastav				F4-Save</translation>
+        <translation>F4-Save</translation>
     </message>
     <message>
         <source>Report (*.txt)</source>
-        <translation>ListReport,TextPreview				Report (*.txt)</translation>
+        <translation>Report (*.txt)</translation>
     </message>
     <message>
         <source>List does not contain any item.Change date.</source>
-        <translation>ListReport				List does not contain any item.Change date.</translation>
+        <translation>The list is empty. Choose other days.</translation>
     </message>
     <message>
         <source>Save as</source>
-        <translation>ListReport,TextPreview				Save as</translation>
+        <translation>Save as</translation>
     </message>
 </context>
 <context>
@@ -643,11 +643,11 @@
     </message>
     <message>
         <source>&amp;User:</source>
-        <translation>ManagerLogin,PasswordStep,frmChangeUser				&amp;User:</translation>
+        <translation>&amp;User:</translation>
     </message>
     <message>
         <source>&amp;Password:</source>
-        <translation>ManagerLogin,UsersStep,frmChangeUser				&amp;Password:</translation>
+        <translation>&amp;Password:</translation>
     </message>
     <message>
         <source>&amp;Log in</source>
@@ -673,7 +673,7 @@
     <name>MasterdataWords</name>
     <message>
         <source>The row was deleted after this list was read.</source>
-        <translation>MasterdataWords				The row was deleted after this list was read.</translation>
+        <translation>The row was deleted after this list was read.</translation>
     </message>
 </context>
 <context>
@@ -823,7 +823,7 @@
     </message>
     <message>
         <source>Taxes</source>
-        <translation>OverviewPage,TaxesStep,frmTax,mdiORVA				Taxes</translation>
+        <translation>Taxes</translation>
     </message>
     <message>
         <source>How far it has read</source>
@@ -843,390 +843,390 @@
     <message>
         <source>INVOICE No:%1</source>
         <extracomment>at most 11 columns without %1, the number</extracomment>
-        <translation>Paper			at most 11 columns without %1, the number	INVOICE No:%1</translation>
+        <translation>INVOICE No:%1</translation>
     </message>
     <message>
         <source>   Price Quantit TaxRat     TAX   Amount</source>
         <extracomment>40 columns, all to the right: price 8, quantity 8, tax rate 7, tax 8, amount 9</extracomment>
-        <translation>Paper			40 columns, all to the right: price 8, quantity 8, tax rate 7, tax 8, amount 9	   Price Quantit TaxRat     TAX   Amount</translation>
+        <translation>   Price Quantit TaxRat     TAX   Amount</translation>
     </message>
     <message>
         <source>ProductID  Product description          </source>
         <extracomment>40 columns: code and description, one blank between them</extracomment>
-        <translation>Paper			40 columns: code and description, one blank between them	ProductID  Product description          </translation>
+        <translation>Code       Product description          </translation>
     </message>
     <message>
         <source>Product              Price Quant  Amount</source>
         <extracomment>40 columns: product 18, and to the right price 8, quantity 6, amount 8</extracomment>
-        <translation>Paper			40 columns: product 18, and to the right price 8, quantity 6, amount 8	Product              Price Quant  Amount</translation>
+        <translation>Product              Price Quant  Amount</translation>
     </message>
     <message>
         <source>No Product description                  </source>
         <extracomment>40 columns: number and description, one blank between them</extracomment>
-        <translation>Paper			40 columns: number and description, one blank between them	No Product description                  </translation>
+        <translation>No Product description                  </translation>
     </message>
     <message>
         <source>No Product           Price Quant  Amount</source>
         <extracomment>40 columns: number 3, product 15, and to the right price 8, quantity 6, amount 8</extracomment>
-        <translation>Paper			40 columns: number 3, product 15, and to the right price 8, quantity 6, amount 8	No Product           Price Quant  Amount</translation>
+        <translation>No Product           Price Quant  Amount</translation>
     </message>
     <message>
         <source>No Product name                    Unit Quantit Price    Amount     Tax   Amount</source>
         <extracomment>80 columns: number and name 35, and to the right unit 4, quantity 8, price 8, amount 8, tax 8, amount 9</extracomment>
-        <translation>Paper			80 columns: number and name 35, and to the right unit 4, quantity 8, price 8, amount 8, tax 8, amount 9	No Product name                    Unit Quantit Price    Amount     Tax   Amount</translation>
+        <translation>No Product name                    Unit Quantit Price    Amount     Tax   Amount</translation>
     </message>
     <message>
         <source>                                                 outTax   outTax         withTax</source>
         <extracomment>80 columns, below the line before: price and first amount &quot;without tax&quot;, last amount &quot;with tax&quot;</extracomment>
-        <translation>Paper			80 columns, below the line before: price and first amount &quot;without tax&quot;, last amount &quot;with tax&quot;	                                                 outTax   outTax         withTax</translation>
+        <translation>                                                 w/oTax   w/oTax         withTax</translation>
     </message>
     <message>
         <source>No Product description          </source>
         <extracomment>32 columns: number and description, one blank between them</extracomment>
-        <translation>Paper			32 columns: number and description, one blank between them	No Product description          </translation>
+        <translation>No Product description          </translation>
     </message>
     <message>
         <source>     Price  Quantity      Amount</source>
         <extracomment>32 columns, all to the right: price 9, quantity 10, amount 13</extracomment>
-        <translation>Paper			32 columns, all to the right: price 9, quantity 10, amount 13	     Price  Quantity      Amount</translation>
+        <translation>     Price  Quantity      Amount</translation>
     </message>
     <message>
         <source>Product      Price Quant  Amount</source>
         <extracomment>32 columns: product 10, and to the right price 8, quantity 6, amount 8</extracomment>
-        <translation>Paper			32 columns: product 10, and to the right price 8, quantity 6, amount 8	Product      Price Quant  Amount</translation>
+        <translation>Product      Price Quant  Amount</translation>
     </message>
     <message>
         <source>Date of issue:%1</source>
         <extracomment>at most 40 columns without %1, the date</extracomment>
-        <translation>Paper			at most 40 columns without %1, the date	Date of issue:%1</translation>
+        <translation>Date of issue:%1</translation>
     </message>
     <message>
         <source>Delivery date :%1</source>
         <extracomment>at most 40 columns without %1, the date</extracomment>
-        <translation>Paper			at most 40 columns without %1, the date	Delivery date :%1</translation>
+        <translation>Delivery date:%1</translation>
     </message>
     <message>
         <source>Custumer:%1</source>
         <extracomment>at most 12 columns without %1, the customer&apos;s name</extracomment>
-        <translation>Paper			at most 12 columns without %1, the customer&apos;s name	Custumer:%1</translation>
+        <translation>Customer:%1</translation>
     </message>
     <message>
         <source>ID:%1</source>
         <extracomment>at most 12 columns without %1, the customer&apos;s identification number</extracomment>
-        <translation>Paper			at most 12 columns without %1, the customer&apos;s identification number	ID:%1</translation>
+        <translation>ID:%1</translation>
     </message>
     <message>
         <source>Date:%1</source>
         <extracomment>at most 12 columns without %1, date and time</extracomment>
-        <translation>Paper			at most 12 columns without %1, date and time	Date:%1</translation>
+        <translation>Date:%1</translation>
     </message>
     <message>
         <source>Subtotal......%1: </source>
         <extracomment>16 columns without %1, the currency; dots fill them, so that the three lines are alike</extracomment>
-        <translation>Paper			16 columns without %1, the currency; dots fill them, so that the three lines are alike	Subtotal......%1: </translation>
+        <translation>Subtotal......%1: </translation>
     </message>
     <message>
         <source>Tax...........%1: </source>
         <extracomment>16 columns without %1, the currency; dots fill them, so that the three lines are alike</extracomment>
-        <translation>Paper			16 columns without %1, the currency; dots fill them, so that the three lines are alike	Tax...........%1: </translation>
+        <translation>Tax...........%1: </translation>
     </message>
     <message>
         <source>TOTAL.........%1: </source>
         <extracomment>16 columns without %1, the currency; dots fill them, so that the three lines are alike</extracomment>
-        <translation>Paper			16 columns without %1, the currency; dots fill them, so that the three lines are alike	TOTAL.........%1: </translation>
+        <translation>TOTAL.........%1: </translation>
     </message>
     <message>
         <source>Taxes          </source>
         <extracomment>15 columns</extracomment>
-        <translation>Paper			15 columns	Taxes          </translation>
+        <translation>Taxes          </translation>
     </message>
     <message>
         <source>Rate     Amount</source>
         <extracomment>15 columns: rate 6, and to the right amount 9</extracomment>
-        <translation>Paper			15 columns: rate 6, and to the right amount 9	Rate     Amount</translation>
+        <translation>Rate     Amount</translation>
     </message>
     <message>
         <source> TOTAL:%1</source>
         <extracomment>at most 7 columns without %1, the sum of the taxes</extracomment>
-        <translation>Paper			at most 7 columns without %1, the sum of the taxes	 TOTAL:%1</translation>
+        <translation> TOTAL:%1</translation>
     </message>
     <message>
         <source>Cashier:%1</source>
         <extracomment>at most 12 columns without %1, the cashier&apos;s name</extracomment>
-        <translation>Paper			at most 12 columns without %1, the cashier&apos;s name	Cashier:%1</translation>
+        <translation>Cashier:%1</translation>
     </message>
     <message>
         <source>Invoice No%1</source>
         <extracomment>at most 11 columns without %1, the number</extracomment>
-        <translation>Paper			at most 11 columns without %1, the number	Invoice No%1</translation>
+        <translation>Invoice No%1</translation>
     </message>
     <message>
         <source>Invoice No:%1</source>
         <extracomment>at most 11 columns without %1, the number</extracomment>
-        <translation>Paper			at most 11 columns without %1, the number	Invoice No:%1</translation>
+        <translation>Invoice No:%1</translation>
     </message>
     <message>
         <source>Milk 1 l</source>
         <extracomment>at most 15 columns, a product as an example</extracomment>
-        <translation>Paper			at most 15 columns, a product as an example	Milk 1 l</translation>
+        <translation>Milk 1 l</translation>
     </message>
     <message>
         <source>pcs</source>
         <extracomment>at most 3 columns, its unit: pieces</extracomment>
-        <translation>Paper			at most 3 columns, its unit: pieces	pcs</translation>
+        <translation>pcs</translation>
     </message>
     <message>
         <source>Apples, red</source>
         <extracomment>at most 15 columns, a product as an example</extracomment>
-        <translation>Paper			at most 15 columns, a product as an example	Apples, red</translation>
+        <translation>Apples, red</translation>
     </message>
     <message>
         <source>Business hours of cash register</source>
         <extracomment>at most 40 columns</extracomment>
-        <translation>Paper,frmActivity			at most 40 columns	Business hours of cash register</translation>
+        <translation>Business hours of the register</translation>
     </message>
     <message>
         <source>CR  DateFrom  DateTo  TimeFrom    TimeTo</source>
         <extracomment>40 columns: register 4, the days of login and log-off 8 each, their times 10 and 9</extracomment>
-        <translation>Paper			40 columns: register 4, the days of login and log-off 8 each, their times 10 and 9	CR  DateFrom  DateTo  TimeFrom    TimeTo</translation>
+        <translation>Rg  FromDay   ToDay   TimeFrom    TimeTo</translation>
     </message>
     <message>
         <source>to </source>
         <extracomment>at most 3 columns, between the numbers of a day&apos;s first and last invoice</extracomment>
-        <translation>Paper			at most 3 columns, between the numbers of a day&apos;s first and last invoice	to </translation>
+        <translation>to </translation>
     </message>
     <message>
         <source>od %1 do %2</source>
         <extracomment>at most 20 columns without %1 and %2, the days</extracomment>
-        <translation>Paper,frmIzvjestajKIF			at most 20 columns without %1 and %2, the days	od %1 do %2</translation>
+        <translation>from %1 to %2</translation>
     </message>
     <message>
         <source>INVOICES REPORT</source>
         <extracomment>at most 40 columns</extracomment>
-        <translation>Paper			at most 40 columns	INVOICES REPORT</translation>
+        <translation>INVOICES REPORT</translation>
     </message>
     <message>
         <source>Invoices report for period</source>
         <extracomment>at most 40 columns</extracomment>
-        <translation>Paper			at most 40 columns	Invoices report for period</translation>
+        <translation>Invoices by day for the period</translation>
     </message>
     <message>
         <source> DATE      InvoiceFrom InvoiceTo        </source>
         <extracomment>40 columns: day 11, first invoice 12, last invoice 17</extracomment>
-        <translation>Paper			40 columns: day 11, first invoice 12, last invoice 17	 DATE      InvoiceFrom InvoiceTo        </translation>
+        <translation> DATE      First inv.  Last invoice     </translation>
     </message>
     <message>
         <source>Total wout Tax       TAX   Total withTAX</source>
         <extracomment>40 columns, to the right: amount without tax 14, tax 10, amount with tax 16</extracomment>
-        <translation>Paper			40 columns, to the right: amount without tax 14, tax 10, amount with tax 16	Total wout Tax       TAX   Total withTAX</translation>
+        <translation>Total w/o tax        TAX  Total with tax</translation>
     </message>
     <message>
         <source>TOTAL  :  </source>
         <extracomment>at most 10 columns, amounts stand behind it</extracomment>
-        <translation>Paper			at most 10 columns, amounts stand behind it	TOTAL  :  </translation>
+        <translation>TOTAL  :  </translation>
     </message>
     <message>
         <source>                         Product list - List of goods           date:</source>
         <extracomment>at most 80 columns</extracomment>
-        <translation>Paper			at most 80 columns	                         Product list - List of goods           date:</translation>
+        <translation>                         Stock list - list of goods             date:</translation>
     </message>
     <message>
         <source>No Product name                     ID-BarcodeUnit  PRICE  Quantity     Amount</source>
         <extracomment>78 columns: number 5, name 30, code 14, unit 3, price 7, quantity 8, amount 11</extracomment>
-        <translation>Paper			78 columns: number 5, name 30, code 14, unit 3, price 7, quantity 8, amount 11	No Product name                     ID-BarcodeUnit  PRICE  Quantity     Amount</translation>
+        <translation>No Product name                     ID-BarcodeUnit  PRICE  Quantity     Amount</translation>
     </message>
     <message>
         <source>TOTAL with Tax: %1</source>
         <extracomment>at most 60 columns without %1, the amount</extracomment>
-        <translation>Paper			at most 60 columns without %1, the amount	TOTAL with Tax: %1</translation>
+        <translation>TOTAL with tax: %1</translation>
     </message>
     <message>
         <source>TAX: %1</source>
         <extracomment>at most 60 columns without %1, the amount</extracomment>
-        <translation>Paper			at most 60 columns without %1, the amount	TAX: %1</translation>
+        <translation>TAX: %1</translation>
     </message>
     <message>
         <source>TOTAL without Tax: %1</source>
         <extracomment>at most 60 columns without %1, the amount</extracomment>
-        <translation>Paper			at most 60 columns without %1, the amount	TOTAL without Tax: %1</translation>
+        <translation>TOTAL without tax: %1</translation>
     </message>
     <message>
         <source>Invoices </source>
         <extracomment>at most 40 columns</extracomment>
-        <translation>Paper			at most 40 columns	Invoices </translation>
+        <translation>Invoices </translation>
     </message>
     <message>
         <source>InNo Cashie    Date       Time    Amount</source>
         <extracomment>40 columns: number 5, cashier 8, date 9, time 9, amount 9</extracomment>
-        <translation>Paper			40 columns: number 5, cashier 8, date 9, time 9, amount 9	InNo Cashie    Date       Time    Amount</translation>
+        <translation>InNo Cashier   Date       Time    Amount</translation>
     </message>
     <message>
         <source>TOTAL: </source>
         <extracomment>at most 10 columns, amounts stand behind it</extracomment>
-        <translation>Paper			at most 10 columns, amounts stand behind it	TOTAL: </translation>
+        <translation>TOTAL: </translation>
     </message>
     <message>
         <source>Sale by Cashier</source>
         <extracomment>at most 40 columns</extracomment>
-        <translation>Paper,frmSales			at most 40 columns	Sale by Cashier</translation>
+        <translation>Sales by cashier</translation>
     </message>
     <message>
         <source>CId Cashier           Date         Total</source>
         <extracomment>40 columns: cashier&apos;s ID 4, cashier 16, date 9, total 11</extracomment>
-        <translation>Paper			40 columns: cashier&apos;s ID 4, cashier 16, date 9, total 11	CId Cashier           Date         Total</translation>
+        <translation>CId Cashier           Date         Total</translation>
     </message>
     <message>
         <source>TOTAL : </source>
         <extracomment>at most 10 columns, amounts stand behind it</extracomment>
-        <translation>Paper			at most 10 columns, amounts stand behind it	TOTAL : </translation>
+        <translation>TOTAL : </translation>
     </message>
     <message>
         <source>Sale by Products</source>
         <extracomment>at most 40 columns</extracomment>
-        <translation>Paper,frmSalesProducts,mdiORVA			at most 40 columns	Sale by Products</translation>
+        <translation>Sales by product</translation>
     </message>
     <message>
         <source>Rb Product Name          Unit Qua Amount</source>
         <extracomment>40 columns: code 3, name 24, unit 3, quantity 3, amount 7</extracomment>
-        <translation>Paper			40 columns: code 3, name 24, unit 3, quantity 3, amount 7	Rb Product Name          Unit Qua Amount</translation>
+        <translation>No Product name          Unit Qua Amount</translation>
     </message>
     <message>
         <source>Taxes report for period</source>
         <extracomment>at most 40 columns</extracomment>
-        <translation>Paper			at most 40 columns	Taxes report for period</translation>
+        <translation>Tax report for the period</translation>
     </message>
     <message>
         <source>Id and type TAX       Rate[%]    Date   </source>
         <extracomment>40 columns: ID and name of the tax 22, rate 7, date 11</extracomment>
-        <translation>Paper			40 columns: ID and name of the tax 22, rate 7, date 11	Id and type TAX       Rate[%]    Date   </translation>
+        <translation>ID and kind of tax    Rate[%]    Date   </translation>
     </message>
     <message>
         <source>             Base          TAX     Total</source>
         <extracomment>40 columns, to the right: base 20, tax 10, total 10</extracomment>
-        <translation>Paper			40 columns, to the right: base 20, tax 10, total 10	             Base          TAX     Total</translation>
+        <translation>             Base          TAX     Total</translation>
     </message>
     <message>
         <source>TOTAL :  </source>
         <extracomment>at most 10 columns, amounts stand behind it</extracomment>
-        <translation>Paper			at most 10 columns, amounts stand behind it	TOTAL :  </translation>
+        <translation>TOTAL :  </translation>
     </message>
     <message>
         <source>Quantity of items in stock</source>
         <extracomment>at most 40 columns</extracomment>
-        <translation>Paper,frmStanjeArtikala			at most 40 columns	Quantity of items in stock</translation>
+        <translation>Stock of goods</translation>
     </message>
     <message>
         <source>No Product Name      Unit Quanti  Amount</source>
         <extracomment>40 columns: code 3, name 20, unit 3, quantity 6, amount 8</extracomment>
-        <translation>Paper			40 columns: code 3, name 20, unit 3, quantity 6, amount 8	No Product Name      Unit Quanti  Amount</translation>
+        <translation>No Product name      Unit Quanti  Amount</translation>
     </message>
     <message>
         <source>Tax report for period</source>
         <extracomment>at most 40 columns</extracomment>
-        <translation>Paper			at most 40 columns	Tax report for period</translation>
+        <translation>Tax report for the period</translation>
     </message>
     <message>
         <source>Date           Amount      TAX     Total</source>
         <extracomment>40 columns: date 10, amount without tax 10, tax 10, total 10</extracomment>
-        <translation>Paper			40 columns: date 10, amount without tax 10, tax 10, total 10	Date           Amount      TAX     Total</translation>
+        <translation>Date           Amount      TAX     Total</translation>
     </message>
     <message>
         <source>Tax report by invoices for period</source>
         <extracomment>at most 40 columns</extracomment>
-        <translation>Paper			at most 40 columns	Tax report by invoices for period</translation>
+        <translation>Tax report by invoices for the period</translation>
     </message>
     <message>
         <source>InvNo    Date          Time             </source>
         <extracomment>40 columns: number 8, date 12, time 20</extracomment>
-        <translation>Paper			40 columns: number 8, date 12, time 20	InvNo    Date          Time             </translation>
+        <translation>InvNo    Date          Time             </translation>
     </message>
     <message>
         <source>               Amount      TAX     Total</source>
         <extracomment>40 columns, to the right: amount without tax 20, tax 10, total 10</extracomment>
-        <translation>Paper			40 columns, to the right: amount without tax 20, tax 10, total 10	               Amount      TAX     Total</translation>
+        <translation>               Amount      TAX     Total</translation>
     </message>
     <message>
         <source>End Report No: %1</source>
         <extracomment>at most 34 columns without %1, the number</extracomment>
-        <translation>Paper			at most 34 columns without %1, the number	End Report No: %1</translation>
+        <translation>End Report No: %1</translation>
     </message>
     <message>
         <source>Currently</source>
         <extracomment>at most 39 columns</extracomment>
-        <translation>Paper,frmTrenutnoStanjeKasa			at most 39 columns	Currently</translation>
+        <translation>Now</translation>
     </message>
     <message>
         <source>CASH REGISTERS</source>
         <extracomment>at most 40 columns</extracomment>
-        <translation>Paper,frmTrenutnoStanjeKasa			at most 40 columns	CASH REGISTERS</translation>
+        <translation>CASH REGISTERS</translation>
     </message>
     <message>
         <source>CRNo   Date   TimeFrom            Amount</source>
         <extracomment>40 columns: register 6, date 9, the period&apos;s begin 9, its end 8, amount 7</extracomment>
-        <translation>Paper			40 columns: register 6, date 9, the period&apos;s begin 9, its end 8, amount 7	CRNo   Date   TimeFrom            Amount</translation>
+        <translation>RegNo  Date   TimeFrom            Amount</translation>
     </message>
     <message>
         <source>CASHIERS</source>
         <extracomment>at most 40 columns</extracomment>
-        <translation>Paper,frmTrenutnoStanjeKasa			at most 40 columns	CASHIERS</translation>
+        <translation>CASHIERS</translation>
     </message>
     <message>
         <source>CId Cashier                       Amount</source>
         <extracomment>40 columns: cashier&apos;s ID 4, cashier 16, amount 20</extracomment>
-        <translation>Paper			40 columns: cashier&apos;s ID 4, cashier 16, amount 20	CId Cashier                       Amount</translation>
+        <translation>CId Cashier                       Amount</translation>
     </message>
     <message>
         <source>PRODUCTS</source>
         <extracomment>at most 40 columns</extracomment>
-        <translation>Paper,frmTrenutnoStanjeKasa			at most 40 columns	PRODUCTS</translation>
+        <translation>PRODUCTS</translation>
     </message>
     <message>
         <source>Id  ProductName          Unit Qua Amount</source>
         <extracomment>40 columns: code 4, name 23, unit 3, quantity 3, amount 7</extracomment>
-        <translation>Paper			40 columns: code 4, name 23, unit 3, quantity 3, amount 7	Id  ProductName          Unit Qua Amount</translation>
+        <translation>Id  Product name         Unit Qua Amount</translation>
     </message>
     <message>
         <source>End Reports</source>
         <extracomment>at most 40 columns</extracomment>
-        <translation>Paper,upkeep			at most 40 columns	End Reports</translation>
+        <translation>End Reports</translation>
     </message>
     <message>
         <source>CR End  Date    TimeFr   TimeTo   Amount</source>
         <extracomment>40 columns: register 3, period 4, date 9, its begin 9, its end 8, amount 7</extracomment>
-        <translation>Paper			40 columns: register 3, period 4, date 9, its begin 9, its end 8, amount 7	CR End  Date    TimeFr   TimeTo   Amount</translation>
+        <translation>Rg End  Date    TimeFr   TimeTo   Amount</translation>
     </message>
     <message>
         <source>EndNo Date and time of end        Amount</source>
         <extracomment>40 columns: number 6, date 9, time 9, amount 16</extracomment>
-        <translation>Paper			40 columns: number 6, date 9, time 9, amount 16	EndNo Date and time of end        Amount</translation>
+        <translation>EndNo Date and time of end        Amount</translation>
     </message>
     <message>
         <source>from %1 to %2</source>
         <extracomment>at most 20 columns without %1 and %2, the days</extracomment>
-        <translation>Paper,PeriodReport			at most 20 columns without %1 and %2, the days	from %1 to %2</translation>
+        <translation>from %1 to %2</translation>
     </message>
     <message>
         <source>Printed:%1 %2</source>
         <extracomment>at most 15 columns without %1 and %2, date and time</extracomment>
-        <translation>Paper			at most 15 columns without %1 and %2, date and time	Printed:%1 %2</translation>
+        <translation>Printed:%1 %2</translation>
     </message>
 </context>
 <context>
     <name>PasswordEntry</name>
     <message>
         <source>Different passwords!</source>
-        <translation>PasswordEntry				Different passwords!</translation>
+        <translation>The passwords differ.</translation>
     </message>
     <message>
         <source>Different passwords</source>
-        <translation>PasswordEntry				Different passwords</translation>
+        <translation>The passwords differ</translation>
     </message>
 </context>
 <context>
     <name>PasswordStep</name>
     <message>
         <source>&amp;User:</source>
-        <translation>ManagerLogin,PasswordStep,frmChangeUser				&amp;User:</translation>
+        <translation>&amp;User:</translation>
     </message>
     <message>
         <source>New &amp;password:</source>
@@ -1245,15 +1245,15 @@
     <name>PeriodReport</name>
     <message>
         <source>Choose a day in the calendar, or two days and &quot;%1&quot;.</source>
-        <translation>PeriodReport				Choose a day in the calendar, or two days and &quot;%1&quot;.</translation>
+        <translation>Choose a day in the calendar, or two days and &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>There is nothing on these days.</source>
-        <translation>PeriodReport,manager::ReportsPage				There is nothing on these days.</translation>
+        <translation>There is nothing on these days.</translation>
     </message>
     <message>
         <source>from %1 to %2</source>
-        <translation>Paper,PeriodReport			at most 20 columns without %1 and %2, the days	from %1 to %2</translation>
+        <translation>from %1 to %2</translation>
     </message>
 </context>
 <context>
@@ -1408,198 +1408,198 @@
     <name>ProductEntry</name>
     <message>
         <source>ProductID - BarCode</source>
-        <translation>ProductEntry,frmArtikli,frmSastav				ProductID - BarCode</translation>
+        <translation>Code - bar code</translation>
     </message>
     <message>
         <source>Product name</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmTrenutnoStanjeKasa				Product name</translation>
+        <translation>Product name</translation>
     </message>
     <message>
         <source>Price</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmKlikTabla				Price</translation>
+        <translation>Price</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmSalesProducts				Quantity</translation>
+        <translation>Quantity</translation>
     </message>
     <message>
         <source>Unit:</source>
-        <translation>ImportChoices,ProductEntry,frmSastav				Unit:</translation>
+        <translation>Unit:</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmORVAtouch				Unit</translation>
+        <translation>Unit</translation>
     </message>
     <message>
         <source>Tax rate</source>
-        <translation>ProductEntry,frmArtikli,frmSalesTax,upkeep				Tax rate</translation>
+        <translation>Tax rate</translation>
     </message>
     <message>
         <source>Tax percent</source>
-        <translation>ProductEntry				Tax percent</translation>
+        <translation>Tax percent</translation>
     </message>
     <message>
         <source>Thumbnail (icon)</source>
-        <translation>ProductEntry				Thumbnail (icon)</translation>
+        <translation>Thumbnail (icon)</translation>
     </message>
     <message>
         <source>Insert icon</source>
-        <translation>ProductEntry				Insert icon</translation>
+        <translation>Insert icon</translation>
     </message>
     <message>
         <source>Izaberi ikonu za artikl</source>
-        <translation>ProductEntry				Izaberi ikonu za artikl</translation>
+        <translation>Choose an icon for the product</translation>
     </message>
     <message>
         <source>Delete icon</source>
-        <translation>ProductEntry				Delete icon</translation>
+        <translation>Delete icon</translation>
     </message>
     <message>
         <source>Obrisi ikonu za artikl</source>
-        <translation>ProductEntry				Obrisi ikonu za artikl</translation>
+        <translation>Delete the product&apos;s icon</translation>
     </message>
     <message>
         <source>F5-Save</source>
-        <translation>CustomerEntry,ProductEntry,TaxEntry,UserEntry				F5-Save</translation>
+        <translation>F5-Save</translation>
     </message>
     <message>
         <source>F1-Help</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F1-Help</translation>
+        <translation>F1-Help</translation>
     </message>
     <message>
         <source>F12-Close</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F12-Close</translation>
+        <translation>F12-Close</translation>
     </message>
     <message>
         <source>Price without Tax</source>
-        <translation>ProductEntry,frmArtikli				Price without Tax</translation>
+        <translation>Price without tax</translation>
     </message>
     <message>
         <source>Second price with Tax</source>
-        <translation>ProductEntry				Second price with Tax</translation>
+        <translation>Second price with tax</translation>
     </message>
     <message>
         <source>Second price without Tax</source>
-        <translation>ProductEntry				Second price without Tax</translation>
+        <translation>Second price without tax</translation>
     </message>
     <message>
         <source>Bitmaps</source>
-        <translation>ProductEntry				Bitmaps</translation>
+        <translation>Bitmaps</translation>
     </message>
     <message>
         <source>GIF Images</source>
-        <translation>ProductEntry				GIF Images</translation>
+        <translation>GIF images</translation>
     </message>
     <message>
         <source>JPEG Images</source>
-        <translation>ProductEntry				JPEG Images</translation>
+        <translation>JPEG images</translation>
     </message>
     <message>
         <source>File Not Found</source>
-        <translation>ProductEntry				File Not Found</translation>
+        <translation>File not found</translation>
     </message>
     <message>
         <source>Price must be numeric.</source>
-        <translation>ProductEntry				Price must be numeric.</translation>
+        <translation>The price must be a number.</translation>
     </message>
     <message>
         <source>Product with this code-barcode already exists.Change ProductID!</source>
-        <translation>ProductEntry				Product with this code-barcode already exists.Change ProductID!</translation>
+        <translation>A product with this code exists already. Change the code.</translation>
     </message>
     <message>
         <source>The file %1 holds no picture that can be shown.</source>
-        <translation>ProductEntry				The file %1 holds no picture that can be shown.</translation>
+        <translation>The file %1 holds no picture that can be shown.</translation>
     </message>
 </context>
 <context>
     <name>ReceiptWords</name>
     <message>
         <source>X report is done.</source>
-        <translation>ReceiptWords				X report is done.</translation>
+        <translation>The X report is done.</translation>
     </message>
     <message>
         <source>Z report - daily report is done.</source>
-        <translation>ReceiptWords				Z report - daily report is done.</translation>
+        <translation>The Z report (daily report) is done.</translation>
     </message>
     <message>
         <source>Code</source>
-        <translation>ReceiptWords,manager::GoodsChoice,manager::GoodsPage,manager::OverviewCharts				Code</translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>Product name</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmTrenutnoStanjeKasa				Product name</translation>
+        <translation>Product name</translation>
     </message>
     <message>
         <source>Price</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmKlikTabla				Price</translation>
+        <translation>Price</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmSalesProducts				Quantity</translation>
+        <translation>Quantity</translation>
     </message>
     <message>
         <source>Amount</source>
-        <translation>ReceiptWords,frmORVAtouch,frmRacuni,frmSales				Amount</translation>
+        <translation>Amount</translation>
     </message>
     <message>
         <source>Tax %</source>
-        <translation>ReceiptWords				Tax %</translation>
+        <translation>Tax %</translation>
     </message>
     <message>
         <source>Tax</source>
-        <translation>ReceiptWords,frmIzvjestajKIF,frmORVAtouch,frmTaxbyInvoice				Tax</translation>
+        <translation>Tax</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmORVAtouch				Unit</translation>
+        <translation>Unit</translation>
     </message>
     <message>
         <source>TaxID</source>
-        <translation>ReceiptWords,frmSalesTax,frmTax				TaxID</translation>
+        <translation>Tax</translation>
     </message>
     <message>
         <source>ID</source>
-        <translation>ReceiptWords,frmTrenutnoStanjeKasa				ID</translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>Rate</source>
-        <translation>ReceiptWords,manager::OverviewCharts				Rate</translation>
+        <translation>Rate</translation>
     </message>
     <message>
         <source>The printer on LPT%1 has no paper.</source>
-        <translation>ReceiptWords				The printer on LPT%1 has no paper.</translation>
+        <translation>The printer on LPT%1 has no paper.</translation>
     </message>
     <message>
         <source>The printer on LPT%1 has its cover open.</source>
-        <translation>ReceiptWords				The printer on LPT%1 has its cover open.</translation>
+        <translation>The printer on LPT%1 has its cover open.</translation>
     </message>
     <message>
         <source>The printer on LPT%1 is offline or has an error.</source>
-        <translation>ReceiptWords				The printer on LPT%1 is offline or has an error.</translation>
+        <translation>The printer on LPT%1 is offline or has an error.</translation>
     </message>
     <message>
         <source>The printer on LPT%1 does not answer.</source>
-        <translation>ReceiptWords				The printer on LPT%1 does not answer.</translation>
+        <translation>The printer on LPT%1 does not answer.</translation>
     </message>
     <message>
         <source>Nothing is printed yet.
 
 Yes: look at it again. No: print all the same.</source>
-        <translation>ReceiptWords				Nothing is printed yet.
+        <translation>Nothing is printed yet.
 
 Yes: look at it again. No: print all the same.</translation>
     </message>
     <message>
         <source>Cannot read %1: %2.</source>
-        <translation>ReceiptWords,values				Cannot read %1: %2.</translation>
+        <translation>Cannot read %1: %2.</translation>
     </message>
     <message>
         <source>Cannot save %1: %2.</source>
-        <translation>ReceiptWords,output				Cannot save %1: %2.</translation>
+        <translation>Cannot save %1: %2.</translation>
     </message>
     <message>
         <source>Cannot delete %1: %2.</source>
-        <translation>ReceiptWords				Cannot delete %1: %2.</translation>
+        <translation>Cannot delete %1: %2.</translation>
     </message>
 </context>
 <context>
@@ -1711,61 +1711,61 @@ Yes: look at it again. No: print all the same.</translation>
     <name>SalesWords</name>
     <message>
         <source>End Report is done?</source>
-        <translation>SalesWords				End Report is done?</translation>
+        <translation>Is the End Report done?</translation>
     </message>
     <message>
         <source>End Report %1 %2</source>
-        <translation>SalesWords,frmTrenutnoStanjeKasa			%1 and %2 are date and time	End Report %1 %2</translation>
+        <translation>End Report %1 %2</translation>
     </message>
     <message>
         <source>Do you want to make End Report?</source>
-        <translation>SalesWords,frmTrenutnoStanjeKasa				Do you want to make End Report?</translation>
+        <translation>Do you want to make the End Report?</translation>
     </message>
     <message>
         <source>End Report? YES or NO</source>
-        <translation>SalesWords				End Report? YES or NO</translation>
+        <translation>End Report? Yes or no</translation>
     </message>
     <message>
         <source>Close the program?</source>
-        <translation>SalesWords				Close the program?</translation>
+        <translation>Close the program?</translation>
     </message>
     <message>
         <source>END OF WORK</source>
-        <translation>SalesWords				END OF WORK</translation>
+        <translation>END OF WORK</translation>
     </message>
 </context>
 <context>
     <name>SearchBlock</name>
     <message>
         <source>F11-All</source>
-        <translation>SearchBlock				F11-All</translation>
+        <translation>F11-All</translation>
     </message>
     <message>
         <source>Show all</source>
-        <translation>SearchBlock				Show all</translation>
+        <translation>Show all</translation>
     </message>
     <message>
         <source>Search in:</source>
-        <translation>SearchBlock,frmKupci				Search in:</translation>
+        <translation>Search in:</translation>
     </message>
     <message>
         <source>Enter the text you&apos;re looking for:</source>
-        <translation>SearchBlock,frmKupci				Enter the text you&apos;re looking for:</translation>
+        <translation>Text to look for:</translation>
     </message>
     <message>
         <source>any &amp;where in the text</source>
-        <translation>SearchBlock				any &amp;where in the text</translation>
+        <translation>any&amp;where in the text</translation>
     </message>
     <message>
         <source>from the &amp;beginning</source>
-        <translation>SearchBlock				from the &amp;beginning</translation>
+        <translation>from the &amp;beginning</translation>
     </message>
 </context>
 <context>
     <name>SearchScreen</name>
     <message>
         <source>Nothing is found.</source>
-        <translation>SearchScreen,frmViewer				Nothing is found.</translation>
+        <translation>Nothing was found.</translation>
     </message>
 </context>
 <context>
@@ -1818,77 +1818,77 @@ Yes: look at it again. No: print all the same.</translation>
     <name>SupportWords</name>
     <message>
         <source>This is not a text in RTF.</source>
-        <translation>SupportWords				This is not a text in RTF.</translation>
+        <translation>This is not a text in RTF.</translation>
     </message>
     <message>
         <source>The groups of the text are nested too deeply.</source>
-        <translation>SupportWords				The groups of the text are nested too deeply.</translation>
+        <translation>The groups of the text are nested too deeply.</translation>
     </message>
     <message>
         <source>The text closes more groups than it opens.</source>
-        <translation>SupportWords				The text closes more groups than it opens.</translation>
+        <translation>The text closes more groups than it opens.</translation>
     </message>
     <message>
         <source>The end of the text is missing.</source>
-        <translation>SupportWords				The end of the text is missing.</translation>
+        <translation>The end of the text is missing.</translation>
     </message>
 </context>
 <context>
     <name>TableList</name>
     <message>
         <source>Double click for edit.</source>
-        <translation>TableList,frmArtikli				Double click for edit.</translation>
+        <translation>Double click to edit.</translation>
     </message>
     <message>
         <source>F5-New</source>
-        <translation>TableList,frmArtikli,frmKupci,frmORVAtouch				F5-New</translation>
+        <translation>F5-New</translation>
     </message>
     <message>
         <source>F4-Edit</source>
-        <translation>TableList,frmArtikli,frmKupci				F4-Edit</translation>
+        <translation>F4-Edit</translation>
     </message>
     <message>
         <source>F6-Delete</source>
-        <translation>TableList,TextPreview,frmActivity,frmArtikli				F6-Delete</translation>
+        <translation>F6-Delete</translation>
     </message>
     <message>
         <source>F1-Help</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F1-Help</translation>
+        <translation>F1-Help</translation>
     </message>
     <message>
         <source>F12-Close</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F12-Close</translation>
+        <translation>F12-Close</translation>
     </message>
 </context>
 <context>
     <name>TaxEntry</name>
     <message>
         <source>TaxID:</source>
-        <translation>TaxEntry				TaxID:</translation>
+        <translation>Tax ID:</translation>
     </message>
     <message>
         <source>Type of tax:</source>
-        <translation>TaxEntry				Type of tax:</translation>
+        <translation>Kind of tax:</translation>
     </message>
     <message>
         <source>Tax rate:</source>
-        <translation>TaxEntry				Tax rate:</translation>
+        <translation>Tax rate:</translation>
     </message>
     <message>
         <source>F5-Save</source>
-        <translation>CustomerEntry,ProductEntry,TaxEntry,UserEntry				F5-Save</translation>
+        <translation>F5-Save</translation>
     </message>
     <message>
         <source>F1-Help</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F1-Help</translation>
+        <translation>F1-Help</translation>
     </message>
     <message>
         <source>F12-Close</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F12-Close</translation>
+        <translation>F12-Close</translation>
     </message>
     <message>
         <source>Tax rate must be numeric.</source>
-        <translation>TaxEntry				Tax rate must be numeric.</translation>
+        <translation>The tax rate must be a number.</translation>
     </message>
 </context>
 <context>
@@ -1899,7 +1899,7 @@ Yes: look at it again. No: print all the same.</translation>
     </message>
     <message>
         <source>Taxes</source>
-        <translation>OverviewPage,TaxesStep,frmTax,mdiORVA				Taxes</translation>
+        <translation>Taxes</translation>
     </message>
     <message>
         <source>&amp;Code:</source>
@@ -1926,31 +1926,31 @@ Yes: look at it again. No: print all the same.</translation>
     <name>TextPreview</name>
     <message>
         <source>F5-Print</source>
-        <translation>ListReport,TextPreview,frmORVAtouch,frmRacPRG				F5-Print</translation>
+        <translation>F5-Print</translation>
     </message>
     <message>
         <source>F4-Save</source>
-        <translation>ListReport,TextPreview,frmRacPRG,frmSastav				F4-Save</translation>
+        <translation>F4-Save</translation>
     </message>
     <message>
         <source>F6-Delete</source>
-        <translation>TableList,TextPreview,frmActivity,frmArtikli				F6-Delete</translation>
+        <translation>F6-Delete</translation>
     </message>
     <message>
         <source>F1-Help</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F1-Help</translation>
+        <translation>F1-Help</translation>
     </message>
     <message>
         <source>F12-Close</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F12-Close</translation>
+        <translation>F12-Close</translation>
     </message>
     <message>
         <source>Save as</source>
-        <translation>ListReport,TextPreview				Save as</translation>
+        <translation>Save as</translation>
     </message>
     <message>
         <source>Report (*.txt)</source>
-        <translation>ListReport,TextPreview				Report (*.txt)</translation>
+        <translation>Report (*.txt)</translation>
     </message>
 </context>
 <context>
@@ -1996,7 +1996,7 @@ Yes: look at it again. No: print all the same.</translation>
     </message>
     <message>
         <source>Written: %1 new, %2 changed.</source>
-        <translation type="unfinished">Written: %1 new, %2 changed.</translation>
+        <translation>Written: %1 new, %2 changed.</translation>
     </message>
     <message>
         <source>Sold meanwhile, and taken off: %1</source>
@@ -2060,54 +2060,54 @@ Yes: look at it again. No: print all the same.</translation>
     <message>
         <source>Free</source>
         <extracomment>a button without a product</extracomment>
-        <translation>TouchButton			a button without a product	Free</translation>
+        <translation>Free</translation>
     </message>
 </context>
 <context>
     <name>UserEntry</name>
     <message>
         <source>UserID:</source>
-        <translation>UserEntry				UserID:</translation>
+        <translation>User ID:</translation>
     </message>
     <message>
         <source>Username:</source>
-        <translation>UserEntry,frmLogin				Username:</translation>
+        <translation>User name:</translation>
     </message>
     <message>
         <source>Access Level:</source>
-        <translation>UserEntry				Access Level:</translation>
+        <translation>Access level:</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation>UserEntry,frmLogin				Password:</translation>
+        <translation>Password:</translation>
     </message>
     <message>
         <source>Confirm Pass:</source>
-        <translation>UserEntry				Confirm Pass:</translation>
+        <translation>Confirm password:</translation>
     </message>
     <message>
         <source>Show password</source>
-        <translation>UserEntry,frmChangePassword				Show password</translation>
+        <translation>Show password</translation>
     </message>
     <message>
         <source>Workplace:</source>
-        <translation>UserEntry				Workplace:</translation>
+        <translation>Position:</translation>
     </message>
     <message>
         <source>F5-Save</source>
-        <translation>CustomerEntry,ProductEntry,TaxEntry,UserEntry				F5-Save</translation>
+        <translation>F5-Save</translation>
     </message>
     <message>
         <source>F1-Help</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F1-Help</translation>
+        <translation>F1-Help</translation>
     </message>
     <message>
         <source>F12-Close</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F12-Close</translation>
+        <translation>F12-Close</translation>
     </message>
     <message>
         <source>User with this UserID or a UserName already exists.Change Username!</source>
-        <translation>UserEntry				User with this UserID or a UserName already exists.Change Username!</translation>
+        <translation>A user with this ID or name exists already. Change the name.</translation>
     </message>
 </context>
 <context>
@@ -2118,7 +2118,7 @@ Yes: look at it again. No: print all the same.</translation>
     </message>
     <message>
         <source>Users</source>
-        <translation>UsersStep,mdiORVA				Users</translation>
+        <translation>Users</translation>
     </message>
     <message>
         <source>N&amp;umber:</source>
@@ -2134,7 +2134,7 @@ Yes: look at it again. No: print all the same.</translation>
     </message>
     <message>
         <source>&amp;Password:</source>
-        <translation>ManagerLogin,UsersStep,frmChangeUser				&amp;Password:</translation>
+        <translation>&amp;Password:</translation>
     </message>
     <message>
         <source>Ne&amp;w</source>
@@ -2149,500 +2149,500 @@ Yes: look at it again. No: print all the same.</translation>
     <name>forms</name>
     <message>
         <source>The screen that shows %1 is closed.</source>
-        <translation>forms				The screen that shows %1 is closed.</translation>
+        <translation>The screen that shows %1 is closed.</translation>
     </message>
     <message>
         <source>%1 has no control %2.</source>
-        <translation>forms				%1 has no control %2.</translation>
+        <translation>%1 has no control %2.</translation>
     </message>
 </context>
 <context>
     <name>forms::KeypadPanel</name>
     <message>
         <source>Enter</source>
-        <translation>forms::KeypadPanel				Enter</translation>
+        <translation>Enter</translation>
     </message>
 </context>
 <context>
     <name>forms::ListView</name>
     <message>
         <source>No row of the list is selected.</source>
-        <translation>forms::ListView				No row of the list is selected.</translation>
+        <translation>No row of the list is selected.</translation>
     </message>
 </context>
 <context>
     <name>forms::LongWork</name>
     <message>
         <source>This takes a while ...</source>
-        <translation>forms::LongWork				This takes a while ...</translation>
+        <translation>This takes a while ...</translation>
     </message>
     <message>
         <source>ESC-Leave</source>
-        <translation>forms::LongWork				ESC-Leave</translation>
+        <translation>ESC-Leave</translation>
     </message>
 </context>
 <context>
     <name>forms::ScanGuard</name>
     <message>
         <source>Not taken: %1</source>
-        <translation>forms::ScanGuard				Not taken: %1</translation>
+        <translation>Not taken: %1</translation>
     </message>
 </context>
 <context>
     <name>forms::TextView</name>
     <message>
         <source>Cannot write a file: %1</source>
-        <translation>forms::TextView				Cannot write a file: %1</translation>
+        <translation>Cannot write a file: %1</translation>
     </message>
 </context>
 <context>
     <name>frmAbout</name>
     <message>
         <source>About program</source>
-        <translation>frmAbout,mdiORVA				About program</translation>
+        <translation>About the program</translation>
     </message>
     <message>
         <source>The till of one small shop: invoices, stock, receipts and reports.</source>
-        <translation>frmAbout				The till of one small shop: invoices, stock, receipts and reports.</translation>
+        <translation>The till of one small shop: invoices, stock, receipts and reports.</translation>
     </message>
     <message>
         <source>Licences</source>
-        <translation>frmAbout				Licences</translation>
+        <translation>Licences</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation>FiscalEntry,frmAbout,frmChangeUser,frmFiskalniPeriodicniIzvjestaj				OK</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation>frmAbout				Version %1</translation>
+        <translation>Version %1</translation>
     </message>
 </context>
 <context>
     <name>frmActivity</name>
     <message>
         <source>Business hours of cash register</source>
-        <translation>Paper,frmActivity			at most 40 columns	Business hours of cash register</translation>
+        <translation>Business hours of the register</translation>
     </message>
     <message>
         <source>CR</source>
-        <translation>frmActivity,frmZakljucakPregled				CR</translation>
+        <translation>Reg.</translation>
     </message>
     <message>
         <source>DateFrom</source>
-        <translation>frmActivity				DateFrom</translation>
+        <translation>From day</translation>
     </message>
     <message>
         <source>DateTo</source>
-        <translation>frmActivity				DateTo</translation>
+        <translation>To day</translation>
     </message>
     <message>
         <source>Time login</source>
-        <translation>frmActivity				Time login</translation>
+        <translation>Login time</translation>
     </message>
     <message>
         <source>Time logoff</source>
-        <translation>frmActivity				Time logoff</translation>
+        <translation>Log-off time</translation>
     </message>
     <message>
         <source>List haven&apos;t any item.Change date.</source>
-        <translation>frmActivity				List haven&apos;t any item.Change date.</translation>
+        <translation>The list is empty. Choose other days.</translation>
     </message>
     <message>
         <source>F6-Delete</source>
-        <translation>TableList,TextPreview,frmActivity,frmArtikli				F6-Delete</translation>
+        <translation>F6-Delete</translation>
     </message>
     <message>
         <source>Delete all list</source>
-        <translation>frmActivity				Delete all list</translation>
+        <translation>Delete the whole list</translation>
     </message>
     <message>
         <source>Log can&apos;t be deleted.</source>
-        <translation>frmActivity				Log can&apos;t be deleted.</translation>
+        <translation>The log can&apos;t be deleted.</translation>
     </message>
 </context>
 <context>
     <name>frmArtikli</name>
     <message>
         <source>Products</source>
-        <translation>frmArtikli				Products</translation>
+        <translation>Products</translation>
     </message>
     <message>
         <source>Double click for edit.</source>
-        <translation>TableList,frmArtikli				Double click for edit.</translation>
+        <translation>Double click to edit.</translation>
     </message>
     <message>
         <source>F5-New</source>
-        <translation>TableList,frmArtikli,frmKupci,frmORVAtouch				F5-New</translation>
+        <translation>F5-New</translation>
     </message>
     <message>
         <source>Add new product</source>
-        <translation>frmArtikli				Add new product</translation>
+        <translation>Add a new product</translation>
     </message>
     <message>
         <source>F4-Edit</source>
-        <translation>TableList,frmArtikli,frmKupci				F4-Edit</translation>
+        <translation>F4-Edit</translation>
     </message>
     <message>
         <source>F6-Delete</source>
-        <translation>TableList,TextPreview,frmActivity,frmArtikli				F6-Delete</translation>
+        <translation>F6-Delete</translation>
     </message>
     <message>
         <source>F1-Help</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F1-Help</translation>
+        <translation>F1-Help</translation>
     </message>
     <message>
         <source>F12-Close</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F12-Close</translation>
+        <translation>F12-Close</translation>
     </message>
     <message>
         <source>ProductID - BarCode</source>
-        <translation>ProductEntry,frmArtikli,frmSastav				ProductID - BarCode</translation>
+        <translation>Code - bar code</translation>
     </message>
     <message>
         <source>Product name</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmTrenutnoStanjeKasa				Product name</translation>
+        <translation>Product name</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmSalesProducts				Quantity</translation>
+        <translation>Quantity</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmORVAtouch				Unit</translation>
+        <translation>Unit</translation>
     </message>
     <message>
         <source>Price</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmKlikTabla				Price</translation>
+        <translation>Price</translation>
     </message>
     <message>
         <source>Tax rate</source>
-        <translation>ProductEntry,frmArtikli,frmSalesTax,upkeep				Tax rate</translation>
+        <translation>Tax rate</translation>
     </message>
     <message>
         <source>Price without Tax</source>
-        <translation>ProductEntry,frmArtikli				Price without Tax</translation>
+        <translation>Price without tax</translation>
     </message>
     <message>
         <source>Second Price</source>
-        <translation>frmArtikli				Second Price</translation>
+        <translation>Second price</translation>
     </message>
     <message>
         <source>Second Price without Tax</source>
-        <translation>frmArtikli				Second Price without Tax</translation>
+        <translation>Second price without tax</translation>
     </message>
     <message>
         <source>ProductID - Barcode: %1
 Product name: %2
 Do you want to delete this item?</source>
-        <translation>frmArtikli				ProductID - Barcode: %1
+        <translation>Code - bar code: %1
 Product name: %2
-Do you want to delete this item?</translation>
+Do you want to delete this product?</translation>
     </message>
     <message>
         <source>Product deleted.</source>
-        <translation>frmArtikli				Product deleted.</translation>
+        <translation>The product is deleted.</translation>
     </message>
 </context>
 <context>
     <name>frmChangePassword</name>
     <message>
         <source>Izmjena lozinke</source>
-        <translation>frmChangePassword				Izmjena lozinke</translation>
+        <translation>Change of password</translation>
     </message>
     <message>
         <source>Change password</source>
-        <translation>frmChangePassword				Change password</translation>
+        <translation>Change password</translation>
     </message>
     <message>
         <source>User:</source>
-        <translation>frmChangePassword				User:</translation>
+        <translation>User:</translation>
     </message>
     <message>
         <source>New password</source>
-        <translation>frmChangePassword				New password</translation>
+        <translation>New password</translation>
     </message>
     <message>
         <source>Confirm password</source>
-        <translation>frmChangePassword				Confirm password</translation>
+        <translation>Confirm password</translation>
     </message>
     <message>
         <source>Show password</source>
-        <translation>UserEntry,frmChangePassword				Show password</translation>
+        <translation>Show password</translation>
     </message>
     <message>
         <source>F5-Save</source>
-        <translation>CustomerEntry,ProductEntry,TaxEntry,UserEntry				F5-Save</translation>
+        <translation>F5-Save</translation>
     </message>
     <message>
         <source>F1-Help</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F1-Help</translation>
+        <translation>F1-Help</translation>
     </message>
     <message>
         <source>F12-Close</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F12-Close</translation>
+        <translation>F12-Close</translation>
     </message>
     <message>
         <source>F-12 Close</source>
-        <translation>frmChangePassword,frmMreza,frmOptions				F-12 Close</translation>
+        <translation>F12-Close</translation>
     </message>
     <message>
         <source>Password changed.</source>
-        <translation>frmChangePassword				Password changed.</translation>
+        <translation>The password is changed.</translation>
     </message>
     <message>
         <source>User with this code or a name already exists.Change name!</source>
-        <translation>frmChangePassword				User with this code or a name already exists.Change name!</translation>
+        <translation>A user with this ID or name exists already. Change the name.</translation>
     </message>
 </context>
 <context>
     <name>frmChangeUser</name>
     <message>
         <source>Login</source>
-        <translation>frmChangeUser				Login</translation>
+        <translation>Login</translation>
     </message>
     <message>
         <source>LOGIN</source>
-        <translation>frmChangeUser				LOGIN</translation>
+        <translation>LOGIN</translation>
     </message>
     <message>
         <source>&amp;User:</source>
-        <translation>ManagerLogin,PasswordStep,frmChangeUser				&amp;User:</translation>
+        <translation>&amp;User:</translation>
     </message>
     <message>
         <source>&amp;Password:</source>
-        <translation>ManagerLogin,UsersStep,frmChangeUser				&amp;Password:</translation>
+        <translation>&amp;Password:</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation>FiscalEntry,frmAbout,frmChangeUser,frmFiskalniPeriodicniIzvjestaj				OK</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation>frmChangeUser,frmLogin				Cancel</translation>
+        <translation>Cancel</translation>
     </message>
     <message>
         <source>Nonexistent user.</source>
-        <translation>frmChangeUser				Nonexistent user.</translation>
+        <translation>There is no such user.</translation>
     </message>
     <message>
         <source>Wrong password.</source>
-        <translation>frmChangeUser				Wrong password.</translation>
+        <translation>Wrong password.</translation>
     </message>
 </context>
 <context>
     <name>frmDepozit</name>
     <message>
         <source>Deposit - payment </source>
-        <translation>frmDepozit,mdiORVA				Deposit - payment </translation>
+        <translation>Deposit - pay in </translation>
     </message>
     <message>
         <source>Deposit payment - only for fiscal printers</source>
-        <translation>frmDepozit				Deposit payment - only for fiscal printers</translation>
+        <translation>Deposit paid in - only for fiscal printers</translation>
     </message>
     <message>
         <source>only for fiscal printers</source>
-        <translation>frmDepozit,frmDepozitIsplata				only for fiscal printers</translation>
+        <translation>only for fiscal printers</translation>
     </message>
     <message>
         <source>Amount:</source>
-        <translation>frmDepozit,frmDepozitIsplata				Amount:</translation>
+        <translation>Amount:</translation>
     </message>
     <message>
         <source>Register amount of deposit - F12</source>
-        <translation>frmDepozit,frmDepozitIsplata				Register amount of deposit - F12</translation>
+        <translation>Register the deposit - F12</translation>
     </message>
     <message>
         <source>Deposit must be numeric.</source>
-        <translation>frmDepozit,frmDepozitIsplata				Deposit must be numeric.</translation>
+        <translation>The deposit must be a number.</translation>
     </message>
     <message>
         <source>Paid deposit.</source>
-        <translation>frmDepozit				Paid deposit.</translation>
+        <translation>The deposit is paid in.</translation>
     </message>
 </context>
 <context>
     <name>frmDepozitIsplata</name>
     <message>
         <source>Deposit payout</source>
-        <translation>frmDepozitIsplata				Deposit payout</translation>
+        <translation>Deposit - pay out</translation>
     </message>
     <message>
         <source>Deposit payout - only for fiscal printers</source>
-        <translation>frmDepozitIsplata				Deposit payout - only for fiscal printers</translation>
+        <translation>Deposit paid out - only for fiscal printers</translation>
     </message>
     <message>
         <source>only for fiscal printers</source>
-        <translation>frmDepozit,frmDepozitIsplata				only for fiscal printers</translation>
+        <translation>only for fiscal printers</translation>
     </message>
     <message>
         <source>Amount:</source>
-        <translation>frmDepozit,frmDepozitIsplata				Amount:</translation>
+        <translation>Amount:</translation>
     </message>
     <message>
         <source>Register amount of deposit - F12</source>
-        <translation>frmDepozit,frmDepozitIsplata				Register amount of deposit - F12</translation>
+        <translation>Register the deposit - F12</translation>
     </message>
     <message>
         <source>Deposit must be numeric.</source>
-        <translation>frmDepozit,frmDepozitIsplata				Deposit must be numeric.</translation>
+        <translation>The deposit must be a number.</translation>
     </message>
     <message>
         <source>Deposit payout.</source>
-        <translation>frmDepozitIsplata				Deposit payout.</translation>
+        <translation>The deposit is paid out.</translation>
     </message>
 </context>
 <context>
     <name>frmEditKupac</name>
     <message>
         <source>Edit custumer - supplier</source>
-        <translation>frmEditKupac				Edit custumer - supplier</translation>
+        <translation>Edit customer - supplier</translation>
     </message>
     <message>
         <source>Identification:</source>
-        <translation>frmEditKupac				Identification:</translation>
+        <translation>Identification:</translation>
     </message>
 </context>
 <context>
     <name>frmEditProduct</name>
     <message>
         <source>Edit product</source>
-        <translation>frmEditProduct				Edit product</translation>
+        <translation>Edit product</translation>
     </message>
     <message>
         <source>F4-Structure</source>
         <extracomment>shows the composition</extracomment>
-        <translation>frmEditProduct			shows the composition	F4-Structure</translation>
+        <translation>F4-Composition</translation>
     </message>
     <message>
         <source>Select a thumbnail - icon</source>
-        <translation>frmEditProduct				Select a thumbnail - icon</translation>
+        <translation>Choose a small picture (icon)</translation>
     </message>
     <message>
         <source>All images</source>
-        <translation>frmEditProduct				All images</translation>
+        <translation>All pictures</translation>
     </message>
     <message>
         <source>File with such name does not exist!</source>
-        <translation>frmEditProduct				File with such name does not exist!</translation>
+        <translation>There is no file of this name.</translation>
     </message>
 </context>
 <context>
     <name>frmEditTax</name>
     <message>
         <source>Edit Tax</source>
-        <translation>frmEditTax				Edit Tax</translation>
+        <translation>Edit tax</translation>
     </message>
     <message>
         <source>Tax with same code or a name already exists.Change TaxID or type!</source>
-        <translation>frmEditTax				Tax with same code or a name already exists.Change TaxID or type!</translation>
+        <translation>A tax with this ID or name exists already. Change the ID or the name.</translation>
     </message>
 </context>
 <context>
     <name>frmEditUser</name>
     <message>
         <source>Edit User</source>
-        <translation>frmEditUser				Edit User</translation>
+        <translation>Edit user</translation>
     </message>
 </context>
 <context>
     <name>frmFirma</name>
     <message>
         <source>My details - My firm</source>
-        <translation>frmFirma				My details - My firm</translation>
+        <translation>My company</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation>frmFirma,frmKupci,manager::GoodsChoice,manager::GoodsPage				Name</translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation>frmFirma,frmKupci,frmOptions,upkeep				Address</translation>
+        <translation>Address</translation>
     </message>
     <message>
         <source>Ident</source>
-        <translation>frmFirma,frmKupci				Ident</translation>
+        <translation>Ident.</translation>
     </message>
     <message>
         <source>Phone</source>
-        <translation>frmFirma,frmKupci,frmOptions				Phone</translation>
+        <translation>Phone</translation>
     </message>
     <message>
         <source>Bank account</source>
-        <translation>frmFirma				Bank account</translation>
+        <translation>Bank account</translation>
     </message>
     <message>
         <source>F5-Save</source>
-        <translation>CustomerEntry,ProductEntry,TaxEntry,UserEntry				F5-Save</translation>
+        <translation>F5-Save</translation>
     </message>
     <message>
         <source>F1-Help</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F1-Help</translation>
+        <translation>F1-Help</translation>
     </message>
     <message>
         <source>F12-Close</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F12-Close</translation>
+        <translation>F12-Close</translation>
     </message>
     <message>
         <source>Address can&apos;t be empty.</source>
-        <translation>frmFirma				Address can&apos;t be empty.</translation>
+        <translation>The address can&apos;t be empty.</translation>
     </message>
     <message>
         <source>Data modified.</source>
-        <translation>frmFirma				Data modified.</translation>
+        <translation>The data are changed.</translation>
     </message>
 </context>
 <context>
     <name>frmFiskalniPeriodicniIzvjestaj</name>
     <message>
         <source>Periodic report for fiscal printer</source>
-        <translation>frmFiskalniPeriodicniIzvjestaj				Periodic report for fiscal printer</translation>
+        <translation>Periodic report of the fiscal printer</translation>
     </message>
     <message>
         <source>Choose time period</source>
-        <translation>frmFiskalniPeriodicniIzvjestaj				Choose time period</translation>
+        <translation>Choose the period</translation>
     </message>
     <message>
         <source>From:</source>
-        <translation>ListReport,frmFiskalniPeriodicniIzvjestaj				From:</translation>
+        <translation>From:</translation>
     </message>
     <message>
         <source>To:</source>
-        <translation>ListReport,frmFiskalniPeriodicniIzvjestaj				To:</translation>
+        <translation>To:</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation>FiscalEntry,frmAbout,frmChangeUser,frmFiskalniPeriodicniIzvjestaj				OK</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Periodic report is done.</source>
-        <translation>frmFiskalniPeriodicniIzvjestaj				Periodic report is done.</translation>
+        <translation>The periodic report is done.</translation>
     </message>
 </context>
 <context>
     <name>frmHelp</name>
     <message>
         <source>Help</source>
-        <translation>frmHelp,frmOptions,mdiORVA				Help</translation>
+        <translation>Help</translation>
     </message>
     <message>
         <source>F12-Close</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F12-Close</translation>
+        <translation>F12-Close</translation>
     </message>
     <message>
         <source>The help text is damaged: %1</source>
-        <translation>frmHelp				The help text is damaged: %1</translation>
+        <translation>The help text is damaged: %1</translation>
     </message>
     <message>
         <source>Contents</source>
-        <translation>frmHelp				Contents</translation>
+        <translation>Contents</translation>
     </message>
     <message>
         <source>The help text is not there.
 
 It should be in this file:
 %1</source>
-        <translation>frmHelp				The help text is not there.
+        <translation>The help text is not there.
 
 It should be in this file:
 %1</translation>
@@ -2652,7 +2652,7 @@ It should be in this file:
 
 It is in this file:
 %2</source>
-        <translation>frmHelp				The help text cannot be read: %1
+        <translation>The help text cannot be read: %1
 
 It is in this file:
 %2</translation>
@@ -2662,7 +2662,7 @@ It is in this file:
 
 It is in this file:
 %1</source>
-        <translation>frmHelp				The help text cannot be read: it is too long.
+        <translation>The help text cannot be read: it is too long.
 
 It is in this file:
 %1</translation>
@@ -2672,1911 +2672,1911 @@ It is in this file:
     <name>frmIzvjestajKIF</name>
     <message>
         <source>Invoices for tax report</source>
-        <translation>frmIzvjestajKIF,mdiORVA				Invoices for tax report</translation>
+        <translation>Tax book of invoices</translation>
     </message>
     <message>
         <source>date</source>
-        <translation>frmIzvjestajKIF,frmSales,frmSalesTax,frmTaxbyInvoice				date</translation>
+        <translation>date</translation>
     </message>
     <message>
         <source>invoices</source>
-        <translation>frmIzvjestajKIF,frmTaxbyInvoice				invoices</translation>
+        <translation>invoices</translation>
     </message>
     <message>
         <source>od %1 do %2</source>
-        <translation>Paper,frmIzvjestajKIF			at most 20 columns without %1 and %2, the days	od %1 do %2</translation>
+        <translation>from %1 to %2</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation>frmIzvjestajKIF,frmRacPRG,frmRacuni,frmSales				Date</translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>InvoiceFrom</source>
-        <translation>frmIzvjestajKIF				InvoiceFrom</translation>
+        <translation>First invoice</translation>
     </message>
     <message>
         <source>InvoiceTo</source>
-        <translation>frmIzvjestajKIF				InvoiceTo</translation>
+        <translation>Last invoice</translation>
     </message>
     <message>
         <source>Total without Tax</source>
-        <translation>frmIzvjestajKIF				Total without Tax</translation>
+        <translation>Total without tax</translation>
     </message>
     <message>
         <source>Tax</source>
-        <translation>ReceiptWords,frmIzvjestajKIF,frmORVAtouch,frmTaxbyInvoice				Tax</translation>
+        <translation>Tax</translation>
     </message>
     <message>
         <source>Total with Tax</source>
-        <translation>frmIzvjestajKIF				Total with Tax</translation>
+        <translation>Total with tax</translation>
     </message>
     <message>
         <source>Base:</source>
-        <translation>frmIzvjestajKIF,frmSalesTax,frmTaxbyInvoice				Base:</translation>
+        <translation>Base:</translation>
     </message>
     <message>
         <source>TAX:</source>
-        <translation>frmIzvjestajKIF,frmPopisRobe,frmSalesTax,frmTaxbyInvoice				TAX:</translation>
+        <translation>TAX:</translation>
     </message>
     <message>
         <source>TOTAL:</source>
-        <translation>frmIzvjestajKIF,frmRacuni,frmSalesTax,frmStanjeArtikala				TOTAL:</translation>
+        <translation>TOTAL:</translation>
     </message>
 </context>
 <context>
     <name>frmKlikTabla</name>
     <message>
         <source>CLICK TABLE edit</source>
-        <translation>frmKlikTabla				CLICK TABLE edit</translation>
+        <translation>TOUCH TABLE</translation>
     </message>
     <message>
         <source>input new card name</source>
         <extracomment>card: a tab of the touch table</extracomment>
-        <translation>frmKlikTabla			card: a tab of the touch table	input new card name</translation>
+        <translation>Name of the tab</translation>
     </message>
     <message>
         <source>F5-Change name of category</source>
-        <translation>frmKlikTabla				F5-Change name of category</translation>
+        <translation>F5-Change name of tab</translation>
     </message>
     <message>
         <source>F4-Automatic</source>
-        <translation>frmKlikTabla				F4-Automatic</translation>
+        <translation>F4-Automatic</translation>
     </message>
     <message>
         <source>F3-Refresh</source>
-        <translation>frmKlikTabla				F3-Refresh</translation>
+        <translation>F3-Refresh</translation>
     </message>
     <message>
         <source>F1-Help</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F1-Help</translation>
+        <translation>F1-Help</translation>
     </message>
     <message>
         <source>F12-Close</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F12-Close</translation>
+        <translation>F12-Close</translation>
     </message>
     <message>
         <source>ProductID</source>
-        <translation>frmKlikTabla,frmSalesProducts,frmSastav,frmStanjeArtikala				ProductID</translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>ProductName</source>
-        <translation>frmKlikTabla,frmSalesProducts,frmSastav,frmStanjeArtikala				ProductName</translation>
+        <translation>Product name</translation>
     </message>
     <message>
         <source>Price</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmKlikTabla				Price</translation>
+        <translation>Price</translation>
     </message>
     <message>
         <source>search in:</source>
-        <translation>frmKlikTabla				search in:</translation>
+        <translation>Search in:</translation>
     </message>
     <message>
         <source>Search product:</source>
-        <translation>frmKlikTabla				Search product:</translation>
+        <translation>Search product:</translation>
     </message>
     <message>
         <source>everywhere in text</source>
-        <translation>frmKlikTabla,frmKupci				everywhere in text</translation>
+        <translation>anywhere in the text</translation>
     </message>
     <message>
         <source>from begining</source>
-        <translation>frmKlikTabla,frmKupci				from begining</translation>
+        <translation>from the beginning</translation>
     </message>
     <message>
         <source>Tab name can&apos;t be empty.</source>
-        <translation>frmKlikTabla				Tab name can&apos;t be empty.</translation>
+        <translation>The name of the tab can&apos;t be empty.</translation>
     </message>
     <message>
         <source>Old settings will be lost,
 Klick Table will be set automatic</source>
-        <translation>frmKlikTabla				Old settings will be lost,
-Klick Table will be set automatic</translation>
+        <translation>The present table will be lost,
+and the touch table will be filled by itself.</translation>
     </message>
     <message>
         <source>No current row.</source>
-        <translation>frmKlikTabla,store				No current row.</translation>
+        <translation>No current row.</translation>
     </message>
 </context>
 <context>
     <name>frmKupci</name>
     <message>
         <source>Customers - Suppliers</source>
-        <translation>frmKupci,mdiORVA				Customers - Suppliers</translation>
+        <translation>Customers - Suppliers</translation>
     </message>
     <message>
         <source>&amp;Custumer - supplier</source>
-        <translation>frmKupci				&amp;Custumer - supplier</translation>
+        <translation>&amp;Customer - supplier</translation>
     </message>
     <message>
         <source>Dvoklik izaberi kupca</source>
-        <translation>frmKupci				Dvoklik izaberi kupca</translation>
+        <translation>A double click chooses the customer</translation>
     </message>
     <message>
         <source>F5-New</source>
-        <translation>TableList,frmArtikli,frmKupci,frmORVAtouch				F5-New</translation>
+        <translation>F5-New</translation>
     </message>
     <message>
         <source>F4-Edit</source>
-        <translation>TableList,frmArtikli,frmKupci				F4-Edit</translation>
+        <translation>F4-Edit</translation>
     </message>
     <message>
         <source>F6-Delete</source>
-        <translation>TableList,TextPreview,frmActivity,frmArtikli				F6-Delete</translation>
+        <translation>F6-Delete</translation>
     </message>
     <message>
         <source>F1-Help</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F1-Help</translation>
+        <translation>F1-Help</translation>
     </message>
     <message>
         <source>F12-Close</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F12-Close</translation>
+        <translation>F12-Close</translation>
     </message>
     <message>
         <source>Search in:</source>
-        <translation>SearchBlock,frmKupci				Search in:</translation>
+        <translation>Search in:</translation>
     </message>
     <message>
         <source>Enter the text you&apos;re looking for:</source>
-        <translation>SearchBlock,frmKupci				Enter the text you&apos;re looking for:</translation>
+        <translation>Text to look for:</translation>
     </message>
     <message>
         <source>everywhere in text</source>
-        <translation>frmKlikTabla,frmKupci				everywhere in text</translation>
+        <translation>anywhere in the text</translation>
     </message>
     <message>
         <source>from begining</source>
-        <translation>frmKlikTabla,frmKupci				from begining</translation>
+        <translation>from the beginning</translation>
     </message>
     <message>
         <source>CustumerID</source>
-        <translation>frmKupci				CustumerID</translation>
+        <translation>Customer</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation>frmFirma,frmKupci,manager::GoodsChoice,manager::GoodsPage				Name</translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation>frmFirma,frmKupci,frmOptions,upkeep				Address</translation>
+        <translation>Address</translation>
     </message>
     <message>
         <source>Ident</source>
-        <translation>frmFirma,frmKupci				Ident</translation>
+        <translation>Ident.</translation>
     </message>
     <message>
         <source>Phone</source>
-        <translation>frmFirma,frmKupci,frmOptions				Phone</translation>
+        <translation>Phone</translation>
     </message>
     <message>
         <source>Fax</source>
-        <translation>frmKupci,upkeep				Fax</translation>
+        <translation>Fax</translation>
     </message>
     <message>
         <source>Rate rebate/margin</source>
-        <translation>frmKupci				Rate rebate/margin</translation>
+        <translation>Rebate/margin</translation>
     </message>
     <message>
         <source>Custumer: %1
 Do you want to delete the customer?</source>
-        <translation>frmKupci				Custumer: %1
+        <translation>Customer: %1
 Do you want to delete the customer?</translation>
     </message>
     <message>
         <source>Custumer deleted.</source>
-        <translation>frmKupci				Custumer deleted.</translation>
+        <translation>The customer is deleted.</translation>
     </message>
 </context>
 <context>
     <name>frmLogin</name>
     <message>
         <source>VELTON - LOGIN</source>
-        <translation>frmLogin				VELTON - LOGIN</translation>
+        <translation>VELTON - LOGIN</translation>
     </message>
     <message>
         <source>Username:</source>
-        <translation>UserEntry,frmLogin				Username:</translation>
+        <translation>User name:</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation>UserEntry,frmLogin				Password:</translation>
+        <translation>Password:</translation>
     </message>
     <message>
         <source>Broj prijava:</source>
-        <translation>frmLogin				Broj prijava:</translation>
+        <translation>Login No.:</translation>
     </message>
     <message>
         <source>Check date and time</source>
-        <translation>frmLogin				Check date and time</translation>
+        <translation>Check date and time</translation>
     </message>
     <message>
         <source>Date:</source>
-        <translation>frmLogin				Date:</translation>
+        <translation>Date:</translation>
     </message>
     <message>
         <source>Time:</source>
-        <translation>frmLogin				Time:</translation>
+        <translation>Time:</translation>
     </message>
     <message>
         <source>Provjerite datum i vrijeme ako nisu ispravni prekinite pokretanje programa i popravite datum i vrijeme</source>
-        <translation>frmLogin				Provjerite datum i vrijeme ako nisu ispravni prekinite pokretanje programa i popravite datum i vrijeme</translation>
+        <translation>Check date and time. If they are wrong, stop the start of the program and set the clock right.</translation>
     </message>
     <message>
         <source>60 secunds for login</source>
-        <translation>frmLogin				60 secunds for login</translation>
+        <translation>60 seconds to log in</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation>FiscalEntry,frmAbout,frmChangeUser,frmFiskalniPeriodicniIzvjestaj				OK</translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation>frmChangeUser,frmLogin				Cancel</translation>
+        <translation>Cancel</translation>
     </message>
     <message>
         <source>choose user</source>
-        <translation>frmLogin				choose user</translation>
+        <translation>Choose the user</translation>
     </message>
     <message>
         <source>Program VELTON already run.</source>
-        <translation>frmLogin				Program VELTON already run.</translation>
+        <translation>VELTON runs already.</translation>
     </message>
     <message>
         <source>VELTON already works.</source>
-        <translation>frmLogin				VELTON already works.</translation>
+        <translation>VELTON runs already.</translation>
     </message>
     <message>
         <source>Wrong password.Login not allowed.</source>
-        <translation>frmLogin				Wrong password.Login not allowed.</translation>
+        <translation>Wrong password. Login refused.</translation>
     </message>
 </context>
 <context>
     <name>frmMSGinvoice</name>
     <message>
         <source>CHANGE</source>
-        <translation>frmMSGinvoice				CHANGE</translation>
+        <translation>CHANGE</translation>
     </message>
     <message>
         <source>TOTAL</source>
-        <translation>frmMSGinvoice,frmORVAtouch,frmRacPRG,upkeep				TOTAL</translation>
+        <translation>TOTAL</translation>
     </message>
     <message>
         <source>CASH</source>
-        <translation>frmMSGinvoice				CASH</translation>
+        <translation>CASH</translation>
     </message>
     <message>
         <source>Thank you!!!</source>
-        <translation>frmMSGinvoice				Thank you!!!</translation>
+        <translation>Thank you!</translation>
     </message>
     <message>
         <source>OK </source>
-        <translation>frmMSGinvoice				OK </translation>
+        <translation>OK </translation>
     </message>
     <message>
         <source>The amount is less than the invoice amount.</source>
-        <translation>frmMSGinvoice				The amount is less than the invoice amount.</translation>
+        <translation>The amount is less than the total of the invoice.</translation>
     </message>
 </context>
 <context>
     <name>frmMreza</name>
     <message>
         <source>VELTON - Set network - more PC on same database</source>
-        <translation>frmMreza,frmOptions				VELTON - Set network - more PC on same database</translation>
+        <translation>VELTON - Network - several PCs on one store</translation>
     </message>
     <message>
         <source>1.Server path</source>
-        <translation>frmMreza,frmOptions				1.Server path</translation>
+        <translation>1. Path of the server</translation>
     </message>
     <message>
         <source>enter the full path to the server where the database is located</source>
-        <translation>frmMreza,frmOptions				enter the full path to the server where the database is located</translation>
+        <translation>Enter the full path to the folder where the store is</translation>
     </message>
     <message>
         <source>2.Cash register No</source>
-        <translation>frmMreza,frmOptions				2.Cash register No</translation>
+        <translation>2. Number of the cash register</translation>
     </message>
     <message>
         <source>Enter the number of the cash register (1-19)</source>
-        <translation>frmMreza,frmOptions				Enter the number of the cash register (1-19)</translation>
+        <translation>Enter the number of the cash register (1-19)</translation>
     </message>
     <message>
         <source>For server a number greater than 20</source>
-        <translation>frmMreza				For server a number greater than 20</translation>
+        <translation>For the server a number greater than 20</translation>
     </message>
     <message>
         <source>F5-Save</source>
-        <translation>CustomerEntry,ProductEntry,TaxEntry,UserEntry				F5-Save</translation>
+        <translation>F5-Save</translation>
     </message>
     <message>
         <source>F1-Help</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F1-Help</translation>
+        <translation>F1-Help</translation>
     </message>
     <message>
         <source>F12-Close</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F12-Close</translation>
+        <translation>F12-Close</translation>
     </message>
     <message>
         <source>F-12 Close</source>
-        <translation>frmChangePassword,frmMreza,frmOptions				F-12 Close</translation>
+        <translation>F12-Close</translation>
     </message>
 </context>
 <context>
     <name>frmNewKupac</name>
     <message>
         <source>New custumer - supplier</source>
-        <translation>frmNewKupac				New custumer - supplier</translation>
+        <translation>New customer - supplier</translation>
     </message>
     <message>
         <source>Ident:</source>
-        <translation>CustomerEntry,frmNewKupac				Ident:</translation>
+        <translation>Ident.:</translation>
     </message>
 </context>
 <context>
     <name>frmNewProduct</name>
     <message>
         <source>New product</source>
-        <translation>frmNewProduct				New product</translation>
+        <translation>New product</translation>
     </message>
     <message>
         <source>ESC-Delete</source>
-        <translation>frmNewProduct				ESC-Delete</translation>
+        <translation>Esc-Delete</translation>
     </message>
     <message>
         <source>Choose image - icon</source>
-        <translation>frmNewProduct				Choose image - icon</translation>
+        <translation>Choose a picture (icon)</translation>
     </message>
     <message>
         <source>Sve slike</source>
-        <translation>frmNewProduct				Sve slike</translation>
+        <translation>All pictures</translation>
     </message>
     <message>
         <source>File not exist!</source>
-        <translation>frmNewProduct				File not exist!</translation>
+        <translation>There is no such file.</translation>
     </message>
     <message>
         <source>The new product is added.</source>
-        <translation>frmNewProduct				The new product is added.</translation>
+        <translation>The new product is added.</translation>
     </message>
 </context>
 <context>
     <name>frmNewTax</name>
     <message>
         <source>New Tax</source>
-        <translation>frmNewTax				New Tax</translation>
+        <translation>New tax</translation>
     </message>
     <message>
         <source>Tax with same code or a name already exists.Change TaxID or type!!</source>
-        <translation>frmNewTax				Tax with same code or a name already exists.Change TaxID or type!!</translation>
+        <translation>A tax with this ID or name exists already. Change the ID or the name.</translation>
     </message>
     <message>
         <source>A new type of tax is added.</source>
-        <translation>frmNewTax				A new type of tax is added.</translation>
+        <translation>The new tax is added.</translation>
     </message>
 </context>
 <context>
     <name>frmNewUser</name>
     <message>
         <source>New User</source>
-        <translation>frmNewUser				New User</translation>
+        <translation>New user</translation>
     </message>
     <message>
         <source>New user added.</source>
-        <translation>frmNewUser				New user added.</translation>
+        <translation>The new user is added.</translation>
     </message>
 </context>
 <context>
     <name>frmORVAtouch</name>
     <message>
         <source>INVOICE No:</source>
-        <translation>frmORVAtouch,frmRacPRG				INVOICE No:</translation>
+        <translation>INVOICE No.:</translation>
     </message>
     <message>
         <source>ili broj:</source>
-        <translation>frmORVAtouch				ili broj:</translation>
+        <translation>or number:</translation>
     </message>
     <message>
         <source>Cashier</source>
-        <translation>frmORVAtouch,frmRacPRG,frmRacuni,frmSales				Cashier</translation>
+        <translation>Cashier</translation>
     </message>
     <message>
         <source>ProductID-BarCode:</source>
-        <translation>frmORVAtouch				ProductID-BarCode:</translation>
+        <translation>Code - bar code:</translation>
     </message>
     <message>
         <source>Product name:</source>
-        <translation>frmORVAtouch				Product name:</translation>
+        <translation>Product name:</translation>
     </message>
     <message>
         <source>Quantity:</source>
-        <translation>frmORVAtouch,frmSastav				Quantity:</translation>
+        <translation>Quantity:</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmORVAtouch				Unit</translation>
+        <translation>Unit</translation>
     </message>
     <message>
         <source>Price</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmKlikTabla				Price</translation>
+        <translation>Price</translation>
     </message>
     <message>
         <source>Amount</source>
-        <translation>ReceiptWords,frmORVAtouch,frmRacuni,frmSales				Amount</translation>
+        <translation>Amount</translation>
     </message>
     <message>
         <source>ADD on INVOICE</source>
-        <translation>frmORVAtouch				ADD on INVOICE</translation>
+        <translation>ADD TO INVOICE</translation>
     </message>
     <message>
         <source>Custumer:</source>
-        <translation>frmORVAtouch				Custumer:</translation>
+        <translation>Customer:</translation>
     </message>
     <message>
         <source>Custumer name,address...</source>
-        <translation>frmORVAtouch				Custumer name,address...</translation>
+        <translation>Customer&apos;s name, address...</translation>
     </message>
     <message>
         <source>Custumer Ident</source>
-        <translation>frmORVAtouch				Custumer Ident</translation>
+        <translation>Customer&apos;s ident.</translation>
     </message>
     <message>
         <source>Click delete,right click change quantity</source>
-        <translation>frmORVAtouch,frmSastav				Click delete,right click change quantity</translation>
+        <translation>Click to delete, right click to change the quantity</translation>
     </message>
     <message>
         <source>TOTAL</source>
-        <translation>frmMSGinvoice,frmORVAtouch,frmRacPRG,upkeep				TOTAL</translation>
+        <translation>TOTAL</translation>
     </message>
     <message>
         <source>Tax</source>
-        <translation>ReceiptWords,frmIzvjestajKIF,frmORVAtouch,frmTaxbyInvoice				Tax</translation>
+        <translation>Tax</translation>
     </message>
     <message>
         <source>Last line</source>
-        <translation>frmORVAtouch				Last line</translation>
+        <translation>Last line</translation>
     </message>
     <message>
         <source>F5-New</source>
-        <translation>TableList,frmArtikli,frmKupci,frmORVAtouch				F5-New</translation>
+        <translation>F5-New</translation>
     </message>
     <message>
         <source>Esc-Delete</source>
-        <translation>frmORVAtouch				Esc-Delete</translation>
+        <translation>Esc-Delete</translation>
     </message>
     <message>
         <source>F2-Search</source>
-        <translation>frmORVAtouch,frmSastav				F2-Search</translation>
+        <translation>F2-Search</translation>
     </message>
     <message>
         <source>F6-Cashier</source>
-        <translation>frmORVAtouch				F6-Cashier</translation>
+        <translation>F6-Cashier</translation>
     </message>
     <message>
         <source>F7-Sign off</source>
-        <translation>frmORVAtouch				F7-Sign off</translation>
+        <translation>F7-Log off</translation>
     </message>
     <message>
         <source>F8-Ribbon</source>
-        <translation>frmORVAtouch				F8-Ribbon</translation>
+        <translation>F8-Ribbon</translation>
     </message>
     <message>
         <source>F9-Refresh</source>
-        <translation>frmORVAtouch				F9-Refresh</translation>
+        <translation>F9-Refresh</translation>
     </message>
     <message>
         <source>REFRESH CLICK TABLE</source>
-        <translation>frmORVAtouch				REFRESH CLICK TABLE</translation>
+        <translation>REFRESH TOUCH TABLE</translation>
     </message>
     <message>
         <source>F10-Invoices</source>
-        <translation>frmORVAtouch				F10-Invoices</translation>
+        <translation>F10-Invoices</translation>
     </message>
     <message>
         <source>F12-End</source>
-        <translation>frmORVAtouch				F12-End</translation>
+        <translation>F12-End</translation>
     </message>
     <message>
         <source>F1-Help</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F1-Help</translation>
+        <translation>F1-Help</translation>
     </message>
     <message>
         <source>Choose cashier.</source>
-        <translation>frmORVAtouch				Choose cashier.</translation>
+        <translation>Choose the cashier.</translation>
     </message>
     <message>
         <source>You did not enter a single item on the invoice.</source>
-        <translation>frmORVAtouch				You did not enter a single item on the invoice.</translation>
+        <translation>There is nothing on the invoice yet.</translation>
     </message>
     <message>
         <source>New Invoice</source>
-        <translation>frmORVAtouch				New Invoice</translation>
+        <translation>New invoice</translation>
     </message>
     <message>
         <source>F5-Print</source>
-        <translation>ListReport,TextPreview,frmORVAtouch,frmRacPRG				F5-Print</translation>
+        <translation>F5-Print</translation>
     </message>
     <message>
         <source>Do you want cancel the invoice?</source>
-        <translation>frmORVAtouch				Do you want cancel the invoice?</translation>
+        <translation>Do you want to cancel the invoice?</translation>
     </message>
     <message>
         <source>Product has meanwhile been deleted or does not exist.</source>
-        <translation>frmORVAtouch				Product has meanwhile been deleted or does not exist.</translation>
+        <translation>The product does not exist, or has been deleted meanwhile.</translation>
     </message>
     <message>
         <source>Product with this ID-barcode does not exist.</source>
-        <translation>frmORVAtouch				Product with this ID-barcode does not exist.</translation>
+        <translation>There is no product with this code.</translation>
     </message>
     <message>
         <source>Product with this ID-barcode does not exist</source>
-        <translation>frmORVAtouch				Product with this ID-barcode does not exist</translation>
+        <translation>There is no product with this code</translation>
     </message>
     <message>
         <source>Illogical quantity. </source>
-        <translation>frmORVAtouch				Illogical quantity. </translation>
+        <translation>Such a quantity makes no sense. </translation>
     </message>
     <message>
         <source>CHANGE QUANTITY</source>
-        <translation>frmORVAtouch				CHANGE QUANTITY</translation>
+        <translation>CHANGE OF QUANTITY</translation>
     </message>
     <message>
         <source>Lines: %1   Pieces: %2</source>
-        <translation>frmORVAtouch				Lines: %1   Pieces: %2</translation>
+        <translation>Lines: %1   Pieces: %2</translation>
     </message>
     <message>
         <source>Invoice %1 is stored with %2 of its %3 lines. These stay, and so does the stock taken off.</source>
-        <translation>frmORVAtouch				Invoice %1 is stored with %2 of its %3 lines. These stay, and so does the stock taken off.</translation>
+        <translation>Invoice %1 is stored with %2 of its %3 lines. These stay, and so does the stock taken off.</translation>
     </message>
     <message>
         <source>Invoice %1 may be stored whole, in part or not at all: look it up before you post it again.</source>
-        <translation>frmORVAtouch				Invoice %1 may be stored whole, in part or not at all: look it up before you post it again.</translation>
+        <translation>Invoice %1 may be stored whole, in part or not at all: look it up before you post it again.</translation>
     </message>
     <message>
         <source>The stock of %1 can&apos;t be written yet. %2</source>
-        <translation>frmORVAtouch				The stock of %1 can&apos;t be written yet. %2</translation>
+        <translation>The stock of %1 can&apos;t be written yet. %2</translation>
     </message>
 </context>
 <context>
     <name>frmOptions</name>
     <message>
         <source>Settings</source>
-        <translation>frmOptions				Settings</translation>
+        <translation>Settings</translation>
     </message>
     <message>
         <source>1.Program</source>
-        <translation>frmOptions				1.Program</translation>
+        <translation>1. Program</translation>
     </message>
     <message>
         <source>1.Printer for invoices</source>
-        <translation>frmOptions				1.Printer for invoices</translation>
+        <translation>1. Printer for invoices</translation>
     </message>
     <message>
         <source>POS printer LPT1</source>
-        <translation>frmOptions				POS printer LPT1</translation>
+        <translation>Receipt printer LPT1</translation>
     </message>
     <message>
         <source>POS printer LPT2</source>
-        <translation>frmOptions				POS printer LPT2</translation>
+        <translation>Receipt printer LPT2</translation>
     </message>
     <message>
         <source>windows printer</source>
-        <translation>frmOptions				windows printer</translation>
+        <translation>page printer</translation>
     </message>
     <message>
         <source>Set win printer</source>
-        <translation>frmOptions				Set win printer</translation>
+        <translation>Set page printer</translation>
     </message>
     <message>
         <source>2. POS Printer emulalation</source>
-        <translation>frmOptions				2. POS Printer emulalation</translation>
+        <translation>2. Receipt printer&apos;s language</translation>
     </message>
     <message>
         <source>Epson emulation</source>
-        <translation>frmOptions				Epson emulation</translation>
+        <translation>Epson</translation>
     </message>
     <message>
         <source>Star emulation</source>
-        <translation>frmOptions				Star emulation</translation>
+        <translation>Star</translation>
     </message>
     <message>
         <source>cutter POS printer</source>
-        <translation>frmOptions				cutter POS printer</translation>
+        <translation>printer has a cutter</translation>
     </message>
     <message>
         <source>3.Printer for reports</source>
-        <translation>frmOptions				3.Printer for reports</translation>
+        <translation>3. Printer for reports</translation>
     </message>
     <message>
         <source>POS printer na LPT1</source>
-        <translation>frmOptions				POS printer na LPT1</translation>
+        <translation>Receipt printer on LPT1</translation>
     </message>
     <message>
         <source>POS printer na LPT2</source>
-        <translation>frmOptions				POS printer na LPT2</translation>
+        <translation>Receipt printer on LPT2</translation>
     </message>
     <message>
         <source>POS Monitor</source>
-        <translation>frmOptions				POS Monitor</translation>
+        <translation>Monitor</translation>
     </message>
     <message>
         <source>standard monitor</source>
-        <translation>frmOptions				standard monitor</translation>
+        <translation>standard monitor</translation>
     </message>
     <message>
         <source>touch monitor</source>
-        <translation>frmOptions				touch monitor</translation>
+        <translation>touch monitor</translation>
     </message>
     <message>
         <source>4.Currency</source>
-        <translation>frmOptions				4.Currency</translation>
+        <translation>4. Currency</translation>
     </message>
     <message>
         <source>currency sign max 3 char</source>
-        <translation>frmOptions				currency sign max 3 char</translation>
+        <translation>sign of the currency, 3 characters at most</translation>
     </message>
     <message>
         <source>5.Show amount in cash register on main form</source>
-        <translation>frmOptions				5.Show amount in cash register on main form</translation>
+        <translation>5. Show the takings in the main window</translation>
     </message>
     <message>
         <source>show amount in cash register on main form</source>
-        <translation>frmOptions				show amount in cash register on main form</translation>
+        <translation>show the takings in the main window</translation>
     </message>
     <message>
         <source>6.Ask password when change cashier</source>
-        <translation>frmOptions				6.Ask password when change cashier</translation>
+        <translation>6. Ask for the password when the cashier changes</translation>
     </message>
     <message>
         <source>ask for password </source>
-        <translation>frmOptions				ask for password </translation>
+        <translation>ask for the password </translation>
     </message>
     <message>
         <source>7.Change</source>
         <extracomment>the money that the customer gets back</extracomment>
-        <translation>frmOptions			the money that the customer gets back	7.Change</translation>
+        <translation>7. Change</translation>
     </message>
     <message>
         <source>request to input and display paid cash and change</source>
-        <translation>frmOptions				request to input and display paid cash and change</translation>
+        <translation>ask for the cash paid and show the change</translation>
     </message>
     <message>
         <source>8.Show all products in Search</source>
-        <translation>frmOptions				8.Show all products in Search</translation>
+        <translation>8. Show all products in the search</translation>
     </message>
     <message>
         <source>show all products in search when open form</source>
-        <translation>frmOptions				show all products in search when open form</translation>
+        <translation>show all products when the search opens</translation>
     </message>
     <message>
         <source>9.Make printed invoices ribbon on HDD</source>
-        <translation>frmOptions				9.Make printed invoices ribbon on HDD</translation>
+        <translation>9. Ribbon of printed invoices on the disk</translation>
     </message>
     <message>
         <source>printed invoices ribbon on HDD</source>
-        <translation>frmOptions				printed invoices ribbon on HDD</translation>
+        <translation>ribbon of printed invoices on the disk</translation>
     </message>
     <message>
         <source>filename</source>
-        <translation>frmOptions				filename</translation>
+        <translation>file name</translation>
     </message>
     <message>
         <source>10.Print only on fiscal printer</source>
-        <translation>frmOptions				10.Print only on fiscal printer</translation>
+        <translation>10. Print only on the fiscal printer</translation>
     </message>
     <message>
         <source>print only on fiscal printer</source>
-        <translation>frmOptions				print only on fiscal printer</translation>
+        <translation>print only on the fiscal printer</translation>
     </message>
     <message>
         <source>filename fiscal printer</source>
-        <translation>frmOptions				filename fiscal printer</translation>
+        <translation>file of the fiscal printer</translation>
     </message>
     <message>
         <source>New invoice automatic</source>
-        <translation>frmOptions				New invoice automatic</translation>
+        <translation>New invoice by itself</translation>
     </message>
     <message>
         <source>new invoice automatic</source>
-        <translation>frmOptions				new invoice automatic</translation>
+        <translation>new invoice by itself</translation>
     </message>
     <message>
         <source>default option 1-Yes</source>
-        <translation>frmOptions				default option 1-Yes</translation>
+        <translation>usually 1 - Yes</translation>
     </message>
     <message>
         <source>Show window with display for custumer</source>
-        <translation>frmOptions				Show window with display for custumer</translation>
+        <translation>Show the window for the customer&apos;s display</translation>
     </message>
     <message>
         <source>show window with display for custumer</source>
-        <translation>frmOptions				show window with display for custumer</translation>
+        <translation>show the window for the customer&apos;s display</translation>
     </message>
     <message>
         <source>not used</source>
-        <translation>frmOptions				not used</translation>
+        <translation>not used</translation>
     </message>
     <message>
         <source>2.Invoice</source>
-        <translation>frmOptions				2.Invoice</translation>
+        <translation>2. Invoice</translation>
     </message>
     <message>
         <source>1.Invoice heading</source>
-        <translation>frmOptions				1.Invoice heading</translation>
+        <translation>1. Heading of the invoice</translation>
     </message>
     <message>
         <source>My Firm Name</source>
-        <translation>frmOptions				My Firm Name</translation>
+        <translation>Name of my company</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation>frmFirma,frmKupci,frmOptions,upkeep				Address</translation>
+        <translation>Address</translation>
     </message>
     <message>
         <source>Firm Ident</source>
-        <translation>frmOptions				Firm Ident</translation>
+        <translation>Ident. of the company</translation>
     </message>
     <message>
         <source>Phone</source>
-        <translation>frmFirma,frmKupci,frmOptions				Phone</translation>
+        <translation>Phone</translation>
     </message>
     <message>
         <source>Store Place</source>
-        <translation>frmOptions				Store Place</translation>
+        <translation>Place of sale</translation>
     </message>
     <message>
         <source>2.Change invoice No.</source>
-        <translation>frmOptions				2.Change invoice No.</translation>
+        <translation>2. Change the number of the invoice</translation>
     </message>
     <message>
         <source>Go</source>
-        <translation>frmOptions				Go</translation>
+        <translation>Go</translation>
     </message>
     <message>
         <source>enter a new invoice no and click go</source>
-        <translation>frmOptions				enter a new invoice no and click go</translation>
+        <translation>enter the new number and press Go</translation>
     </message>
     <message>
         <source>5.Cashier</source>
-        <translation>frmOptions				5.Cashier</translation>
+        <translation>5. Cashier</translation>
     </message>
     <message>
         <source>print cashier on invoice</source>
-        <translation>frmOptions				print cashier on invoice</translation>
+        <translation>print the cashier on the invoice</translation>
     </message>
     <message>
         <source>6.Footer text on invoice</source>
-        <translation>frmOptions				6.Footer text on invoice</translation>
+        <translation>6. Text at the foot of the invoice</translation>
     </message>
     <message>
         <source>3.Invoice details</source>
-        <translation>frmOptions				3.Invoice details</translation>
+        <translation>3. Items of the invoice</translation>
     </message>
     <message>
         <source>1.Printing items on the invoice</source>
-        <translation>frmOptions				1.Printing items on the invoice</translation>
+        <translation>1. How items are printed on the invoice</translation>
     </message>
     <message>
         <source>ProductID and ProductName                     Price Quantit  TRate     Tax  Amount</source>
         <extracomment>82 columns, all but the product aligned right: product 43, price 8, quantity 8, tax rate 7, tax 8, amount 8</extracomment>
-        <translation>frmOptions			82 columns, all but the product aligned right: product 43, price 8, quantity 8, tax rate 7, tax 8, amount 8	ProductID and ProductName                     Price Quantit  TRate     Tax  Amount</translation>
+        <translation>Code and product name                         Price Quantit  TRate     Tax  Amount</translation>
     </message>
     <message>
         <source>40 char</source>
-        <translation>frmOptions				40 char</translation>
+        <translation>40 columns</translation>
     </message>
     <message>
         <source>Product Name         Price Quanti Amount</source>
         <extracomment>40 columns, all but the product aligned right: product 18, price 8, quantity 7, amount 7</extracomment>
-        <translation>frmOptions			40 columns, all but the product aligned right: product 18, price 8, quantity 7, amount 7	Product Name         Price Quanti Amount</translation>
+        <translation>Product Name         Price Quanti Amount</translation>
     </message>
     <message>
         <source>   Price Quantit  TRate     Tax   Amount</source>
         <extracomment>40 columns, all aligned right: price 8, quantity 8, tax rate 7, tax 8, amount 9</extracomment>
-        <translation>frmOptions			40 columns, all aligned right: price 8, quantity 8, tax rate 7, tax 8, amount 9	   Price Quantit  TRate     Tax   Amount</translation>
+        <translation>   Price Quantit  TRate     Tax   Amount</translation>
     </message>
     <message>
         <source>No Product Name      Price Quant  Amount</source>
         <extracomment>40 columns, figures aligned right: number 3, product 15, price 8, quantity 6, amount 8</extracomment>
-        <translation>frmOptions			40 columns, figures aligned right: number 3, product 15, price 8, quantity 6, amount 8	No Product Name      Price Quant  Amount</translation>
+        <translation>No Product Name      Price Quant  Amount</translation>
     </message>
     <message>
         <source>A4 print</source>
-        <translation>frmOptions				A4 print</translation>
+        <translation>A4 page</translation>
     </message>
     <message>
         <source>80 char</source>
-        <translation>frmOptions				80 char</translation>
+        <translation>80 columns</translation>
     </message>
     <message>
         <source>   Price Quantity      Amount</source>
         <extracomment>29 columns, all aligned right: price 8, quantity 9, amount 12</extracomment>
-        <translation>frmOptions			29 columns, all aligned right: price 8, quantity 9, amount 12	   Price Quantity      Amount</translation>
+        <translation>   Price Quantity      Amount</translation>
     </message>
     <message>
         <source>32 char</source>
-        <translation>frmOptions				32 char</translation>
+        <translation>32 columns</translation>
     </message>
     <message>
         <source>ProductName Price Quant Amount</source>
         <extracomment>30 columns, all but the product aligned right: product 11, price 6, quantity 6, amount 7</extracomment>
-        <translation>frmOptions			30 columns, all but the product aligned right: product 11, price 6, quantity 6, amount 7	ProductName Price Quant Amount</translation>
+        <translation>Product     Price Quant Amount</translation>
     </message>
     <message>
         <source>2.Recapitulation taxes </source>
-        <translation>frmOptions				2.Recapitulation taxes </translation>
+        <translation>2. Recapitulation of taxes </translation>
     </message>
     <message>
         <source>recapitulation by Tax Rates           Rate    Amount</source>
         <extracomment>52 columns, figures aligned right: what it is 33, rate 9, amount 10</extracomment>
-        <translation>frmOptions			52 columns, figures aligned right: what it is 33, rate 9, amount 10	recapitulation by Tax Rates           Rate    Amount</translation>
+        <translation>recapitulation by tax rates           Rate    Amount</translation>
     </message>
     <message>
         <source>without recapitulation print only Tax Total</source>
-        <translation>frmOptions				without recapitulation print only Tax Total</translation>
+        <translation>no recapitulation, the total of the tax only</translation>
     </message>
     <message>
         <source>4.Network</source>
-        <translation>frmOptions				4.Network</translation>
+        <translation>4. Network</translation>
     </message>
     <message>
         <source>VELTON - Set network - more PC on same database</source>
-        <translation>frmMreza,frmOptions				VELTON - Set network - more PC on same database</translation>
+        <translation>VELTON - Network - several PCs on one store</translation>
     </message>
     <message>
         <source>1.Server path</source>
-        <translation>frmMreza,frmOptions				1.Server path</translation>
+        <translation>1. Path of the server</translation>
     </message>
     <message>
         <source>enter the full path to the server where the database is located</source>
-        <translation>frmMreza,frmOptions				enter the full path to the server where the database is located</translation>
+        <translation>Enter the full path to the folder where the store is</translation>
     </message>
     <message>
         <source>2.Cash register No</source>
-        <translation>frmMreza,frmOptions				2.Cash register No</translation>
+        <translation>2. Number of the cash register</translation>
     </message>
     <message>
         <source>Enter the number of the cash register (1-19)</source>
-        <translation>frmMreza,frmOptions				Enter the number of the cash register (1-19)</translation>
+        <translation>Enter the number of the cash register (1-19)</translation>
     </message>
     <message>
         <source>za samo kontrolne funkcije broj veći od 20</source>
-        <translation>frmOptions				za samo kontrolne funkcije broj veći od 20</translation>
+        <translation>for control only a number greater than 20</translation>
     </message>
     <message>
         <source>F5-Sacuvaj</source>
-        <translation>frmOptions				F5-Sacuvaj</translation>
+        <translation>F5-Save</translation>
     </message>
     <message>
         <source>Sacuvaj promjene</source>
-        <translation>frmOptions				Sacuvaj promjene</translation>
+        <translation>Save the changes</translation>
     </message>
     <message>
         <source>F1-Upute</source>
-        <translation>frmOptions				F1-Upute</translation>
+        <translation>F1-Help</translation>
     </message>
     <message>
         <source>Upute za rad</source>
-        <translation>frmOptions				Upute za rad</translation>
+        <translation>Instructions</translation>
     </message>
     <message>
         <source>F12-Zatvori</source>
-        <translation>frmOptions				F12-Zatvori</translation>
+        <translation>F12-Close</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation>frmOptions				Save</translation>
+        <translation>Save</translation>
     </message>
     <message>
         <source>F5-Save</source>
-        <translation>CustomerEntry,ProductEntry,TaxEntry,UserEntry				F5-Save</translation>
+        <translation>F5-Save</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation>frmHelp,frmOptions,mdiORVA				Help</translation>
+        <translation>Help</translation>
     </message>
     <message>
         <source>F1-Help</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F1-Help</translation>
+        <translation>F1-Help</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation>frmOptions				Close</translation>
+        <translation>Close</translation>
     </message>
     <message>
         <source>F-12 Close</source>
-        <translation>frmChangePassword,frmMreza,frmOptions				F-12 Close</translation>
+        <translation>F12-Close</translation>
     </message>
     <message>
         <source>Invoice No must be numeric.</source>
-        <translation>frmOptions,frmReklamiranjeRacuna				Invoice No must be numeric.</translation>
+        <translation>The number of the invoice must be a number.</translation>
     </message>
     <message>
         <source>Invoice No changed.</source>
-        <translation>frmOptions				Invoice No changed.</translation>
+        <translation>The number of the invoice is changed.</translation>
     </message>
     <message>
         <source>The main window does not show the sales screen.</source>
-        <translation>frmOptions				The main window does not show the sales screen.</translation>
+        <translation>The main window does not show the sales screen.</translation>
     </message>
     <message>
         <source>Changes are saved.</source>
-        <translation>frmOptions				Changes are saved.</translation>
+        <translation>Changes are saved.</translation>
     </message>
 </context>
 <context>
     <name>frmPopisRobe</name>
     <message>
         <source>Product list - List of goods</source>
-        <translation>frmPopisRobe				Product list - List of goods</translation>
+        <translation>Stock list - list of goods</translation>
     </message>
     <message>
         <source>Sifra-BarKod</source>
-        <translation>frmPopisRobe				Sifra-BarKod</translation>
+        <translation>Code - bar code</translation>
     </message>
     <message>
         <source>Naziv</source>
-        <translation>frmPopisRobe				Naziv</translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>JM</source>
-        <translation>frmPopisRobe				JM</translation>
+        <translation>Unit</translation>
     </message>
     <message>
         <source>Kolicina</source>
-        <translation>frmPopisRobe				Kolicina</translation>
+        <translation>Quantity</translation>
     </message>
     <message>
         <source>Cijena</source>
-        <translation>frmPopisRobe				Cijena</translation>
+        <translation>Price</translation>
     </message>
     <message>
         <source>Vrijednost</source>
-        <translation>frmPopisRobe				Vrijednost</translation>
+        <translation>Value</translation>
     </message>
     <message>
         <source>TOTAL with Tax:</source>
-        <translation>frmPopisRobe				TOTAL with Tax:</translation>
+        <translation>TOTAL with tax:</translation>
     </message>
     <message>
         <source>TOTAL without Tax:</source>
-        <translation>frmPopisRobe				TOTAL without Tax:</translation>
+        <translation>TOTAL without tax:</translation>
     </message>
     <message>
         <source>TAX:</source>
-        <translation>frmIzvjestajKIF,frmPopisRobe,frmSalesTax,frmTaxbyInvoice				TAX:</translation>
+        <translation>TAX:</translation>
     </message>
     <message>
         <source>Sacuvaj kao</source>
-        <translation>frmPopisRobe				Sacuvaj kao</translation>
+        <translation>Save as</translation>
     </message>
 </context>
 <context>
     <name>frmRacPRG</name>
     <message>
         <source>Invoices - print, view, save</source>
-        <translation>frmRacPRG				Invoices - print, view, save</translation>
+        <translation>Invoices - print, view, save</translation>
     </message>
     <message>
         <source>INVOICE No:</source>
-        <translation>frmORVAtouch,frmRacPRG				INVOICE No:</translation>
+        <translation>INVOICE No.:</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation>frmIzvjestajKIF,frmRacPRG,frmRacuni,frmSales				Date</translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation>frmRacPRG,frmRacuni,frmTaxbyInvoice,frmTrenutnoStanjeKasa				Time</translation>
+        <translation>Time</translation>
     </message>
     <message>
         <source>Cashier</source>
-        <translation>frmORVAtouch,frmRacPRG,frmRacuni,frmSales				Cashier</translation>
+        <translation>Cashier</translation>
     </message>
     <message>
         <source>TOTAL</source>
-        <translation>frmMSGinvoice,frmORVAtouch,frmRacPRG,upkeep				TOTAL</translation>
+        <translation>TOTAL</translation>
     </message>
     <message>
         <source>Tax :</source>
-        <translation>frmRacPRG				Tax :</translation>
+        <translation>Tax :</translation>
     </message>
     <message>
         <source>F5-Print</source>
-        <translation>ListReport,TextPreview,frmORVAtouch,frmRacPRG				F5-Print</translation>
+        <translation>F5-Print</translation>
     </message>
     <message>
         <source>F4-Save</source>
-        <translation>ListReport,TextPreview,frmRacPRG,frmSastav				F4-Save</translation>
+        <translation>F4-Save</translation>
     </message>
     <message>
         <source>Snimi na flopi,USBdisk,disk...</source>
-        <translation>frmRacPRG,frmTrakaRacuna				Snimi na flopi,USBdisk,disk...</translation>
+        <translation>Save to a stick, disk...</translation>
     </message>
     <message>
         <source>F7-Print all</source>
-        <translation>frmRacPRG				F7-Print all</translation>
+        <translation>F7-Print all</translation>
     </message>
     <message>
         <source>F6-Delete</source>
-        <translation>TableList,TextPreview,frmActivity,frmArtikli				F6-Delete</translation>
+        <translation>F6-Delete</translation>
     </message>
     <message>
         <source>Brise arhivirano radno vrijeme</source>
-        <translation>frmRacPRG				Brise arhivirano radno vrijeme</translation>
+        <translation>Deletes the archived business hours</translation>
     </message>
     <message>
         <source>Prethodni</source>
-        <translation>frmRacPRG				Prethodni</translation>
+        <translation>Previous</translation>
     </message>
     <message>
         <source>Sljedeci</source>
-        <translation>frmRacPRG				Sljedeci</translation>
+        <translation>Next</translation>
     </message>
     <message>
         <source>Zadnji</source>
-        <translation>frmRacPRG				Zadnji</translation>
+        <translation>Last</translation>
     </message>
     <message>
         <source>F1-Help</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F1-Help</translation>
+        <translation>F1-Help</translation>
     </message>
     <message>
         <source>F12-Close</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F12-Close</translation>
+        <translation>F12-Close</translation>
     </message>
     <message>
         <source>Zatvori prozor</source>
-        <translation>frmRacPRG				Zatvori prozor</translation>
+        <translation>Close the window</translation>
     </message>
     <message>
         <source>Review Invoice</source>
-        <translation>frmRacPRG				Review Invoice</translation>
+        <translation>Invoice review</translation>
     </message>
     <message>
         <source>Currently there is no single invoice</source>
-        <translation>frmRacPRG				Currently there is no single invoice</translation>
+        <translation>There is no invoice yet</translation>
     </message>
 </context>
 <context>
     <name>frmRacunPregled</name>
     <message>
         <source>Print preview</source>
-        <translation>frmRacunPregled				Print preview</translation>
+        <translation>Print preview</translation>
     </message>
 </context>
 <context>
     <name>frmRacuni</name>
     <message>
         <source>Invoices</source>
-        <translation>InvoicesView,frmRacuni,manager::BackupPage,manager::OverviewCharts				Invoices</translation>
+        <translation>Invoices</translation>
     </message>
     <message>
         <source>InvoiceNo</source>
-        <translation>frmRacuni,frmTaxbyInvoice				InvoiceNo</translation>
+        <translation>Invoice No.</translation>
     </message>
     <message>
         <source>Cashier</source>
-        <translation>frmORVAtouch,frmRacPRG,frmRacuni,frmSales				Cashier</translation>
+        <translation>Cashier</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation>frmIzvjestajKIF,frmRacPRG,frmRacuni,frmSales				Date</translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation>frmRacPRG,frmRacuni,frmTaxbyInvoice,frmTrenutnoStanjeKasa				Time</translation>
+        <translation>Time</translation>
     </message>
     <message>
         <source>Amount</source>
-        <translation>ReceiptWords,frmORVAtouch,frmRacuni,frmSales				Amount</translation>
+        <translation>Amount</translation>
     </message>
     <message>
         <source>InvoiceID</source>
-        <translation>frmRacuni				InvoiceID</translation>
+        <translation>Invoice ID</translation>
     </message>
     <message>
         <source>TOTAL:</source>
-        <translation>frmIzvjestajKIF,frmRacuni,frmSalesTax,frmStanjeArtikala				TOTAL:</translation>
+        <translation>TOTAL:</translation>
     </message>
     <message>
         <source>F4-Print list invoices</source>
-        <translation>frmRacuni				F4-Print list invoices</translation>
+        <translation>F4-Print list of invoices</translation>
     </message>
     <message>
         <source>F6 -Print selected invoice</source>
-        <translation>frmRacuni				F6 -Print selected invoice</translation>
+        <translation>F6-Print chosen invoice</translation>
     </message>
     <message>
         <source>F5-Save</source>
-        <translation>CustomerEntry,ProductEntry,TaxEntry,UserEntry				F5-Save</translation>
+        <translation>F5-Save</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation>frmRacuni				Print</translation>
+        <translation>Print</translation>
     </message>
 </context>
 <context>
     <name>frmReklamiranjeRacuna</name>
     <message>
         <source>Withdrawal invoice - only fiscal printer</source>
-        <translation>frmReklamiranjeRacuna				Withdrawal invoice - only fiscal printer</translation>
+        <translation>Withdrawal of an invoice - only fiscal printer</translation>
     </message>
     <message>
         <source>NOTE: There must be registered sales with enough money in the fiscal device to be able to execute this command</source>
-        <translation>frmReklamiranjeRacuna				NOTE: There must be registered sales with enough money in the fiscal device to be able to execute this command</translation>
+        <translation>NOTE: the fiscal device must have registered sales with enough money for this command</translation>
     </message>
     <message>
         <source>Invoice No:</source>
-        <translation>frmReklamiranjeRacuna				Invoice No:</translation>
+        <translation>Invoice No.:</translation>
     </message>
     <message>
         <source>Withdraw invoice - F12</source>
-        <translation>frmReklamiranjeRacuna				Withdraw invoice - F12</translation>
+        <translation>Withdraw invoice - F12</translation>
     </message>
     <message>
         <source>Invoice No must be numeric.</source>
-        <translation>frmOptions,frmReklamiranjeRacuna				Invoice No must be numeric.</translation>
+        <translation>The number of the invoice must be a number.</translation>
     </message>
     <message>
         <source>Invoice withdraw.</source>
-        <translation>frmReklamiranjeRacuna				Invoice withdraw.</translation>
+        <translation>The invoice is withdrawn.</translation>
     </message>
 </context>
 <context>
     <name>frmSales</name>
     <message>
         <source>Sale by Cashier</source>
-        <translation>Paper,frmSales			at most 40 columns	Sale by Cashier</translation>
+        <translation>Sales by cashier</translation>
     </message>
     <message>
         <source>date</source>
-        <translation>frmIzvjestajKIF,frmSales,frmSalesTax,frmTaxbyInvoice				date</translation>
+        <translation>date</translation>
     </message>
     <message>
         <source>cashier</source>
-        <translation>frmSales				cashier</translation>
+        <translation>cashier</translation>
     </message>
     <message>
         <source>CashierID</source>
-        <translation>frmSales				CashierID</translation>
+        <translation>Cashier ID</translation>
     </message>
     <message>
         <source>Cashier</source>
-        <translation>frmORVAtouch,frmRacPRG,frmRacuni,frmSales				Cashier</translation>
+        <translation>Cashier</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation>frmIzvjestajKIF,frmRacPRG,frmRacuni,frmSales				Date</translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Amount</source>
-        <translation>ReceiptWords,frmORVAtouch,frmRacuni,frmSales				Amount</translation>
+        <translation>Amount</translation>
     </message>
     <message>
         <source>TOTAL :</source>
-        <translation>frmSales,frmSalesProducts				TOTAL :</translation>
+        <translation>TOTAL :</translation>
     </message>
 </context>
 <context>
     <name>frmSalesProducts</name>
     <message>
         <source>Sale by Products</source>
-        <translation>Paper,frmSalesProducts,mdiORVA			at most 40 columns	Sale by Products</translation>
+        <translation>Sales by product</translation>
     </message>
     <message>
         <source>ProductID</source>
-        <translation>frmKlikTabla,frmSalesProducts,frmSastav,frmStanjeArtikala				ProductID</translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>ProductName</source>
-        <translation>frmKlikTabla,frmSalesProducts,frmSastav,frmStanjeArtikala				ProductName</translation>
+        <translation>Product name</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmORVAtouch				Unit</translation>
+        <translation>Unit</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmSalesProducts				Quantity</translation>
+        <translation>Quantity</translation>
     </message>
     <message>
         <source>Amount</source>
-        <translation>ReceiptWords,frmORVAtouch,frmRacuni,frmSales				Amount</translation>
+        <translation>Amount</translation>
     </message>
     <message>
         <source>TOTAL :</source>
-        <translation>frmSales,frmSalesProducts				TOTAL :</translation>
+        <translation>TOTAL :</translation>
     </message>
 </context>
 <context>
     <name>frmSalesTax</name>
     <message>
         <source>TAX Report</source>
-        <translation>frmSalesTax,mdiORVA				TAX Report</translation>
+        <translation>Tax report</translation>
     </message>
     <message>
         <source>date</source>
-        <translation>frmIzvjestajKIF,frmSales,frmSalesTax,frmTaxbyInvoice				date</translation>
+        <translation>date</translation>
     </message>
     <message>
         <source>tax rate</source>
-        <translation>frmSalesTax				tax rate</translation>
+        <translation>tax rate</translation>
     </message>
     <message>
         <source>TaxID</source>
-        <translation>ReceiptWords,frmSalesTax,frmTax				TaxID</translation>
+        <translation>Tax</translation>
     </message>
     <message>
         <source>Tax type</source>
-        <translation>frmSalesTax				Tax type</translation>
+        <translation>Kind of tax</translation>
     </message>
     <message>
         <source>Tax rate</source>
-        <translation>ProductEntry,frmArtikli,frmSalesTax,upkeep				Tax rate</translation>
+        <translation>Tax rate</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation>frmIzvjestajKIF,frmRacPRG,frmRacuni,frmSales				Date</translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Osnovica</source>
-        <translation>frmSalesTax				Osnovica</translation>
+        <translation>Base</translation>
     </message>
     <message>
         <source>Iznos poreza</source>
-        <translation>frmSalesTax				Iznos poreza</translation>
+        <translation>Tax</translation>
     </message>
     <message>
         <source>Iznos sa porezom-PDVom</source>
-        <translation>frmSalesTax				Iznos sa porezom-PDVom</translation>
+        <translation>Amount with tax</translation>
     </message>
     <message>
         <source>Base:</source>
-        <translation>frmIzvjestajKIF,frmSalesTax,frmTaxbyInvoice				Base:</translation>
+        <translation>Base:</translation>
     </message>
     <message>
         <source>TAX:</source>
-        <translation>frmIzvjestajKIF,frmPopisRobe,frmSalesTax,frmTaxbyInvoice				TAX:</translation>
+        <translation>TAX:</translation>
     </message>
     <message>
         <source>TOTAL:</source>
-        <translation>frmIzvjestajKIF,frmRacuni,frmSalesTax,frmStanjeArtikala				TOTAL:</translation>
+        <translation>TOTAL:</translation>
     </message>
 </context>
 <context>
     <name>frmSastav</name>
     <message>
         <source>Product composition</source>
-        <translation>frmSastav				Product composition</translation>
+        <translation>Product composition</translation>
     </message>
     <message>
         <source>Product composition for:</source>
-        <translation>frmSastav				Product composition for:</translation>
+        <translation>Product composition for:</translation>
     </message>
     <message>
         <source>ProductID - BarCode</source>
-        <translation>ProductEntry,frmArtikli,frmSastav				ProductID - BarCode</translation>
+        <translation>Code - bar code</translation>
     </message>
     <message>
         <source>Product Name:</source>
-        <translation>frmSastav				Product Name:</translation>
+        <translation>Product name:</translation>
     </message>
     <message>
         <source>Quantity:</source>
-        <translation>frmORVAtouch,frmSastav				Quantity:</translation>
+        <translation>Quantity:</translation>
     </message>
     <message>
         <source>Unit:</source>
-        <translation>ImportChoices,ProductEntry,frmSastav				Unit:</translation>
+        <translation>Unit:</translation>
     </message>
     <message>
         <source>Price</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmKlikTabla				Price</translation>
+        <translation>Price</translation>
     </message>
     <message>
         <source>Tax Rate</source>
-        <translation>frmSastav,frmViewer				Tax Rate</translation>
+        <translation>Tax rate</translation>
     </message>
     <message>
         <source>AMOUNT :</source>
-        <translation>frmSastav				AMOUNT :</translation>
+        <translation>AMOUNT :</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation>frmSastav				Add</translation>
+        <translation>Add</translation>
     </message>
     <message>
         <source>F2-Search</source>
-        <translation>frmORVAtouch,frmSastav				F2-Search</translation>
+        <translation>F2-Search</translation>
     </message>
     <message>
         <source>[F2] - Choose product</source>
-        <translation>frmSastav				[F2] - Choose product</translation>
+        <translation>[F2] - Choose product</translation>
     </message>
     <message>
         <source>Click delete,right click change quantity</source>
-        <translation>frmORVAtouch,frmSastav				Click delete,right click change quantity</translation>
+        <translation>Click to delete, right click to change the quantity</translation>
     </message>
     <message>
         <source>F4-Save</source>
-        <translation>ListReport,TextPreview,frmRacPRG,frmSastav				F4-Save</translation>
+        <translation>F4-Save</translation>
     </message>
     <message>
         <source>F5-Delete</source>
-        <translation>frmSastav				F5-Delete</translation>
+        <translation>F5-Delete</translation>
     </message>
     <message>
         <source>F1-Help</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F1-Help</translation>
+        <translation>F1-Help</translation>
     </message>
     <message>
         <source>F12-Close</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F12-Close</translation>
+        <translation>F12-Close</translation>
     </message>
     <message>
         <source>ProductID</source>
-        <translation>frmKlikTabla,frmSalesProducts,frmSastav,frmStanjeArtikala				ProductID</translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>ProductName</source>
-        <translation>frmKlikTabla,frmSalesProducts,frmSastav,frmStanjeArtikala				ProductName</translation>
+        <translation>Product name</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmSalesProducts				Quantity</translation>
+        <translation>Quantity</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmORVAtouch				Unit</translation>
+        <translation>Unit</translation>
     </message>
     <message>
         <source>A composition is opened from the screen of its product.</source>
-        <translation>frmSastav				A composition is opened from the screen of its product.</translation>
+        <translation>A composition is opened from the screen of its product.</translation>
     </message>
     <message>
         <source>Product with this code-barcode does not exist.</source>
-        <translation>frmSastav				Product with this code-barcode does not exist.</translation>
+        <translation>There is no product with this code.</translation>
     </message>
     <message>
         <source>You did not enter a single item in the composition.</source>
-        <translation>frmSastav				You did not enter a single item in the composition.</translation>
+        <translation>There is nothing in the composition yet.</translation>
     </message>
 </context>
 <context>
     <name>frmStanjeArtikala</name>
     <message>
         <source>Quantity of items in stock</source>
-        <translation>Paper,frmStanjeArtikala			at most 40 columns	Quantity of items in stock</translation>
+        <translation>Stock of goods</translation>
     </message>
     <message>
         <source>ProductID</source>
-        <translation>frmKlikTabla,frmSalesProducts,frmSastav,frmStanjeArtikala				ProductID</translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>ProductName</source>
-        <translation>frmKlikTabla,frmSalesProducts,frmSastav,frmStanjeArtikala				ProductName</translation>
+        <translation>Product name</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmORVAtouch				Unit</translation>
+        <translation>Unit</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmSalesProducts				Quantity</translation>
+        <translation>Quantity</translation>
     </message>
     <message>
         <source>Amount</source>
-        <translation>ReceiptWords,frmORVAtouch,frmRacuni,frmSales				Amount</translation>
+        <translation>Amount</translation>
     </message>
     <message>
         <source>TOTAL:</source>
-        <translation>frmIzvjestajKIF,frmRacuni,frmSalesTax,frmStanjeArtikala				TOTAL:</translation>
+        <translation>TOTAL:</translation>
     </message>
     <message>
         <source>List does not contain any item.</source>
-        <translation>frmStanjeArtikala				List does not contain any item.</translation>
+        <translation>The list is empty.</translation>
     </message>
     <message>
         <source>F6-Refresh</source>
-        <translation>frmStanjeArtikala,frmTrenutnoStanjeKasa				F6-Refresh</translation>
+        <translation>F6-Refresh</translation>
     </message>
 </context>
 <context>
     <name>frmTax</name>
     <message>
         <source>Tax protected from deletion, but you can modify the data.</source>
-        <translation>frmTax				Tax protected from deletion, but you can modify the data.</translation>
+        <translation>The tax is protected from deletion, but its data can be changed.</translation>
     </message>
     <message>
         <source>Taxes</source>
-        <translation>OverviewPage,TaxesStep,frmTax,mdiORVA				Taxes</translation>
+        <translation>Taxes</translation>
     </message>
     <message>
         <source>TaxID</source>
-        <translation>ReceiptWords,frmSalesTax,frmTax				TaxID</translation>
+        <translation>Tax</translation>
     </message>
     <message>
         <source>Tax rate [%]</source>
-        <translation>frmTax				Tax rate [%]</translation>
+        <translation>Tax rate [%]</translation>
     </message>
     <message>
         <source>Tax name</source>
-        <translation>frmTax				Tax name</translation>
+        <translation>Name of the tax</translation>
     </message>
     <message>
         <source>Tax deleted.</source>
-        <translation>frmTax				Tax deleted.</translation>
+        <translation>The tax is deleted.</translation>
     </message>
     <message>
         <source>TaxID: %1
 Tax name: %2
 Are you sure you want to delete this type of tax?</source>
-        <translation>frmTax				TaxID: %1
-Tax name: %2
-Are you sure you want to delete this type of tax?</translation>
+        <translation>Tax ID: %1
+Name of the tax: %2
+Do you want to delete this tax?</translation>
     </message>
 </context>
 <context>
     <name>frmTaxbyInvoice</name>
     <message>
         <source>TAX Report by Invoices</source>
-        <translation>frmTaxbyInvoice				TAX Report by Invoices</translation>
+        <translation>Tax report by invoices</translation>
     </message>
     <message>
         <source>date</source>
-        <translation>frmIzvjestajKIF,frmSales,frmSalesTax,frmTaxbyInvoice				date</translation>
+        <translation>date</translation>
     </message>
     <message>
         <source>invoices</source>
-        <translation>frmIzvjestajKIF,frmTaxbyInvoice				invoices</translation>
+        <translation>invoices</translation>
     </message>
     <message>
         <source>InvoiceNo</source>
-        <translation>frmRacuni,frmTaxbyInvoice				InvoiceNo</translation>
+        <translation>Invoice No.</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation>frmIzvjestajKIF,frmRacPRG,frmRacuni,frmSales				Date</translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation>frmRacPRG,frmRacuni,frmTaxbyInvoice,frmTrenutnoStanjeKasa				Time</translation>
+        <translation>Time</translation>
     </message>
     <message>
         <source>Amount without Tax</source>
-        <translation>frmTaxbyInvoice				Amount without Tax</translation>
+        <translation>Amount without tax</translation>
     </message>
     <message>
         <source>Tax</source>
-        <translation>ReceiptWords,frmIzvjestajKIF,frmORVAtouch,frmTaxbyInvoice				Tax</translation>
+        <translation>Tax</translation>
     </message>
     <message>
         <source>Amount with Tax</source>
-        <translation>frmTaxbyInvoice				Amount with Tax</translation>
+        <translation>Amount with tax</translation>
     </message>
     <message>
         <source>Base:</source>
-        <translation>frmIzvjestajKIF,frmSalesTax,frmTaxbyInvoice				Base:</translation>
+        <translation>Base:</translation>
     </message>
     <message>
         <source>TAX:</source>
-        <translation>frmIzvjestajKIF,frmPopisRobe,frmSalesTax,frmTaxbyInvoice				TAX:</translation>
+        <translation>TAX:</translation>
     </message>
     <message>
         <source>TOTAL:</source>
-        <translation>frmIzvjestajKIF,frmRacuni,frmSalesTax,frmStanjeArtikala				TOTAL:</translation>
+        <translation>TOTAL:</translation>
     </message>
 </context>
 <context>
     <name>frmTrakaRacuna</name>
     <message>
         <source>Printed Invoices</source>
-        <translation>frmTrakaRacuna				Printed Invoices</translation>
+        <translation>Printed invoices</translation>
     </message>
     <message>
         <source>Snimi na flopi,USBdisk,disk...</source>
-        <translation>frmRacPRG,frmTrakaRacuna				Snimi na flopi,USBdisk,disk...</translation>
+        <translation>Save to a stick, disk...</translation>
     </message>
 </context>
 <context>
     <name>frmTrenutnoStanjeKasa</name>
     <message>
         <source>Currently - End Report</source>
-        <translation>frmTrenutnoStanjeKasa				Currently - End Report</translation>
+        <translation>Now - End Report</translation>
     </message>
     <message>
         <source>Currently</source>
-        <translation>Paper,frmTrenutnoStanjeKasa			at most 39 columns	Currently</translation>
+        <translation>Now</translation>
     </message>
     <message>
         <source>Lists shows currently balance from last done End Report</source>
-        <translation>frmTrenutnoStanjeKasa				Lists shows currently balance from last done End Report</translation>
+        <translation>The lists show how things stand since the last End Report</translation>
     </message>
     <message>
         <source>Date and time last End Report</source>
-        <translation>frmTrenutnoStanjeKasa				Date and time last End Report</translation>
+        <translation>Date and time of the last End Report</translation>
     </message>
     <message>
         <source>Register state</source>
-        <translation>frmTrenutnoStanjeKasa				Register state</translation>
+        <translation>Register state</translation>
     </message>
     <message>
         <source>1 - CASH REGISTERS</source>
-        <translation>frmTrenutnoStanjeKasa				1 - CASH REGISTERS</translation>
+        <translation>1 - CASH REGISTERS</translation>
     </message>
     <message>
         <source>2 - CASHIERS</source>
-        <translation>frmTrenutnoStanjeKasa				2 - CASHIERS</translation>
+        <translation>2 - CASHIERS</translation>
     </message>
     <message>
         <source>3 - INVOICES</source>
-        <translation>frmTrenutnoStanjeKasa				3 - INVOICES</translation>
+        <translation>3 - INVOICES</translation>
     </message>
     <message>
         <source>4 - PRODUCTS</source>
-        <translation>frmTrenutnoStanjeKasa				4 - PRODUCTS</translation>
+        <translation>4 - PRODUCTS</translation>
     </message>
     <message>
         <source>CASH REGISTERS</source>
-        <translation>Paper,frmTrenutnoStanjeKasa			at most 40 columns	CASH REGISTERS</translation>
+        <translation>CASH REGISTERS</translation>
     </message>
     <message>
         <source>TAX:</source>
-        <translation>frmIzvjestajKIF,frmPopisRobe,frmSalesTax,frmTaxbyInvoice				TAX:</translation>
+        <translation>TAX:</translation>
     </message>
     <message>
         <source>TOTAL FOR ALL CRs:</source>
-        <translation>frmTrenutnoStanjeKasa				TOTAL FOR ALL CRs:</translation>
+        <translation>TOTAL OF ALL REGISTERS:</translation>
     </message>
     <message>
         <source>END REPORT do</source>
-        <translation>frmTrenutnoStanjeKasa				END REPORT do</translation>
+        <translation>Make END REPORT</translation>
     </message>
     <message>
         <source>F6-Refresh</source>
-        <translation>frmStanjeArtikala,frmTrenutnoStanjeKasa				F6-Refresh</translation>
+        <translation>F6-Refresh</translation>
     </message>
     <message>
         <source>F5-Print all</source>
-        <translation>frmTrenutnoStanjeKasa				F5-Print all</translation>
+        <translation>F5-Print all</translation>
     </message>
     <message>
         <source>F4-Print </source>
-        <translation>frmTrenutnoStanjeKasa				F4-Print </translation>
+        <translation>F4-Print </translation>
     </message>
     <message>
         <source>F1-Help</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F1-Help</translation>
+        <translation>F1-Help</translation>
     </message>
     <message>
         <source>F12-Close</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F12-Close</translation>
+        <translation>F12-Close</translation>
     </message>
     <message>
         <source>CASH REGISTER No.</source>
-        <translation>frmTrenutnoStanjeKasa				CASH REGISTER No.</translation>
+        <translation>REGISTER No.</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation>frmIzvjestajKIF,frmRacPRG,frmRacuni,frmSales				Date</translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation>frmRacPRG,frmRacuni,frmTaxbyInvoice,frmTrenutnoStanjeKasa				Time</translation>
+        <translation>Time</translation>
     </message>
     <message>
         <source>AMOUNT</source>
-        <translation>frmTrenutnoStanjeKasa				AMOUNT</translation>
+        <translation>AMOUNT</translation>
     </message>
     <message>
         <source>CASHIERS</source>
-        <translation>Paper,frmTrenutnoStanjeKasa			at most 40 columns	CASHIERS</translation>
+        <translation>CASHIERS</translation>
     </message>
     <message>
         <source>TOTAL FOR ALL CASHIERS:</source>
-        <translation>frmTrenutnoStanjeKasa				TOTAL FOR ALL CASHIERS:</translation>
+        <translation>TOTAL OF ALL CASHIERS:</translation>
     </message>
     <message>
         <source>ID</source>
-        <translation>ReceiptWords,frmTrenutnoStanjeKasa				ID</translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>Cashier</source>
-        <translation>frmORVAtouch,frmRacPRG,frmRacuni,frmSales				Cashier</translation>
+        <translation>Cashier</translation>
     </message>
     <message>
         <source>Amount</source>
-        <translation>ReceiptWords,frmORVAtouch,frmRacuni,frmSales				Amount</translation>
+        <translation>Amount</translation>
     </message>
     <message>
         <source>INVOICES</source>
-        <translation>frmTrenutnoStanjeKasa				INVOICES</translation>
+        <translation>INVOICES</translation>
     </message>
     <message>
         <source>TOTAL FOR ALL INVOICES:</source>
-        <translation>frmTrenutnoStanjeKasa				TOTAL FOR ALL INVOICES:</translation>
+        <translation>TOTAL OF ALL INVOICES:</translation>
     </message>
     <message>
         <source>CR No.</source>
-        <translation>frmTrenutnoStanjeKasa				CR No.</translation>
+        <translation>Reg. No.</translation>
     </message>
     <message>
         <source>Invoice No.</source>
-        <translation>frmTrenutnoStanjeKasa				Invoice No.</translation>
+        <translation>Invoice No.</translation>
     </message>
     <message>
         <source>Tax</source>
-        <translation>ReceiptWords,frmIzvjestajKIF,frmORVAtouch,frmTaxbyInvoice				Tax</translation>
+        <translation>Tax</translation>
     </message>
     <message>
         <source>PRODUCTS</source>
-        <translation>Paper,frmTrenutnoStanjeKasa			at most 40 columns	PRODUCTS</translation>
+        <translation>PRODUCTS</translation>
     </message>
     <message>
         <source>TOTAL FOR ALL PRODUCTS:</source>
-        <translation>frmTrenutnoStanjeKasa				TOTAL FOR ALL PRODUCTS:</translation>
+        <translation>TOTAL OF ALL PRODUCTS:</translation>
     </message>
     <message>
         <source>ProductID</source>
-        <translation>frmKlikTabla,frmSalesProducts,frmSastav,frmStanjeArtikala				ProductID</translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>Product name</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmTrenutnoStanjeKasa				Product name</translation>
+        <translation>Product name</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmORVAtouch				Unit</translation>
+        <translation>Unit</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmSalesProducts				Quantity</translation>
+        <translation>Quantity</translation>
     </message>
     <message>
         <source>End Report</source>
-        <translation>frmTrenutnoStanjeKasa				End Report</translation>
+        <translation>End Report</translation>
     </message>
     <message>
         <source>End Report No:</source>
-        <translation>frmTrenutnoStanjeKasa				End Report No:</translation>
+        <translation>End Report No.:</translation>
     </message>
     <message>
         <source>Lists show balance for selected End Report.</source>
-        <translation>frmTrenutnoStanjeKasa				Lists show balance for selected End Report.</translation>
+        <translation>The lists show the chosen End Report.</translation>
     </message>
     <message>
         <source>Do you want to make End Report?</source>
-        <translation>SalesWords,frmTrenutnoStanjeKasa				Do you want to make End Report?</translation>
+        <translation>Do you want to make the End Report?</translation>
     </message>
     <message>
         <source>End Report is done.</source>
-        <translation>frmTrenutnoStanjeKasa				End Report is done.</translation>
+        <translation>The End Report is done.</translation>
     </message>
     <message>
         <source>End Report %1 %2</source>
         <extracomment>%1 and %2 are date and time</extracomment>
-        <translation>SalesWords,frmTrenutnoStanjeKasa			%1 and %2 are date and time	End Report %1 %2</translation>
+        <translation>End Report %1 %2</translation>
     </message>
 </context>
 <context>
     <name>frmUsers</name>
     <message>
         <source>User - Cashier</source>
-        <translation>frmUsers				User - Cashier</translation>
+        <translation>Users - cashiers</translation>
     </message>
     <message>
         <source>UserID</source>
-        <translation>frmUsers				UserID</translation>
+        <translation>User ID</translation>
     </message>
     <message>
         <source>UserName</source>
-        <translation>frmUsers				UserName</translation>
+        <translation>User name</translation>
     </message>
     <message>
         <source>Access Level</source>
-        <translation>frmUsers				Access Level</translation>
+        <translation>Access level</translation>
     </message>
     <message>
         <source>Cashier protected from deletion, but you can modify the data.</source>
-        <translation>frmUsers				Cashier protected from deletion, but you can modify the data.</translation>
+        <translation>The cashier is protected from deletion, but the data can be changed.</translation>
     </message>
     <message>
         <source>User deleted.</source>
-        <translation>frmUsers				User deleted.</translation>
+        <translation>The user is deleted.</translation>
     </message>
     <message>
         <source>User Cashier: %1
 Password: %2
 Are you sure you want to delete this user?</source>
-        <translation>frmUsers				User Cashier: %1
+        <translation>User: %1
 Password: %2
-Are you sure you want to delete this user?</translation>
+Do you want to delete this user?</translation>
     </message>
 </context>
 <context>
     <name>frmViewer</name>
     <message>
         <source>Search Product</source>
-        <translation>frmViewer				Search Product</translation>
+        <translation>Search of products</translation>
     </message>
     <message>
         <source>F1-Help</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F1-Help</translation>
+        <translation>F1-Help</translation>
     </message>
     <message>
         <source>F12-Close</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F12-Close</translation>
+        <translation>F12-Close</translation>
     </message>
     <message>
         <source>ProductID-BarCode</source>
-        <translation>frmViewer				ProductID-BarCode</translation>
+        <translation>Code - bar code</translation>
     </message>
     <message>
         <source>Product Name</source>
-        <translation>frmViewer				Product Name</translation>
+        <translation>Product name</translation>
     </message>
     <message>
         <source>Price</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmKlikTabla				Price</translation>
+        <translation>Price</translation>
     </message>
     <message>
         <source>Tax Rate</source>
-        <translation>frmSastav,frmViewer				Tax Rate</translation>
+        <translation>Tax rate</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmSalesProducts				Quantity</translation>
+        <translation>Quantity</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmORVAtouch				Unit</translation>
+        <translation>Unit</translation>
     </message>
     <message>
         <source>Type what you look for, or press F11 for all.</source>
-        <translation>frmViewer				Type what you look for, or press F11 for all.</translation>
+        <translation>Type what you look for, or press F11 for all.</translation>
     </message>
     <message>
         <source>Nothing is found.</source>
-        <translation>SearchScreen,frmViewer				Nothing is found.</translation>
+        <translation>Nothing was found.</translation>
     </message>
 </context>
 <context>
     <name>frmWinPrinter</name>
     <message>
         <source>Windows printer</source>
-        <translation>frmWinPrinter				Windows printer</translation>
+        <translation>Page printer</translation>
     </message>
     <message>
         <source>Font list</source>
-        <translation>frmWinPrinter				Font list</translation>
+        <translation>Fonts</translation>
     </message>
     <message>
         <source>Font size</source>
-        <translation>frmWinPrinter				Font size</translation>
+        <translation>Font size</translation>
     </message>
     <message>
         <source>9 - default</source>
-        <translation>frmWinPrinter				9 - default</translation>
+        <translation>9 - usual</translation>
     </message>
     <message>
         <source>Dimensions of paper</source>
-        <translation>frmWinPrinter				Dimensions of paper</translation>
+        <translation>Size of the paper</translation>
     </message>
     <message>
         <source>Podesi sirinu i duzinu umetnutog papira</source>
-        <translation>frmWinPrinter				Podesi sirinu i duzinu umetnutog papira</translation>
+        <translation>Set the width and length of the paper put in</translation>
     </message>
     <message>
         <source>currently selected font</source>
-        <translation>frmWinPrinter				currently selected font</translation>
+        <translation>font chosen now</translation>
     </message>
     <message>
         <source>F5-Save</source>
-        <translation>CustomerEntry,ProductEntry,TaxEntry,UserEntry				F5-Save</translation>
+        <translation>F5-Save</translation>
     </message>
     <message>
         <source>F1-Help</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F1-Help</translation>
+        <translation>F1-Help</translation>
     </message>
     <message>
         <source>F12-Close</source>
-        <translation>CustomerEntry,ListReport,ProductEntry,TableList				F12-Close</translation>
+        <translation>F12-Close</translation>
     </message>
 </context>
 <context>
     <name>frmZakljucakPregled</name>
     <message>
         <source>End Reports review</source>
-        <translation>frmZakljucakPregled,frmZakljucakPregled1				End Reports review</translation>
+        <translation>Review of End Reports</translation>
     </message>
     <message>
         <source>end report</source>
-        <translation>frmZakljucakPregled				end report</translation>
+        <translation>end report</translation>
     </message>
     <message>
         <source>cash register</source>
-        <translation>frmZakljucakPregled				cash register</translation>
+        <translation>cash register</translation>
     </message>
     <message>
         <source>date</source>
-        <translation>frmIzvjestajKIF,frmSales,frmSalesTax,frmTaxbyInvoice				date</translation>
+        <translation>date</translation>
     </message>
     <message>
         <source>CR</source>
-        <translation>frmActivity,frmZakljucakPregled				CR</translation>
+        <translation>Reg.</translation>
     </message>
     <message>
         <source>EndNo </source>
-        <translation>frmZakljucakPregled,frmZakljucakPregled1				EndNo </translation>
+        <translation>End No. </translation>
     </message>
     <message>
         <source>Date</source>
-        <translation>frmIzvjestajKIF,frmRacPRG,frmRacuni,frmSales				Date</translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Time From</source>
-        <translation>frmZakljucakPregled				Time From</translation>
+        <translation>From</translation>
     </message>
     <message>
         <source>Time to</source>
-        <translation>frmZakljucakPregled				Time to</translation>
+        <translation>To</translation>
     </message>
     <message>
         <source>Amount</source>
-        <translation>ReceiptWords,frmORVAtouch,frmRacuni,frmSales				Amount</translation>
+        <translation>Amount</translation>
     </message>
     <message>
         <source>TOTAL:</source>
-        <translation>frmIzvjestajKIF,frmRacuni,frmSalesTax,frmStanjeArtikala				TOTAL:</translation>
+        <translation>TOTAL:</translation>
     </message>
 </context>
 <context>
     <name>frmZakljucakPregled1</name>
     <message>
         <source>End Reports review</source>
-        <translation>frmZakljucakPregled,frmZakljucakPregled1				End Reports review</translation>
+        <translation>Review of End Reports</translation>
     </message>
     <message>
         <source>EndNo </source>
-        <translation>frmZakljucakPregled,frmZakljucakPregled1				EndNo </translation>
+        <translation>End No. </translation>
     </message>
     <message>
         <source>Date</source>
-        <translation>frmIzvjestajKIF,frmRacPRG,frmRacuni,frmSales				Date</translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation>frmRacPRG,frmRacuni,frmTaxbyInvoice,frmTrenutnoStanjeKasa				Time</translation>
+        <translation>Time</translation>
     </message>
     <message>
         <source>Amount</source>
-        <translation>ReceiptWords,frmORVAtouch,frmRacuni,frmSales				Amount</translation>
+        <translation>Amount</translation>
     </message>
     <message>
         <source>TOTAL:</source>
-        <translation>frmIzvjestajKIF,frmRacuni,frmSalesTax,frmStanjeArtikala				TOTAL:</translation>
+        <translation>TOTAL:</translation>
     </message>
     <message>
         <source>F5-Print review</source>
-        <translation>frmZakljucakPregled1				F5-Print review</translation>
+        <translation>F5-Print review</translation>
     </message>
 </context>
 <context>
@@ -4591,7 +4591,7 @@ Are you sure you want to delete this user?</translation>
     </message>
     <message>
         <source>Invoices</source>
-        <translation>InvoicesView,frmRacuni,manager::BackupPage,manager::OverviewCharts				Invoices</translation>
+        <translation>Invoices</translation>
     </message>
     <message>
         <source>Last day</source>
@@ -4702,11 +4702,11 @@ The try of %2 failed: %3</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation>frmIzvjestajKIF,frmRacPRG,frmRacuni,frmSales				Date</translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation>frmRacPRG,frmRacuni,frmTaxbyInvoice,frmTrenutnoStanjeKasa				Time</translation>
+        <translation>Time</translation>
     </message>
     <message>
         <source>Counted by</source>
@@ -4808,15 +4808,15 @@ The try of %2 failed: %3</translation>
     <name>manager::GoodsChoice</name>
     <message>
         <source>Code</source>
-        <translation>ReceiptWords,manager::GoodsChoice,manager::GoodsPage,manager::OverviewCharts				Code</translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation>frmFirma,frmKupci,manager::GoodsChoice,manager::GoodsPage				Name</translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Price</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmKlikTabla				Price</translation>
+        <translation>Price</translation>
     </message>
     <message>
         <source>There are no such goods.</source>
@@ -4858,11 +4858,11 @@ The try of %2 failed: %3</translation>
     </message>
     <message>
         <source>Code</source>
-        <translation>ReceiptWords,manager::GoodsChoice,manager::GoodsPage,manager::OverviewCharts				Code</translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation>frmFirma,frmKupci,manager::GoodsChoice,manager::GoodsPage				Name</translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Changes</source>
@@ -5095,15 +5095,15 @@ The try of %2 failed: %3</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation>frmIzvjestajKIF,frmRacPRG,frmRacuni,frmSales				Date</translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation>frmRacPRG,frmRacuni,frmTaxbyInvoice,frmTrenutnoStanjeKasa				Time</translation>
+        <translation>Time</translation>
     </message>
     <message>
         <source>Cashier</source>
-        <translation>frmORVAtouch,frmRacPRG,frmRacuni,frmSales				Cashier</translation>
+        <translation>Cashier</translation>
     </message>
     <message>
         <source>Total</source>
@@ -5344,7 +5344,7 @@ The try of %2 failed: %3</translation>
     </message>
     <message>
         <source>Code</source>
-        <translation>ReceiptWords,manager::GoodsChoice,manager::GoodsPage,manager::OverviewCharts				Code</translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>Pieces</source>
@@ -5352,15 +5352,15 @@ The try of %2 failed: %3</translation>
     </message>
     <message>
         <source>Invoices</source>
-        <translation>InvoicesView,frmRacuni,manager::BackupPage,manager::OverviewCharts				Invoices</translation>
+        <translation>Invoices</translation>
     </message>
     <message>
         <source>Tax</source>
-        <translation>ReceiptWords,frmIzvjestajKIF,frmORVAtouch,frmTaxbyInvoice				Tax</translation>
+        <translation>Tax</translation>
     </message>
     <message>
         <source>Rate</source>
-        <translation>ReceiptWords,manager::OverviewCharts				Rate</translation>
+        <translation>Rate</translation>
     </message>
     <message>
         <source>Base</source>
@@ -5427,7 +5427,7 @@ The try of %2 failed: %3</translation>
     </message>
     <message>
         <source>Cashier</source>
-        <translation>frmORVAtouch,frmRacPRG,frmRacuni,frmSales				Cashier</translation>
+        <translation>Cashier</translation>
     </message>
     <message>
         <source>Reading back from %1 ...</source>
@@ -5519,7 +5519,7 @@ The try of %2 failed: %3</translation>
     </message>
     <message>
         <source>Invoices</source>
-        <translation>InvoicesView,frmRacuni,manager::BackupPage,manager::OverviewCharts				Invoices</translation>
+        <translation>Invoices</translation>
     </message>
 </context>
 <context>
@@ -5655,19 +5655,19 @@ The try of %2 failed: %3</translation>
     </message>
     <message>
         <source>Code</source>
-        <translation>ReceiptWords,manager::GoodsChoice,manager::GoodsPage,manager::OverviewCharts				Code</translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation>frmFirma,frmKupci,manager::GoodsChoice,manager::GoodsPage				Name</translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmORVAtouch				Unit</translation>
+        <translation>Unit</translation>
     </message>
     <message>
         <source>Price</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmKlikTabla				Price</translation>
+        <translation>Price</translation>
     </message>
     <message>
         <source>%1 (continued)</source>
@@ -5694,11 +5694,11 @@ The try of %2 failed: %3</translation>
     </message>
     <message>
         <source>Code</source>
-        <translation>ReceiptWords,manager::GoodsChoice,manager::GoodsPage,manager::OverviewCharts				Code</translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation>frmFirma,frmKupci,manager::GoodsChoice,manager::GoodsPage				Name</translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Before</source>
@@ -5854,7 +5854,7 @@ The try of %2 failed: %3</translation>
     </message>
     <message>
         <source>There is nothing on these days.</source>
-        <translation>PeriodReport,manager::ReportsPage				There is nothing on these days.</translation>
+        <translation>There is nothing on these days.</translation>
     </message>
     <message numerus="yes">
         <source>%n row(s)</source>
@@ -5987,11 +5987,11 @@ The try of %2 failed: %3</translation>
     <name>manager::TaxesStep</name>
     <message>
         <source>Code</source>
-        <translation>ReceiptWords,manager::GoodsChoice,manager::GoodsPage,manager::OverviewCharts				Code</translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation>frmFirma,frmKupci,manager::GoodsChoice,manager::GoodsPage				Name</translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Rate in percent</source>
@@ -6037,7 +6037,7 @@ The try of %2 failed: %3</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation>frmFirma,frmKupci,manager::GoodsChoice,manager::GoodsPage				Name</translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Level</source>
@@ -6080,183 +6080,183 @@ The try of %2 failed: %3</translation>
     <name>mdiORVA</name>
     <message>
         <source>&amp;Products</source>
-        <translation>mdiORVA				&amp;Products</translation>
+        <translation>&amp;Products</translation>
     </message>
     <message>
         <source>New Product</source>
-        <translation>mdiORVA				New Product</translation>
+        <translation>New product</translation>
     </message>
     <message>
         <source>View - Edit - Delete Products</source>
-        <translation>mdiORVA				View - Edit - Delete Products</translation>
+        <translation>View - edit - delete products</translation>
     </message>
     <message>
         <source>Items in stock</source>
-        <translation>mdiORVA				Items in stock</translation>
+        <translation>Items in stock</translation>
     </message>
     <message>
         <source>Products list</source>
-        <translation>mdiORVA				Products list</translation>
+        <translation>Stock list</translation>
     </message>
     <message>
         <source>&amp;Invoices</source>
-        <translation>mdiORVA				&amp;Invoices</translation>
+        <translation>&amp;Invoices</translation>
     </message>
     <message>
         <source>Search Invoice</source>
-        <translation>mdiORVA				Search Invoice</translation>
+        <translation>Search invoice</translation>
     </message>
     <message>
         <source>Invoices</source>
-        <translation>InvoicesView,frmRacuni,manager::BackupPage,manager::OverviewCharts				Invoices</translation>
+        <translation>Invoices</translation>
     </message>
     <message>
         <source>&amp;End Report</source>
-        <translation>mdiORVA				&amp;End Report</translation>
+        <translation>&amp;End Report</translation>
     </message>
     <message>
         <source>End Report ...</source>
-        <translation>mdiORVA				End Report ...</translation>
+        <translation>End Report ...</translation>
     </message>
     <message>
         <source>Preview End Reports</source>
-        <translation>mdiORVA				Preview End Reports</translation>
+        <translation>Review of End Reports</translation>
     </message>
     <message>
         <source>Preview End Reports </source>
-        <translation>mdiORVA				Preview End Reports </translation>
+        <translation>Review of End Reports </translation>
     </message>
     <message>
         <source>&amp;Settings</source>
-        <translation>mdiORVA				&amp;Settings</translation>
+        <translation>&amp;Settings</translation>
     </message>
     <message>
         <source>Program</source>
-        <translation>mdiORVA				Program</translation>
+        <translation>Program</translation>
     </message>
     <message>
         <source>Invoice</source>
-        <translation>mdiORVA				Invoice</translation>
+        <translation>Invoice</translation>
     </message>
     <message>
         <source>Invoice deatails</source>
-        <translation>mdiORVA				Invoice deatails</translation>
+        <translation>Invoice details</translation>
     </message>
     <message>
         <source>Click Table</source>
-        <translation>mdiORVA				Click Table</translation>
+        <translation>Touch table</translation>
     </message>
     <message>
         <source>Users</source>
-        <translation>UsersStep,mdiORVA				Users</translation>
+        <translation>Users</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation>mdiORVA				Password</translation>
+        <translation>Password</translation>
     </message>
     <message>
         <source>Taxes</source>
-        <translation>OverviewPage,TaxesStep,frmTax,mdiORVA				Taxes</translation>
+        <translation>Taxes</translation>
     </message>
     <message>
         <source>My Firm</source>
-        <translation>mdiORVA				My Firm</translation>
+        <translation>My company</translation>
     </message>
     <message>
         <source>Customers - Suppliers</source>
-        <translation>frmKupci,mdiORVA				Customers - Suppliers</translation>
+        <translation>Customers - Suppliers</translation>
     </message>
     <message>
         <source>&amp;Reports</source>
-        <translation>mdiORVA				&amp;Reports</translation>
+        <translation>&amp;Reports</translation>
     </message>
     <message>
         <source>Sale by Invoices</source>
-        <translation>mdiORVA				Sale by Invoices</translation>
+        <translation>Sales by invoice</translation>
     </message>
     <message>
         <source>Sale by Cashiers</source>
-        <translation>mdiORVA				Sale by Cashiers</translation>
+        <translation>Sales by cashier</translation>
     </message>
     <message>
         <source>Sale by Products</source>
-        <translation>Paper,frmSalesProducts,mdiORVA			at most 40 columns	Sale by Products</translation>
+        <translation>Sales by product</translation>
     </message>
     <message>
         <source>Invoices for tax report</source>
-        <translation>frmIzvjestajKIF,mdiORVA				Invoices for tax report</translation>
+        <translation>Tax book of invoices</translation>
     </message>
     <message>
         <source>Tax Report by Invoices</source>
-        <translation>mdiORVA				Tax Report by Invoices</translation>
+        <translation>Tax report by invoices</translation>
     </message>
     <message>
         <source>TAX Report</source>
-        <translation>frmSalesTax,mdiORVA				TAX Report</translation>
+        <translation>Tax report</translation>
     </message>
     <message>
         <source>Printed Invoices Ribbon</source>
-        <translation>mdiORVA				Printed Invoices Ribbon</translation>
+        <translation>Ribbon of printed invoices</translation>
     </message>
     <message>
         <source>Working Time </source>
-        <translation>mdiORVA				Working Time </translation>
+        <translation>Business hours </translation>
     </message>
     <message>
         <source>&amp;Fiscal printer</source>
-        <translation>mdiORVA				&amp;Fiscal printer</translation>
+        <translation>&amp;Fiscal printer</translation>
     </message>
     <message>
         <source>Deposit - payment </source>
-        <translation>frmDepozit,mdiORVA				Deposit - payment </translation>
+        <translation>Deposit - pay in </translation>
     </message>
     <message>
         <source>Deposit - payout</source>
-        <translation>mdiORVA				Deposit - payout</translation>
+        <translation>Deposit - pay out</translation>
     </message>
     <message>
         <source>X report - Overview</source>
-        <translation>mdiORVA				X report - Overview</translation>
+        <translation>X report - overview</translation>
     </message>
     <message>
         <source>Z report - Daily report</source>
-        <translation>mdiORVA				Z report - Daily report</translation>
+        <translation>Z report - daily report</translation>
     </message>
     <message>
         <source>Fiscal Periodic Report</source>
-        <translation>mdiORVA				Fiscal Periodic Report</translation>
+        <translation>Fiscal periodic report</translation>
     </message>
     <message>
         <source>Invoice Reclamation</source>
-        <translation>mdiORVA				Invoice Reclamation</translation>
+        <translation>Invoice withdrawal</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation>mdiORVA				&amp;Help</translation>
+        <translation>&amp;Help</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation>frmHelp,frmOptions,mdiORVA				Help</translation>
+        <translation>Help</translation>
     </message>
     <message>
         <source>About program</source>
-        <translation>frmAbout,mdiORVA				About program</translation>
+        <translation>About the program</translation>
     </message>
     <message>
         <source>Total: &gt;&gt;</source>
-        <translation>mdiORVA				Total: &gt;&gt;</translation>
+        <translation>Total: &gt;&gt;</translation>
     </message>
     <message>
         <source>Time: %1</source>
-        <translation>mdiORVA				Time: %1</translation>
+        <translation>Time: %1</translation>
     </message>
     <message>
         <source>Date: %1</source>
-        <translation>mdiORVA				Date: %1</translation>
+        <translation>Date: %1</translation>
     </message>
     <message>
         <source>The main window has no entry %1.</source>
-        <translation>mdiORVA				The main window has no entry %1.</translation>
+        <translation>The main window has no entry %1.</translation>
     </message>
 </context>
 <context>
@@ -6283,7 +6283,7 @@ The try of %2 failed: %3</translation>
     </message>
     <message>
         <source>Cannot save %1: %2.</source>
-        <translation>ReceiptWords,output				Cannot save %1: %2.</translation>
+        <translation>Cannot save %1: %2.</translation>
     </message>
     <message>
         <source>Cannot open %1: %2.</source>
@@ -6826,7 +6826,7 @@ ports.ini has no other printer for %2.</translation>
     </message>
     <message>
         <source>No current row.</source>
-        <translation>frmKlikTabla,store				No current row.</translation>
+        <translation>No current row.</translation>
     </message>
     <message>
         <source>The row was deleted.</source>
@@ -7222,31 +7222,31 @@ ports.ini has no other printer for %2.</translation>
     </message>
     <message>
         <source>Code</source>
-        <translation>ReceiptWords,manager::GoodsChoice,manager::GoodsPage,manager::OverviewCharts				Code</translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation>frmFirma,frmKupci,manager::GoodsChoice,manager::GoodsPage				Name</translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmSalesProducts				Quantity</translation>
+        <translation>Quantity</translation>
     </message>
     <message>
         <source>Unit</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmORVAtouch				Unit</translation>
+        <translation>Unit</translation>
     </message>
     <message>
         <source>Price</source>
-        <translation>ProductEntry,ReceiptWords,frmArtikli,frmKlikTabla				Price</translation>
+        <translation>Price</translation>
     </message>
     <message>
         <source>Tax</source>
-        <translation>ReceiptWords,frmIzvjestajKIF,frmORVAtouch,frmTaxbyInvoice				Tax</translation>
+        <translation>Tax</translation>
     </message>
     <message>
         <source>Tax rate</source>
-        <translation>ProductEntry,frmArtikli,frmSalesTax,upkeep				Tax rate</translation>
+        <translation>Tax rate</translation>
     </message>
     <message>
         <source>Picture</source>
@@ -7266,7 +7266,7 @@ ports.ini has no other printer for %2.</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation>frmFirma,frmKupci,frmOptions,upkeep				Address</translation>
+        <translation>Address</translation>
     </message>
     <message>
         <source>Identification number</source>
@@ -7278,7 +7278,7 @@ ports.ini has no other printer for %2.</translation>
     </message>
     <message>
         <source>Fax</source>
-        <translation>frmKupci,upkeep				Fax</translation>
+        <translation>Fax</translation>
     </message>
     <message>
         <source>Owner</source>
@@ -8081,7 +8081,7 @@ ports.ini has no other printer for %2.</translation>
     </message>
     <message>
         <source>TOTAL</source>
-        <translation>frmMSGinvoice,frmORVAtouch,frmRacPRG,upkeep				TOTAL</translation>
+        <translation>TOTAL</translation>
     </message>
     <message>
         <source>A label is at least %1 mm wide and %2 mm high.</source>
@@ -8125,11 +8125,11 @@ ports.ini has no other printer for %2.</translation>
     </message>
     <message>
         <source>Amount</source>
-        <translation>ReceiptWords,frmORVAtouch,frmRacuni,frmSales				Amount</translation>
+        <translation>Amount</translation>
     </message>
     <message>
         <source>Cashier</source>
-        <translation>frmORVAtouch,frmRacPRG,frmRacuni,frmSales				Cashier</translation>
+        <translation>Cashier</translation>
     </message>
     <message>
         <source>Register</source>
@@ -8145,7 +8145,7 @@ ports.ini has no other printer for %2.</translation>
     </message>
     <message>
         <source>Invoices</source>
-        <translation>InvoicesView,frmRacuni,manager::BackupPage,manager::OverviewCharts				Invoices</translation>
+        <translation>Invoices</translation>
     </message>
     <message>
         <source>Sales by product</source>
@@ -8153,7 +8153,7 @@ ports.ini has no other printer for %2.</translation>
     </message>
     <message>
         <source>Taxes</source>
-        <translation>OverviewPage,TaxesStep,frmTax,mdiORVA				Taxes</translation>
+        <translation>Taxes</translation>
     </message>
     <message>
         <source>Percent</source>
@@ -8173,11 +8173,11 @@ ports.ini has no other printer for %2.</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation>frmRacPRG,frmRacuni,frmTaxbyInvoice,frmTrenutnoStanjeKasa				Time</translation>
+        <translation>Time</translation>
     </message>
     <message>
         <source>End Reports</source>
-        <translation>Paper,upkeep			at most 40 columns	End Reports</translation>
+        <translation>End Reports</translation>
     </message>
     <message>
         <source>From</source>
@@ -8551,7 +8551,7 @@ ports.ini has no other printer for %2.</translation>
     </message>
     <message>
         <source>Cannot read %1: %2.</source>
-        <translation>ReceiptWords,values				Cannot read %1: %2.</translation>
+        <translation>Cannot read %1: %2.</translation>
     </message>
     <message>
         <source>Cannot read %1: it is too long.</source>
