@@ -4,7 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")"
 . packaging/setup.sh
-build_programs velton velton-store velton-demo
+build_programs velton velton-manager velton-store velton-demo
 
 shop=${1:-demo}
 [ -e "$shop/ORVA.pos" ] || build/release/bin/velton-store new "$shop" --demo

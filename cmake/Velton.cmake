@@ -12,6 +12,8 @@ target_include_directories(velton_strict INTERFACE ${CMAKE_SOURCE_DIR}/src)
 target_compile_options(velton_strict INTERFACE -Wall -Wextra -Wconversion
     $<$<AND:$<CXX_COMPILER_ID:GNU>,$<BOOL:${CCACHE}>>:-fpch-preprocess>
     $<$<BOOL:${VELTON_WERROR}>:-Werror>)
+# A program needs no library of a room's parts that it leaves out.
+target_link_options(velton_strict INTERFACE LINKER:--as-needed)
 target_compile_definitions(velton_strict INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH QT_STRICT_ITERATORS
     VELTON_VERSION="${PROJECT_VERSION}")

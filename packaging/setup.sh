@@ -1,8 +1,8 @@
 # Sourced by run.sh and test.sh: the Debian packages that the build needs, and the build itself.
 
 program_packages="g++ cmake ninja-build ccache pkg-config qt6-base-dev libqt6svg6 libsqlitecpp-dev libsqlite3-dev
-    libpq-dev libcli11-dev libgl1-mesa-dev fonts-roboto"
-test_packages="libgtest-dev libgmock-dev libbenchmark-dev libqt6sql6-sqlite postgresql poppler-utils dpkg-dev file"
+    libpq-dev libcsv-dev libicu-dev libxlsxwriter-dev libzint-dev libcli11-dev libgl1-mesa-dev fonts-roboto"
+test_packages="libgtest-dev libgmock-dev libbenchmark-dev libqt6sql6-sqlite postgresql poppler-utils zbar-tools dpkg-dev file"
 
 # install_missing PACKAGE...
 install_missing() {

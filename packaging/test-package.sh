@@ -128,7 +128,7 @@ ok "$(sed -n 's/^PRETTY_NAME=//p' "$root/etc/os-release"), $(inside dpkg-query -
 step "install $package"
 install_package "$package"
 ok "$(inside dpkg-query -W velton), $(inside dpkg-query -f '.\n' -W | wc -l) packages now"
-for program in velton velton-store velton-demo; do
+for program in velton velton-manager velton-store velton-demo; do
     if inside ldd "/usr/lib/velton/$program" | grep "not found"; then fail "$program lacks a library"; fi
 done
 ok "no program lacks a library"
@@ -147,7 +147,13 @@ ok "its stores are sound"
 
 step "the first start"
 open_display
-start_till
+as_user velton &
+started+=($!)
+window "VELTON Manager" >/dev/null || fail "a new shop is not set up first"
+ok "the owner's program comes up before the till"
+keys key ctrl+q
+window "VELTON - LOGIN" >/dev/null || fail "no login comes up behind it"
+till=$(running_copy)
 ok "$folder is made, the login stands there"
 ok "it is $(inside stat -c "%U's, mode %a" $folder)"
 cmp "$root/usr/lib/velton/velton" "$root$folder/velton" || fail "the copy is another program"
@@ -186,7 +192,7 @@ as_user velton-store check VELTON
 
 step "the package is removed"
 inside apt-get remove -y -qq velton >/dev/null 2>&1
-for path in bin/velton bin/velton-store lib/velton; do
+for path in bin/velton bin/velton-manager bin/velton-store lib/velton; do
     if [ -e "$root/usr/$path" ]; then fail "/usr/$path is left behind"; fi
 done
 for file in ORVA.pos opt.pos ports.ini velton; do

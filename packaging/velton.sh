@@ -1,9 +1,11 @@
 #!/bin/sh
-# Starts the till. Everything of a register lies in the folder of its program, so each user has a copy of the program in
-# a folder of his own: VELTON_FOLDER, or VELTON in his home. It is made on the first start, and the copy is renewed when
-# a newer program was installed.
+# Starts the till, or the owner's program under the name velton-manager. Everything of a register lies in the folder of
+# its program, so each user has a copy of the program in a folder of his own: VELTON_FOLDER, or VELTON in his home. It is
+# made on the first start, when the owner sets the shop up before the till comes, and the copy is renewed when a newer
+# program was installed.
 set -eu
 umask 077
+name=${0##*/}
 
 # Started from a menu, nobody reads what is written to a terminal.
 tell() {
@@ -24,6 +26,10 @@ give_up() {
 }
 
 programs=$(dirname -- "$(readlink -f -- "$0")")/../lib/velton
+if [ "$name" = velton-manager ] && [ $# -gt 0 ]; then
+    case $1 in -*) exec "$programs/velton-manager" "$@" ;; esac
+    VELTON_FOLDER=$1
+fi
 if [ -z "${VELTON_FOLDER:-}" ]; then
     # A service or a bare session may have no HOME.
     HOME=${HOME:-$(getent passwd "$(id -u)" | cut -d: -f6)}
@@ -73,9 +79,12 @@ if [ ! -e "$folder/opt.pos" ]; then
     fi
     clear_abandoned
     problem=$(make_folder 2>&1) || give_up "The folder $folder could not be made. $problem"
+    is_new=yes
 fi
 if program_is_newer; then
     problem=$(renew_program 2>&1) || tell "The program in $folder could not be renewed. $problem"
 fi
 [ -x "$folder/velton" ] || give_up "The program in $folder cannot be started: it is missing, or programs may not run there."
+if [ "$name" = velton-manager ]; then exec "$programs/velton-manager" "$folder"; fi
+if [ -n "${is_new:-}" ] && [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then "$programs/velton-manager" "$folder" || true; fi
 exec "$folder/velton" "$@"

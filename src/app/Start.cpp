@@ -7,6 +7,7 @@
 #include "app/Screens.h"
 #include "core/BackupStart.h"
 #include "core/Installation.h"
+#include "core/KeptErrors.h"
 #include "core/PrinterWait.h"
 #include "core/Settings.h"
 #include "core/frmLogin.h"
@@ -61,6 +62,7 @@ void PrepareApplication() {
 
 bool StartProgram() {
     ShowWaitsOfOutput();
+    KeepErrors(u"velton"_s);
     forms::UseKeypad([] { return TheSettings.POSMonitor == u"2"; });
     forms::Run(
         [] {

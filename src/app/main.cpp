@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <cstring>
 
 #include "app/BackupProgram.h"
 #include "app/Start.h"

@@ -19,8 +19,8 @@ struct Choice {
 struct Key {
     const char16_t* section;
     const char16_t* name;
-    std::vector<Choice> choices;  // none: any text goes
-    QString& (*text)(Installation& installation) = nullptr;
+    std::vector<Choice> choices = {};
+    QString& (*text)(Installation& installation) = nullptr;  // any text goes
 };
 
 using forms::Contrast;

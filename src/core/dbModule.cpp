@@ -35,14 +35,13 @@ store::Database& Opened(const std::unique_ptr<store::Database>& database) {
 }  // namespace
 
 void OpenOptionsStore() {
-    optionsStore = store::Database::Open(store::OptionsPlace(output::ProgramFolder()), store::OptionsSchema());
+    optionsStore = store::OpenOptions(output::ProgramFolder());
 }
 
 void OpenMainStore() {
     mainPatience.reset();
-    const store::Place place = store::MainPlace(output::ProgramFolder());
-    isMainOnServer = place.IsServer();
-    mainStore = store::Database::Open(place, store::MainSchema());
+    isMainOnServer = store::MainPlace(output::ProgramFolder()).IsServer();
+    mainStore = store::OpenMain(output::ProgramFolder());
 }
 
 QString WaitsForMainStore() {
@@ -70,6 +69,10 @@ void CloseStores() {
 
 void ExecuteSql(const QString& text) {
     MainStore().Execute(text);
+}
+
+QString Quoted(QString text) {
+    return u'\'' + text.replace(u'\'', u"''"_s) + u'\'';
 }
 
 QString ProperCase(const QString& text) {

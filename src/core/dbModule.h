@@ -22,6 +22,9 @@ void CloseStores();
 // Runs an action query on the main store.
 void ExecuteSql(const QString& text);
 
+// A text as a query has it, in quotes.
+QString Quoted(QString text);
+
 // Raises the first letter, and each letter behind a blank or a line break (CR LF); lowers nothing.
 QString ProperCase(const QString& text);
 

@@ -1,7 +1,6 @@
 #include "core/frmLogin.h"
 
 #include "core/Installation.h"
-#include "core/InstanceLock.h"
 #include "core/Session.h"
 #include "core/Settings.h"
 #include "core/UserList.h"
@@ -12,6 +11,7 @@
 #include "upkeep/Restore.h"
 #include "values/Clock.h"
 #include "values/Format.h"
+#include "values/InstanceLock.h"
 #include "values/Locale.h"
 #include "values/Numbers.h"
 

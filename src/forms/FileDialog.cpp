@@ -12,11 +12,11 @@ namespace forms {
 
 namespace {
 
-// A missing file is no business of the dialog: the screens have their own words for it.
 QString AskName(QFileDialog* made, QFileDialog::FileMode mode = QFileDialog::AnyFile) {
     if (ProgramIsEnding()) throw ProgramEnds{};
     const FocusReturn focus;
     const QPointer<QFileDialog> dialog = made;
+    // A missing name is no business of the dialog: the screens have their own words for it.
     dialog->setFileMode(mode);
     const bool chosen = dialog->exec() == QDialog::Accepted && dialog;
     const QStringList names = chosen ? dialog->selectedFiles() : QStringList();

@@ -13,7 +13,7 @@ QString AskSaveName(QWidget* parent, const QString& title, const QString& filter
 // The open dialog shows the filters by their names alone, "Report" of the above. The name need not be one of a file.
 QString AskOpenName(QWidget* parent, const QString& title, const QString& filter);
 
-// A folder that is there.
+// A folder that is there; "" when the user cancels.
 QString AskFolder(QWidget* parent, const QString& title);
 
 }  // namespace forms

@@ -12,6 +12,7 @@ namespace {
 
 bool ending = false;
 int endCode = 0;
+std::function<void(const std::exception&)> noteError;
 
 void StopAllLoops(int exitCode) {
     if (!ending) {
@@ -29,6 +30,7 @@ void StopAllLoops(int exitCode) {
 }
 
 void Report(const std::exception& error, Icon icon, const QString& title) {
+    if (noteError) noteError(error);
     try {
         Tell(ErrorText(error), icon, title);
     } catch (const ProgramEnds&) {
@@ -81,6 +83,10 @@ void RunTitled(const std::function<void()>& handler, const std::function<QString
     } catch (const std::exception& error) {
         ReportAndPerhapsEnd(error, title(), fatal);
     }
+}
+
+void OnUntrappedError(std::function<void(const std::exception&)> note) {
+    noteError = std::move(note);
 }
 
 QString ErrorText(const std::exception& error) {

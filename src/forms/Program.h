@@ -24,6 +24,9 @@ void Run(const std::function<void()>& handler, const QString& title, bool fatal 
 // The same under the title that holds when the error is told.
 void RunTitled(const std::function<void()>& handler, const std::function<QString()>& title, bool fatal);
 
+// Told of each error that a handler did not trap, before the user is. It must not throw.
+void OnUntrappedError(std::function<void(const std::exception&)> note);
+
 // "number" directly followed by "description", as the system's own handlers show an error.
 QString ErrorText(const std::exception& error);
 

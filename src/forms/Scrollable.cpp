@@ -1,6 +1,7 @@
 #include "forms/Scrollable.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QLayout>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -34,6 +35,11 @@ public:
     }
 
 protected:
+    // Its content may need another width now.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
+        return QScrollArea::eventFilter(watched, event);
+    }
     void resizeEvent(QResizeEvent* event) override {
         QScrollArea::resizeEvent(event);
         updateGeometry();

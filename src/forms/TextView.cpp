@@ -6,8 +6,10 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QTemporaryFile>
 
 #include "forms/Tokens.h"
+#include "values/FileError.h"
 
 using namespace Qt::StringLiterals;
 
@@ -39,6 +41,15 @@ bool TextView::Open(const QString& path) {
     const bool opened = lines_.Open(path);
     LayOut();
     return opened;
+}
+
+void TextView::ShowText(const QString& text) {
+    Clear();
+    QTemporaryFile file;
+    if (!file.open() || file.write(text.toUtf8()) < 0 || !file.flush())
+        throw values::FileError(file, u"write a file"_s);
+    SetDecoder([](const QByteArray& line) { return QString::fromUtf8(line); });
+    Open(file.fileName());
 }
 
 void TextView::Clear() {

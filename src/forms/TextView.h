@@ -23,6 +23,8 @@ public:
     void SetDecoder(Decoder decoder);
     // Shows a file from its start; false, and an empty view, when it cannot be opened.
     bool Open(const QString& path);
+    // Shows a text that is in no file; a FileError when there is no room to lay it out.
+    void ShowText(const QString& text);
     void Clear();
     void ScrollToEnd();
 

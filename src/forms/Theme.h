@@ -11,7 +11,8 @@ namespace forms {
 //             accent), strip (the line of information; stripDanger, stripAdded: for a moment), pale (light grey until
 //             it has had the focus)
 //   lists     stale (pale: of something that is over)
-//   labels    heading, muted, strong (18 px), figure (18 px, for numbers), accent, picture (a dotted frame for one)
+//   labels    heading, muted, strong (18 px), figure (18 px, for numbers), large (28 px), accent,
+//             picture (a dotted frame for one)
 //   frames    panel (paper, border, corners), night (the panel of the total), strip (the line of information)
 //   options   columns (fixed pitch, for a caption that shows the columns of a print)
 //   on night  total (46 px figure), nightText

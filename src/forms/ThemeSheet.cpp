@@ -57,6 +57,7 @@ QPushButton {
 }
 QPushButton:hover { background: @hover; }
 QPushButton:pressed { background: @pressed; }
+QPushButton:checked { background: @chosenRow; border-color: @accent; font-weight: 500; }
 QPushButton:focus { border: 2px solid @accent; padding: 0 13px; min-height: @focusedButtonHeight; }
 QPushButton:disabled { background: @ground; color: @faint; border-color: @line; }
 QPushButton[role="main"], QPushButton[role="post"] {
@@ -96,6 +97,7 @@ QLabel[role="heading"] { color: @muted; font-size: @labelSize; font-weight: 500;
 QLabel[role="muted"] { color: @muted; font-size: @labelSize; }
 QLabel[role="strong"], QLineEdit[role="strong"] { font-size: @strongSize; font-weight: 500; }
 QLabel[role="accent"] { color: @accent; font-weight: 500; }
+QLabel[role="large"] { font-size: @totalFit2; font-weight: 500; }
 QLabel[role="figure"] { font-size: @strongSize; font-weight: 500; }
 QLabel[role="nightText"], QLineEdit[role="nightText"] { color: @nightText; font-size: @textSize; }
 QLabel[role="total"], QLineEdit[role="total"] { color: @glow; font-size: @totalSize; font-weight: bold; }

@@ -1,10 +1,10 @@
 #include "manager/ManagerLogin.h"
 
+#include "core/AccessLevels.h"
 #include "core/Session.h"
 #include "core/UserList.h"
 #include "core/dbModule.h"
 #include "forms/MsgBox.h"
-#include "values/Numbers.h"
 
 using namespace Qt::StringLiterals;
 
@@ -13,9 +13,7 @@ namespace manager {
 namespace {
 
 const auto UsersQuery = u"SELECT * FROM Users"_s;
-const auto UserCriteria = u"UserName = '%1'"_s;
-
-constexpr int OwnersLevel = 3;
+const auto UserCriteria = u"UserName = %1"_s;
 
 }  // namespace
 
@@ -39,10 +37,10 @@ void ManagerLogin::Form_Load() {
 
 void ManagerLogin::cmdLogin_Click() {
     auto user = MainStore().OpenRecordset(UsersQuery);
-    user.FindFirst(UserCriteria.arg(QString(ui.cboUser->currentText()).replace(u'\'', u"''"_s)));
+    user.FindFirst(UserCriteria.arg(Quoted(ui.cboUser->currentText())));
     // One answer for all, so that nobody learns what was wrong.
     if (user.NoMatch() || user[u"Password"].IsNull() || user[u"Password"].Text() != ui.txtPassword->text() ||
-        values::Val(user[u"AccLevel"].TextOrEmpty()) < OwnersLevel) {
+        !IsOwner(user[u"AccLevel"].TextOrEmpty())) {
         ui.txtPassword->clear();
         ui.txtPassword->setFocus();
         return forms::Tell(tr("This name and password are not those of a user of level 3."), forms::Icon::Critical,

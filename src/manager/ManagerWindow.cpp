@@ -4,8 +4,9 @@
 #include <QShortcut>
 
 #include "core/Installation.h"
-#include "manager/BackupWords.h"
+#include "manager/Texts.h"
 #include "output/Folder.h"
+#include "upkeep/BackupState.h"
 
 using namespace Qt::StringLiterals;
 
@@ -22,6 +23,7 @@ ManagerWindow::ManagerWindow() {
                 [this, step = step] {
                     ui.lstPages->Select(qBound(0, ui.lstPages->Selected() + step, ui.lstPages->Count() - 1));
                 });
+    connect(new QShortcut(QKeySequence::Quit, this), &QShortcut::activated, this, &QWidget::close);
 }
 
 void ManagerWindow::Form_Load() {
@@ -36,15 +38,19 @@ void ManagerWindow::lstPages_Chosen() {
 
 void ManagerWindow::BringUp(size_t number) {
     Page*& page = pages_[number];
-    if (page == nullptr) {
-        page = entries_[number].make(ui.stkPages);
-        ui.stkPages->addWidget(page);
-        connect(page, &Page::ShopChanged, this, Guarded(&ManagerWindow::TellOfShop));
-        connect(page, &Page::ShopGoes, this, [this, page = page](bool* goes) { DropOthers(page, goes); });
-        page->Load();
-    }
+    if (page == nullptr) page = Made(number);
     ui.lblPage->setText(page->Name());
     ui.stkPages->setCurrentWidget(page);
+}
+
+// One that can't be shown is not there, and is tried again the next time.
+Page* ManagerWindow::Made(size_t number) {
+    std::unique_ptr<Page> page(entries_[number].make(ui.stkPages));
+    connect(page.get(), &Page::ShopChanged, this, Guarded(&ManagerWindow::TellOfShop));
+    connect(page.get(), &Page::ShopGoes, this, [this, asks = page.get()](bool* goes) { DropOthers(asks, goes); });
+    page->Load();
+    ui.stkPages->addWidget(page.get());
+    return page.release();
 }
 
 void ManagerWindow::ShowPage(const QString& className) {
@@ -72,8 +78,10 @@ void ManagerWindow::DropOthers(const Page* page, bool* goes) {
 }
 
 void ManagerWindow::TellOfShop() {
-    ui.lblStatus->setText(tr("%1   –   %2   –   %3")
-                              .arg(TheInstallation.heading.NazivFirme, output::ProgramFolder(), LastBackupInWords()));
+    const upkeep::BackupState backup = upkeep::ReadBackupState(output::ProgramFolder());
+    ui.lblStatus->ShowWhole(
+        tr("%1   –   %2   –   %3")
+            .arg(TheInstallation.heading.NazivFirme, output::ProgramFolder(), LastBackupText(backup)));
 }
 
 }  // namespace manager

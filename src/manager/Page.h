@@ -12,6 +12,8 @@ class Page : public forms::Form {
 public:
     // What stands beside other pages' names, and above the page.
     virtual QString Name() const { return Caption(); }
+    // Whether something is still under way beside the window, after which the page will look otherwise.
+    virtual bool IsBusy() const { return false; }
 
 Q_SIGNALS:
     // What the window tells below its pages may be another now: the last backup, the shop's name.

@@ -2,8 +2,15 @@
 
 #include <QCoreApplication>
 
-#include "manager/BackupPage.h"
-#include "manager/HealthPage.h"
+#include "manager/backup/BackupPage.h"
+#include "manager/drawer/DrawerPage.h"
+#include "manager/goods/GoodsPage.h"
+#include "manager/goods/PricesPage.h"
+#include "manager/health/HealthPage.h"
+#include "manager/labels/LabelsPage.h"
+#include "manager/overview/OverviewPage.h"
+#include "manager/printers/PrintersPage.h"
+#include "manager/setup/SetupPage.h"
 
 using namespace Qt::StringLiterals;
 
@@ -24,8 +31,15 @@ QString Named(const char* name) {
 
 std::vector<PageEntry> AllPages() {
     return {
-        {u"HealthPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Health")), Make<HealthPage>},
+        {u"OverviewPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Overview")), Make<OverviewPage>},
+        {u"DrawerPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Drawer")), Make<DrawerPage>},
+        {u"GoodsPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Goods")), Make<GoodsPage>},
+        {u"PricesPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Prices")), Make<PricesPage>},
+        {u"LabelsPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Labels")), Make<LabelsPage>},
+        {u"PrintersPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Printers")), Make<PrintersPage>},
+        {u"SetupPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Set-up")), Make<SetupPage>},
         {u"BackupPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Backup")), Make<BackupPage>},
+        {u"HealthPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Health")), Make<HealthPage>},
     };
 }
 

@@ -5,7 +5,10 @@
 #include <QApplication>
 #include <csignal>
 
+#include "core/AccessLevels.h"
 #include "core/Installation.h"
+#include "core/KeptErrors.h"
+#include "core/PrinterWait.h"
 #include "core/Settings.h"
 #include "core/dbModule.h"
 #include "forms/MsgBox.h"
@@ -14,7 +17,6 @@
 #include "manager/ManagerWindow.h"
 #include "output/Folder.h"
 #include "upkeep/Restore.h"
-#include "values/Locale.h"
 
 using namespace Qt::StringLiterals;
 
@@ -25,8 +27,9 @@ namespace {
 const auto Title = u"VELTON Manager"_s;
 
 // The password that every shop is delivered with.
-const auto DeliveredUserQuery = u"SELECT UserID FROM Users WHERE AccLevel = '3' AND Password = '1234'"_s;
-const auto OwnersQuery = u"SELECT UserID FROM Users WHERE AccLevel = '3'"_s;
+const auto DeliveredUserQuery =
+    u"SELECT UserID FROM Users WHERE AccLevel = '%1' AND Password = '1234'"_s.arg(OwnersLevel);
+const auto OwnersQuery = u"SELECT UserID FROM Users WHERE AccLevel = '%1'"_s.arg(OwnersLevel);
 const auto InvoicesQuery = u"SELECT InvoiceID FROM Invoices"_s;
 
 bool IsAsDelivered() {
@@ -35,16 +38,22 @@ bool IsAsDelivered() {
            MainStore().OpenRecordset(InvoicesQuery).AtEOF();
 }
 
-void ShowWindow() {
+ManagerWindow* ShowWindow() {
     auto* window = forms::Open<ManagerWindow>();
     QObject::connect(window, &forms::Form::Unloaded, [] { forms::Run([] { forms::EndProgram(); }, Title); });
     window->Show();
+    return window;
 }
 
 }  // namespace
 
-void CloseShop() {
-    CloseStores();
+void PrepareManager() {
+    ::umask(077);  // a shop's files belong to its user alone
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+    QApplication::setApplicationName(Title);
+    QApplication::setApplicationVersion(QStringLiteral(VELTON_VERSION));
+    forms::InstallTheme();
 }
 
 void OpenShop() {
@@ -56,26 +65,20 @@ void OpenShop() {
     auto options = OptionsStore().OpenRecordset(u"SELECT * FROM Options"_s);
     options.MoveFirst();
     ReadSettings(options);
+    static_cast<Heading&>(TheSettings) = TheInstallation.heading;
     OpenMainStore();
     ShowWaitsOfMainStore();
 }
 
-void PrepareManager() {
-    ::umask(077);  // a shop's files belong to its user alone
-    std::signal(SIGPIPE, SIG_IGN);
-    std::signal(SIGXFSZ, SIG_IGN);
-    QApplication::setApplicationName(Title);
-    QApplication::setApplicationVersion(QStringLiteral(VELTON_VERSION));
-    forms::InstallTheme();
-}
-
 bool StartManager(const QString& folder) {
     output::SetProgramFolder(folder);
+    ShowWaitsOfOutput();
+    KeepErrors(u"velton-manager"_s);
     forms::Run(
         [] {
             OpenShop();
-            if (IsAsDelivered()) return ShowWindow();
-            forms::Open<ManagerLogin>(ShowWindow)->Show();
+            if (IsAsDelivered()) return ShowWindow()->ShowPage(u"SetupPage"_s);
+            forms::Open<ManagerLogin>([] { ShowWindow(); })->Show();
         },
         Title, true);
     return !forms::ProgramIsEnding() && !forms::LoadedForms().isEmpty();

@@ -38,7 +38,12 @@ void Channel::RequireOpen() const {
 
 void Channel::OpenPort(const QString& port) {
     RequireClosed();
-    sink_ = OpenPortSink(port);
+    OpenPort(EntryOf(port));
+}
+
+void Channel::OpenPort(const PortEntry& entry) {
+    RequireClosed();
+    sink_ = OpenSink(entry);
 }
 
 void Channel::OpenForOutput(const QString& path) {

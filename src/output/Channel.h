@@ -17,6 +17,7 @@ public:
     bool EndsProgram() const override { return true; }
 };
 
+struct PortEntry;
 class Sink;
 
 // Channel 1: the one text output of the program, a port or a file at a time. Text goes out in the single-byte code page
@@ -29,6 +30,7 @@ public:
 
     // "lpt1:" or "lpt2:", as ports.ini in the program's folder maps them.
     void OpenPort(const QString& port);
+    void OpenPort(const PortEntry& entry);
     // A file, emptied or appended to; made when it is missing.
     void OpenForOutput(const QString& path);
     void OpenForAppend(const QString& path);

@@ -1,20 +1,10 @@
 #include "output/PagePrinter.h"
 
-#include <QBuffer>
-#include <QDir>
-#include <QFileInfo>
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QFontMetricsF>
-#include <QPainter>
-#include <QPdfWriter>
-#include <QPrinter>
-#include <QPrinterInfo>
-#include <QSaveFile>
 
-#include "output/Channel.h"
-#include "output/Folder.h"
-#include "values/Clock.h"
+#include "output/PageDevice.h"
 
 using namespace Qt::StringLiterals;
 
@@ -24,7 +14,6 @@ namespace {
 
 constexpr double DefaultFontSize = 9;
 constexpr double LargestFontSize = 500;
-constexpr double PdfMarginMm = 12;
 
 // The columns of a receipt need a fixed pitch: a font that the system lacks gives way to its own fixed one.
 QFont LineFont(const QString& name, double points) {
@@ -37,75 +26,32 @@ QFont LineFont(const QString& name, double points) {
     return font;
 }
 
-QString NewPdfPath() {
-    const QString folder = InProgramFolder(u"printouts"_s);
-    if (!QDir().mkpath(folder)) throw OutputError(values::PathNotFound, u"Cannot make the folder "_s + folder + u'.');
-    const QString begin = folder + u'/' + values::Now().toString(u"yyyyMMdd-hhmmss"_s) + u'-';
-    int number = 1;
-    while (QFileInfo::exists(begin + QString::number(number) + u".pdf"_s)) ++number;
-    return begin + QString::number(number) + u".pdf"_s;
-}
-
-void SavePdf(const QByteArray& pdf) {
-    QSaveFile file(NewPdfPath());
-    const bool isSaved =
-        file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size() && file.flush() && file.commit();
-    if (!isSaved)
-        throw OutputError(values::DeviceError, u"Cannot write "_s + file.fileName() + u": "_s + file.errorString());
-}
-
 }  // namespace
 
-// Either a print job of the system or a PDF, which is kept in memory until it is whole.
 struct PagePrinter::Job {
-    QBuffer pdf;
-    std::unique_ptr<QPagedPaintDevice> device;
-    QPainter painter;  // behind the device, since it must end before it
+    PageDevice page;
     double y = 0;
 
-    explicit Job(const QPageLayout& paper);
+    explicit Job(const QPageLayout& paper) : page(paper) {}
     bool Holds(const QFont& font) const;
     void Print(const QString& line, const QFont& font);
-    void End();
-    bool DeviceFailed() const;
 };
 
-PagePrinter::Job::Job(const QPageLayout& paper) {
-    if (const QPrinterInfo standard = QPrinterInfo::defaultPrinter(); !standard.isNull()) {
-        device = std::make_unique<QPrinter>(standard, QPrinter::HighResolution);
-    } else {
-        pdf.open(QIODevice::WriteOnly);
-        device = std::make_unique<QPdfWriter>(&pdf);
-    }
-    device->setPageLayout(paper);
-    if (!painter.begin(device.get()))
-        throw OutputError(values::DeviceUnavailable, u"The page printer cannot be used."_s);
-}
-
-bool PagePrinter::Job::DeviceFailed() const {
-    const auto* printer = dynamic_cast<const QPrinter*>(device.get());
-    return printer && (printer->printerState() == QPrinter::Error || printer->printerState() == QPrinter::Aborted);
-}
-
 bool PagePrinter::Job::Holds(const QFont& font) const {
-    const QFontMetricsF metrics(font, device.get());
-    return metrics.height() <= device->height() && metrics.horizontalAdvance(u'0') <= device->width();
+    const QPagedPaintDevice& device = page.Device();
+    const QFontMetricsF metrics(font, &page.Device());
+    return metrics.height() <= device.height() && metrics.horizontalAdvance(u'0') <= device.width();
 }
 
 void PagePrinter::Job::Print(const QString& line, const QFont& font) {
-    const QFontMetricsF metrics(font, device.get());
-    if (y > 0 && y + metrics.height() > device->height()) {
-        if (!device->newPage()) throw OutputError(values::DeviceError, u"The page printer takes no further page."_s);
+    const QFontMetricsF metrics(font, &page.Device());
+    if (y > 0 && y + metrics.height() > page.Device().height()) {
+        page.NewPage();
         y = 0;
     }
-    painter.setFont(font);
-    painter.drawText(QPointF(0, y + metrics.ascent()), line);
+    page.Painter().setFont(font);
+    page.Painter().drawText(QPointF(0, y + metrics.ascent()), line);
     y += metrics.lineSpacing();
-}
-
-void PagePrinter::Job::End() {
-    if (!painter.end() || DeviceFailed()) throw OutputError(values::DeviceError, u"The page printer failed."_s);
-    if (pdf.isOpen()) SavePdf(pdf.data());
 }
 
 PagePrinter::PagePrinter() = default;
@@ -124,11 +70,7 @@ void PagePrinter::SetPaper(const QPageLayout& paper) {
 }
 
 QPageLayout PagePrinter::Paper() const {
-    if (paper_.isValid()) return paper_;
-    if (const QPrinterInfo standard = QPrinterInfo::defaultPrinter(); !standard.isNull())
-        return QPrinter(standard, QPrinter::HighResolution).pageLayout();
-    const QMarginsF margins(PdfMarginMm, PdfMarginMm, PdfMarginMm, PdfMarginMm);
-    return {QPageSize(QPageSize::A4), QPageLayout::Portrait, margins, QPageLayout::Millimeter};
+    return paper_.isValid() ? paper_ : PageDevice::UsualPaper();
 }
 
 void PagePrinter::PrintLine(const QString& line) {
@@ -143,13 +85,11 @@ void PagePrinter::PrintLine(const QString& line) {
 }
 
 void PagePrinter::EndJob() {
-    if (const auto job = std::move(job_)) job->End();
+    if (const auto job = std::move(job_)) job->page.End();
 }
 
 void PagePrinter::Abandon() {
-    if (job_) {
-        if (auto* printer = dynamic_cast<QPrinter*>(job_->device.get())) printer->abort();
-    }
+    if (job_) job_->page.Abandon();
     job_.reset();
 }
 

@@ -58,23 +58,27 @@ QString BelowFolderUnlessAbsolute(const QString& path) {
 
 }  // namespace
 
-std::unique_ptr<Sink> OpenPortSink(const QString& port) {
+PortEntry EntryOf(const QString& port) {
     const QString key = port.toLower().remove(u':');
     if (key != u"lpt1" && key != u"lpt2")
         throw OutputError(values::DeviceUnavailable, u"There is no printer port \"%1\"."_s.arg(port));
-
     const auto ini = PortsIni();
-    const QString entry = ini.Entry(u"ports"_s, key).value_or(QString());
-    if (entry.contains(QChar(0)) || entry.size() > LongestEntry) ThrowBadEntry(entry.left(40).remove(QChar(0)));
+    const QString where = ini.Entry(u"ports"_s, key).value_or(QString());
+    if (where.contains(QChar(0)) || where.size() > LongestEntry) ThrowBadEntry(where.left(40).remove(QChar(0)));
     const QString statusKey = key + u".status"_s;
     const QString status =
         ini.Entry(u"ports"_s, statusKey).value_or(ini.Entry(u"ports"_s, u"status"_s).value_or(QString()));
-    const Port known{.name = key.toUpper(), .isAsked = IsYes(statusKey, status)};
-    if (entry.isEmpty()) return OpenUsualDevice(key, known);
-    if (entry.startsWith(u"tcp:", Qt::CaseInsensitive)) return OpenNetworkPrinter(entry, known);
-    if (!entry.startsWith(u"file:", Qt::CaseInsensitive)) return OpenDevice(BelowFolderUnlessAbsolute(entry), known);
-    const QString path = entry.mid(5).trimmed();
-    if (path.isEmpty()) ThrowBadEntry(entry);
+    return {.key = key, .where = where, .isAsked = IsYes(statusKey, status)};
+}
+
+std::unique_ptr<Sink> OpenSink(const PortEntry& entry) {
+    const Port known{.name = entry.key.toUpper(), .isAsked = entry.isAsked};
+    if (entry.where.isEmpty()) return OpenUsualDevice(entry.key, known);
+    if (entry.where.startsWith(u"tcp:", Qt::CaseInsensitive)) return OpenNetworkPrinter(entry.where, known);
+    if (!entry.where.startsWith(u"file:", Qt::CaseInsensitive))
+        return OpenDevice(BelowFolderUnlessAbsolute(entry.where), known);
+    const QString path = entry.where.mid(5).trimmed();
+    if (path.isEmpty()) ThrowBadEntry(entry.where);
     return OpenFileForAppend(BelowFolderUnlessAbsolute(path));
 }
 

@@ -134,6 +134,15 @@ PrinterState StarStateOf(const Conversation& printer) {
 
 }  // namespace
 
+PrinterCodes CodesOf(PrinterFamily family) {
+    if (family == PrinterFamily::Star)
+        return {.drawer = "\x07"_ba, .cutter = "\x1B\x64\x33"_ba, .bold = "\x1B\x45"_ba, .plain = "\x1B\x46"_ba};
+    return {.drawer = "\x1B\x70\x00\x3C\x78"_ba,
+            .cutter = "\x1D\x56\x42\x00"_ba,
+            .bold = "\x1B\x45\x01"_ba,
+            .plain = "\x1B\x45\x00"_ba};
+}
+
 PrinterState StateOf(const Sink& printer, PrinterFamily family) {
     if (printer.AskedDescriptor() < 0) return PrinterState::Ready;
     const Conversation conversation(printer.AskedDescriptor());

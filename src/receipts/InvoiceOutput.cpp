@@ -12,18 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct ControlCodes {
-    QByteArray drawer;
-    QByteArray cutter;
-};
-
 output::PrinterFamily Family() {
     return TheSettings.Emulacija == u"2" ? output::PrinterFamily::Star : output::PrinterFamily::Epson;
-}
-
-ControlCodes PrinterCodes() {
-    if (Family() == output::PrinterFamily::Star) return {.drawer = "\x07"_ba, .cutter = "\x1B\x64\x33"_ba};
-    return {.drawer = "\x1B\x70\x00\x3C\x78"_ba, .cutter = "\x1D\x56\x42\x00"_ba};
 }
 
 // Empty for a printer that is ready.
@@ -71,14 +61,14 @@ void OpenInvoiceOutput(const QString& OutputMode) {
     if (OutputMode == u"3") SetPageFont();
     if (!IsPort(OutputMode)) return;
     OpenPrinterPort(OutputMode);
-    output::Channel1().WriteBytes(PrinterCodes().drawer);
+    output::Channel1().WriteBytes(output::CodesOf(Family()).drawer);
 }
 
 void FinishInvoiceOutput(const QString& OutputMode) {
     if (OutputMode == u"3") output::ThePagePrinter().EndJob();
     if (!IsPort(OutputMode)) return;
     FeedBlankLines(TheSettings.PraznihLinijaPoslijeRacuna);
-    if (TheSettings.RezacPapira == u"1") output::Channel1().WriteBytes(PrinterCodes().cutter);
+    if (TheSettings.RezacPapira == u"1") output::Channel1().WriteBytes(output::CodesOf(Family()).cutter);
     output::Channel1().Close();
 }
 

@@ -16,16 +16,6 @@ const auto NumberLabel = u"INVOICE No:"_s;
 const auto RibbonMode = u"2"_s;
 constexpr qint16 RibbonBlankLines = 2;
 
-void PrintReceiptText(const QString& OutputMode, const InvoiceText& invoice) {
-    const ReceiptLayout& layout = ChosenLayout();
-    PrintInvoiceHeading(OutputMode, layout, invoice);
-    PrintDateBlock(OutputMode, layout.date, NumberLabel, invoice.orNo);
-    PrintItems(OutputMode, layout, invoice);
-    PrintInvoiceTotals(OutputMode, layout, invoice);
-    PrintTaxRecapitulationIfWanted(OutputMode, invoice);
-    PrintInvoiceFooter(OutputMode, invoice);
-}
-
 void PrintReceipt(const InvoiceText& invoice) {
     const QString OutputMode = TheSettings.PrinterZaRacun;
     OpenInvoiceOutput(OutputMode);
@@ -42,6 +32,16 @@ void AppendToRibbon(const InvoiceText& invoice) {
 }
 
 }  // namespace
+
+void PrintReceiptText(const QString& OutputMode, const InvoiceText& invoice) {
+    const ReceiptLayout& layout = ChosenLayout();
+    PrintInvoiceHeading(OutputMode, layout, invoice);
+    PrintDateBlock(OutputMode, layout.date, NumberLabel, invoice.orNo);
+    PrintItems(OutputMode, layout, invoice);
+    PrintInvoiceTotals(OutputMode, layout, invoice);
+    PrintTaxRecapitulationIfWanted(OutputMode, invoice);
+    PrintInvoiceFooter(OutputMode, invoice);
+}
 
 void PrintInvoice(const InvoiceText& invoice) {
     PrintOrEndProgram([&] {

@@ -96,6 +96,10 @@ const Schema& Database::GetSchema() const {
     return internals_->schema;
 }
 
+QString Database::EngineVersion() {
+    return engine_->Version();
+}
+
 QStringList Database::CheckIntegrity() {
     return engine_->CheckIntegrity();
 }
@@ -131,10 +135,6 @@ void Database::AddAllOf(Engine& other) {
 
 void Database::BackupTo(const QString& path) {
     engine_->BackupTo(path);
-}
-
-void Database::CopyFile(const QString& from, const QString& to) {
-    sqlite::CopyFile(from, to);
 }
 
 QString Database::ExplainPlan(const QString& query) {

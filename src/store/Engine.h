@@ -137,6 +137,8 @@ public:
     virtual void Retire() = 0;
     virtual void RetireFor(const Place& successor) = 0;
 
+    // Its name and version, as whoever helps asks for them.
+    virtual QString Version() = 0;
     virtual QStringList CheckIntegrity() = 0;
     virtual QStringList MissingIndexes(const Schema& schema) = 0;
     virtual void BackupTo(const QString& path) = 0;

@@ -35,6 +35,7 @@ public:
     QString Text() const { return Get().ToText(); }  // null throws 94
     QString TextOrEmpty() const { return Get().TextOrEmpty(); }
     values::Money Money() const { return Get().ToMoney(); }
+    values::Money MoneyOrZero() const { return IsNull() ? values::Money() : Money(); }
     double Double() const { return Get().ToDouble(); }
     qint64 Whole() const { return Get().ToWhole(); }
     bool YesNo() const { return Get().ToBool(); }

@@ -53,6 +53,9 @@ struct Schema {
     const Table* Find(QStringView table) const;
 };
 
+// Products.Tab is a place on the touch table, from 0: so many on each of its tabs, in the order of TabControl.
+inline constexpr int PlacesPerTab = 32;
+
 const Schema& MainSchema();     // ORVA.pos
 const Schema& OptionsSchema();  // opt.pos
 

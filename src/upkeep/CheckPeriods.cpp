@@ -81,19 +81,28 @@ QStringList Doubles(const Span& span) {
     return doubles;
 }
 
+PeriodFact FactOf(bool isOpen, qint64 endReport, const Span& span, qint64 expected) {
+    return {.isOpen = isOpen,
+            .endReport = endReport,
+            .day = span.day,
+            .invoices = span.count,
+            .total = span.invoices.total,
+            .tax = span.invoices.tax,
+            .linesDiffer = span.invoices.total != span.lines.total,
+            .taxDiffers = span.invoices.tax != span.lines.tax,
+            .takingsDiffer = span.invoices.total != span.takings,
+            .leftOut = Gaps(span, expected),
+            .twice = Doubles(span)};
+}
+
 // What doesn't agree with the invoices, and the numbers that don't run on.
-QStringList Differences(const Span& span, qint64 expected) {
+QStringList Differences(const Span& span, const PeriodFact& fact) {
     QStringList differences;
-    const auto compare = [&](const QString& what, Money told, Money summed) {
-        if (told != summed) differences.append(u"%1 %2"_s.arg(what, ShownAmount(summed)));
-    };
-    compare(u"lines"_s, span.invoices.total, span.lines.total);
-    compare(u"tax of the lines"_s, span.invoices.tax, span.lines.tax);
-    compare(u"takings"_s, span.invoices.total, span.takings);
-    if (const QStringList gaps = Gaps(span, expected); !gaps.isEmpty())
-        differences.append(u"numbers left out %1"_s.arg(FirstFew(gaps)));
-    if (const QStringList doubles = Doubles(span); !doubles.isEmpty())
-        differences.append(u"numbers twice %1"_s.arg(FirstFew(doubles)));
+    if (fact.linesDiffer) differences.append(u"lines %1"_s.arg(ShownAmount(span.lines.total)));
+    if (fact.taxDiffers) differences.append(u"tax of the lines %1"_s.arg(ShownAmount(span.lines.tax)));
+    if (fact.takingsDiffer) differences.append(u"takings %1"_s.arg(ShownAmount(span.takings)));
+    if (!fact.leftOut.isEmpty()) differences.append(u"numbers left out %1"_s.arg(FirstFew(fact.leftOut)));
+    if (!fact.twice.isEmpty()) differences.append(u"numbers twice %1"_s.arg(FirstFew(fact.twice)));
     return differences;
 }
 
@@ -116,9 +125,10 @@ void CheckPeriods(const SalesBook& book, Findings& findings) {
         // A period goes on where the one before it ended, unless its numbers began anew.
         const qint64 first = span.numbers.empty() ? 0 : span.numbers.begin()->first;
         const qint64 expected = last >= 0 && last < first ? last + 1 : first;
-        const QStringList differences = Differences(span, expected);
-        findings.Fact(Head(span) +
-                      (differences.isEmpty() ? u"; all agrees"_s : u"; differs: "_s + differences.join(u", ")));
+        const PeriodFact fact = FactOf(key.first, key.second, span, expected);
+        findings.Fact(
+            Head(span) + (fact.Agrees() ? u"; all agrees"_s : u"; differs: "_s + Differences(span, fact).join(u", ")),
+            fact);
         if (!span.numbers.empty()) last = span.numbers.rbegin()->first;
     }
 }

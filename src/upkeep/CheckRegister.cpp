@@ -4,6 +4,7 @@
 
 #include "store/StorePath.h"
 #include "upkeep/Check.h"
+#include "upkeep/Words.h"
 #include "values/FileError.h"
 
 using namespace Qt::StringLiterals;
@@ -14,16 +15,57 @@ namespace {
 
 using StorePointer = std::unique_ptr<store::Database>;
 
+// Told what is done, and asked whether to go on, also while a store works.
+class Course {
+public:
+    explicit Course(const GoesOn& goesOn) : goesOn_(goesOn) {}
+
+    void Begin(const QString& doing) {
+        doing_ = doing;
+        if (goesOn_ && !goesOn_(doing_)) throw store::StoreError(store::Cancelled, u"The check was left."_s);
+    }
+    std::unique_ptr<store::Watch> WatchOver(store::Database& database) {
+        if (!goesOn_) return nullptr;
+        return std::make_unique<store::Watch>(database, [this] { return goesOn_(doing_); });
+    }
+
+private:
+    GoesOn goesOn_;
+    QString doing_;
+};
+
+FindingKind KindOf(const store::StoreError& error) {
+    if (dynamic_cast<const store::ServerLost*>(&error) != nullptr) return FindingKind::StoreOutOfReach;
+    switch (error.Number()) {
+        case store::FileNotFound:
+        case store::IniNotReadable:
+            return FindingKind::StoreMissing;
+        case store::HeldExclusively:
+        case store::StoreLocked:
+            return FindingKind::StoreHeld;
+        case store::ReadOnly:
+            return FindingKind::StoreReadOnly;
+        default:
+            return FindingKind::StoreDamaged;
+    }
+}
+
 // The open store when it is sound; opening it has looked at its version, tables and columns.
-StorePointer CheckStore(const QString& name, const std::function<StorePointer()>& open, Findings& findings) {
-    const auto damage = [&](int number, const QString& what) { findings.Damage(number, name + u": "_s + what); };
+StorePointer CheckStore(const QString& name, const std::function<StorePointer()>& open, Course& course,
+                        Findings& findings) {
+    const auto damage = [&](int number, const QString& what, FindingKind kind) {
+        findings.Damage(number, name + u": "_s + what, kind);
+    };
     try {
         StorePointer database = open();
+        const auto watch = course.WatchOver(*database);
         const QStringList faults = database->CheckIntegrity();
-        for (const QString& fault : faults) damage(store::NotAStore, fault);
+        course.Begin(Words::tr("The stores are looked at."));  // a check that was left found nothing
+        for (const QString& fault : faults) damage(store::NotAStore, fault, FindingKind::StoreDamaged);
         return faults.isEmpty() ? std::move(database) : nullptr;
     } catch (const store::StoreError& error) {
-        damage(error.Number(), error.Description());
+        if (error.Number() == store::Cancelled) throw;
+        damage(error.Number(), error.Description(), KindOf(error));
         return nullptr;
     }
 }
@@ -43,22 +85,29 @@ bool WritesRibbon(store::Database* options) {
 
 }  // namespace
 
-Findings CheckRegister(const QString& folder) {
+Findings CheckRegister(const QString& folder, const GoesOn& goesOn) {
     Findings findings;
+    Course course(goesOn);
+    course.Begin(Words::tr("The stores are looked at."));
     // Before the store, so that what is printed meanwhile is in the store already.
     const std::vector<Receipt> ribbon = RibbonOf(folder);
     const StorePointer main = CheckStore(
-        u"Main store"_s, [&] { return store::Database::Open(store::MainPlace(folder), store::MainSchema()); },
+        u"Main store"_s, [&] { return store::Database::Open(store::MainPlace(folder), store::MainSchema()); }, course,
         findings);
     const StorePointer options = CheckStore(
         u"Options store"_s, [&] { return store::Database::Open(store::OptionsPlace(folder), store::OptionsSchema()); },
-        findings);
+        course, findings);
     if (main) {
+        const auto watch = course.WatchOver(*main);
+        course.Begin(Words::tr("The sales are read."));
         const SalesBook book = ReadSalesBook(*main);
         const DistinctKeys products = KeysOf(*main, {u"Products"_s, u"ProdCode"_s});
         CheckIndexes(*main, findings);
+        course.Begin(Words::tr("The invoices are looked at."));
         CheckSales(*main, book, products, findings);
+        course.Begin(Words::tr("The goods are looked at."));
         CheckGoods(*main, products, findings);
+        course.Begin(Words::tr("The receipts are looked at."));
         CheckRibbon(ribbon, WritesRibbon(options.get()), book, findings);
         CheckPeriods(book, findings);
     }

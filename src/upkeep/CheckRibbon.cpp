@@ -65,12 +65,16 @@ private:
 
 void CheckRibbon(const std::vector<Receipt>& ribbon, bool goesOn, const SalesBook& book, Findings& findings) {
     if (ribbon.empty()) return;
+    findings.extent.receipts = static_cast<qint64>(ribbon.size());
     const Comparison comparison(book, ribbon);
     if (!comparison.Lacking().isEmpty())
-        findings.Damage(store::RowDeleted, u"The ribbon of printed invoices has receipts that the store lacks: "_s +
-                                               FirstFew(comparison.Lacking()));
+        findings.Damage(
+            store::RowDeleted,
+            u"The ribbon of printed invoices has receipts that the store lacks: "_s + FirstFew(comparison.Lacking()),
+            FindingKind::RibbonAhead);
     for (const QString& number : comparison.NotPrinted(goesOn))
-        findings.Note(u"invoices that are not on the ribbon (never printed, or by another register)"_s, number);
+        findings.Note(u"invoices that are not on the ribbon (never printed, or by another register)"_s, number,
+                      FindingKind::NotOnRibbon);
 }
 
 }  // namespace upkeep

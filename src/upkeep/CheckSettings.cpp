@@ -13,10 +13,12 @@ void CheckSettings(store::Database& options, Findings& findings) {
         ++count;
         for (const store::OptionsColumn& column : store::OptionsColumns())
             if (column.atStart == store::AtStart::Required && row[column.name].IsNull())
-                findings.Note(u"settings without a value, which start-up stops at"_s, column.name);
+                findings.Note(u"settings without a value, which start-up stops at"_s, column.name,
+                              FindingKind::SettingMissing);
     }
     if (count != 1)
-        findings.Damage(store::NotAStore, u"Options store: Options has %1 rows instead of one."_s.arg(count));
+        findings.Damage(store::NotAStore, u"Options store: Options has %1 rows instead of one."_s.arg(count),
+                        FindingKind::SettingsNotOneRow);
 }
 
 }  // namespace upkeep

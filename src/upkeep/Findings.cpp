@@ -1,5 +1,7 @@
 #include "upkeep/Findings.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace upkeep {
@@ -15,19 +17,33 @@ QString FirstFew(const QStringList& cases) {
     return cases.size() <= NamedCases ? named : u"%1 and %2 more"_s.arg(named).arg(cases.size() - NamedCases);
 }
 
-void Findings::Damage(int number, const QString& what) {
+void Findings::Damage(int number, const QString& what, FindingKind kind) {
     if (damage_.isEmpty()) firstNumber_ = number;
     damage_.append(what);
+    damageKinds_.push_back(kind);
 }
 
-void Findings::Note(const QString& kind, const QString& which) {
-    if (!notes_.contains(kind)) kinds_.append(kind);
-    notes_[kind].append(which);
+void Findings::Note(const QString& text, const QString& which, FindingKind kind) {
+    auto place = places_.constFind(text);
+    if (place == places_.cend()) {
+        place = places_.insert(text, notes_.size());
+        notes_.push_back({kind, text, {}});
+    }
+    notes_[place.value()].cases.append(which);
+}
+
+void Findings::Fact(const QString& line, const PeriodFact& fact) {
+    facts_.append(line);
+    periods_.push_back(fact);
+}
+
+bool Findings::HasNote(FindingKind kind) const {
+    return std::ranges::any_of(notes_, [kind](const Group& group) { return group.kind == kind; });
 }
 
 QStringList Findings::NoteLines() const {
     QStringList lines;
-    for (const QString& kind : kinds_) lines.append(u"%1: %2"_s.arg(kind, FirstFew(notes_.value(kind))));
+    for (const Group& group : notes_) lines.append(u"%1: %2"_s.arg(group.text, FirstFew(group.cases)));
     return lines;
 }
 

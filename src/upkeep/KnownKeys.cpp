@@ -50,9 +50,9 @@ DistinctKeys KeysOf(store::Database& main, const TableField& field) {
 }
 
 void NoteUnknown(const QString& from, const DistinctKeys& keys, const QString& to, const DistinctKeys& known,
-                 Findings& findings) {
+                 FindingKind kind, Findings& findings) {
     for (const QString& key : keys.List())
-        if (!known.Contains(key)) findings.Note(u"%1 that has no %2"_s.arg(from, to), ShownKey(key));
+        if (!known.Contains(key)) findings.Note(u"%1 that has no %2"_s.arg(from, to), ShownKey(key), kind);
 }
 
 }  // namespace upkeep

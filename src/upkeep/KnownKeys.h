@@ -57,6 +57,6 @@ DistinctKeys KeysOf(store::Database& main, const TableField& field);
 
 // Each of the keys of `from` that is not among those of `to` becomes a note.
 void NoteUnknown(const QString& from, const DistinctKeys& keys, const QString& to, const DistinctKeys& known,
-                 Findings& findings);
+                 FindingKind kind, Findings& findings);
 
 }  // namespace upkeep

@@ -8,11 +8,12 @@
 #include "store/StorePath.h"
 #include "upkeep/BackupPlace.h"
 #include "upkeep/BackupPlan.h"
-#include "upkeep/FileLock.h"
+#include "upkeep/ManagerStore.h"
 #include "upkeep/RestoreSteps.h"
 #include "upkeep/Words.h"
 #include "values/Clock.h"
 #include "values/FileError.h"
+#include "values/FileLock.h"
 #include "values/IniEdit.h"
 
 using namespace Qt::StringLiterals;
@@ -23,7 +24,6 @@ namespace {
 
 const auto StoreIni = u"store.ini"_s;
 const auto TillIni = u"velton.ini"_s;
-const auto RibbonFile = u"invoices.txt"_s;
 
 void RequireSound(store::Database& database, const QString& name) {
     const QStringList faults = database.CheckIntegrity();
@@ -71,8 +71,11 @@ public:
     }
 
 private:
+    // What only grows holds more where it is there: the ribbon, and what the owner's program keeps.
     bool IsWanted(const QString& name) const {
-        return name != StoreIni && !(name == RibbonFile && register_.exists(name));
+        const bool isReplaced =
+            name == store::MainFile || name == store::OptionsFile || name.endsWith(u".ini") || name.contains(u'/');
+        return name != StoreIni && (isReplaced || !register_.exists(name));
     }
 
     void RemoveComing() const {
@@ -124,6 +127,7 @@ private:
                                     Words::tr("The days in the backup's shop are not those that it was made with."));
         RequireSound(*store::Database::Open(steps_.Coming().filePath(store::OptionsFile), store::OptionsSchema()),
                      store::OptionsFile);
+        if (steps_.Coming().exists(ManagerFile)) RequireSound(*OpenManagerStore(steps_.Coming().path()), ManagerFile);
     }
 
     // None where there is no store, or one that can't be opened any more.
@@ -215,7 +219,7 @@ RestorePreview PreviewRestore(const QString& registerFolder, const BackupFacts& 
     preview.backup = backup;
     DayTotals live;
     try {
-        live = ReadDayTotals(*store::Database::Open(store::MainPlace(registerFolder), store::MainSchema()));
+        live = ReadDayTotals(*store::OpenMain(registerFolder));
     } catch (const store::StoreError& error) {
         preview.liveFault = error.Description();
     }
@@ -226,10 +230,10 @@ RestorePreview PreviewRestore(const QString& registerFolder, const BackupFacts& 
 Restored RestoreBackup(const QString& registerFolder, const BackupFacts& backup, const Progress& progress) {
     if (!backup.fault.isEmpty()) throw store::StoreError(store::NotAStore, backup.fault);
     EndBrokenRestore(registerFolder);
-    const FileLock till(registerFolder, FileLock::On::Folder);
+    const values::FileLock till(registerFolder, values::FileLock::On::Folder);
     if (!till.IsHeld())
         throw store::StoreError(store::StoreLocked, Words::tr("The till of this register is open. Close it first."));
-    const FileLock backups(BackupLock(registerFolder));
+    const values::FileLock backups(BackupLock(registerFolder));
     if (!backups.IsHeld())
         throw store::StoreError(store::StoreLocked,
                                 Words::tr("A backup of this register is being made just now. Try again in a minute."));
@@ -239,7 +243,7 @@ Restored RestoreBackup(const QString& registerFolder, const BackupFacts& backup,
 void EndBrokenRestore(const QString& registerFolder) {
     RestoreSteps steps(registerFolder);
     if (!steps.IsUnderWay()) return;
-    if (const FileLock alone(registerFolder, FileLock::On::Folder); alone.IsHeld()) steps.End();
+    if (const values::FileLock alone(registerFolder, values::FileLock::On::Folder); alone.IsHeld()) steps.End();
 }
 
 void RequireNoBrokenRestore(const QString& registerFolder) {

@@ -46,7 +46,7 @@ public:
         return std::move(receipts_);
     }
 
-private:
+    // One line after the other; what was read of receipts until now.
     void Take(QByteArrayView line) {
         for (const QByteArrayView label : DateLabels)
             if (line.startsWith(label)) day_ = DayIn(line);
@@ -55,7 +55,9 @@ private:
         if (line.startsWith(TotalLabel) && wasTax_ && !receipts_.empty()) receipts_.back().total = AmountAtEndOf(line);
         wasTax_ = line.startsWith(TaxLabel);
     }
+    const std::vector<Receipt>& Receipts() const { return receipts_; }
 
+private:
     // The number, alone or with the day behind it.
     void Begin(QByteArrayView text) {
         const qsizetype blank = text.indexOf(' ');
@@ -74,6 +76,28 @@ private:
 
 std::vector<Receipt> ReadRibbon(QIODevice& ribbon) {
     return Reader().Read(ribbon);
+}
+
+QByteArray FindOnRibbon(QIODevice& ribbon, const std::function<bool(const Receipt&)>& isMeant) {
+    QByteArray found;
+    QByteArray text;
+    Reader reader;
+    int emptyLines = 0;
+    const auto endReceipt = [&] {
+        if (!reader.Receipts().empty() && isMeant(reader.Receipts().back())) found = text.trimmed();
+        text.clear();
+        reader = {};
+    };
+    for (QByteArray line = ribbon.readLine(LongestLine); !line.isEmpty(); line = ribbon.readLine(LongestLine)) {
+        const QByteArrayView words = QByteArrayView(line).trimmed();
+        emptyLines = words.isEmpty() ? emptyLines + 1 : 0;
+        text += line;
+        reader.Take(words);
+        const bool isWhole = !reader.Receipts().empty() && reader.Receipts().back().total;
+        if (emptyLines >= 2 && isWhole) endReceipt();
+    }
+    endReceipt();
+    return found;
 }
 
 }  // namespace upkeep

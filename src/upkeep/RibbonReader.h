@@ -2,6 +2,7 @@
 
 #include <QDate>
 #include <QIODevice>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -18,5 +19,8 @@ struct Receipt {
 };
 
 std::vector<Receipt> ReadRibbon(QIODevice& ribbon);
+// The last receipt that is meant, with its head and its foot; receipts are parted by two empty lines. Nothing when none
+// is meant.
+QByteArray FindOnRibbon(QIODevice& ribbon, const std::function<bool(const Receipt&)>& isMeant);
 
 }  // namespace upkeep

@@ -1,6 +1,7 @@
 #include "values/FileError.h"
 
 #include <QFileInfo>
+#include <QSaveFile>
 #include <cerrno>
 
 using namespace Qt::StringLiterals;
@@ -54,5 +55,11 @@ int NumberOfFailure(const QFileDevice& file) {
 
 FileError::FileError(const QFileDevice& file, const QString& doing)
     : Error(NumberOfFailure(file), u"Cannot %1: %2"_s.arg(doing, file.errorString())) {}
+
+void SaveFile(const QString& path, const QByteArray& bytes) {
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        throw FileError(file, u"write '%1'"_s.arg(path));
+}
 
 }  // namespace values

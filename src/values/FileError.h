@@ -18,4 +18,7 @@ public:
     FileError(const QFileDevice& file, const QString& doing);
 };
 
+// Writes a whole file; where that fails it throws a FileError, and a file that was there stays as it was.
+void SaveFile(const QString& path, const QByteArray& bytes);
+
 }  // namespace values

@@ -9,6 +9,7 @@
 #include "core/dbModule.h"
 #include "forms/Program.h"
 #include "output/PagePrinter.h"
+#include "support/Files.h"
 #include "support/ScreenCase.h"
 
 using drivers::Get;
@@ -72,14 +73,13 @@ void TryOptions(ScreenCase& at, const QString& rest, const Step& step) {
     {u"network"_s, Show<frmMreza>},
     // A machine with a printer has the receipt there.
     {u"printout"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          output::ThePagePrinter().SetPaper({});
-         QFile file(at.Path(rest.section(u" | "_s, 0, 0)));
          if (!QPrinterInfo::defaultPrinter().isNull()) GTEST_SKIP() << "this machine has a printer";
-         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-         EXPECT_TRUE(file.readAll().contains(rest.section(u" | "_s, 1).toUtf8()));
+         const QByteArray page = drivers::ReadFile(at.Path(rest.section(u" | "_s, 0, 0)));
+         EXPECT_TRUE(page.contains(rest.section(u" | "_s, 1).toUtf8()));
      }},
-    {u"hide-sales"_s, [](ScreenCase&, const QString&, const Step&) { forms::FindForm(u"frmORVAtouch")->hide(); }},
+    {u"hide-sales"_s, [](auto&, auto&, auto&) { forms::FindForm(u"frmORVAtouch")->hide(); }},
 });
 
 }  // namespace

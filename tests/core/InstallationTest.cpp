@@ -4,6 +4,7 @@
 #include <QFile>
 
 #include "output/Folder.h"
+#include "support/Files.h"
 #include "support/ScreenTest.h"
 #include "values/FileError.h"
 
@@ -17,10 +18,7 @@ protected:
     ~InstallationTest() override { TheInstallation = {}; }
 
     QStringList Read(const QByteArray& text) {
-        QFile file(folder.filePath(u"velton.ini"_s));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
-        file.close();
+        drivers::WriteFile(folder.filePath(u"velton.ini"_s), text);
         return ReadInstallation();
     }
 };
@@ -46,7 +44,7 @@ TEST_F(InstallationTest, AMissingKeyIsAsDeliveredAndAWrongValueIsToldWithItsLine
 
 TEST_F(InstallationTest, AFolderForBackupsIsTakenFromTheRegistersAndAWrongNumberStaysAsUsual) {
     EXPECT_EQ(Read("[backup]\nfolder=../stick\ndays=0\nWeeks=2\n"),
-              QStringList{u"velton.ini, line 3: days can't be \"0\", only a number from 1 to 1000."_s});
+              QStringList{u"velton.ini, line 3: days can't be \"0\", only a number from 1 to 999."_s});
     EXPECT_EQ(TheInstallation.backup.folder, QDir::cleanPath(folder.path() + u"/../stick"_s));
     EXPECT_EQ(TheInstallation.backup.days, 14);
     EXPECT_EQ(TheInstallation.backup.weeks, 2);

@@ -29,19 +29,17 @@ void SeeSwitchedOff(ScreenCase& at, const QString& rest, const Step&) {
 [[maybe_unused]] const bool added = ScreenCase::AddWords({
     {u"switched-off"_s, SeeSwitchedOff},
     {u"close-window"_s,
-     [](ScreenCase& at, const QString&, const Step&) {
+     [](auto& at, auto&, auto&) {
          at.Form();
          EXPECT_FALSE(mdiORVA::Window().close());
          EXPECT_TRUE(mdiORVA::Window().isVisible());
      }},
     // A text that no key types.
-    {u"put"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
-         forms::SetText(Get<QWidget>(at.Form(), rest.section(u' ', 0, 0)), rest.section(u' ', 1));
-     }},
+    {u"put"_s, [](auto& at, auto& rest,
+                  auto&) { forms::SetText(Get<QWidget>(at.Form(), rest.section(u' ', 0, 0)), rest.section(u' ', 1)); }},
     // A timer's seconds pass at once, a minute of them and more.
     {u"hurry"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          Get<QTimer>(at.Form(), rest)->setInterval(0);
          for (int second = 0; second < 100; ++second) drivers::Settle();
      }},
@@ -49,4 +47,4 @@ void SeeSwitchedOff(ScreenCase& at, const QString& rest, const Step&) {
 
 }  // namespace
 
-INSTANTIATE_SCREEN_CASES(Core, u"login"_s, u"backup-notice"_s);
+INSTANTIATE_SCREEN_CASES(Core, u"backup-notice"_s, u"login"_s);

@@ -6,16 +6,12 @@
 #include <QTemporaryDir>
 
 #include "support/Engines.h"
+#include "support/Files.h"
 
 using namespace Qt::StringLiterals;
+using drivers::ReadFile;
 
 namespace {
-
-QByteArray Bytes(const QString& path) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-    return file.readAll();
-}
 
 TEST(DemoDay, LeavesTheReceiptsReportAndPicturesItAlwaysLeaves) {
     const QTemporaryDir folder;
@@ -27,21 +23,19 @@ TEST(DemoDay, LeavesTheReceiptsReportAndPicturesItAlwaysLeaves) {
     ASSERT_TRUE(demo.waitForFinished(60000));
     EXPECT_EQ(demo.exitCode(), 0) << demo.readAllStandardError().toStdString();
     for (const QString& name : {u"/invoices.txt"_s, u"/lpt1.prn"_s, u"/fiscal.txt"_s, u"/Report.txt"_s})
-        EXPECT_EQ(Bytes(shop + name), Bytes(QStringLiteral(TEST_DATA "/demo") + name)) << name.toStdString();
+        EXPECT_EQ(ReadFile(shop + name), ReadFile(QStringLiteral(TEST_DATA "/demo") + name)) << name.toStdString();
     EXPECT_EQ(QDir(shop + u"/screens"_s).entryList({u"*.png"_s}).size(), 13);
 }
 
 TEST(DemoDay, LeavesForeignFoldersAndShopsAlone) {
     for (const QString& name : {u"mine.txt"_s, u"opt.pos"_s}) {
         const QTemporaryDir folder;
-        QFile mine(folder.filePath(name));
-        ASSERT_TRUE(mine.open(QIODevice::WriteOnly));
-        mine.close();
+        drivers::WriteFile(folder.filePath(name), {});
         QProcess demo;
         demo.start(QStringLiteral(PROGRAMS "/velton-demo"), {folder.path()});
         ASSERT_TRUE(demo.waitForFinished(60000));
         EXPECT_EQ(demo.exitCode(), 1);
-        EXPECT_TRUE(QFile::exists(mine.fileName()));
+        EXPECT_TRUE(QFile::exists(folder.filePath(name)));
     }
 }
 

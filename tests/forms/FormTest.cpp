@@ -8,6 +8,7 @@
 #include "forms/Frame.h"
 #include "forms/MsgBox.h"
 #include "support/ErrorOf.h"
+#include "support/Files.h"
 #include "support/ScreenTest.h"
 
 using drivers::Boxes;
@@ -308,11 +309,8 @@ TEST_F(FormTest, PicturesLoadByContentAndAMissingOneChangesNothing) {
     QLabel label;
     EXPECT_TRUE(forms::LoadPicture(&label, path));
     EXPECT_FALSE(forms::LoadPicture(&label, folder.filePath(u"gone.png"_s)));
-    QFile text(folder.filePath(u"text.png"_s));
-    ASSERT_TRUE(text.open(QIODevice::WriteOnly));
-    text.write("no picture");
-    text.close();
-    EXPECT_FALSE(forms::LoadPicture(&label, text.fileName()));
+    drivers::WriteFile(folder.filePath(u"text.png"_s), "no picture");
+    EXPECT_FALSE(forms::LoadPicture(&label, folder.filePath(u"text.png"_s)));
     EXPECT_EQ(label.pixmap().size(), QSize(4, 4));
 
     // What costs a till its time to look at is none either; what changed on the disk is read anew.

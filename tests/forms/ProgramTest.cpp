@@ -12,6 +12,7 @@
 #include "forms/FileDialog.h"
 #include "forms/LongWork.h"
 #include "forms/MsgBox.h"
+#include "support/Files.h"
 #include "support/ScreenTest.h"
 
 using drivers::Boxes;
@@ -137,9 +138,7 @@ TEST_F(ProgramTest, BoxesShowTheirTextAsItIs) {
 
 TEST_F(ProgramTest, FileDialogsAnswerWithAPath) {
     const QString path = folder.filePath(u"list.txt"_s);
-    QFile existing(path);
-    ASSERT_TRUE(existing.open(QIODevice::WriteOnly));
-    existing.close();
+    drivers::WriteFile(path, {});
     Boxes boxes;
     boxes.ExpectFile(path);
     EXPECT_EQ(forms::AskSaveName(nullptr, u"Save as"_s, u"Report (*.txt)"_s), path) << "without a question";

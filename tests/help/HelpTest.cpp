@@ -1,6 +1,6 @@
+#include "support/Files.h"
 #include "support/Help.h"
 
-#include <QFile>
 #include <QPointingDevice>
 #include <QScrollBar>
 #include <QTest>
@@ -86,25 +86,19 @@ TEST_F(HelpTest, LinesFitTheViewAndTheEye) {
 
 [[maybe_unused]] const bool added = ScreenCase::AddWords({
     {u"text"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          at.Form();
          ShowHelp(rest);
      }},
-    {u"long-text"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
-         QFile file(at.Path(rest));
-         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-         file.write("{\\rtf1 " + QByteArray(300000, 'x') + '}');
-     }},
+    {u"long-text"_s, [](auto& at, auto& rest,
+                        auto&) { drivers::WriteFile(at.Path(rest), "{\\rtf1 " + QByteArray(300000, 'x') + '}'); }},
     // The version, the program's own licence and what else is named here.
     {u"licences"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          EXPECT_EQ(drivers::Box(at.Form(), u"lblVersion"), u"Version " VELTON_VERSION);
          const QString text = drivers::Box(at.Form(), u"rtBox").simplified();
-         QFile licence(QStringLiteral(SOURCE_ROOT "/LICENSE"));
-         EXPECT_TRUE(licence.open(QIODevice::ReadOnly));
-         const QStringList parts = QStringList(rest.split(u" | "_s))
-                                   << QString::fromUtf8(licence.readAll()).simplified();
+         const QByteArray licence = drivers::ReadFile(QStringLiteral(SOURCE_ROOT "/LICENSE"));
+         const QStringList parts = QStringList(rest.split(u" | "_s)) << QString::fromUtf8(licence).simplified();
          for (const QString& part : parts) EXPECT_TRUE(text.contains(part)) << part.toStdString();
      }},
 });

@@ -9,16 +9,15 @@
 #include <QTextBlock>
 #include <QTextDocument>
 
+#include "support/Files.h"
 #include "support/RtfReader.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-QString ReadFile(const QString& path) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-    return QString::fromUtf8(file.readAll());
+QString ReadText(const QString& path) {
+    return QString::fromUtf8(drivers::ReadFile(path));
 }
 
 // As a reader sees it: without the sign of its key, and without blanks around it.
@@ -43,7 +42,7 @@ const QSet<QString>& ProgramTexts() {
                            QDirIterator::Subdirectories);
         while (files.hasNext()) {
             const QString path = files.next();
-            AddAll(found, ReadFile(path), path.endsWith(u".ui"_s) ? inForm : inSource);
+            AddAll(found, ReadText(path), path.endsWith(u".ui"_s) ? inForm : inSource);
         }
         return found;
     }();
@@ -63,7 +62,7 @@ bool IsMenuPath(const QString& text) {
 class HelpTextsTest : public testing::TestWithParam<const char*> {
 protected:
     HelpTextsTest() {
-        rtf_ = ReadFile(QString::fromUtf8(SOURCE_ROOT "/data/help/") + QString::fromUtf8(GetParam()));
+        rtf_ = ReadText(QString::fromUtf8(SOURCE_ROOT "/data/help/") + QString::fromUtf8(GetParam()));
         EXPECT_EQ(ReadRtf(rtf_.toLatin1(), text_).toStdString(), "");
     }
 

@@ -2,11 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QTextDocument>
 #include <random>
 
 #include "help/RtfShown.h"
+#include "support/Files.h"
 
 using namespace Qt::StringLiterals;
 
@@ -47,10 +47,9 @@ const Case LongOrBroken[] = {
 };
 
 std::vector<Case> Texts() {
-    QFile file(QStringLiteral(TEST_DATA "/rtf.txt"));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    const auto texts = QString::fromUtf8(drivers::ReadFile(QStringLiteral(TEST_DATA "/rtf.txt")));
     std::vector<Case> cases;
-    for (const QString& text : QString::fromUtf8(file.readAll()).split(u"\n== "_s).mid(1)) {
+    for (const QString& text : texts.split(u"\n== "_s).mid(1)) {
         const QString shown = text.section(u"\n--\n"_s, 1).section(u"\n! "_s, 0, 0);
         cases.push_back({text.section(u'\n', 0, 0).toStdString(), text.section(u'\n', 1, 1).toUtf8(),
                          shown.endsWith(u'\n') ? shown.chopped(1) : shown, text.section(u"\n! "_s, 1).trimmed()});
@@ -66,9 +65,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, RtfReaderTest, testing::ValuesIn(Texts()), NameO
 // A help text with bytes changed, cut out and doubled, and mere heaps of RTF's own pieces: whatever comes, it is read
 // to an end and can be laid out.
 TEST(RtfFuzzTest, SurvivesWhatIsNoRtf) {
-    QFile file(QString::fromUtf8(SOURCE_ROOT "/data/help/Lozinka.rtf"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray sound = file.readAll();
+    const QByteArray sound = drivers::ReadFile(QStringLiteral(SOURCE_ROOT "/data/help/Lozinka.rtf"));
     const QByteArrayList pieces =
         QByteArray(
             "{|}|\\|\\b |\\'e|\\'e6|\\u-4|\\u64976 |\\u8233 |\\uc9 |\\par|\\fi-9999 |\\li-99999 |\\tab |\\*|\\bin9 |"

@@ -5,7 +5,6 @@
 #include <QTimer>
 #include <QToolBar>
 
-#include "core/dbModule.h"
 #include "forms/Program.h"
 #include "masterdata/products/frmSastav.h"
 #include "support/Disk.h"
@@ -24,17 +23,13 @@ forms::ListView& List(ScreenCase& at) {
 
 // Products with the codes FROM to TO behind those of the shop, of one name, at 1.00.
 void AddProducts(ScreenCase& at, const QString& rest, const Step&) {
+    const QStringList words = rest.split(u' ');
+    QStringList rows;
+    for (int code = words[0].toInt(); code <= words[1].toInt(); ++code)
+        rows += u"ProdCode=%1 | ProdDescription=%2 | UnitPrice=1"_s.arg(code).arg(words.value(2));
     const auto main = at.OpenMain();
     store::Database::Batch batch(*main);
-    auto products = main->OpenRecordset(u"SELECT * FROM Products"_s);
-    const QStringList words = rest.split(u' ');
-    for (int code = words[0].toInt(); code <= words[1].toInt(); ++code) {
-        products.AddNew();
-        products[u"ProdCode"] = QString::number(code);
-        products[u"ProdDescription"] = words.value(2);
-        products[u"UnitPrice"] = 1;
-        products.Update();
-    }
+    drivers::AddRows(*main, u"Products"_s, rows);
     batch.Commit();
 }
 
@@ -106,33 +101,33 @@ void SeeDialog(ScreenCase& at, const QString& rest, const Step&) {
     {u"huge"_s, DrawHuge},
     {u"shape"_s, SeePicture},
     {u"dialog"_s, SeeDialog},
-    {u"select"_s, [](ScreenCase& at, const QString& rest, const Step&) { List(at).Select(List(at).Find(rest)); }},
+    {u"select"_s, [](auto& at, auto& rest, auto&) { List(at).Select(List(at).Find(rest)); }},
     {u"parts"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          for (int part = 1; part <= rest.toInt(); ++part)
              List(at).Add({u"part %1"_s.arg(part), u"Part"_s, u"1.000"_s, u"pcs"_s, u"1.00"_s});
      }},
     // What the keys write is not brought to the disk row by row.
     {u"at-once"_s,
-     [](ScreenCase&, const QString& rest, const Step&) {
+     [](auto&, auto& rest, auto&) {
          const int before = drivers::diskSyncs;
          drivers::Keys(rest);
          EXPECT_LE(drivers::diskSyncs - before, 10);
      }},
     {u"typed-rows"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          Get<QLineEdit>(at.Form(), u"cboTemp")->setText(rest.section(u" | "_s, 0, 0));
          EXPECT_EQ(List(at).model()->rowCount(), rest.section(u" | "_s, 1).toInt());
      }},
     {u"pictures"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          for (const QString& name : rest.split(u" | "_s))
              EXPECT_FALSE(Get<QAction>(at.Form(), name)->icon().isNull()) << name.toStdString();
      }},
-    {u"tabs"_s, [](ScreenCase& at, const QString& rest,
-                   const Step&) { EXPECT_EQ(Get<QTabWidget>(at.Form(), u"SSTab1")->tabText(0), rest); }},
+    {u"tabs"_s,
+     [](auto& at, auto& rest, auto&) { EXPECT_EQ(Get<QTabWidget>(at.Form(), u"SSTab1")->tabText(0), rest); }},
     {u"tips"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          const auto* tabs = Get<QTabWidget>(at.Form(), u"SSTab1");
          EXPECT_EQ((QStringList{tabs->tabToolTip(0), tabs->tabToolTip(1), tabs->tabToolTip(2)}).join(u" | "), rest);
      }},

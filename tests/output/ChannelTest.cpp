@@ -3,7 +3,6 @@
 #include <thread>
 
 #include <fcntl.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -110,14 +109,12 @@ TEST_F(ChannelTest, AFullDeviceIsReportedByWhoeverFindsIt) {
 
     // A file that may grow a little further takes no half of a piece.
     Write(u"file"_s, "before\r\n");
-    rlimit room{};
-    getrlimit(RLIMIT_FSIZE, &room);
-    const rlimit little{20, room.rlim_max};
     channel.OpenForAppend(Path(u"file"_s));
     channel.WriteLine(u"longer than what is left"_s);
-    setrlimit(RLIMIT_FSIZE, &little);
-    EXPECT_EQ(ErrorOf([&] { channel.Close(); }), values::DiskFull);
-    setrlimit(RLIMIT_FSIZE, &room);
+    {
+        const drivers::NoMoreRoom little(20);
+        EXPECT_EQ(ErrorOf([&] { channel.Close(); }), values::DiskFull);
+    }
     EXPECT_EQ(Read(u"file"_s), "before\r\n");
 }
 

@@ -9,6 +9,7 @@
 #include "output/Folder.h"
 #include "output/PagePrinter.h"
 #include "support/ErrorOf.h"
+#include "support/Files.h"
 #include "values/Locale.h"
 
 // A program folder of its own for each test.
@@ -31,11 +32,7 @@ protected:
         QFile file(Path(name));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
     }
-    void Write(const QString& name, const QByteArray& bytes) const {
-        QFile file(Path(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
+    void Write(const QString& name, const QByteArray& bytes) const { drivers::WriteFile(Path(name), bytes); }
     void SetPorts(const QByteArray& lines) const { Write(QStringLiteral("ports.ini"), "[ports]\n" + lines); }
 
 private:

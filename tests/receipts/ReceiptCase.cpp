@@ -1,15 +1,14 @@
 #include "ReceiptCase.h"
 
 #include "core/Settings.h"
+#include "support/Files.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 QString ReadData(const QString& name) {
-    QFile file(QString::fromUtf8(TEST_DATA "/receipts/") + name);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
-    return QString::fromUtf8(file.readAll());
+    return QString::fromUtf8(drivers::ReadFile(QStringLiteral(TEST_DATA "/receipts/") + name));
 }
 
 QString* SettingText(const QString& name) {

@@ -1,3 +1,4 @@
+#include "support/Files.h"
 #include "support/ScreenCase.h"
 
 #include <QDateEdit>
@@ -36,9 +37,7 @@ void ExpectPreview(ScreenCase& at, const QString& rest, const Step&) {
 // A file in tests/data/review: settings as NAME=VALUE lines, "--", then the preview of all invoices and the reprint of
 // the first, each under "== NAME" and written as the receipts' files are.
 void Reprint(ScreenCase& at, const QString& rest, const Step& step) {
-    QFile data(QString::fromUtf8(TEST_DATA "/review/") + rest + u".txt"_s);
-    ASSERT_TRUE(data.open(QIODevice::ReadOnly));
-    const QString text = QString::fromUtf8(data.readAll());
+    const QString text = QString::fromUtf8(drivers::ReadFile(QStringLiteral(TEST_DATA "/review/%1.txt").arg(rest)));
     at.Crash();
     for (const QString& line : text.section(u"--\n"_s, 0, 0).split(u'\n', Qt::SkipEmptyParts))
         at.Setting(line.section(u'=', 0, 0), line.section(u'=', 1));
@@ -56,31 +55,30 @@ void Reprint(ScreenCase& at, const QString& rest, const Step& step) {
     {u"previewed"_s, ExpectPreview},
     {u"reprint"_s, Reprint},
     {u"preview"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          at.Form();
          forms::Run([&] { frmRacunPregled::Preview(rest); }, u"VELTON POS"_s);
      }},
-    {u"shows"_s, [](ScreenCase& at, const QString& rest, const Step&) { ExpectShown(at, at.Form(), rest); }},
+    {u"shows"_s, [](auto& at, auto& rest, auto&) { ExpectShown(at, at.Form(), rest); }},
     {u"at-end"_s,
-     [](ScreenCase& at, const QString&, const Step&) {
+     [](auto& at, auto&, auto&) {
          const auto* down = Get<QAbstractScrollArea>(at.Form(), u"rtBox")->verticalScrollBar();
          EXPECT_GT(down->maximum(), 0);
          EXPECT_EQ(down->value(), down->maximum());
      }},
-    {u"totals"_s, [](ScreenCase& at, const QString& rest,
-                     const Step&) { EXPECT_EQ(at.File(PreviewFile).count("TOTAL..."), rest.toInt()); }},
+    {u"totals"_s, [](auto& at, auto& rest, auto&) { EXPECT_EQ(at.File(PreviewFile).count("TOTAL..."), rest.toInt()); }},
     {u"twice"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          const QByteArray all = at.File(rest);
          EXPECT_EQ(all.first(all.size() / 2), all.sliced(all.size() / 2));
      }},
     {u"leaf"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          drivers::Click(Get<QWidget>(at.Form(), u"cmd"_s + rest.section(u' ', 0, 0)));
          EXPECT_EQ(Box(at.Form(), u"txtORNumber"), rest.section(u' ', 1));
      }},
     {u"day"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          const QDate day = QDate::fromString(rest.section(u' ', 1), Qt::ISODate);
          Get<QDateEdit>(at.Form(), rest.section(u' ', 0, 0))->setDate(day);
      }},

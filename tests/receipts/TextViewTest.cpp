@@ -7,6 +7,7 @@
 
 #include "forms/Program.h"
 #include "receipts/frmTrakaRacuna.h"
+#include "support/Files.h"
 #include "support/Till.h"
 
 using namespace Qt::StringLiterals;
@@ -14,16 +15,10 @@ using drivers::Keys;
 
 namespace {
 
-void WriteText(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_EQ(file.write(bytes), bytes.size());
-}
-
 // Lines as a ribbon has them, about so many bytes of them, and "last line" behind them.
 void WriteLongText(const QString& path, qsizetype size) {
     const QByteArray line = "Cola                 1.50     2    3.00\r\n";
-    WriteText(path, line.repeated(size / line.size()) + "last line\r\n");
+    drivers::WriteFile(path, line.repeated(size / line.size()) + "last line\r\n");
 }
 
 // By the process's own time: others may hold the machine meanwhile.
@@ -36,7 +31,7 @@ class TextViewTest : public drivers::ScreenTest {
 protected:
     QString Text(const QByteArray& bytes) {
         const QString path = folder.filePath(u"text.txt"_s);
-        WriteText(path, bytes);
+        drivers::WriteFile(path, bytes);
         return path;
     }
     // The part of the picture that lies below this height.
@@ -134,10 +129,8 @@ TEST_F(TextViewTest, ScrollsByKeysAndCopiesWhatIsMarked) {
 
 // Megabytes of memory that the process had in use at most since it was last asked.
 double PeakMemory() {
-    QFile status(u"/proc/self/status"_s);
-    EXPECT_TRUE(status.open(QIODevice::ReadOnly));
     double peak = 0;
-    for (const QByteArray& line : status.readAll().split('\n'))
+    for (const QByteArray& line : drivers::ReadFile(u"/proc/self/status"_s).split('\n'))
         if (line.startsWith("VmHWM:")) peak = line.mid(6).simplified().split(' ').value(0).toDouble() / 1024;
     QFile reset(u"/proc/self/clear_refs"_s);
     if (reset.open(QIODevice::WriteOnly)) reset.write("5");

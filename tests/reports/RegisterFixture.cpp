@@ -2,7 +2,6 @@
 
 #include <QCalendarWidget>
 #include <QDateEdit>
-#include <QFile>
 #include <QPushButton>
 
 #include "core/dbModule.h"
@@ -19,8 +18,7 @@
 #include "reports/frmZakljucakPregled.h"
 #include "reports/frmZakljucakPregled1.h"
 #include "store/StorePath.h"
-#include "upkeep/TableLoader.h"
-#include "values/Numbers.h"
+#include "values/DateText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -48,12 +46,7 @@ const QMap<QString, forms::Form* (*)()> Reports = {
 }  // namespace
 
 void OpenShopOfReports(const QString& folder) {
-    const auto main = store::Database::Open(store::MainPlace(folder), store::MainSchema());
-    for (const auto& table : {u"Sales"_s, u"Invoices"_s, u"SalesDetails"_s}) {
-        QFile lines(QString::fromUtf8(TEST_DATA "/reports/shop/") + table + u".tsv"_s);
-        EXPECT_TRUE(lines.open(QIODevice::ReadOnly)) << lines.fileName().toStdString();
-        upkeep::LoadRows(*main, table, lines);
-    }
+    drivers::LoadTables(*store::Database::Open(store::MainPlace(folder), store::MainSchema()), u"reports/shop"_s);
     OpenMainStore();
 }
 
@@ -66,20 +59,11 @@ forms::Form& ShowReport(const QString& name) {
 }
 
 void RegisterFixture::Sell(const QString& number, QDate day, const QString& amount) {
-    auto invoice = MainStore().OpenRecordset(u"SELECT * FROM Invoices"_s);
-    invoice.AddNew();
-    invoice[u"InvoiceID"] = number;
-    invoice[u"OrNo"] = number;
-    invoice[u"CashierID"] = u"2"_s;
-    invoice[u"DateSold"] = day;
-    invoice[u"CashAmount"] = values::CMoney(amount);
-    invoice.Update();
-    auto line = MainStore().OpenRecordset(u"SELECT * FROM SalesDetails"_s);
-    line.AddNew();
-    line[u"InvoiceID"] = number;
-    line[u"ProdCode"] = u"P"_s + number;
-    line[u"Amount"] = values::CMoney(amount);
-    line.Update();
+    drivers::AddRows(MainStore(), u"Invoices"_s,
+                     {u"InvoiceID=%1 | OrNo=%1 | CashierID=2 | DateSold=%2 | CashAmount=%3"_s.arg(
+                         number, values::DateText(day), amount)});
+    drivers::AddRows(MainStore(), u"SalesDetails"_s,
+                     {u"InvoiceID=%1 | ProdCode=P%1 | Amount=%2"_s.arg(number, amount)});
 }
 
 void Choose(const forms::Form& report, const QString& days) {

@@ -6,16 +6,14 @@
 #include <QTableView>
 #include <QTest>
 #include <QTimer>
-#include <csignal>
 #include <ctime>
 #include <thread>
-
-#include <sys/resource.h>
 
 #include "core/Settings.h"
 #include "core/dbModule.h"
 #include "receipts/TextFiles.h"
 #include "reports/RegisterFixture.h"
+#include "support/Files.h"
 #include "values/Locale.h"
 #include "values/Numbers.h"
 
@@ -108,18 +106,12 @@ TEST_F(ReportTest, ThePagePrinterGetsTheSameLines) {
 }
 
 TEST_F(ReportTest, ACopyThatDoesNotFitLeavesTheOldFile) {
-    for (const auto& [name, contents] : {std::pair(u"long.txt"_s, QByteArray(5000, 'x')), {u"old.txt"_s, "old"}}) {
-        QFile file(Path(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size());
+    drivers::WriteFile(Path(u"long.txt"_s), QByteArray(5000, 'x'));
+    drivers::WriteFile(Path(u"old.txt"_s), "old");
+    {
+        const drivers::NoMoreRoom noMoreRoom(1000);
+        EXPECT_THROW(CopyTextFile(Path(u"long.txt"_s), Path(u"old.txt"_s)), values::Error);
     }
-    rlimit usual{};
-    getrlimit(RLIMIT_FSIZE, &usual);
-    const auto before = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit small{1000, usual.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &small);
-    EXPECT_THROW(CopyTextFile(Path(u"long.txt"_s), Path(u"old.txt"_s)), values::Error);
-    setrlimit(RLIMIT_FSIZE, &usual);
-    std::signal(SIGXFSZ, before);
     EXPECT_EQ(File(u"old.txt"_s), "old");
 }
 
@@ -165,13 +157,7 @@ TEST_F(ReportTest, AReportReadsOneMomentWhileAnotherRegisterSells) {
     constexpr int periods = 3000;
     {
         store::Database::Batch batch(MainStore());
-        auto sales = MainStore().OpenRecordset(u"SELECT * FROM Sales"_s);
-        for (int number = 0; number < periods; ++number) {
-            sales.AddNew();
-            sales[u"DateGenerated"] = QDate(2026, 12, 1);
-            sales[u"TotalSales"] = values::CMoney(u"0"_s);
-            sales.Update();
-        }
+        drivers::AddRows(MainStore(), u"Sales"_s, QStringList(periods, u"DateGenerated=12/1/2026 | TotalSales=0"_s));
         batch.Commit();
     }
     forms::Form& form = ShowReport(u"frmZakljucakPregled"_s);

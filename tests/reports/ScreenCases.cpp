@@ -1,3 +1,4 @@
+#include "support/Files.h"
 #include "support/ScreenCase.h"
 
 #include <QApplication>
@@ -38,9 +39,7 @@ void ShowState(ScreenCase& at, const QString& kind, const QStringList& report) {
 // A file under tests/data/reports in UTF-8, or nothing for no name.
 QString Expected(const QString& name) {
     if (name.isEmpty()) return {};
-    QFile file(QStringLiteral(TEST_DATA "/reports/") + name + u".txt"_s);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
-    return QString::fromUtf8(file.readAll());
+    return QString::fromUtf8(drivers::ReadFile(QStringLiteral(TEST_DATA "/reports/%1.txt").arg(name)));
 }
 
 // The file Report.txt holds these lines, in the code page of the locale and ended by CR LF.
@@ -86,49 +85,45 @@ void Walk(ScreenCase&, const QString& rest, const Step&) {
 }
 
 [[maybe_unused]] const bool added = ScreenCase::AddWords({
-    {u"shop"_s, [](ScreenCase& at, const QString&, const Step&) { OpenShopOfReports(at.Path({})); }},
-    {u"state"_s, [](ScreenCase& at, const QString&, const Step&) { ShowState(at, u"1"_s, {}); }},
-    {u"review"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) { ShowState(at, u"2"_s, rest.split(u" | "_s)); }},
-    {u"report"_s, [](ScreenCase& at, const QString& rest, const Step&) { at.GoOnIn(ShowReport(rest)); }},
-    {u"days"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) { Choose(static_cast<forms::Form&>(at.Form()), rest); }},
+    {u"shop"_s, [](auto& at, auto&, auto&) { OpenShopOfReports(at.Path({})); }},
+    {u"state"_s, [](auto& at, auto&, auto&) { ShowState(at, u"1"_s, {}); }},
+    {u"review"_s, [](auto& at, auto& rest, auto&) { ShowState(at, u"2"_s, rest.split(u" | "_s)); }},
+    {u"report"_s, [](auto& at, auto& rest, auto&) { at.GoOnIn(ShowReport(rest)); }},
+    {u"days"_s, [](auto& at, auto& rest, auto&) { Choose(static_cast<forms::Form&>(at.Form()), rest); }},
     {u"saves"_s, Saves},
     {u"preview"_s, ExpectPreview},
-    {u"leaves"_s, [](ScreenCase& at, const QString& rest, const Step&) { LeavesReport(at, rest); }},
+    {u"leaves"_s, [](auto& at, auto& rest, auto&) { LeavesReport(at, rest); }},
     {u"walk"_s, Walk},
     {u"print-on"_s,
-     [](ScreenCase&, const QString& rest, const Step&) {
+     [](auto&, auto& rest, auto&) {
          TheSettings.PrinterZaIzvjestaj = rest;
          TheSettings.PraznihLinijaPoslijeRacuna = 2;
      }},
     // Every box of a sum shows this.
     {u"sums"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](ScreenCase& at, auto& rest, auto&) {
          for (const auto* box : at.Form().findChildren<QLineEdit*>(QRegularExpression(u"^txt"_s)))
              EXPECT_EQ(box->text(), rest) << box->objectName().toStdString();
      }},
     // A click on an option that changes no row.
     {u"same-rows"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          const auto before = drivers::List(at.Form(), u"lv1");
          Get<QAbstractButton>(at.Form(), rest)->click();
          EXPECT_EQ(drivers::List(at.Form(), u"lv1"), before);
      }},
-    {u"keypad"_s,
-     [](ScreenCase&, const QString& rest, const Step&) {
-         QTest::keyClick(QApplication::focusWidget(), rest[0].toLatin1(), Qt::KeypadModifier);
-     }},
-    {u"totals"_s, [](ScreenCase& at, const QString& rest,
-                     const Step&) { EXPECT_EQ(Box(at.Form(), u"rtBox").count(u"TOTAL..."_s), rest.toInt()); }},
-    {u"session"_s, [](ScreenCase&, const QString& rest, const Step&) { EXPECT_EQ(TheSession.LoginNumber, rest); }},
+    {u"keypad"_s, [](auto&, auto& rest,
+                     auto&) { QTest::keyClick(QApplication::focusWidget(), rest[0].toLatin1(), Qt::KeypadModifier); }},
+    {u"totals"_s,
+     [](auto& at, auto& rest, auto&) { EXPECT_EQ(Box(at.Form(), u"rtBox").count(u"TOTAL..."_s), rest.toInt()); }},
+    {u"session"_s, [](auto&, auto& rest, auto&) { EXPECT_EQ(TheSession.LoginNumber, rest); }},
     {u"begin-again"_s,
-     [](ScreenCase&, const QString&, const Step&) {
+     [](auto&, auto&, auto&) {
          forms::DropLoadedForms();
          forms::ResetProgramEnd();
      }},
     {u"link"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          EXPECT_TRUE(QFile::link(rest.section(u" | "_s, 1), at.Path(rest.section(u" | "_s, 0, 0))));
      }},
 });

@@ -5,6 +5,7 @@
 
 #include "delivery/Delivery.h"
 #include "support/Engines.h"
+#include "support/Files.h"
 #include "support/Till.h"
 
 using namespace Qt::StringLiterals;
@@ -66,36 +67,58 @@ TEST_F(CrashTest, KillingWhilePostingLosesNothingAcknowledged) {
                 static_cast<long long>(acknowledged.size()), static_cast<long long>(stored.size()));
 }
 
-TEST_F(CrashTest, KillingAnEndReportLeavesEachPeriodEitherOpenOrClosedAsAWhole) {
-    constexpr int periods = 300;
-    {
+// Many periods, which an End Report closes one by one.
+class EndReportTest : public CrashTest {
+protected:
+    static constexpr int Periods = 300;
+
+    EndReportTest() {
         const auto main = OpenMain();
         store::Database::Batch batch(*main);
-        auto sales = main->OpenRecordset(u"SELECT * FROM Sales"_s);
-        for (int number = 1; number <= periods; ++number) {
-            sales.AddNew();
-            sales[u"SalesID"] = QString::number(number);
-            sales.Update();
-        }
+        QStringList rows;
+        for (int number = 1; number <= Periods; ++number) rows += u"SalesID=%1"_s.arg(number);
+        drivers::AddRows(*main, u"Sales"_s, rows);
         batch.Commit();
     }
-    const QStringList closing{folder.path(), u"close"_s};
-    const auto open = u"SELECT SalesID FROM Sales WHERE Closed = False"_s;
-    for (int round = 0; round < Rounds(6); ++round) {
+    void Reopen() const {
         Run(u"UPDATE Sales SET Closed = False, Payed = False, DateStoped = Null, TimeStoped = Null, Grupni = Null"_s);
-        Kill(closing, 20'000);
-        EXPECT_EQ(Rows(u"SELECT SalesID FROM Sales"_s).size(), periods);
+    }
+    qsizetype Open() const { return Rows(u"SELECT SalesID FROM Sales WHERE Closed = False"_s).size(); }
+    void ExpectEachOpenOrClosedAsAWhole() const {
+        EXPECT_EQ(Rows(u"SELECT SalesID FROM Sales"_s).size(), Periods);
         for (const QString& row : Rows(u"SELECT Closed, Payed, DateStoped, TimeStoped, Grupni, SalesID FROM Sales"_s)) {
             const bool isOpen = row.startsWith(u"False|False||||"_s);
             const bool isClosed = row.startsWith(u"True|True|11/24/2026|10:00:05 PM|"_s) && !row.contains(u"||"_s);
             EXPECT_NE(isOpen, isClosed) << row.toStdString();
         }
-        std::printf("%lld of %d periods open after a kill\n", static_cast<long long>(Rows(open).size()), periods);
     }
-    const auto last = Start(closing);
+    const QStringList closing_{folder.path(), u"close"_s};
+};
+
+TEST_F(EndReportTest, KillingItLeavesEachPeriodEitherOpenOrClosedAsAWhole) {
+    for (int round = 0; round < Rounds(6); ++round) {
+        Reopen();
+        Kill(closing_, 20'000);
+        ExpectEachOpenOrClosedAsAWhole();
+        std::printf("%lld of %d periods open after a kill\n", static_cast<long long>(Open()), Periods);
+    }
+    const auto last = Start(closing_);
     ASSERT_TRUE(last->waitForFinished());
     EXPECT_EQ(last->exitCode(), 0);
-    EXPECT_TRUE(Rows(open).isEmpty());
+    EXPECT_EQ(Open(), 0);
+}
+
+TEST_F(EndReportTest, TwoAtOnceLeaveEachPeriodClosedByOneOfThem) {
+    for (int round = 0; round < Rounds(6); ++round) {
+        Reopen();
+        const std::unique_ptr<QProcess> both[] = {Start(closing_), Start(closing_)};
+        for (const auto& each : both) {
+            ASSERT_TRUE(each->waitForFinished());
+            EXPECT_EQ(each->exitCode(), 0) << each->readAllStandardError().toStdString();
+        }
+        EXPECT_EQ(Open(), 0);
+        ExpectEachOpenOrClosedAsAWhole();
+    }
 }
 
 TEST_F(CrashTest, EightRegistersSellOneProductAndTheStockIsExact) {
@@ -109,10 +132,9 @@ TEST_F(CrashTest, EightRegistersSellOneProductAndTheStockIsExact) {
         delivery::MakeProgramFolder(own);
         for (const QString& store : {u"/ORVA.pos"_s, u"/opt.pos"_s}) ASSERT_TRUE(QFile::remove(own + store));
         ASSERT_TRUE(QFile::copy(Path(u"opt.pos"_s), own + u"/opt.pos"_s));
-        QFile ini(own + u"/store.ini"_s);
-        ASSERT_TRUE(ini.open(QIODevice::WriteOnly));
-        ini.write(drivers::OnServer() ? File(u"store.ini"_s) : "[main]\npath=" + folder.path().toUtf8() + '\n');
-        ini.close();
+        drivers::WriteFile(own + u"/store.ini"_s, drivers::OnServer()
+                                                      ? File(u"store.ini"_s)
+                                                      : "[main]\npath=" + folder.path().toUtf8() + '\n');
         workers.push_back(Start(Selling(own, invoices)));
     }
     for (const auto& worker : workers) {

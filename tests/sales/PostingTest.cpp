@@ -1,7 +1,6 @@
 #include <malloc.h>
 
 #include <QApplication>
-#include <QFile>
 #include <QLabel>
 #include <QTimer>
 
@@ -13,6 +12,7 @@
 #include "output/NetworkPrinter.h"
 #include "support/Disk.h"
 #include "support/Engines.h"
+#include "support/Files.h"
 #include "support/Till.h"
 
 using namespace Qt::StringLiterals;
@@ -61,9 +61,7 @@ protected:
         return Rows(u"SELECT Qty FROM Products WHERE ProdCode = '%1'"_s.arg(code)).value(0);
     }
     void Ports(const QByteArray& lpt1) const {
-        QFile ini(Path(u"ports.ini"_s));
-        ASSERT_TRUE(ini.open(QIODevice::WriteOnly));
-        ini.write("[ports]\nlpt1=" + lpt1 + '\n');
+        drivers::WriteFile(Path(u"ports.ini"_s), "[ports]\nlpt1=" + lpt1 + '\n');
     }
 };
 

@@ -5,6 +5,7 @@
 
 #include "core/Session.h"
 #include "core/mdiORVA.h"
+#include "support/Engines.h"
 
 using drivers::Get;
 using drivers::ScreenCase;
@@ -14,20 +15,19 @@ using namespace Qt::StringLiterals;
 namespace {
 
 [[maybe_unused]] const bool added = ScreenCase::AddWords({
-    {u"picture"_s, [](ScreenCase& at, const QString& rest,
-                      const Step&) { EXPECT_FALSE(Get<QAbstractButton>(at.Form(), rest)->icon().isNull()); }},
-    {u"session-user"_s,
-     [](ScreenCase&, const QString& rest, const Step&) { EXPECT_EQ(TheSession.SessionUserID, rest); }},
-    {u"to-the-till"_s, [](ScreenCase&, const QString&, const Step&) { mdiORVA::Window().activateWindow(); }},
+    {u"picture"_s,
+     [](auto& at, auto& rest, auto&) { EXPECT_FALSE(Get<QAbstractButton>(at.Form(), rest)->icon().isNull()); }},
+    {u"session-user"_s, [](auto&, auto& rest, auto&) { EXPECT_EQ(TheSession.SessionUserID, rest); }},
+    {u"to-the-till"_s, [](auto&, auto&, auto&) { mdiORVA::Window().activateWindow(); }},
     {u"window"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          at.Form();
          mdiORVA::Window().showNormal();
          mdiORVA::Window().resize(rest.section(u' ', 0, 0).toInt(), rest.section(u' ', 1).toInt());
      }},
     // Every digit of these boxes is seen, in a window that fits the smallest screen.
     {u"fits"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          drivers::Settle();
          EXPECT_EQ(mdiORVA::Window().width(), 1024);
          for (const QString& name : rest.split(u" | "_s)) {
@@ -36,13 +36,13 @@ namespace {
          }
      }},
     {u"captions"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          const auto* tabs = Get<QTabWidget>(at.Form(), u"SSTab1");
          EXPECT_EQ(tabs->tabToolTip(0) + u" | "_s + tabs->tabText(1), rest);
      }},
     // The lines of invoices in the copy that was made of a store.
     {u"saved"_s,
-     [](ScreenCase& at, const QString& rest, const Step&) {
+     [](auto& at, auto& rest, auto&) {
          const QStringList copies = QDir(at.Path({})).entryList({u"ORVA-saved-*.pos"_s});
          ASSERT_EQ(copies.size(), 1);
          const auto copy = store::Database::Open(at.Path(copies.first()), store::MainSchema());
@@ -54,3 +54,4 @@ namespace {
 }  // namespace
 
 INSTANTIATE_SCREEN_CASES(Sales, u"cashier"_s, u"invoice"_s, u"item-entry"_s);
+INSTANTIATE_SCREEN_CASES(SalesOnServer, drivers::OnServer() ? QStringList{u"server"_s} : QStringList{});

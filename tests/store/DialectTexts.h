@@ -1,10 +1,9 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <QDir>
-#include <QFile>
 #include <random>
+
+#include "support/Files.h"
 
 // The query texts of tests/data/dialect, and what becomes of them when they are joined carelessly.
 namespace store::test {
@@ -14,9 +13,7 @@ using namespace Qt::StringLiterals;
 inline const QString DialectFolder = QStringLiteral(TEST_DATA "/dialect/");
 
 inline QString ContentsOf(const QString& path) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-    return QString::fromUtf8(file.readAll());
+    return QString::fromUtf8(drivers::ReadFile(path));
 }
 
 // Changes a text as careless joining of pieces and values would: cuts, doubled pieces, foreign pieces, strange signs.

@@ -97,7 +97,7 @@ private:
         int count = 0;
         for (rows_.MoveFirst(); !rows_.AtEOF(); rows_.MoveNext(), ++count) {
             rows_.Edit();
-            SetAll(rows_, fields);
+            drivers::SetFields(rows_, fields);
             rows_.Update();
         }
         return QString::number(count);
@@ -118,7 +118,7 @@ private:
     // What a row of this quantity holds in the field that is assigned.
     QString Assigned(const QString& quantity, const QString& assignment) const {
         Database::Batch batch(*store);
-        Add(*store, u"Products"_s, u"ProdCode=12A | Tab=-1 | Qty="_s + quantity);
+        AddRows(*store, u"Products"_s, {u"ProdCode=12A | Tab=-1 | Qty="_s + quantity});
         store->Execute(u"UPDATE Products SET "_s + assignment);
         auto rows = store->OpenRecordset(u"SELECT %1 FROM Products"_s.arg(assignment.section(u' ', 0, 0)));
         return rows[0].TextOrEmpty();
@@ -131,14 +131,14 @@ private:
 
     const QMap<QString, Word> words_{
         {u"add"_s,
-         [this](auto& rest) { return Add(*at_, rest.section(u' ', 0, 0), rest.section(u' ', 1)), QString(); }},
+         [this](auto& rest) { return AddRows(*at_, rest.section(u' ', 0, 0), {rest.section(u' ', 1)}), QString(); }},
         {u"taxes"_s, [this](auto& rest) { return AddTaxes(rest.split(u" | "_s)), QString(); }},
         {u"products"_s,
          [this](auto& rest) {
              return AddProducts(rest.section(u' ', 0, 0).toInt(), rest.section(u' ', 1).toInt()), QString();
          }},
         {u"run"_s, [this](auto& rest) { return QString::number(at_->Execute(rest)); }},
-        {u"rows"_s, [this](auto& rest) { return Rows(*at_, rest); }},
+        {u"rows"_s, [this](auto& rest) { return RowsOf(*at_, rest).join(u'\n'); }},
         {u"open"_s, [this](auto& rest) { return rows_ = at_->OpenRecordset(rest), QString(); }},
         {u"snapshot"_s, [this](auto& rest) { return rows_ = at_->OpenSnapshot(rest), QString(); }},
         {u"first"_s, [this](auto&) { return rows_.MoveFirst(), QString(); }},
@@ -161,7 +161,7 @@ private:
         {u"walkback"_s, [this](auto& rest) { return Walk(rest, true); }},
         {u"new"_s, [this](auto&) { return rows_.AddNew(), QString(); }},
         {u"edit"_s, [this](auto&) { return rows_.Edit(), QString(); }},
-        {u"set"_s, [this](auto& rest) { return SetAll(rows_, rest), QString(); }},
+        {u"set"_s, [this](auto& rest) { return drivers::SetFields(rows_, rest), QString(); }},
         {u"editall"_s, [this](auto& rest) { return EditAll(rest); }},
         {u"update"_s, [this](auto&) { return rows_.Update(), QString(); }},
         {u"cancel"_s, [this](auto&) { return rows_.CancelUpdate(), QString(); }},
@@ -177,9 +177,7 @@ private:
         {u"Stored"_s, [this](auto& at) { return Stored(at[0], at[1], at[2]); }},
         {u"Assigned"_s, [this](auto& at) { return Assigned(at[0], at[1]); }},
         {u"Products where"_s,
-         [this](auto& at) {
-             return Rows(*store, u"SELECT ProdCode FROM Products WHERE "_s + at[0]).replace(u'\n', u", "_s);
-         }},
+         [this](auto& at) { return Rows(u"SELECT ProdCode FROM Products WHERE "_s + at[0]).join(u", "); }},
         {u"Compared"_s,
          [](auto& at) {
              const int order = CompareFolded(at[0].toUtf8(), at[1].toUtf8());
@@ -188,8 +186,7 @@ private:
         {u"Like"_s, [](auto& at) { return LikePattern(at[1].toUtf8()).Matches(at[0].toUtf8()) ? u"yes"_s : u"no"_s; }},
         {u"Twice"_s,
          [this](auto& at) {
-             for (int i = 0; i < 2; ++i) Add(*store, at[0], at[1]);
-             return QString();
+             return AddRows(*store, at[0], {at[1], at[1]}), QString();
          }},
     };
 };

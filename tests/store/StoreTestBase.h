@@ -6,6 +6,7 @@
 #include "store/Database.h"
 #include "support/Engines.h"
 #include "support/ErrorOf.h"
+#include "support/Rows.h"
 #include "support/TestFolder.h"
 #include "values/Locale.h"
 
@@ -23,6 +24,8 @@ inline void PrintTo(const Value& value, std::ostream* out) {
 namespace store::test {
 
 using namespace Qt::StringLiterals;
+using drivers::AddRows;
+using drivers::RowsOf;
 using values::Money;
 using values::Value;
 
@@ -36,56 +39,18 @@ protected:
     std::unique_ptr<Database> OpenAgain() const { return Database::Open(place_, MainSchema()); }
 
     void AddProducts(int first, int last) {
+        QStringList rows;
+        for (int i = first; i <= last; ++i) rows += u"ProdCode=%1 | ProdDescription=product %1 | Qty=%1"_s.arg(i);
         Database::Batch batch(*store);
-        auto products = store->OpenRecordset(u"SELECT * FROM Products"_s);
-        for (int i = first; i <= last; ++i) {
-            products.AddNew();
-            products[u"ProdCode"] = QString::number(i);
-            products[u"ProdDescription"] = u"product %1"_s.arg(i);
-            products[u"Qty"] = i;
-            products.Update();
-        }
+        AddRows(*store, u"Products"_s, rows);
         batch.Commit();
     }
-    // Fields as "NAME=TEXT | NAME=TEXT".
-    static void SetAll(Recordset& rows, const QString& fields) {
-        for (const QString& field : fields.split(u" | "_s)) rows[field.section(u'=', 0, 0)] = field.section(u'=', 1);
+    void AddTaxes(QStringList ids) {
+        for (QString& id : ids) id = u"TaxID=%1 | Name=tax %1"_s.arg(id);
+        AddRows(*store, u"Tax"_s, ids);
     }
-    static void Add(Database& database, const QString& table, const QString& fields) {
-        auto rows = database.OpenRecordset(u"SELECT * FROM "_s + table);
-        rows.AddNew();
-        if (!fields.isEmpty()) SetAll(rows, fields);
-        rows.Update();
-    }
-    // Cells divided by |.
-    static QString Rows(Database& database, const QString& query) {
-        QStringList lines;
-        auto rows = database.OpenRecordset(query);
-        for (auto& row : rows) {
-            QStringList cells;
-            for (int i = 0; i < row.FieldCount(); ++i) cells += row[i].TextOrEmpty();
-            lines += cells.join(u'|');
-        }
-        return lines.join(u'\n');
-    }
-    void AddTaxes(const QStringList& ids) {
-        auto taxes = store->OpenRecordset(u"SELECT * FROM Tax"_s);
-        for (const QString& id : ids) {
-            taxes.AddNew();
-            taxes[u"TaxID"] = id;
-            taxes[u"Name"] = u"tax "_s + id;
-            taxes.Update();
-        }
-    }
-    qsizetype Taxes() { return Column(u"SELECT TaxID FROM Tax"_s).size(); }
-    // The first column of a query as texts, nulls as "".
-    static QStringList Column(Database& database, const QString& query) {
-        QStringList texts;
-        auto rows = database.OpenRecordset(query);
-        for (auto& row : rows) texts += row[0].TextOrEmpty();
-        return texts;
-    }
-    QStringList Column(const QString& query) { return Column(*store, query); }
+    qsizetype Taxes() { return Rows(u"SELECT TaxID FROM Tax"_s).size(); }
+    QStringList Rows(const QString& query) { return RowsOf(*store, query); }
 
     QTemporaryDir folder_{FolderTemplate()};
     const Place place_ = drivers::OnServer() ? Place::Server(drivers::ServerForTest()) : Place(StorePath());

@@ -1,43 +1,38 @@
-#include <QFile>
 #include <QRegularExpression>
 
 #include "store/StoreTestBase.h"
+#include "support/Files.h"
 
 namespace store::test {
 
 // Every query text that the program sends, on a small shop.
 class SystemQueriesTest : public StoreTest {
 protected:
-    SystemQueriesTest() {
-        QFile file(QStringLiteral(TEST_DATA "/dialect/system_queries.txt"));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        for (const QString& line : QString::fromUtf8(file.readAll()).split(u'\n'))
-            if (!line.trimmed().isEmpty() && !line.startsWith(u'#')) queries += line;
-    }
+    SystemQueriesTest() { queries = LinesOf(u"dialect/system_queries.txt"_s); }
 
     Database& StoreOf(const QString& query) { return query.contains(u"Options") ? *options : *store; }
     static bool IsAction(const QString& query) {
         return query.startsWith(u"UPDATE", Qt::CaseInsensitive) || query.startsWith(u"DELETE", Qt::CaseInsensitive);
     }
 
-    // Lines of a file in tests/data/store without those that comment.
+    // Lines of a file in tests/data without those that comment.
     static QStringList LinesOf(const QString& name) {
-        QFile file(QStringLiteral(TEST_DATA "/store/") + name);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
-        return QString::fromUtf8(file.readAll()).split(u'\n').filter(QRegularExpression(u"^[^#]"_s));
+        const QByteArray text = drivers::ReadFile(QStringLiteral(TEST_DATA "/") + name);
+        return QString::fromUtf8(text).split(u'\n').filter(QRegularExpression(u"^[^#]"_s));
     }
 
     void FillShop() {
-        for (const QString& line : LinesOf(u"small_shop.txt"_s)) {
+        for (const QString& line : LinesOf(u"store/small_shop.txt"_s)) {
             const QString table = line.section(u" | "_s, 0, 0);
-            Add(StoreOf(table), table, line.section(u" | "_s, 1));
+            AddRows(StoreOf(table), table, {line.section(u" | "_s, 1)});
         }
     }
 
     // The rows, of an action the number of those that it touched.
     QString AnswerTo(const QString& query) {
         Database& database = StoreOf(query);
-        return IsAction(query) ? QString::number(database.Execute(query)) + u" rows"_s : Rows(database, query);
+        return IsAction(query) ? QString::number(database.Execute(query)) + u" rows"_s
+                               : RowsOf(database, query).join(u'\n');
     }
 
     QStringList queries;
@@ -48,12 +43,10 @@ TEST_F(SystemQueriesTest, GiveTheirRowsOnASmallShop) {
     FillShop();
     QString answers;
     for (const QString& query : queries) answers += u"> "_s + query + u'\n' + AnswerTo(query) + u'\n';
-    if (qEnvironmentVariableIsSet("VELTON_REWRITE")) {
-        QFile expected(QStringLiteral(TEST_DATA "/store/small_shop_answers.txt"));
-        ASSERT_TRUE(expected.open(QIODevice::WriteOnly));
-        expected.write(answers.toUtf8());
-    }
-    const QStringList expected = LinesOf(u"small_shop_answers.txt"_s);
+    const auto file = u"store/small_shop_answers.txt"_s;
+    if (qEnvironmentVariableIsSet("VELTON_REWRITE"))
+        drivers::WriteFile(QStringLiteral(TEST_DATA "/") + file, answers.toUtf8());
+    const QStringList expected = LinesOf(file);
     const QStringList given = answers.split(u'\n', Qt::SkipEmptyParts);
     for (qsizetype i = 0; i < qMax(expected.size(), given.size()); ++i)
         ASSERT_EQ(given.value(i), expected.value(i)) << "line " << i + 1;

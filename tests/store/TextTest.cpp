@@ -71,9 +71,9 @@ TEST_F(TextTest, GivesBackEveryTextAsItWasWritten) {
         company[u"Adresa"] = text;
         company.Update();
     }
-    EXPECT_EQ(Column(u"SELECT Adresa FROM Company"_s), texts);
-    EXPECT_EQ(Column(*OpenAgain(), u"SELECT Adresa FROM Company"_s), texts);
-    EXPECT_EQ(Column(u"SELECT Adresa FROM Company WHERE Adresa = 'IT''S ''quoted'''"_s), QStringList{texts[2]});
+    EXPECT_EQ(Rows(u"SELECT Adresa FROM Company"_s), texts);
+    EXPECT_EQ(RowsOf(*OpenAgain(), u"SELECT Adresa FROM Company"_s), texts);
+    EXPECT_EQ(Rows(u"SELECT Adresa FROM Company WHERE Adresa = 'IT''S ''quoted'''"_s), QStringList{texts[2]});
 }
 
 }  // namespace store::test

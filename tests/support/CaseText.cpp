@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QMap>
 #include <algorithm>
 
+#include "support/Files.h"
 #include "support/UnderLocale.h"
 #include "values/Error.h"
 
@@ -36,11 +36,7 @@ QString Unescaped(const QString& text) {
 
 class CaseReader {
 public:
-    explicit CaseReader(const QString& path) : path_(path) {
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-        lines_ = QString::fromUtf8(file.readAll()).split(u'\n');
-    }
+    explicit CaseReader(const QString& path) : path_(path) { lines_ = QString::fromUtf8(ReadFile(path)).split(u'\n'); }
 
     std::vector<CaseText> Cases() {
         const std::vector<Step> before = Block(at_, 0);

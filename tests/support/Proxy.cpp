@@ -64,10 +64,7 @@ Proxy::Proxy(const Server& server)
 }
 
 Proxy::~Proxy() {
-    {
-        const std::lock_guard lock(mutex_);
-        isLast_ = true;
-    }
+    isLast_ = true;
     Wake();
     thread_.join();
     close(listener_);
@@ -85,30 +82,10 @@ void Proxy::CutAfter(qint64 bytes) {
     Wake();
 }
 
-void Proxy::Delay(std::chrono::milliseconds delay) {
-    const std::lock_guard lock(mutex_);
-    delay_ = delay;
-}
-
-void Proxy::Refuse(bool refuse) {
-    const std::lock_guard lock(mutex_);
-    refuses_ = refuse;
-}
-
 void Proxy::Freeze(bool freeze) {
     const std::lock_guard lock(mutex_);
     isFrozen_ = freeze;
     Wake();
-}
-
-qint64 Proxy::Bytes() const {
-    const std::lock_guard lock(mutex_);
-    return bytes_;
-}
-
-int Proxy::RoundTrips() const {
-    const std::lock_guard lock(mutex_);
-    return roundTrips_;
 }
 
 void Proxy::Wake() const {
@@ -172,7 +149,7 @@ void Proxy::Accept() {
     while (poll(&file, 1, 0) > 0) {
         const int client = accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC);
         if (client < 0) return;
-        const int server = refuses_ ? -1 : Socket(target_, connect);
+        const int server = Socket(target_, connect);
         if (server < 0) {
             close(client);
         } else {
@@ -196,7 +173,7 @@ void Proxy::Take(Line& line, Way& way) {
         bytes.resize(static_cast<std::size_t>(count));
         if (isUp && line.wasAnswered) ++roundTrips_;
         if (isUp) line.wasAnswered = false;
-        way.held.push_back({isUp ? Clock::now() + delay_ : Clock::time_point(), std::move(bytes)});
+        way.held.push_back({isUp ? Clock::now() + delay_.load() : Clock::time_point(), std::move(bytes)});
     }
 }
 

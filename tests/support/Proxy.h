@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTemporaryDir>
+#include <atomic>
 #include <chrono>
 #include <deque>
 #include <list>
@@ -28,15 +29,13 @@ public:
     // last of them still arrives, the next does not. 0 cuts at once. Those that are made afterwards stay whole.
     void CutAfter(qint64 bytes);
     // What the client sends is this much longer on its way, so a round trip costs that much more.
-    void Delay(std::chrono::milliseconds delay);
-    // New connections are closed at once; those that are open stay.
-    void Refuse(bool refuse);
+    void Delay(std::chrono::milliseconds delay) { delay_ = delay; }
     // Nothing passes any more, but everything stays open, and new connections seem to be taken.
     void Freeze(bool freeze);
 
-    qint64 Bytes() const;
+    qint64 Bytes() const { return bytes_; }
     // How often a client sent something after an answer; its greeting and its farewell count too.
-    int RoundTrips() const;
+    int RoundTrips() const { return roundTrips_; }
 
 private:
     using Clock = std::chrono::steady_clock;
@@ -74,15 +73,14 @@ private:
     int listener_;
     int waker_;
 
-    mutable std::mutex mutex_;
+    std::mutex mutex_;
     std::list<Line> lines_;
     qint64 left_ = -1;
-    std::chrono::milliseconds delay_{0};
-    bool refuses_ = false;
+    std::atomic<std::chrono::milliseconds> delay_{};
     bool isFrozen_ = false;
-    bool isLast_ = false;
-    qint64 bytes_ = 0;
-    int roundTrips_ = 0;
+    std::atomic<bool> isLast_ = false;
+    std::atomic<qint64> bytes_ = 0;
+    std::atomic<int> roundTrips_ = 0;
 
     std::thread thread_;
 };

@@ -19,9 +19,9 @@ namespace drivers {
 //   load TABLE           the rows under it: names of fields, then a line a row, cells divided by |
 //   as USER; login USER; login (the screen alone); crash; restart (a crash, and the user of `as` again)
 //   locale NAME; clock DATE TIME; clipboard TEXT; write FILE | TEXT; remove FILE; folder NAME
-//   stick                a folder {folder}-stick outside of the register's; backup-program: the till's backups are not
-//                        made, but noted in the file "started"
+//   backup-program       the till's backups are not made, but noted in the file "started"
 //   engine SQL | SQL     behind the store's back, as its file and as its server take it
+//   server goes, server comes   (back); where the stores are there
 // What is done:
 //   open ENTRY           of the menu; keys KEYS; go CONTROL (it gets the focus); close (by its window)
 //   type CONTROL KEYS    over what stands there
@@ -38,12 +38,13 @@ namespace drivers {
 //   list, row N CELLS, codes CODE | CODE, count N     the list, the cells of a row joined by |; list NAME
 //   rows QUERY           with the rows under it
 //   runs FIELD=TEXT      settings in force
+//   comes NAME           a file, within some seconds
 //   file NAME=TEXT       and the other signs of `see`; nofile NAME; copied FILE | OTHER | END (the other and this)
 class ScreenCase : public TillTest, public testing::WithParamInterface<CaseText> {
 public:
     using Word = std::function<void(ScreenCase& at, const QString& rest, const Step& step)>;
-    // Words of a room's own.
-    static bool AddWords(const QMap<QString, Word>& words);
+    // Words of a room's own; some of them have lines under them without a form.
+    static bool AddWords(const QMap<QString, Word>& words, const QStringList& withLines = {});
 
     // The form in which the case is played.
     QWidget& Form();
@@ -61,6 +62,7 @@ protected:
 
 private:
     static QMap<QString, Word>& Words();
+    static QStringList& WordsWithLines();
     static QMap<QString, Word> States();
     static QMap<QString, Word> Deeds();
     static QMap<QString, Word> Announcements();
@@ -77,6 +79,7 @@ private:
         if (!found) throw std::runtime_error("there is no " + name.toStdString());
         return *found;
     }
+    QWidget& Control(const QString& name) { return Of<QWidget>(name); }
     QString Shown(const QString& what);
     forms::ListView& List(const QString& name = {});
     QStringList ListRows(const QString& name = {});

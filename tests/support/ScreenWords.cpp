@@ -7,6 +7,7 @@
 #include <QRegularExpression>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTest>
 #include <QToolBar>
 
 #include "core/BackupStart.h"
@@ -14,7 +15,9 @@
 #include "forms/Program.h"
 #include "player/Input.h"
 #include "support/Engines.h"
+#include "support/Files.h"
 #include "support/ScreenCase.h"
+#include "support/Server.h"
 #include "upkeep/TableLoader.h"
 #include "values/Clock.h"
 #include "values/Locale.h"
@@ -110,109 +113,79 @@ void Reach(QWidget* control) {
 
 }  // namespace
 
-QString SettingInForce(const QString& field) {
-    static const QMap<QString, QString Settings::*> fields = {
-        {u"NazivFirme"_s, &Settings::NazivFirme},
-        {u"Adresa"_s, &Settings::Adresa},
-        {u"Tel"_s, &Settings::Tel},
-        {u"MjestoProdaje"_s, &Settings::MjestoProdaje},
-        {u"Currency"_s, &Settings::Currency},
-        {u"PrinterZaRacun"_s, &Settings::PrinterZaRacun},
-        {u"PrinterZaIzvjestaj"_s, &Settings::PrinterZaIzvjestaj},
-        {u"Emulacija"_s, &Settings::Emulacija},
-        {u"RezacPapira"_s, &Settings::RezacPapira},
-        {u"TipRacuna"_s, &Settings::TipRacuna},
-        {u"RekapPoreza"_s, &Settings::RekapPoreza},
-        {u"PrintKasir"_s, &Settings::PrintKasir},
-        {u"Footer"_s, &Settings::Footer},
-        {u"Font"_s, &Settings::Font},
-        {u"VelFont"_s, &Settings::VelFont},
-        {u"POSMonitor"_s, &Settings::POSMonitor},
-        {u"FiskalniRacunDA"_s, &Settings::FiskalniRacunDA},
-        {u"FiskalniFile"_s, &Settings::FiskalniFile},
-        {u"ServerName"_s, &Settings::ServerName},
-        {u"TrakaRacunaFile"_s, &Settings::TrakaRacunaFile},
-        {u"StanjeKaseVidljivo"_s, &Settings::StanjeKaseVidljivo},
-        {u"ChangeUser"_s, &Settings::ChangeUser},
-    };
-    static const QMap<QString, bool Settings::*> flags = {
-        {u"Kusur"_s, &Settings::Kusur},
-        {u"TrakaRacunaFileDA"_s, &Settings::TrakaRacunaFileDA},
-        {u"DisplejKupca"_s, &Settings::DisplejKupca},
-        {u"NoviRacunAutomatski"_s, &Settings::NoviRacunAutomatski},
-    };
-    if (field == u"Kasa") return QString::number(TheSettings.Kasa);
-    if (flags.contains(field)) return QString::number(TheSettings.*flags[field]);
-    EXPECT_TRUE(fields.contains(field)) << field.toStdString();
-    return fields.contains(field) ? TheSettings.*fields[field] : QString();
+QString SettingInForce(const QString& name) {
+    const QMap<QString, QString> heading = {
+        {u"NazivFirme"_s, TheSettings.NazivFirme}, {u"Adresa"_s, TheSettings.Adresa}, {u"Tel"_s, TheSettings.Tel}};
+    if (heading.contains(name)) return heading[name];
+    const auto column = std::ranges::find(store::OptionsColumns(), name, &store::OptionsColumn::name);
+    if (column == store::OptionsColumns().end()) throw std::runtime_error("there is no setting " + name.toStdString());
+    if (const auto* text = std::get_if<QString store::OptionsRow::*>(&column->member)) return TheSettings.**text;
+    if (const auto* flag = std::get_if<bool store::OptionsRow::*>(&column->member))
+        return QString::number(TheSettings.**flag);
+    return QString::number(TheSettings.*std::get<qint16 store::OptionsRow::*>(column->member));
 }
 
 QMap<QString, ScreenCase::Word> ScreenCase::States() {
     return {
-        {u"run"_s, [](ScreenCase& at, const QString& rest, const Step&) { at.StoreOf(rest)->Execute(rest); }},
+        {u"run"_s, [](auto& at, auto& rest, auto&) { at.StoreOf(rest)->Execute(rest); }},
         {u"load"_s,
-         [](ScreenCase& at, const QString& rest, const Step& step) {
+         [](auto& at, auto& rest, auto& step) {
              QByteArray lines = Joined(Texts(step.inner)).replace(u'|', u'\t').toUtf8();
              QBuffer rows(&lines);
              rows.open(QIODevice::ReadOnly);
              upkeep::LoadRows(*at.StoreOf(rest), rest, rows);
          }},
         {u"login"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) {
+         [](auto& at, auto& rest, auto&) {
              at.loggedIn_ = true;
              if (!rest.isEmpty()) return at.LogIn(rest);
              at.ShowLogin();
              if (auto* login = forms::FindForm(u"frmLogin")) at.GoOnIn(*login);
          }},
-        {u"as"_s, [](ScreenCase& at, const QString& rest, const Step&) { at.user_ = rest; }},
+        {u"as"_s, [](auto& at, auto& rest, auto&) { at.user_ = rest; }},
         {u"crash"_s,
-         [](ScreenCase& at, const QString&, const Step&) {
+         [](auto& at, auto&, auto&) {
              at.Crash();
              at.loggedIn_ = false;
          }},
         {u"restart"_s,
-         [](ScreenCase& at, const QString&, const Step&) {
+         [](auto& at, auto&, auto&) {
              at.Crash();
              at.loggedIn_ = true;
              at.LogIn(at.user_);
          }},
-        {u"locale"_s, [](ScreenCase&, const QString& rest, const Step&) { values::SetUserLocale(QLocale(rest)); }},
+        {u"locale"_s, [](auto&, auto& rest, auto&) { values::SetUserLocale(QLocale(rest)); }},
         {u"clock"_s,
-         [](ScreenCase&, const QString& rest, const Step&) {
+         [](auto&, auto& rest, auto&) {
              values::SetClock([now = QDateTime::fromString(rest, u"yyyy-MM-dd HH:mm:ss"_s)] { return now; });
          }},
-        {u"clipboard"_s,
-         [](ScreenCase&, const QString& rest, const Step&) { QApplication::clipboard()->setText(rest); }},
+        {u"clipboard"_s, [](auto&, auto& rest, auto&) { QApplication::clipboard()->setText(rest); }},
         {u"write"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) {
-             QFile file(at.Path(rest.section(u" | "_s, 0, 0)));
-             EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-             file.write(rest.section(u" | "_s, 1).toLatin1());
+         [](auto& at, auto& rest, auto&) {
+             WriteFile(at.Path(rest.section(u" | "_s, 0, 0)), rest.section(u" | "_s, 1).toLatin1());
          }},
-        {u"remove"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) { EXPECT_TRUE(QFile::remove(at.Path(rest))); }},
-        {u"folder"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) { EXPECT_TRUE(QDir().mkdir(at.Path(rest))); }},
-        {u"stick"_s,
-         [](ScreenCase& at, const QString&, const Step&) { EXPECT_TRUE(QDir().mkdir(at.Path({}) + u"-stick"_s)); }},
+        {u"remove"_s, [](auto& at, auto& rest, auto&) { EXPECT_TRUE(QFile::remove(at.Path(rest))); }},
+        {u"folder"_s, [](auto& at, auto& rest, auto&) { EXPECT_TRUE(QDir().mkdir(at.Path(rest))); }},
         {u"backup-program"_s,
-         [](ScreenCase&, const QString&, const Step&) {
+         [](auto&, auto&, auto&) {
              UseBackupProgram([](const QString& registerFolder) {
                  QFile notes(registerFolder + u"/started"_s);
                  return notes.open(QIODevice::Append) && notes.write("x") == 1;
              });
          }},
         {u"engine"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) {
+         [](auto& at, auto& rest, auto&) {
              DoBehind(at.folder.path(), rest.section(u" | "_s, 0, 0), rest.section(u" | "_s, 1));
          }},
+        {u"server"_s,
+         [](auto&, auto& rest, auto&) { rest == u"goes" ? Server::Running().Stop() : Server::Running().Start(); }},
     };
 }
 
 QMap<QString, ScreenCase::Word> ScreenCase::Deeds() {
     return {
         {u"open"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) {
+         [](auto& at, auto& rest, auto&) {
              at.Form();
              auto* entry = mdiORVA::Window().findChild<QAction*>(rest);
              if (!entry) throw std::runtime_error("the menu has no such entry");
@@ -220,111 +193,107 @@ QMap<QString, ScreenCase::Word> ScreenCase::Deeds() {
              Settle();
          }},
         {u"keys"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) {
+         [](auto& at, auto& rest, auto&) {
              at.Form();
              Keys(rest);
          }},
-        {u"go"_s, [](ScreenCase& at, const QString& rest, const Step&) { at.Of<QWidget>(rest).setFocus(); }},
-        {u"close"_s, [](ScreenCase& at, const QString&, const Step&) { at.Form().close(); }},
+        {u"go"_s, [](auto& at, auto& rest, auto&) { at.Control(rest).setFocus(); }},
+        {u"close"_s, [](auto& at, auto&, auto&) { at.Form().close(); }},
         {u"type"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) {
+         [](auto& at, auto& rest, auto&) {
              const QString name = rest.section(u' ', 0, 0);
-             Reach(&at.Of<QWidget>(name));
-             Type(*at.Of<QWidget>(name).window(), name, rest.section(u' ', 1));
+             Reach(&at.Control(name));
+             QWidget& form = at.Form();
+             Type(form.template findChild<QWidget*>(name) ? form : *at.Control(name).window(), name,
+                  rest.section(u' ', 1));
          }},
         {u"click"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) {
-             Reach(&at.Of<QWidget>(rest));
-             ClickOn(at.Of<QWidget>(rest));
+         [](auto& at, auto& rest, auto&) {
+             Reach(&at.Control(rest));
+             ClickOn(at.Control(rest));
          }},
-        {u"rightclick"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) { Click(&at.Of<QWidget>(rest), Qt::RightButton); }},
-        {u"tool"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) {
-             Click(at.Form().findChild<QToolBar*>()->widgetForAction(&at.Of<QAction>(rest)));
-         }},
+        {u"rightclick"_s, [](auto& at, auto& rest, auto&) { Click(&at.Control(rest), Qt::RightButton); }},
+        {u"tool"_s, [](ScreenCase& at, auto& rest,
+                       auto&) { Click(at.Form().findChild<QToolBar*>()->widgetForAction(&at.Of<QAction>(rest))); }},
         {u"tab"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) {
+         [](ScreenCase& at, auto& rest, auto&) {
              QTabBar* strip = at.Form().findChild<QTabWidget*>()->tabBar();
              ClickAt(strip, strip->tabRect(rest.toInt()).center(), Qt::LeftButton);
              Settle();
          }},
         {u"in"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) {
+         [](auto& at, auto& rest, auto&) {
              auto* form = forms::FindForm(rest);
              if (!form) throw std::runtime_error("the form is not there");
              at.GoOnIn(*form);
          }},
-        {u"selectrow"_s, [](ScreenCase& at, const QString& rest, const Step&) { at.List().Select(rest.toInt()); }},
-        {u"clickrow"_s, [](ScreenCase& at, const QString& rest, const Step&) { ClickRow(&at.List(), rest.toInt()); }},
-        {u"rightclickrow"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) { ClickRow(&at.List(), rest.toInt(), Qt::RightButton); }},
-        {u"doubleclickrow"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) { DoubleClickRow(&at.List(), rest.toInt()); }},
+        {u"selectrow"_s, [](auto& at, auto& rest, auto&) { at.List().Select(rest.toInt()); }},
+        {u"clickrow"_s, [](auto& at, auto& rest, auto&) { ClickRow(&at.List(), rest.toInt()); }},
+        {u"rightclickrow"_s, [](auto& at, auto& rest, auto&) { ClickRow(&at.List(), rest.toInt(), Qt::RightButton); }},
+        {u"doubleclickrow"_s, [](auto& at, auto& rest, auto&) { DoubleClickRow(&at.List(), rest.toInt()); }},
     };
 }
 
 QMap<QString, ScreenCase::Word> ScreenCase::Announcements() {
     return {
-        {u"box"_s, [](ScreenCase& at, const QString& rest, const Step&) { ExpectBox(at.boxes_, rest); }},
+        {u"box"_s, [](auto& at, auto& rest, auto&) { ExpectBox(at.boxes_, rest); }},
         {u"pick"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) {
+         [](auto& at, auto& rest, auto&) {
              const QString name = rest.section(u" | "_s, 0, 0);
-             at.boxes_.ExpectFile(name.isEmpty() ? name : QDir(at.Path({})).filePath(name));
+             at.boxes_.ExpectFile(name.isEmpty() ? name : at.Path(name));
              if (rest.contains(u" | ")) at.boxes_.Titled(rest.section(u" | "_s, 1));
          }},
-        {u"help"_s, [](ScreenCase& at, const QString& rest, const Step&) { ExpectHelp(at.boxes_, rest); }},
+        {u"help"_s, [](auto& at, auto& rest, auto&) { ExpectHelp(at.boxes_, rest); }},
     };
 }
 
 QMap<QString, ScreenCase::Word> ScreenCase::Checks() {
     return {
-        {u"see"_s, [](ScreenCase& at, const QString& rest,
-                      const Step&) { ExpectShown(rest, [&](const QString& what) { return at.Shown(what); }); }},
+        {u"see"_s,
+         [](auto& at, auto& rest, auto&) { ExpectShown(rest, [&](const QString& what) { return at.Shown(what); }); }},
         {u"focus"_s,
-         [](ScreenCase&, const QString& rest, const Step&) {
+         [](auto&, auto& rest, auto&) {
              const QWidget* focus = QApplication::focusWidget();
              ExpectEqual(focus ? focus->objectName() : QString(), rest);
          }},
-        {u"title"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) { ExpectEqual(at.Form().windowTitle(), rest); }},
-        {u"loaded"_s, [](ScreenCase&, const QString& rest,
-                         const Step&) { EXPECT_TRUE(forms::FindForm(rest)) << rest.toStdString(); }},
-        {u"unloaded"_s, [](ScreenCase&, const QString& rest,
-                           const Step&) { EXPECT_FALSE(forms::FindForm(rest)) << rest.toStdString(); }},
+        {u"title"_s, [](auto& at, auto& rest, auto&) { ExpectEqual(at.Form().windowTitle(), rest); }},
+        {u"loaded"_s, [](auto&, auto& rest, auto&) { EXPECT_TRUE(forms::FindForm(rest)) << rest.toStdString(); }},
+        {u"unloaded"_s, [](auto&, auto& rest, auto&) { EXPECT_FALSE(forms::FindForm(rest)) << rest.toStdString(); }},
+        {u"comes"_s,
+         [](auto& at, auto& rest, auto&) {
+             EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(at.Path(rest)); }, 10'000)) << rest.toStdString();
+         }},
         {u"ended"_s,
-         [](ScreenCase&, const QString& rest, const Step&) {
+         [](auto&, auto& rest, auto&) {
              EXPECT_TRUE(forms::ProgramIsEnding());
              EXPECT_EQ(forms::ProgramExitCode(), rest.toInt());
          }},
-        {u"goes-on"_s, [](ScreenCase&, const QString&, const Step&) { EXPECT_FALSE(forms::ProgramIsEnding()); }},
-        {u"list"_s, [](ScreenCase& at, const QString& rest,
-                       const Step& step) { ExpectEqual(Joined(at.ListRows(rest)), Joined(Texts(step.inner))); }},
+        {u"goes-on"_s, [](auto&, auto&, auto&) { EXPECT_FALSE(forms::ProgramIsEnding()); }},
+        {u"list"_s,
+         [](auto& at, auto& rest, auto& step) { ExpectEqual(Joined(at.ListRows(rest)), Joined(Texts(step.inner))); }},
         {u"row"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) {
+         [](auto& at, auto& rest, auto&) {
              ExpectEqual(at.ListRows().value(rest.section(u' ', 0, 0).toInt()), rest.section(u' ', 1));
          }},
         {u"codes"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) {
+         [](auto& at, auto& rest, auto&) {
              QStringList codes;
              for (const QString& row : at.ListRows()) codes << row.section(u'|', 0, 0);
              ExpectEqual(codes.join(u" | "), rest);
          }},
-        {u"count"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) { EXPECT_EQ(at.List().Count(), rest.toInt()); }},
+        {u"count"_s, [](auto& at, auto& rest, auto&) { EXPECT_EQ(at.List().Count(), rest.toInt()); }},
         {u"rows"_s,
-         [](ScreenCase& at, const QString& rest, const Step& step) {
+         [](auto& at, auto& rest, auto& step) {
              ExpectEqual(Joined(RowsOf(*at.StoreOf(rest), rest)), Joined(Texts(step.inner)));
          }},
-        {u"runs"_s, [](ScreenCase&, const QString& rest, const Step&) { ExpectShown(rest, SettingInForce); }},
+        {u"runs"_s, [](auto&, auto& rest, auto&) { ExpectShown(rest, SettingInForce); }},
         {u"file"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) {
+         [](auto& at, auto& rest, auto&) {
              ExpectShown(rest, [&](const QString& name) { return QString::fromLatin1(at.File(name)); });
          }},
-        {u"nofile"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) { EXPECT_FALSE(QFile::exists(at.Path(rest))); }},
+        {u"nofile"_s, [](auto& at, auto& rest, auto&) { EXPECT_FALSE(QFile::exists(at.Path(rest))); }},
         {u"copied"_s,
-         [](ScreenCase& at, const QString& rest, const Step&) {
+         [](auto& at, auto& rest, auto&) {
              const QStringList parts = rest.split(u" | "_s);
              EXPECT_EQ(at.File(parts[0]), at.File(parts[1]) + parts.value(2).toLatin1());
          }},

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <sys/types.h>
-
 #include <QTemporaryDir>
-#include <future>
+#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -37,20 +35,18 @@ public:
     // takes connections.
     void Start(const std::vector<std::string>& settings = {});
     // As an administrator does: who is connected is thrown out.
-    void Stop();
+    void Stop() { End("stop\n"); }
     // As the machine does that fails: all its processes are gone at once.
-    void Kill();
+    void Kill() { End("kill\n"); }
 
 private:
-    bool Runs() const;
-    void MakeData();
-    void RemoveFolderWithUs();
-    void End(int signal);
+    void Tell(const std::string& command);
+    void End(const std::string& command);
+    bool HasEnded() const;
 
     QTemporaryDir folder_;
-    pid_t process_ = 0;
-    std::future<void> ended_;
-    int heldOpen_ = -1;
+    FILE* shell_;
+    bool runs_ = false;
     int shops_ = 0;
 };
 

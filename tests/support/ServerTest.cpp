@@ -1,81 +1,27 @@
-#include <gmock/gmock.h>
-#include <libpq-fe.h>
-#include <poll.h>
+#include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <QFile>
 #include <chrono>
 #include <csignal>
-#include <memory>
-#include <string>
 #include <thread>
 
+#include "store/Database.h"
+#include "support/Files.h"
 #include "support/Proxy.h"
 #include "support/Server.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
-using drivers::Proxy;
-using drivers::Server;
 
-namespace {
-
-using Result = std::unique_ptr<PGresult, void (*)(PGresult*)>;
-
-class Client {
-public:
-    explicit Client(const QString& url) : session_(PQconnectdb(url.toUtf8()), PQfinish) {}
-
-    bool IsConnected() const { return PQstatus(session_.get()) == CONNECTION_OK; }
-    // The first field of the answer, "-" without one.
-    std::string Ask(const char* statement) {
-        const Result result(PQexec(session_.get(), statement), PQclear);
-        return PQntuples(result.get()) > 0 ? PQgetvalue(result.get(), 0, 0) : "-";
-    }
-    void Send(const char* statement) { ASSERT_TRUE(PQsendQuery(session_.get(), statement)); }
-    bool HearsWithin(std::chrono::milliseconds patience) const {
-        pollfd file = {PQsocket(session_.get()), POLLIN, 0};
-        return poll(&file, 1, static_cast<int>(patience.count())) > 0;
-    }
-
-private:
-    std::unique_ptr<PGconn, void (*)(PGconn*)> session_;
-};
-
-QString Shops() {
-    return Server::Running().Url(u"shops"_s);
-}
-
-TEST(ServerTest, WhatWasCommittedIsThereAfterACrashAndAfterAStop) {
-    Server& server = Server::Running();
-    Client before(Shops());
-    before.Ask("CREATE TABLE crashed (n int)");
-    before.Ask("INSERT INTO crashed VALUES (1)");
-    before.Ask("BEGIN");
-    before.Ask("INSERT INTO crashed VALUES (2)");
-
-    server.Kill();
-    EXPECT_EQ(before.Ask("SELECT 1"), "-");
-    EXPECT_FALSE(Client(Shops()).IsConnected());
-    server.Start({"synchronous_commit=off"});
-    EXPECT_EQ(Client(Shops()).Ask("SELECT sum(n) FROM crashed"), "1");
-    EXPECT_EQ(Client(Shops()).Ask("SHOW synchronous_commit"), "off");
-
-    server.Stop();
-    EXPECT_FALSE(Client(Shops()).IsConnected());
-    server.Start();
-    EXPECT_EQ(Client(Shops()).Ask("SELECT sum(n) FROM crashed"), "1");
-    EXPECT_EQ(Client(Shops()).Ask("SHOW synchronous_commit"), "on");
-    EXPECT_NE(server.NewShop(), server.NewShop());
-}
-
+// What no test of the store could notice.
 TEST(ServerTest, NeitherServerNorFolderOutlivesAKilledProcess) {
     int said[2];
     ASSERT_EQ(pipe(said), 0);
     const pid_t child = fork();
     if (child == 0) {
-        const Server own;
+        const drivers::Server own;
         const QByteArray folder = own.Folder().toLatin1();
         if (write(said[1], folder.data(), static_cast<size_t>(folder.size())) > 0) pause();
         _exit(1);
@@ -85,9 +31,8 @@ TEST(ServerTest, NeitherServerNorFolderOutlivesAKilledProcess) {
     ASSERT_GT(read(said[0], text, sizeof text - 1), 0);
     close(said[0]);
     const QString folder = QString::fromLatin1(text);
-    QFile lock(folder + u"/data/postmaster.pid"_s);
-    ASSERT_TRUE(lock.open(QIODevice::ReadOnly));
-    const QString home = u"/proc/%1/cwd"_s.arg(lock.readLine().toInt());
+    const QByteArray lock = drivers::ReadFile(folder + u"/data/postmaster.pid"_s);
+    const QString home = u"/proc/%1/cwd"_s.arg(lock.left(lock.indexOf('\n')).toInt());
     ASSERT_EQ(QFile::symLinkTarget(home), folder + u"/data"_s);
 
     kill(child, SIGKILL);
@@ -98,49 +43,15 @@ TEST(ServerTest, NeitherServerNorFolderOutlivesAKilledProcess) {
     EXPECT_EQ(QFile::symLinkTarget(home), QString());
 }
 
-TEST(ProxyTest, ACutComesAtTheByteThatWasAskedFor) {
-    Proxy proxy(Server::Running());
-    const qint64 whole = [&] {
-        Client client(proxy.Through(Shops()));
-        const qint64 before = proxy.Bytes();
-        EXPECT_EQ(client.Ask("SELECT 7"), "7");
-        return proxy.Bytes() - before;
-    }();
-    for (qint64 bytes = 0; bytes <= whole; ++bytes) {
-        Client client(proxy.Through(Shops()));
-        const qint64 before = proxy.Bytes();
-        proxy.CutAfter(bytes);
-        EXPECT_EQ(client.Ask("SELECT 7"), bytes < whole ? "-" : "7") << bytes << " of " << whole;
-        EXPECT_EQ(proxy.Bytes() - before, bytes);
-        EXPECT_EQ(client.Ask("SELECT 8"), "-");
-    }
-    EXPECT_EQ(Client(proxy.Through(Shops())).Ask("SELECT 9"), "9");
-}
-
 TEST(ProxyTest, ARoundTripIsLongerByTheDelay) {
-    Proxy proxy(Server::Running());
-    Client client(proxy.Through(Shops()));
-    const int before = proxy.RoundTrips();
-    proxy.Delay(30ms);
+    drivers::Server& server = drivers::Server::Running();
+    drivers::Proxy cable(server);
+    const auto place = store::Place::Server(cable.Through(server.NewShop()));
+    const auto shop = store::Database::Create(place, store::MainSchema());
+    const int before = cable.RoundTrips();
+    cable.Delay(30ms);
     const auto start = std::chrono::steady_clock::now();
-    for (int trip = 0; trip < 5; ++trip) EXPECT_EQ(client.Ask("SELECT 7"), "7");
-    EXPECT_GE(std::chrono::steady_clock::now() - start, 150ms);
-    EXPECT_EQ(proxy.RoundTrips() - before, 5);
+    for (int trip = 0; trip < 5; ++trip) shop->OpenSnapshot(u"SELECT * FROM Tax"_s);
+    EXPECT_GE(cable.RoundTrips() - before, 5);
+    EXPECT_GE(std::chrono::steady_clock::now() - start, 30ms * (cable.RoundTrips() - before));
 }
-
-TEST(ProxyTest, AFrozenCableIsSilentAndARefusedOneLeavesWhoIsConnected) {
-    Proxy proxy(Server::Running());
-    Client client(proxy.Through(Shops()));
-    proxy.Freeze(true);
-    client.Send("SELECT 7");
-    EXPECT_FALSE(client.HearsWithin(100ms));
-    proxy.Freeze(false);
-    EXPECT_TRUE(client.HearsWithin(10s));
-    proxy.Refuse(true);
-    EXPECT_FALSE(Client(proxy.Through(Shops())).IsConnected());
-    EXPECT_EQ(client.Ask("SELECT 8"), "8");
-    proxy.Refuse(false);
-    EXPECT_TRUE(Client(proxy.Through(Shops())).IsConnected());
-}
-
-}  // namespace

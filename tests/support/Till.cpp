@@ -1,6 +1,5 @@
 #include "support/Till.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFile>
 
@@ -13,6 +12,7 @@
 #include "output/Folder.h"
 #include "store/StorePath.h"
 #include "support/Engines.h"
+#include "upkeep/TableLoader.h"
 #include "values/Clock.h"
 
 using namespace Qt::StringLiterals;
@@ -20,40 +20,11 @@ using values::Value;
 
 namespace drivers {
 
-namespace {
-
-struct Goods {
-    QStringView code;
-    QStringView name;
-    qint64 price;  // ten-thousandths
-    QStringView unit;
-    QStringView tax;
-    qint64 stock;
-};
-
-const Goods ShopGoods[] = {
-    {u"100", u"Cola", 15000, u"pcs", u"P", 20},
-    {u"200", u"Jabuke crvene", 39000, u"kg", u"P", 50},
-    {u"300", u"Novine", 20000, u"pcs", u"N", 10},
-    {u"400", u"Meni dana", 99900, u"pcs", u"P", 0},
-    {u"3850104003217", u"Mlijeko 2,8 % 1 l", 23500, u"pcs", u"P", 30},
-};
-
-void AddPart(store::Recordset& recipe, const QString& product, const QString& part, qint64 tenThousandths) {
-    recipe.AddNew();
-    recipe[u"SIF"] = product;
-    recipe[u"CONsif"] = part;
-    recipe[u"ConSIFQty"] = values::Money::FromUnits(tenThousandths);
-    recipe.Update();
-}
-
-}  // namespace
-
 TillTest::TillTest() {
     delivery::MakeProgramFolder(folder.path(), {.server = ServerForTest()});
     output::SetProgramFolder(folder.path());
     values::SetClock([] { return QDateTime(QDate(2026, 11, 24), QTime(10, 42, 7)); });
-    AddGoods();
+    LoadTables(*OpenMain(), u"shop"_s);
     Setting(u"Kusur"_s, false);
 }
 
@@ -61,26 +32,6 @@ TillTest::~TillTest() {
     Crash();
     values::SetClock({});
     UseBackupProgram({});
-    QDir(folder.path() + u"-stick"_s).removeRecursively();
-}
-
-void TillTest::AddGoods() {
-    const auto main = OpenMain();
-    auto products = main->OpenRecordset(u"SELECT * FROM Products"_s);
-    for (const Goods& goods : ShopGoods) {
-        products.AddNew();
-        products[u"ProdCode"] = goods.code.toString();
-        products[u"ProdDescription"] = goods.name.toString();
-        products[u"UnitPrice"] = values::Money::FromUnits(goods.price);
-        products[u"Unit"] = goods.unit.toString();
-        products[u"TaxID"] = goods.tax.toString();
-        products[u"TaxPercent"] = goods.tax[0] == u'P' ? 17 : 0;
-        products[u"Qty"] = goods.stock;
-        products.Update();
-    }
-    auto recipe = main->OpenRecordset(u"SELECT * FROM ProductsCon"_s);
-    AddPart(recipe, u"400"_s, u"100"_s, 20000);
-    AddPart(recipe, u"400"_s, u"200"_s, 5000);
 }
 
 void TillTest::Setting(const QString& field, const Value& value) {
@@ -138,15 +89,12 @@ QByteArray TillTest::File(const QString& name) const {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QStringList RowsOf(store::Database& store, const QString& query) {
-    auto rs = store.OpenRecordset(query);
-    QStringList rows;
-    for (auto& row : rs) {
-        QStringList cells;
-        for (int column = 0; column < row.FieldCount(); ++column) cells << row[column].TextOrEmpty();
-        rows << cells.join(u'|');
+void LoadTables(store::Database& store, const QString& folder) {
+    for (const QFileInfo& table : QDir(QStringLiteral(TEST_DATA "/") + folder).entryInfoList({u"*.tsv"_s})) {
+        QFile lines(table.filePath());
+        EXPECT_TRUE(lines.open(QIODevice::ReadOnly)) << lines.fileName().toStdString();
+        upkeep::LoadRows(store, table.baseName(), lines);
     }
-    return rows;
 }
 
 void ExpectHelp(Boxes& boxes, const QString& file) {

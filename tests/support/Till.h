@@ -2,8 +2,8 @@
 
 #include "core/mdiORVA.h"
 #include "forms/Form.h"
-#include "store/Database.h"
 #include "support/Answers.h"
+#include "support/Rows.h"
 #include "support/ScreenTest.h"
 
 namespace drivers {
@@ -40,13 +40,10 @@ protected:
     void Run(const QString& query) const;
     QString Path(const QString& name) const { return folder.filePath(name); }
     QByteArray File(const QString& name) const;
-
-private:
-    void AddGoods();
 };
 
-// Rows of a query as texts, fields joined by "|".
-QStringList RowsOf(store::Database& store, const QString& query);
+// Adds the rows of all tables of which a file lies in this folder below tests/data.
+void LoadTables(store::Database& store, const QString& folder);
 
 // The help comes up with this text, and is closed again.
 void ExpectHelp(Boxes& boxes, const QString& file);

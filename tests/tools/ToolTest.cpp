@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 
@@ -10,6 +8,8 @@
 #include "store/StorePath.h"
 #include "support/CaseText.h"
 #include "support/Engines.h"
+#include "support/Files.h"
+#include "support/Server.h"
 #include "support/TestFolder.h"
 #include "support/ValueOf.h"
 #include "upkeep/ValueText.h"
@@ -22,6 +22,7 @@ namespace {
 // and "> " behind it; the lines below are the answer: the output, then the error output behind "! ". The exit code is 1
 // where an error's number is told and 0 elsewhere, or the last line says "exit N". In an answer "|" is a tab, "~" an
 // empty line, "..." any text, and as a line any lines. What stands before the first case is defined in all of them.
+// $SERVER is the address of a shop on a server that nobody has used.
 struct Talk {
     QString name, file, shell;
     std::vector<std::pair<int, QString>> lines;
@@ -33,16 +34,15 @@ void PrintTo(const Talk& talk, std::ostream* out) {
 
 std::vector<Talk> Talks() {
     std::vector<Talk> talks;
-    for (const auto& topic : {u"backup"_s, u"backup-register"_s, u"check"_s, u"delivery"_s, u"files"_s, u"insert"_s,
-                              u"load"_s, u"new"_s, u"sql"_s}) {
-        QFile file(QStringLiteral(TEST_DATA "/tools/%1.txt").arg(topic));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << topic.toStdString();
+    for (const auto& topic : {u"backup"_s, u"backup-register"_s, u"check"_s, u"delivery"_s, u"files"_s, u"import"_s,
+                              u"insert"_s, u"load"_s, u"move"_s, u"new"_s, u"report"_s, u"sql"_s}) {
+        const auto file = QStringLiteral(TEST_DATA "/tools/%1.txt").arg(topic);
         QString shell;
         bool isInCase = false;
-        for (int number = 1; const QString& line : QString::fromUtf8(file.readAll()).split(u'\n')) {
+        for (int number = 1; const QString& line : QString::fromUtf8(drivers::ReadFile(file)).split(u'\n')) {
             isInCase = isInCase || line.startsWith(u"== ");
             if (line.startsWith(u"== "))
-                talks.push_back({line.mid(3), file.fileName(), shell, {}});
+                talks.push_back({line.mid(3), file, shell, {}});
             else if (!isInCase)
                 shell += line + u'\n';
             else if (!line.isEmpty() && !line.startsWith(u"# "))
@@ -59,6 +59,7 @@ tool() { LC_ALL=${locale:-en_US.UTF-8} "$TOOL" "$@"; }
 sql() { tool sql shop "$@"; }
 insert() { tool insert shop "$@"; }
 check() { tool check shop; }
+report() { tool report shop "$@"; }
 bytes() { printf "$2" | tr '|' '\t' > rows.tsv; tool load shop "$1" rows.tsv; }
 load() { bytes "$1" "$2\n"; }
 raw() { "$STRANGER" shop "$1" "${2-$1}"; }
@@ -82,6 +83,7 @@ protected:
         environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
         environment.insert(u"TOOL"_s, QStringLiteral(PROGRAMS "/velton-store"));
         environment.insert(u"STRANGER"_s, QCoreApplication::applicationFilePath());
+        environment.insert(u"SERVER"_s, server_);
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(folder_.path());
         process.start(u"bash"_s, {u"-c"_s, Shell + GetParam().shell + command}, QIODevice::ReadOnly);
@@ -108,6 +110,7 @@ protected:
     }
 
     const QTemporaryDir folder_{FolderTemplate()};
+    const QString server_ = GetParam().file.endsWith(u"move.txt") ? drivers::Server::Running().NewShop() : QString();
 };
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "support/UnderLocale.h"
 #include "support/ValueOf.h"
 #include "values/CashSums.h"
+#include "values/Csv.h"
 #include "values/DateText.h"
 #include "values/Format.h"
 #include "values/LineAmount.h"
@@ -103,6 +104,15 @@ QString Product(const QStringList& at) {
     return PlainText(product);
 }
 
+// Cells as a row; its line end and the mark before it are taken for granted.
+QString CsvRow(const QStringList& at) {
+    QList<Value> cells;
+    for (const QString& text : at) cells << ValueOf(text);
+    const QByteArray csv = CsvText({cells});
+    EXPECT_TRUE(csv.startsWith("\xEF\xBB\xBF") && csv.endsWith("\r\n"));
+    return QString::fromUtf8(csv.sliced(3).chopped(2));
+}
+
 using At = const QStringList&;
 
 const QMap<QString, drivers::Function> Functions{
@@ -140,6 +150,7 @@ const QMap<QString, drivers::Function> Functions{
      }},
     {u"Price without tax"_s, [](At at) { return Shown(PriceWithoutTax(MoneyOf(at[0]), at[1].toDouble())); }},
     {u"Cash sums"_s, LikelySums},
+    {u"CSV row"_s, CsvRow},
     {u"Cut quantity"_s, [](At at) { return NumberText(CutQuantity(MoneyOf(at[0]))); }},
     {u"Conversions"_s, [](At at) { return Conversions(ValueOf(at[0])); }},
     {u"ToDate"_s, [](At at) { return DateText(ValueOf(at[0]).ToDate()); }},

@@ -1,12 +1,12 @@
 #include "cashier/Restart.h"
 
-#include "core/InstanceLock.h"
 #include "core/Session.h"
 #include "core/Settings.h"
 #include "core/dbModule.h"
 #include "core/mdiORVA.h"
 #include "output/Channel.h"
 #include "player/Keys.h"
+#include "values/InstanceLock.h"
 
 namespace drivers {
 

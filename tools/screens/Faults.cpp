@@ -47,9 +47,13 @@ private:
         LookForName(control);
     }
 
-    // What a scroll area holds can be brought into view.
+    // What a scroll area holds can be brought into view, but for what lies beside it without a bar.
     void LookWhetherItIsInside(const QWidget& control) {
         if (control.parentWidget() == &window_ && control.isWindow()) return;
+        if (const auto* area = qobject_cast<const QScrollArea*>(&control);
+            area && area->widget() && area->horizontalScrollBarPolicy() == Qt::ScrollBarAlwaysOff &&
+            area->widget()->width() > area->viewport()->width() + Tolerance)
+            Tell(control, u"is narrower than what it holds"_s);
         for (const QWidget* around = control.parentWidget(); around && around != &window_;
              around = around->parentWidget())
             if (qobject_cast<const QAbstractScrollArea*>(around)) return;

@@ -1,17 +1,32 @@
 #include "screens/Manager.h"
 
 #include <QDir>
+#include <QMessageBox>
+#include <QRegularExpression>
+#include <QSpinBox>
+#include <QTabWidget>
 
+#include "cashier/DayClock.h"
 #include "cashier/Restart.h"
-#include "core/Installation.h"
-#include "manager/BackupPage.h"
-#include "manager/BackupRestore.h"
+#include "core/dbModule.h"
+#include "delivery/Delivery.h"
+#include "delivery/Trade.h"
 #include "manager/ManagerLogin.h"
 #include "manager/ManagerWindow.h"
 #include "manager/Start.h"
+#include "manager/backup/RestoreForm.h"
+#include "manager/drawer/DrawerPage.h"
+#include "manager/goods/GoodsPage.h"
+#include "manager/goods/PricesPage.h"
+#include "manager/health/SupportForm.h"
+#include "manager/overview/InvoicesView.h"
+#include "manager/overview/OverviewPage.h"
 #include "player/Keys.h"
+#include "player/ModalWatch.h"
+#include "store/StorePath.h"
+#include "upkeep/Backup.h"
 #include "upkeep/BackupPlace.h"
-#include "upkeep/Restore.h"
+#include "upkeep/health/SupportReport.h"
 
 using namespace Qt::StringLiterals;
 
@@ -24,52 +39,208 @@ QString PictureOfPage(const QString& className) {
     return u"manager-"_s + className.chopped(4).toLower();
 }
 
-// A backup that is there, and the question before it is restored.
-void LookAtBackups(manager::ManagerWindow& window, const QString& shop, const Cashier::Camera& camera) {
-    const QString stick = shop + u"-stick"_s;
-    QDir().mkdir(stick);
-    upkeep::ChooseBackupFolder(stick, shop);
-    ReadInstallation();
-    for (const auto& page : {u"HealthPage"_s, u"BackupPage"_s}) {
-        window.ShowPage(page);
-        drivers::Settle();
-    }
-    auto& page = dynamic_cast<manager::BackupPage&>(*forms::FindForm(u"BackupPage"));
-    page.ui.cmdNow->click();
-    drivers::Settle();
-    camera(window, u"manager-backup-made"_s);
-    const auto backups = upkeep::ListBackups(stick, shop);
-    if (backups.isEmpty()) throw std::runtime_error("no backup was made");
-    upkeep::RestorePreview preview = upkeep::PreviewRestore(shop, backups.first());
-    preview.days.first().one.invoices += 3;  // sold since
-    preview.days.first().one.takings += values::Money::FromWhole(27);
-    manager::BackupRestore question(preview);
-    question.Show();
-    drivers::Settle();
-    camera(question, u"manager-backup-restore"_s);
-    question.Unload();
+// What differs from machine to machine is always the same in a picture.
+QString OnAnyMachine(QString report) {
+    const std::pair<QString, QString> facts[] = {
+        {u"Qt"_s, u"6.4.2"_s},
+        {u"system"_s, u"Debian GNU/Linux 12 (bookworm)"_s},
+        {u"kernel"_s, u"linux 6.1.0"_s},
+        {u"processor"_s, u"x86_64"_s},
+        {u"language"_s, u"en_US.UTF-8"_s},
+        {u"disk of the folder"_s, u"182400 MB free of 243000 MB, ext4"_s},
+        {u"engine"_s, u"SQLite 3.40.1"_s},
+    };
+    for (const auto& [name, value] : facts)
+        report.replace(QRegularExpression(u"\\n  %1: [^\\n]*"_s.arg(name)), u"\n  %1: %2"_s.arg(name, value));
+    return report;
 }
 
-}  // namespace
+void ShowSupport(const QString& shop, const Cashier::Camera& camera) {
+    manager::SupportForm form(OnAnyMachine(upkeep::SupportReport(shop)));
+    form.Show();
+    drivers::Settle();
+    camera(form, u"manager-support"_s);
+}
 
-void LookAtManager(const QString& shop, const Cashier::Camera& camera) {
+// The day after the backup, on which more was sold.
+void ShowRestore(const QString& shop, const Cashier::Camera& camera) {
+    const auto backups = upkeep::ListBackups(upkeep::ReadBackupPlan(shop).folder, shop);
+    if (backups.isEmpty()) throw std::runtime_error("no backup was made");
+    upkeep::RestorePreview preview = upkeep::PreviewRestore(shop, backups.first());
+    const QDate day(2026, 11, 25);
+    preview.days.prepend({.one = {.day = day, .invoices = 4, .takings = values::Money::FromUnits(312000), .tax = {}},
+                          .other = {.day = day, .invoices = 0, .takings = {}, .tax = {}}});
+    manager::RestoreForm form(preview);
+    form.Show();
+    drivers::Settle();
+    camera(form, u"manager-restore"_s);
+}
+
+void ShowSteps(manager::ManagerWindow& window, const Cashier::Camera& camera) {
+    auto* steps = window.findChild<QTabWidget*>(u"tabSteps"_s);
+    for (const QString& picture : {u"taxes"_s, u"password"_s, u"users"_s, u"register"_s}) {
+        steps->setCurrentIndex(steps->currentIndex() + 1);
+        drivers::Settle();
+        camera(window, u"manager-setup-"_s + picture);
+    }
+    steps->setCurrentIndex(0);
+}
+
+void ChooseGoods(const manager::ManagerWindow& window) {
+    window.findChild<QComboBox*>(u"cboGroup"_s)->setCurrentIndex(1);
+    window.findChild<QPushButton*>(u"cmdAddAll"_s)->click();
+    window.findChild<QSpinBox*>(u"spnCopies"_s)->setValue(3);
+    drivers::Settle();
+}
+
+// What comes of the goods that were chosen.
+void ShowLabels(manager::ManagerWindow& window, const Cashier::Camera& camera) {
+    auto* parts = window.findChild<QTabWidget*>(u"tabParts"_s);
+    for (const QString& picture : {u"sheet"_s, u"prices"_s}) {
+        parts->setCurrentIndex(parts->currentIndex() + 1);
+        drivers::Settle();
+        camera(window, u"manager-labels-"_s + picture);
+    }
+    auto* sheets = window.findChild<QComboBox*>(u"cboSheet"_s);
+    sheets->setCurrentIndex(sheets->findText(u"Own size on A4"_s));
+    parts->setCurrentIndex(1);
+    drivers::Settle();
+    camera(window, u"manager-labels-own"_s);
+}
+
+// A table with a bit of everything.
+void ReadTable(const QString& shop) {
+    auto& page = dynamic_cast<manager::GoodsPage&>(*forms::FindForm(u"GoodsPage"));
+    const QString path = QFileInfo(shop).path() + u"/prices.csv"_s;
+    QFile table(path);
+    if (!table.open(QIODevice::WriteOnly)) throw std::runtime_error("the table can't be written");
+    table.write(
+        "Artikelnummer;Bezeichnung;VK-Preis;Bestand;MwSt;Einheit\n3850101040019;Mlijeko 2,8 % 1 l;2,45;;P;Stk.\n"
+        "4001;K\xC3\xA4se jung;14,90;6,5;P;kg\n4002;Brot;\"1,2,3\";;P;Stk.\n3,85E+12;Wasser;1,10;;P;Stk.\n");
+    table.close();
+    page.ui.txtFile->setText(path);
+    for (const int separator : {1, 0}) page.ui.cboSeparator->setCurrentIndex(separator);
+    drivers::Settle();
+}
+
+// What a shop has that was set up well.
+void BackUp(const QString& shop) {
+    const QString place = QFileInfo(shop).path() + u"/stick"_s;
+    QDir().mkpath(place);
+    upkeep::ChooseBackupFolder(place, shop);
+    upkeep::MakeBackup(shop, upkeep::ReadBackupPlan(shop));
+}
+
+manager::ManagerWindow& LogIn(const QString& shop, const Cashier::Camera& camera) {
     drivers::ForgetProgram();
     manager::StartManager(shop);
     drivers::Settle();
     auto& login = dynamic_cast<manager::ManagerLogin&>(*forms::FindForm(u"ManagerLogin"));
     login.ui.cboUser->setCurrentText(u"admin"_s);
-    camera(login, u"manager-login"_s);
+    if (camera) camera(login, u"manager-login"_s);
     login.ui.txtPassword->setText(u"1234"_s);
     login.ui.cmdLogin->click();
     drivers::Settle();
-    auto& window = dynamic_cast<manager::ManagerWindow&>(*forms::FindForm(u"ManagerWindow"));
-    for (const auto& entry : manager::AllPages()) {
-        window.ShowPage(entry.className);
+    return dynamic_cast<manager::ManagerWindow&>(*forms::FindForm(u"ManagerWindow"));
+}
+
+template <typename T>
+T& PageOf(manager::ManagerWindow& window, const QString& className) {
+    window.ShowPage(className);
+    drivers::Settle();
+    auto& page = dynamic_cast<T&>(*forms::FindForm(className));
+    while (page.IsBusy()) drivers::Settle();
+    return page;
+}
+
+// Weeks and months in figures, the invoices behind one of them, and a drawer that is counted.
+void LookAtOlderShop(const QString& shop, const Cashier::Camera& camera) {
+    delivery::MakeProgramFolder(shop, {.withDemo = true});
+    delivery::TradeForWeeks(*store::Database::Open(store::MainPlace(shop), store::MainSchema()), values::Today());
+    auto& window = LogIn(shop, {});
+    QStringList views{u"manager-invoices"_s, u"manager-receipt"_s};
+    const drivers::ModalWatch watch(
+        [&](QWidget& modal) {
+            if (auto* box = qobject_cast<QMessageBox*>(&modal)) {
+                box->accept();
+            } else if (auto* view = qobject_cast<manager::InvoicesView*>(&modal)) {
+                view->ui.lstInvoices->Select(4);
+                camera(*view, views[0]);
+                view->ui.cmdReceipt->click();
+                drivers::Settle();
+                camera(*view, views[1]);
+                view->Unload();
+            } else {
+                camera(modal, u"manager-notesandcoins"_s);
+                drivers::CloseByForce(modal);
+            }
+            return true;
+        },
+        [](const QWidget&) {});
+
+    auto& overview = PageOf<manager::OverviewPage>(window, u"OverviewPage"_s);
+    camera(window, u"manager-overview"_s);
+    auto* takings = window.findChild<manager::Chart*>(u"chtTakings"_s);
+    takings->setFocus();
+    drivers::Keys(u"{Home}{Right}{Right}"_s);
+    window.findChild<manager::Chart*>(u"chtTaxes"_s)->setFocus();
+    drivers::Settle();
+    camera(window, u"manager-overview-below"_s);
+    takings->setFocus();
+    overview.ui.cmdTable->click();
+    overview.ui.cmdWeek->click();
+    drivers::Settle();
+    camera(window, u"manager-overview-tables"_s);
+    overview.ui.cmdTable->click();
+    takings->setFocus();
+    drivers::Keys(u"{End}{Enter}"_s);
+
+    auto& drawer = PageOf<manager::DrawerPage>(window, u"DrawerPage"_s);
+    const auto count = [&](std::initializer_list<const char16_t*> pieces, const QString& remark) {
+        drawer.ui.txtPutIn->setText(u"100.00"_s);
+        drawer.ui.txtTakenOut->setText(u"50.00"_s);
+        drawer.ui.txtRemark->setText(remark);
+        int number = 0;
+        for (const char16_t* each : pieces)
+            window.findChild<QLineEdit*>(u"txtPieces%1"_s.arg(number++))->setText(QString::fromUtf16(each));
         drivers::Settle();
-        camera(window, PictureOfPage(entry.className));
-    }
-    LookAtBackups(window, shop, camera);
+    };
+    count({u"", u"1", u"1", u"2", u"3", u"2", u"4", u"6", u"3", u"9", u"4", u"5"}, u"at noon"_s);
+    drawer.ui.cmdKeep->click();
+    count({u"", u"1", u"1", u"2", u"3", u"2", u"4", u"6", u"2", u"8", u"4", u"5"}, {});
+    camera(window, u"manager-drawer"_s);
+    drawer.ui.cmdKeep->click();
+    drawer.ui.cmdPieces->click();
+    drawer.ui.tabParts->setCurrentIndex(1);
+    drivers::Settle();
+    camera(window, u"manager-drawer-earlier"_s);
     drivers::ForgetProgram();
+}
+
+}  // namespace
+
+void LookAtManager(const QString& shop, const Cashier::Camera& camera) {
+    const DayClock clock(QDateTime(QDate(2026, 11, 24), QTime(18, 5)));
+    BackUp(shop);
+    auto& window = LogIn(shop, camera);
+    for (const auto& entry : manager::AllPages()) {
+        // Of days alone they show too little.
+        if (entry.className == u"OverviewPage" || entry.className == u"DrawerPage") continue;
+        // What has to be done shows on a shop that sold more than it had.
+        if (entry.className == u"HealthPage")
+            MainStore().Execute(u"UPDATE Products SET Qty = -2 WHERE ProdCode = '3850101040859'"_s);
+        PageOf<manager::Page>(window, entry.className);
+        if (entry.className == u"GoodsPage") ReadTable(shop);
+        if (entry.className == u"LabelsPage") ChooseGoods(window);
+        if (auto* prices = dynamic_cast<manager::PricesPage*>(forms::FindForm(entry.className)))
+            prices->ui.txtPercent->setText(u"4"_s);
+        camera(window, PictureOfPage(entry.className));
+        if (entry.className == u"LabelsPage") ShowLabels(window, camera);
+        if (entry.className == u"HealthPage") ShowSupport(shop, camera);
+        if (entry.className == u"SetupPage") ShowSteps(window, camera);
+        if (entry.className == u"BackupPage") ShowRestore(shop, camera);
+    }
+    LookAtOlderShop(shop + u"-of-weeks"_s, camera);
 }
 
 }  // namespace screens

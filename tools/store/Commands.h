@@ -17,6 +17,9 @@ void Sql(const QString& folder, const QString& text, Which which);
 void Insert(const QString& folder, const QString& table, const QStringList& fields, Which which);
 void Load(const QString& folder, const QString& table, const QString& file);
 void Check(const QString& folder);
+// What whoever helps has to know, without names and sales: in a file, or where none is named on standard output.
+void Report(const QString& folder, const QString& file);
+// The main store alone, as a file.
 void Backup(const QString& folder, const QString& file);
 // Of the whole register; where nothing is named, into the folder that velton.ini names.
 void BackupRegister(const QString& folder, const QString& to);
@@ -24,6 +27,18 @@ void Backups(const QString& folder, const QString& in);
 void Restore(const QString& folder, const QString& backup, const QString& in);
 // To a server, or into the folder where the address is empty.
 void Move(const QString& folder, const QString& address);
+
+// Goods from a table; what is not said is guessed from it.
+struct ImportCall {
+    QStringList map;  // COLUMN=FIELD
+    QString encoding, separator, decimal, unit, tax;
+    bool dryRun = false, addOnly = false, updateOnly = false, keepPrice = false, keepQuantity = false,
+         skipRefused = false;
+};
+void Import(const QString& folder, const QString& file, const ImportCall& call);
+void UndoImport(const QString& folder);
+// `what`: goods or customers.
+void Export(const QString& folder, const QString& what, const QString& file);
 
 // The store of a program's folder, the main one where store.ini says.
 std::unique_ptr<store::Database> OpenStore(const QString& folder, Which which);

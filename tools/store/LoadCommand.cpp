@@ -23,7 +23,8 @@ void Warn(const Findings& findings) {
 // Goods that the till could not sell go in all the same, but not without a word.
 RowLook LookAtGoods(store::Database& database, Findings& findings) {
     return [faults = GoodsFaults(database), &findings](store::Recordset& row, qint64 line) {
-        for (const QString& fault : faults.Of(row)) findings.Note(fault, u"line %1"_s.arg(line));
+        for (const upkeep::GoodsFault& fault : faults.Of(row))
+            findings.Note(fault.words, u"line %1"_s.arg(line), fault.kind);
     };
 }
 

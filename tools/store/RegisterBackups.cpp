@@ -37,6 +37,16 @@ QByteArray Line(const upkeep::BackupFacts& backup) {
            '\n';
 }
 
+// The days that are others by a restore.
+QByteArray Changes(const upkeep::RestorePreview& preview) {
+    QByteArray lines;
+    for (const auto& [one, other] : preview.days)
+        if (one != other)
+            lines += WriteValue(one.day) + ": " + WriteValue(one.invoices) + " invoices, " + WriteValue(one.takings) +
+                     " become " + WriteValue(other.invoices) + ", " + WriteValue(other.takings) + '\n';
+    return lines;
+}
+
 }  // namespace
 
 void BackupRegister(const QString& folder, const QString& to) {
@@ -61,8 +71,11 @@ void Backups(const QString& folder, const QString& in) {
 
 void Restore(const QString& folder, const QString& backup, const QString& in) {
     const QString place = in.isEmpty() ? upkeep::ReadBackupPlan(folder).folder : in;
-    const upkeep::Restored restored = upkeep::RestoreBackup(folder, upkeep::FindBackup(backup, place, folder));
+    const upkeep::BackupFacts found = upkeep::FindBackup(backup, place, folder);
+    const QByteArray changes = found.fault.isEmpty() ? Changes(upkeep::PreviewRestore(folder, found)) : QByteArray();
+    const upkeep::Restored restored = upkeep::RestoreBackup(folder, found);
     Output output;
+    output.Write(changes);
     output.Write(u"Restored %1 invoices of %2 days.\nWhat was replaced is kept in %3.\n"_s
                      .arg(QString::number(restored.invoices), QString::number(restored.days), restored.keptAs)
                      .toUtf8());

@@ -29,11 +29,14 @@ int Report(int number, const QString& description) {
 
 // What the command line gave, in bytes.
 struct Arguments {
-    std::string folder, table, file, text, server, backups, backup;
+    std::string folder, table, file, text, server, place;
     std::vector<std::string> fields;
     bool withDemo = false;
     bool options = false;
     bool toFile = false;
+    std::vector<std::string> map;
+    std::string encoding, separator, decimal, unit, tax;
+    tool::ImportCall import = {};
 
     tool::Which Store() const { return options ? tool::Which::Options : tool::Which::Main; }
 };
@@ -55,23 +58,57 @@ CLI::App* AddCall(CLI::App& app, Arguments& arguments, const char* name, const c
 }
 
 void AddBackupCalls(CLI::App& app, Arguments& a) {
+    constexpr auto usualPlace = "The folder for backups; that of velton.ini when it is not said";
     CLI::App* call = AddCall(app, a, "backup", "Backs up the whole register, or copies the main store, at work");
     CLI::Option* file = call->add_option("FILE", a.file, "A copy of the main store alone, a file that does not exist");
-    call->add_option("--to", a.backups, "A folder for backups; that of velton.ini when it is not said")->excludes(file);
+    call->add_option("--to", a.place, usualPlace)->excludes(file);
     call->callback([&a] {
-        a.file.empty() ? tool::BackupRegister(Text(a.folder), Text(a.backups))
+        a.file.empty() ? tool::BackupRegister(Text(a.folder), Text(a.place))
                        : tool::Backup(Text(a.folder), Text(a.file));
     });
 
-    constexpr auto usualIn = "The folder for backups; that of velton.ini when it is not said";
     call = AddCall(app, a, "backups", "Lists the backups, the newest first");
-    call->add_option("--in", a.backups, usualIn);
-    call->callback([&a] { tool::Backups(Text(a.folder), Text(a.backups)); });
+    call->add_option("--in", a.place, usualPlace);
+    call->callback([&a] { tool::Backups(Text(a.folder), Text(a.place)); });
 
     call = AddCall(app, a, "restore", "Puts a backup in the place of the register's data, while no till runs");
-    call->add_option("BACKUP", a.backup, "Its name, or its folder")->required();
-    call->add_option("--in", a.backups, usualIn);
-    call->callback([&a] { tool::Restore(Text(a.folder), Text(a.backup), Text(a.backups)); });
+    call->add_option("BACKUP", a.file, "Its name, or its folder")->required();
+    call->add_option("--in", a.place, usualPlace);
+    call->callback([&a] { tool::Restore(Text(a.folder), Text(a.file), Text(a.place)); });
+}
+
+void AddGoodsCalls(CLI::App& app, Arguments& a) {
+    CLI::App* call = AddCall(app, a, "import", "Takes goods from a table that a spreadsheet saved as CSV, all or none");
+    call->add_option("FILE", a.file, "The table; its first row names the columns")->required();
+    call->add_option("--map", a.map, "COLUMN=FIELD, a heading or number and code, name, price, unit, tax, quantity");
+    call->add_flag("--dry-run", a.import.dryRun, "Only tells what would be done");
+    call->add_flag("--skip-refused", a.import.skipRefused, "Writes the others where some rows are refused");
+    CLI::Option* addOnly = call->add_flag("--add-only", a.import.addOnly, "Leaves goods that are there alone");
+    call->add_flag("--update-only", a.import.updateOnly, "Leaves new goods out")->excludes(addOnly);
+    call->add_flag("--keep-price", a.import.keepPrice, "Leaves the prices of goods that are there alone");
+    call->add_flag("--keep-quantity", a.import.keepQuantity, "Leaves their quantities alone");
+    call->add_option("--unit", a.unit, "Of new goods where the table has none");
+    call->add_option("--tax", a.tax, "Of new goods where the table has none");
+    call->add_option("--encoding", a.encoding, "UTF-8, windows-1250 and so on; guessed");
+    call->add_option("--separator", a.separator, "; or , or tab; guessed");
+    call->add_option("--decimal", a.decimal, "The decimal sign, . or ,; guessed")->check(CLI::IsMember({".", ","}));
+    call->callback([&a] {
+        a.import.map = Texts(a.map);
+        a.import.encoding = Text(a.encoding);
+        a.import.separator = Text(a.separator);
+        a.import.decimal = Text(a.decimal);
+        a.import.unit = Text(a.unit);
+        a.import.tax = Text(a.tax);
+        tool::Import(Text(a.folder), Text(a.file), a.import);
+    });
+
+    call = AddCall(app, a, "undo-import", "Takes the last import of goods back");
+    call->callback([&a] { tool::UndoImport(Text(a.folder)); });
+
+    call = AddCall(app, a, "export", "Writes goods or customers for a spreadsheet");
+    call->add_option("WHAT", a.text, "goods or customers")->required();
+    call->add_option("FILE", a.file, "NAME.csv; of goods also NAME.xlsx")->required();
+    call->callback([&a] { tool::Export(Text(a.folder), Text(a.text), Text(a.file)); });
 }
 
 void AddCalls(CLI::App& app, Arguments& a) {
@@ -100,6 +137,10 @@ void AddCalls(CLI::App& app, Arguments& a) {
     call = AddCall(app, a, "check", "Looks both stores over; damage gives 1, notes alone give 0");
     call->callback([&a] { tool::Check(Text(a.folder)); });
 
+    call = AddCall(app, a, "report", "Tells whoever helps of the register, without names, sales and passwords");
+    call->add_option("FILE", a.file, "Where to, instead of standard output");
+    call->callback([&a] { tool::Report(Text(a.folder), Text(a.file)); });
+
     AddBackupCalls(app, a);
 
     call = AddCall(app, a, "move", "Moves the main store to a server or back, while no till runs");
@@ -116,6 +157,7 @@ int Run(int argc, char** argv) {
     app.require_subcommand(1);
     Arguments arguments;
     AddCalls(app, arguments);
+    AddGoodsCalls(app, arguments);
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {

@@ -5,6 +5,7 @@
 
 #include "masterdata/clicktable/CategoryTabs.h"
 #include "masterdata/clicktable/TouchButton.h"
+#include "store/Schema.h"
 
 // The grid of touch buttons that till and set-up show: the tab strip SSTab1 with ten tabs, 32 buttons to a tab, the
 // array Command2 from 0 to 319 in the order of the tabs.
@@ -13,7 +14,7 @@ class ClickTable : public QWidget {
 
 public:
     static constexpr int TabCount = 10;
-    static constexpr int ButtonsPerTab = 32;
+    static constexpr int ButtonsPerTab = store::PlacesPerTab;
     static constexpr int ButtonCount = TabCount * ButtonsPerTab;
 
     explicit ClickTable(QWidget* parent = nullptr);

@@ -54,6 +54,7 @@ public:
     void Retire() override;
     void RetireFor(const Place& successor) override;
 
+    QString Version() override;
     QStringList CheckIntegrity() override;
     QStringList MissingIndexes(const Schema& schema) override;
     void BackupTo(const QString& path) override;

@@ -17,6 +17,10 @@ std::unique_ptr<Engine> PostgresEngine::OpenBeside() {
     }
 }
 
+QString PostgresEngine::Version() {
+    return u"PostgreSQL "_s + connection_->Read("SELECT current_setting('server_version')").Text(0, 0);
+}
+
 // Every row is read whole, so that what the server finds damaged shows.
 QStringList PostgresEngine::CheckIntegrity() {
     QStringList faults;

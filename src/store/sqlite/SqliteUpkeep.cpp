@@ -1,9 +1,6 @@
 #include <sqlite3.h>
 
-#include <QFileInfo>
-
 #include "store/sqlite/Disk.h"
-#include "store/sqlite/OpenSqlite.h"
 #include "store/sqlite/PreparedPlan.h"
 #include "store/sqlite/SqliteError.h"
 #include "store/sqlite/SqliteSchema.h"
@@ -46,28 +43,7 @@ void CheckCopy(const QString& path) {
     if (!faults.empty()) throw StoreError(NotAStore, u"The copy is damaged: %1"_s.arg(faults.first()));
 }
 
-void MakeCopy(const QString& path, Connection& source) {
-    NewFile file(path);
-    try {
-        CopyInto(file.Path(), source);
-        CheckCopy(file.Path());
-    } catch (const SqliteError& error) {
-        ThrowCode(error.Code(), error.Message(), u"copying to %1"_s.arg(path));
-    }
-    file.Finish();
-}
-
 }  // namespace
-
-void CopyFile(const QString& from, const QString& to) {
-    if (!QFileInfo(from).isFile()) throw StoreError(FileNotFound, u"The store %1 was not found."_s.arg(from));
-    try {
-        Connection source(from, false, 4000ms);
-        MakeCopy(to, source);
-    } catch (const SqliteError& error) {
-        ThrowCode(error.Code(), error.Message(), u"copying %1"_s.arg(from));
-    }
-}
 
 void SqliteEngine::AskWhileWorking(std::function<bool()> goesOn) {
     goesOn_ = std::move(goesOn);
@@ -90,6 +66,10 @@ std::unique_ptr<Engine> SqliteEngine::OpenBeside() {
     }
 }
 
+QString SqliteEngine::Version() {
+    return u"SQLite "_s + QString::fromLatin1(sqlite3_libversion());
+}
+
 QStringList SqliteEngine::CheckIntegrity() {
     return FaultsOf(*connection_);
 }
@@ -100,7 +80,14 @@ QStringList SqliteEngine::MissingIndexes(const Schema& schema) {
 
 void SqliteEngine::BackupTo(const QString& path) {
     if (InTransaction()) throw StoreError(NotSupported, u"No copy can be made while a batch is open."_s);
-    MakeCopy(path, *connection_);
+    NewFile file(path);
+    try {
+        CopyInto(file.Path(), *connection_);
+        CheckCopy(file.Path());
+    } catch (const SqliteError& error) {
+        ThrowCode(error.Code(), error.Message(), u"copying to %1"_s.arg(path));
+    }
+    file.Finish();
 }
 
 QString SqliteEngine::Explain(const dialect::Query& query) {

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+
+#include "upkeep/BackupState.h"
+#include "values/Money.h"
+
+namespace manager {
+
+// A moment, an amount and a size as the owner's pages show them.
+QString MomentText(const QDateTime& moment);
+QString AmountText(values::Money amount);
+QString SizeText(qint64 bytes);
+// The last good backup with its size and place, or that there is none.
+QString LastBackupText(const upkeep::BackupState& state);
+
+}  // namespace manager

@@ -1,0 +1,170 @@
+#include "manager/backup/BackupPage.h"
+
+#include "core/Installation.h"
+#include "core/dbModule.h"
+#include "forms/FileDialog.h"
+#include "forms/MsgBox.h"
+#include "manager/Beside.h"
+#include "manager/Start.h"
+#include "manager/Texts.h"
+#include "manager/backup/RestoreForm.h"
+#include "output/Folder.h"
+#include "store/StoreError.h"
+#include "upkeep/Backup.h"
+#include "upkeep/BackupPlace.h"
+#include "values/DateText.h"
+
+using namespace Qt::StringLiterals;
+using output::ProgramFolder;
+using upkeep::BackupFacts;
+using upkeep::BackupPlan;
+
+namespace manager {
+
+BackupPage::BackupPage(QWidget* parent) : Page(parent) {
+    ui.setupUi(this);
+    ui.spnDays->setRange(BackupPlan::LeastDays, BackupPlan::Most);
+    for (QSpinBox* count : {ui.spnWeeks, ui.spnMonths}) count->setRange(0, BackupPlan::Most);
+    ui.lstBackups->SetColumns({{tr("Made"), Qt::AlignLeft, 160},
+                               {tr("Size"), Qt::AlignRight, 90},
+                               {tr("Invoices"), Qt::AlignRight, 80},
+                               {tr("Last day"), Qt::AlignLeft, 110},
+                               {tr("Its takings"), Qt::AlignRight, 110},
+                               {tr("State"), Qt::AlignLeft, -1}});
+    ui.lstBackups->SetEmptyText(tr("There are no backups yet."));
+    On(ui.cmdChoose, &BackupPage::cmdChoose_Click);
+    On(ui.cmdSave, &BackupPage::cmdSave_Click);
+    On(ui.cmdBackup, &BackupPage::cmdBackup_Click);
+    On(ui.cmdRestore, &BackupPage::cmdRestore_Click);
+    OnDoubleClick(ui.lstBackups, &BackupPage::cmdRestore_Click);
+}
+
+void BackupPage::Form_Load() {
+    ShowPlan();
+}
+
+// A till may have made one meanwhile.
+void BackupPage::Form_Activate() {
+    ShowAll();
+}
+
+void BackupPage::ShowAll() {
+    ShowState();
+    ShowBackups();
+    Q_EMIT ShopChanged();
+}
+
+void BackupPage::ShowPlan() {
+    const BackupPlan& plan = TheInstallation.backup;
+    ui.spnDays->setValue(plan.days);
+    ui.spnWeeks->setValue(plan.weeks);
+    ui.spnMonths->setValue(plan.months);
+    ui.cmdBackup->setEnabled(!plan.folder.isEmpty());
+    if (plan.folder.isEmpty())
+        ui.lblFolder->setText(
+            tr("No folder has been chosen yet, and the till makes no backups. Choose one on a second "
+               "disk, on a stick or in the network."));
+    else if (upkeep::IsOnSameDisk(plan.folder, ProgramFolder()))
+        ui.lblFolder->setText(
+            tr("Backups go to %1, on the same disk as the shop: if it breaks, both are lost.").arg(plan.folder));
+    else
+        ui.lblFolder->setText(tr("Backups go to %1.").arg(plan.folder));
+}
+
+void BackupPage::ShowState() {
+    const upkeep::BackupState state = upkeep::ReadBackupState(ProgramFolder());
+    const bool hasFailed = state.failed.isValid() && !(state.failed < state.good);
+    ui.lblState->setText(
+        hasFailed ? tr("%1.\nThe try of %2 failed: %3").arg(LastBackupText(state), MomentText(state.failed), state.why)
+                  : tr("%1.").arg(LastBackupText(state)));
+}
+
+void BackupPage::ShowBackups() {
+    const int row = ui.lstBackups->Selected();
+    const QString chosen = row < 0 ? QString() : backups_[row].path;
+    backups_.clear();
+    if (!TheInstallation.backup.folder.isEmpty())
+        backups_ = upkeep::ListBackups(TheInstallation.backup.folder, ProgramFolder());
+    ui.lstBackups->Clear();
+    for (const BackupFacts& backup : std::as_const(backups_)) {
+        const bool hasSold = backup.lastDay.day.isValid();
+        const QString state = !backup.fault.isEmpty() ? backup.fault
+                              : backup.isOwn          ? tr("Checked")
+                                                      : tr("Checked, of %1").arg(backup.registerName);
+        ui.lstBackups->Add({backup.made.isValid() ? MomentText(backup.made) : backup.Name(), SizeText(backup.bytes),
+                            QString::number(backup.invoices),
+                            hasSold ? values::DateText(backup.lastDay.day) : QString(),
+                            hasSold ? AmountText(backup.lastDay.takings) : QString(), state});
+        if (backup.path == chosen) ui.lstBackups->Select(ui.lstBackups->Count() - 1);
+    }
+    ui.cmdRestore->setEnabled(!backups_.isEmpty());
+    if (ui.lstBackups->Selected() < 0 && !backups_.isEmpty()) ui.lstBackups->Select(0);
+}
+
+void BackupPage::cmdChoose_Click() {
+    const QString folder = forms::AskFolder(this, tr("The folder for backups"));
+    if (folder.isEmpty()) return;
+    upkeep::ChooseBackupFolder(folder, ProgramFolder());
+    ReadInstallation();
+    ShowPlan();
+    ShowAll();
+}
+
+void BackupPage::cmdSave_Click() {
+    upkeep::KeepSoMany(
+        {.folder = {}, .days = ui.spnDays->value(), .weeks = ui.spnWeeks->value(), .months = ui.spnMonths->value()},
+        ProgramFolder());
+    ReadInstallation();
+    ShowPlan();
+}
+
+void BackupPage::cmdBackup_Click() {
+    try {
+        RunBeside(this, tr("The register is being backed up."), [](const Progress& progress) {
+            upkeep::MakeBackup(ProgramFolder(), TheInstallation.backup, progress);
+        });
+    } catch (const values::Error& error) {
+        if (error.Number() != store::Cancelled) forms::Tell(error.Description(), forms::Icon::Warning, Caption());
+    }
+    ShowAll();
+}
+
+void BackupPage::cmdRestore_Click() {
+    const int row = ui.lstBackups->Selected();
+    if (row < 0) return;
+    const BackupFacts backup = backups_[row];
+    if (!backup.fault.isEmpty())
+        return forms::Tell(tr("This backup can't be restored: %1").arg(backup.fault), forms::Icon::Warning, Caption());
+    upkeep::RestorePreview preview;
+    RunBeside(this, tr("The shop and the backup are being compared."),
+              [&](const Progress&) { preview = upkeep::PreviewRestore(ProgramFolder(), backup); });
+    RestoreForm question(preview);
+    question.ShowModal();
+    if (question.IsAgreed()) Restore(backup);
+}
+
+// The window works on the same stores; whatever becomes of them, they are opened again.
+void BackupPage::Restore(const BackupFacts& backup) {
+    bool goes = true;
+    Q_EMIT ShopGoes(&goes);
+    if (!goes) return;
+    upkeep::Restored restored;
+    QString why;
+    CloseStores();
+    try {
+        RunBeside(this, tr("The backup is being brought back."), [&](const Progress& progress) {
+            restored = upkeep::RestoreBackup(ProgramFolder(), backup, progress);
+        });
+    } catch (const values::Error& error) {
+        why = error.Description();
+    }
+    OpenShop();
+    ShowPlan();
+    ShowAll();
+    if (!why.isEmpty()) return forms::Tell(tr("Nothing was restored. %1").arg(why), forms::Icon::Warning, Caption());
+    forms::Inform(tr("The shop is as it was in the backup of %1, with %2 invoices. What was replaced is kept in %3.")
+                      .arg(MomentText(backup.made), QString::number(restored.invoices), restored.keptAs),
+                  Caption());
+}
+
+}  // namespace manager

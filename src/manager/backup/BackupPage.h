@@ -1,0 +1,37 @@
+#pragma once
+
+#include "manager/Page.h"
+#include "ui_BackupPage.h"
+#include "upkeep/BackupList.h"
+
+namespace manager {
+
+// Where the backups go and how many are kept, which there are, one made at once, and the way back.
+class BackupPage : public Page {
+    Q_OBJECT
+
+public:
+    explicit BackupPage(QWidget* parent);
+
+    Ui::BackupPage ui;
+
+protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+
+private:
+    void cmdChoose_Click();
+    void cmdSave_Click();
+    void cmdBackup_Click();
+    void cmdRestore_Click();
+
+    void ShowAll();
+    void ShowPlan();
+    void ShowState();
+    void ShowBackups();
+    void Restore(const upkeep::BackupFacts& backup);
+
+    QList<upkeep::BackupFacts> backups_;
+};
+
+}  // namespace manager

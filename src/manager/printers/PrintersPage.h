@@ -1,0 +1,32 @@
+#pragma once
+
+#include "manager/Page.h"
+#include "manager/printers/PortPanel.h"
+#include "ui_PrintersPage.h"
+
+namespace manager {
+
+// Where receipts and reports go, and whether what stands there prints.
+class PrintersPage : public Page {
+    Q_OBJECT
+
+public:
+    explicit PrintersPage(QWidget* parent);
+
+    Ui::PrintersPage ui;
+
+protected:
+    void Form_Load() override;
+
+private:
+    void cmdSave_Click();
+    void cmdLook_Click();
+    void cmdTestPage_Click();
+
+    output::PrinterFamily Family() const;
+    void TellOfPagePrinter();
+
+    QList<PortPanel*> ports_;
+};
+
+}  // namespace manager

@@ -1,0 +1,87 @@
+#include "manager/setup/SetupPage.h"
+
+#include <QSignalBlocker>
+
+#include "forms/MsgBox.h"
+#include "manager/setup/HeadingStep.h"
+#include "manager/setup/PasswordStep.h"
+#include "manager/setup/RegisterStep.h"
+#include "manager/setup/TaxesStep.h"
+#include "manager/setup/UsersStep.h"
+
+namespace manager {
+
+SetupPage::SetupPage(QWidget* parent) : Page(parent) {
+    ui.setupUi(this);
+    const std::pair<SetupStep*, QString> steps[] = {{new HeadingStep, tr("1 Receipt")},
+                                                    {new TaxesStep, tr("2 Taxes")},
+                                                    {new PasswordStep, tr("3 Password")},
+                                                    {new UsersStep, tr("4 Users")},
+                                                    {new RegisterStep, tr("5 Register")}};
+    for (const auto& [step, name] : steps) {
+        ui.tabSteps->addTab(step, name);
+        step->mayLeave = [this] { return LeaveStep(); };
+        connect(step, &SetupStep::Filled, this, [this, step = step] { filled_ = step->Boxes(); });
+        connect(step, &SetupStep::ShopChanged, this, &SetupPage::ShopChanged);
+    }
+    EnterMovesOn();
+    connect(ui.tabSteps, &QTabWidget::currentChanged, this, Guarded(&SetupPage::tabSteps_Changed));
+    On(ui.cmdSave, &SetupPage::cmdSave_Click);
+    On(ui.cmdNext, &SetupPage::cmdNext_Click);
+}
+
+void SetupPage::Form_Load() {
+    FillStep();
+}
+
+// A till, or another page, may have changed what an untouched step shows.
+void SetupPage::Form_Activate() {
+    if (!IsChanged()) FillStep();
+}
+
+bool SetupPage::Form_Unload() {
+    return LeaveStep();
+}
+
+SetupStep& SetupPage::Step() const {
+    return static_cast<SetupStep&>(*ui.tabSteps->widget(shown_));
+}
+
+bool SetupPage::IsChanged() const {
+    return filled_ != Step().Boxes();
+}
+
+void SetupPage::FillStep() {
+    Step().Fill();
+    filled_ = Step().Boxes();
+}
+
+bool SetupPage::LeaveStep() {
+    if (!IsChanged()) return true;
+    if (!forms::Ask(tr("Save what was changed?"), Caption())) return true;
+    return Step().Store();
+}
+
+void SetupPage::tabSteps_Changed() {
+    if (!LeaveStep()) {
+        const QSignalBlocker blocker(ui.tabSteps);
+        return ui.tabSteps->setCurrentIndex(shown_);
+    }
+    ui.lblSaved->clear();
+    shown_ = ui.tabSteps->currentIndex();
+    FillStep();
+    ui.cmdNext->setEnabled(shown_ + 1 < ui.tabSteps->count());
+}
+
+void SetupPage::cmdSave_Click() {
+    ui.lblSaved->clear();
+    if (!Step().Store()) return;
+    filled_ = Step().Boxes();
+    ui.lblSaved->setText(tr("Saved."));
+}
+
+void SetupPage::cmdNext_Click() {
+    ui.tabSteps->setCurrentIndex(shown_ + 1);
+}
+
+}  // namespace manager

@@ -1,0 +1,87 @@
+#include "manager/setup/UsersStep.h"
+
+#include "core/AccessLevels.h"
+#include "core/Session.h"
+#include "core/dbModule.h"
+
+using namespace Qt::StringLiterals;
+
+namespace manager {
+
+namespace {
+
+const auto UsersQuery = u"SELECT * FROM Users"_s;
+const auto UserQuery = u"SELECT * FROM Users WHERE UserID = %1"_s;
+const auto OtherOwnersQuery = u"SELECT UserID FROM Users WHERE AccLevel = '%1' AND UserID <> %2"_s;
+
+const auto Owner = QString::number(OwnersLevel);
+
+bool IsLastOwner(const QString& userID) {
+    return MainStore().OpenSnapshot(OtherOwnersQuery.arg(Owner, Quoted(userID))).AtEOF();
+}
+
+}  // namespace
+
+UsersStep::UsersStep() {
+    ui.setupUi(this);
+    ui.cboLevel->addItems({u"1"_s, u"2"_s, Owner});
+    ui.lstUsers->SetColumns(
+        {{tr("Number"), Qt::AlignLeft, 110}, {tr("Name"), Qt::AlignLeft, -1}, {tr("Level"), Qt::AlignLeft, 100}});
+    Begin({.list = ui.lstUsers,
+           .first = ui.txtUserID,
+           .add = ui.cmdNewUser,
+           .remove = ui.cmdRemoveUser,
+           .query = UsersQuery,
+           .rowQuery = UserQuery,
+           .duplicate = tr("There is a user with this number or this name already."),
+           .isProtected = tr("This user can't be removed, but name, level and password can be changed."),
+           .question = tr("Remove the user \"%1\"?")});
+}
+
+QStringList UsersStep::CellsOf(store::Recordset& user) const {
+    return {user[u"UserID"].TextOrEmpty(), user[u"UserName"].TextOrEmpty(), user[u"AccLevel"].TextOrEmpty()};
+}
+
+void UsersStep::Clear() {
+    for (QLineEdit* box : {ui.txtUserID, ui.txtUserName, ui.txtUserPassword}) box->clear();
+    ui.txtUserID->setReadOnly(false);
+    ui.cboLevel->setCurrentIndex(0);
+}
+
+// Invoices and logins name a user by the number.
+void UsersStep::Show(store::Recordset& user) {
+    ui.txtUserID->setText(user[u"UserID"].TextOrEmpty());
+    ui.txtUserID->setReadOnly(true);
+    ui.txtUserName->setText(user[u"UserName"].TextOrEmpty());
+    ui.cboLevel->setCurrentIndex(ui.cboLevel->findText(user[u"AccLevel"].TextOrEmpty()));
+    ui.txtUserPassword->setText(user[u"Password"].TextOrEmpty());
+}
+
+// The full name is the user name, as the till has it.
+void UsersStep::Write(store::Recordset& user) const {
+    user[u"UserID"] = ui.txtUserID->text().trimmed();
+    user[u"UserName"] = user[u"UserFullName"] = ui.txtUserName->text().trimmed();
+    user[u"UserPosition"] = u""_s;
+    user[u"AccLevel"] = ui.cboLevel->currentText();
+    user[u"Password"] = ui.txtUserPassword->text();
+}
+
+std::pair<QString, QWidget*> UsersStep::Fault() const {
+    const QString number = ui.txtUserID->text().trimmed();
+    if (number.isEmpty()) return {tr("The user needs a number."), ui.txtUserID};
+    if (ui.txtUserName->text().trimmed().isEmpty())
+        return {tr("The user needs a name to log in with."), ui.txtUserName};
+    if (ui.cboLevel->currentIndex() < 0) return {tr("Choose a level from 1 to 3."), ui.cboLevel};
+    if (ui.cboLevel->currentText() != Owner && IsLastOwner(number))
+        return {tr("Somebody has to keep level 3, or nobody can set up the shop any more."), ui.cboLevel};
+    return {};
+}
+
+QString UsersStep::WhyItStays(store::Recordset& user) const {
+    const QString number = user[u"UserID"].TextOrEmpty();
+    if (number == TheSession.SessionUserID) return tr("This is the user who has logged in here.");
+    return IsLastOwner(number) ? tr("Somebody has to keep level 3, or nobody can set up the shop any more.")
+                               : QString();
+}
+
+}  // namespace manager
