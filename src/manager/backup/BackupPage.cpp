@@ -69,6 +69,7 @@ void BackupPage::ShowPlan() {
             tr("Backups go to %1, on the same disk as the shop: if it breaks, both are lost.").arg(plan.folder));
     else
         ui.lblFolder->setText(tr("Backups go to %1.").arg(plan.folder));
+    ui.lblFolder->setToolTip(plan.folder);
 }
 
 void BackupPage::ShowState() {
@@ -77,6 +78,7 @@ void BackupPage::ShowState() {
     ui.lblState->setText(
         hasFailed ? tr("%1.\nThe try of %2 failed: %3").arg(LastBackupText(state), MomentText(state.failed), state.why)
                   : tr("%1.").arg(LastBackupText(state)));
+    ui.lblState->setToolTip(ui.lblState->text());
 }
 
 void BackupPage::ShowBackups() {
