@@ -125,8 +125,7 @@ private:
         if (days_ != DaysOf(backup_))
             throw store::StoreError(store::NotAStore,
                                     Words::tr("The days in the backup's shop are not those that it was made with."));
-        RequireSound(*store::Database::Open(steps_.Coming().filePath(store::OptionsFile), store::OptionsSchema()),
-                     store::OptionsFile);
+        RequireSound(*store::OpenOptions(steps_.Coming().path()), store::OptionsFile);
         if (steps_.Coming().exists(ManagerFile)) RequireSound(*OpenManagerStore(steps_.Coming().path()), ManagerFile);
     }
 
