@@ -247,7 +247,7 @@ void LookAtManager(const QString& shop, const Cashier::Camera& camera) {
         if (entry.className == u"GoodsPage") ReadTable(shop);
         if (entry.className == u"LabelsPage") ChooseGoods(window);
         if (entry.className == u"PricesPage") RaisePrices();
-        if (entry.className == u"ReportsPage") window.findChild<QAbstractButton*>(u"cmdShow")->click();
+        if (entry.className == u"ReportsPage") window.findChild<QAbstractButton*>(u"cmdShow"_s)->click();
         camera(window, PictureOfPage(entry.className));
         if (entry.className == u"LabelsPage") ShowLabels(window, camera);
         if (entry.className == u"HealthPage") ShowSupport(shop, camera);
