@@ -1,5 +1,4 @@
 #include <QApplication>
-#include <cstring>
 
 #include "app/BackupProgram.h"
 #include "app/Start.h"

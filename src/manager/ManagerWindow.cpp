@@ -1,12 +1,12 @@
 #include "manager/ManagerWindow.h"
 
+#include <QDir>
 #include <QItemSelectionModel>
 #include <QShortcut>
 
 #include "core/Installation.h"
-#include "manager/Texts.h"
+#include "manager/backup/BackupWords.h"
 #include "output/Folder.h"
-#include "upkeep/BackupState.h"
 
 using namespace Qt::StringLiterals;
 
@@ -47,7 +47,7 @@ void ManagerWindow::BringUp(size_t number) {
 Page* ManagerWindow::Made(size_t number) {
     std::unique_ptr<Page> page(entries_[number].make(ui.stkPages));
     connect(page.get(), &Page::ShopChanged, this, Guarded(&ManagerWindow::TellOfShop));
-    connect(page.get(), &Page::ShopGoes, this, [this, asks = page.get()](bool* goes) { DropOthers(asks, goes); });
+    connect(page.get(), &Page::ShopGoes, this, [this, made = page.get()](bool* goes) { DropOthers(made, goes); });
     page->Load();
     ui.stkPages->addWidget(page.get());
     return page.release();
@@ -78,10 +78,8 @@ void ManagerWindow::DropOthers(const Page* page, bool* goes) {
 }
 
 void ManagerWindow::TellOfShop() {
-    const upkeep::BackupState backup = upkeep::ReadBackupState(output::ProgramFolder());
-    ui.lblStatus->ShowWhole(
-        tr("%1   –   %2   –   %3")
-            .arg(TheInstallation.heading.NazivFirme, output::ProgramFolder(), LastBackupText(backup)));
+    ui.lblStatus->ShowWhole(tr("%1   –   %2   –   %3")
+                                .arg(TheInstallation.heading.NazivFirme, output::ProgramFolder(), LastBackupInWords()));
 }
 
 }  // namespace manager

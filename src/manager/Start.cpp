@@ -47,6 +47,10 @@ ManagerWindow* ShowWindow() {
 
 }  // namespace
 
+void CloseShop() {
+    CloseStores();
+}
+
 void PrepareManager() {
     ::umask(077);  // a shop's files belong to its user alone
     std::signal(SIGPIPE, SIG_IGN);

@@ -3,7 +3,6 @@
 #include <QDateTime>
 #include <QString>
 
-#include "upkeep/BackupState.h"
 #include "values/Money.h"
 
 namespace manager {
@@ -12,7 +11,5 @@ namespace manager {
 QString MomentText(const QDateTime& moment);
 QString AmountText(values::Money amount);
 QString SizeText(qint64 bytes);
-// The last good backup with its size and place, or that there is none.
-QString LastBackupText(const upkeep::BackupState& state);
 
 }  // namespace manager

@@ -15,7 +15,7 @@ struct BackupPlan {
     int months = 24;
 
     static constexpr int LeastDays = 1;  // the last good one is kept in any case; a slip must not leave it alone
-    static constexpr int Most = 999;     // of days, weeks and months each
+    static constexpr int Most = 1000;    // of days, weeks and months each
 };
 
 bool IsBackupKey(const QString& section, const QString& name);

@@ -83,10 +83,6 @@ private:
 
 }  // namespace
 
-void GoOn(const Progress& progress, const QString& doing) {
-    if (progress && !progress(doing)) throw store::StoreError(store::Cancelled, Words::tr("The work was left."));
-}
-
 Fingerprint FingerprintOf(const QString& path, qint64 atMost) {
     QFile file(path);
     OpenToRead(file);

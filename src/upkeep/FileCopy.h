@@ -1,14 +1,11 @@
 #pragma once
 
 #include <QString>
-#include <functional>
+
+#include "upkeep/Progress.h"
 
 // Files that have to be on a disk, whole, before anybody counts on them. Failures are FileErrors.
 namespace upkeep {
-
-// Told what is done; false when its user wants to leave, which throws StoreError 3059.
-using Progress = std::function<bool(const QString& doing)>;
-void GoOn(const Progress& progress, const QString& doing);
 
 struct Fingerprint {
     qint64 bytes = 0;

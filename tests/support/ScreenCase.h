@@ -19,7 +19,8 @@ namespace drivers {
 //   load TABLE           the rows under it: names of fields, then a line a row, cells divided by |
 //   as USER; login USER; login (the screen alone); crash; restart (a crash, and the user of `as` again)
 //   locale NAME; clock DATE TIME; clipboard TEXT; write FILE | TEXT; remove FILE; folder NAME
-//   backup-program       the till's backups are not made, but noted in the file "started"
+//   stick                a folder {folder}-stick outside of the register's; backup-program: the till's backups are not
+//                        made, but noted in the file "started"
 //   engine SQL | SQL     behind the store's back, as its file and as its server take it
 //   server goes, server comes   (back); where the stores are there
 // What is done:

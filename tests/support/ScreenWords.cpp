@@ -166,6 +166,7 @@ QMap<QString, ScreenCase::Word> ScreenCase::States() {
          }},
         {u"remove"_s, [](auto& at, auto& rest, auto&) { EXPECT_TRUE(QFile::remove(at.Path(rest))); }},
         {u"folder"_s, [](auto& at, auto& rest, auto&) { EXPECT_TRUE(QDir().mkdir(at.Path(rest))); }},
+        {u"stick"_s, [](auto& at, auto&, auto&) { EXPECT_TRUE(QDir().mkdir(at.Path({}) + u"-stick"_s)); }},
         {u"backup-program"_s,
          [](auto&, auto&, auto&) {
              UseBackupProgram([](const QString& registerFolder) {
@@ -240,7 +241,7 @@ QMap<QString, ScreenCase::Word> ScreenCase::Announcements() {
         {u"pick"_s,
          [](auto& at, auto& rest, auto&) {
              const QString name = rest.section(u" | "_s, 0, 0);
-             at.boxes_.ExpectFile(name.isEmpty() ? name : at.Path(name));
+             at.boxes_.ExpectFile(name.isEmpty() ? name : QDir(at.Path({})).filePath(name));
              if (rest.contains(u" | ")) at.boxes_.Titled(rest.section(u" | "_s, 1));
          }},
         {u"help"_s, [](auto& at, auto& rest, auto&) { ExpectHelp(at.boxes_, rest); }},

@@ -1,5 +1,6 @@
 #include "support/Till.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 
@@ -32,6 +33,7 @@ TillTest::~TillTest() {
     Crash();
     values::SetClock({});
     UseBackupProgram({});
+    QDir(folder.path() + u"-stick"_s).removeRecursively();
 }
 
 void TillTest::Setting(const QString& field, const Value& value) {

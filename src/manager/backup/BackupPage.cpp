@@ -1,17 +1,18 @@
 #include "manager/backup/BackupPage.h"
 
 #include "core/Installation.h"
-#include "core/dbModule.h"
 #include "forms/FileDialog.h"
 #include "forms/MsgBox.h"
 #include "manager/Beside.h"
 #include "manager/Start.h"
 #include "manager/Texts.h"
+#include "manager/backup/BackupWords.h"
 #include "manager/backup/RestoreForm.h"
 #include "output/Folder.h"
 #include "store/StoreError.h"
 #include "upkeep/Backup.h"
 #include "upkeep/BackupPlace.h"
+#include "upkeep/BackupState.h"
 #include "values/DateText.h"
 
 using namespace Qt::StringLiterals;
@@ -25,10 +26,10 @@ BackupPage::BackupPage(QWidget* parent) : Page(parent) {
     ui.setupUi(this);
     ui.spnDays->setRange(BackupPlan::LeastDays, BackupPlan::Most);
     for (QSpinBox* count : {ui.spnWeeks, ui.spnMonths}) count->setRange(0, BackupPlan::Most);
-    ui.lstBackups->SetColumns({{tr("Made"), Qt::AlignLeft, 160},
-                               {tr("Size"), Qt::AlignRight, 90},
+    ui.lstBackups->SetColumns({{tr("Made"), Qt::AlignLeft, 190},
+                               {tr("Size"), Qt::AlignRight, 80},
                                {tr("Invoices"), Qt::AlignRight, 80},
-                               {tr("Last day"), Qt::AlignLeft, 110},
+                               {tr("Last day"), Qt::AlignLeft, 100},
                                {tr("Its takings"), Qt::AlignRight, 110},
                                {tr("State"), Qt::AlignLeft, -1}});
     ui.lstBackups->SetEmptyText(tr("There are no backups yet."));
@@ -76,8 +77,8 @@ void BackupPage::ShowState() {
     const upkeep::BackupState state = upkeep::ReadBackupState(ProgramFolder());
     const bool hasFailed = state.failed.isValid() && !(state.failed < state.good);
     ui.lblState->setText(
-        hasFailed ? tr("%1.\nThe try of %2 failed: %3").arg(LastBackupText(state), MomentText(state.failed), state.why)
-                  : tr("%1.").arg(LastBackupText(state)));
+        hasFailed ? tr("%1.\nThe try of %2 failed: %3").arg(LastBackupInWords(), MomentText(state.failed), state.why)
+                  : tr("%1.").arg(LastBackupInWords()));
     ui.lblState->setToolTip(ui.lblState->text());
 }
 
@@ -122,7 +123,7 @@ void BackupPage::cmdSave_Click() {
 
 void BackupPage::cmdBackup_Click() {
     try {
-        RunBeside(this, tr("The register is being backed up."), [](const Progress& progress) {
+        RunBeside(this, tr("The register is being backed up."), [](const upkeep::Progress& progress) {
             upkeep::MakeBackup(ProgramFolder(), TheInstallation.backup, progress);
         });
     } catch (const values::Error& error) {
@@ -139,7 +140,7 @@ void BackupPage::cmdRestore_Click() {
         return forms::Tell(tr("This backup can't be restored: %1").arg(backup.fault), forms::Icon::Warning, Caption());
     upkeep::RestorePreview preview;
     RunBeside(this, tr("The shop and the backup are being compared."),
-              [&](const Progress&) { preview = upkeep::PreviewRestore(ProgramFolder(), backup); });
+              [&](const upkeep::Progress&) { preview = upkeep::PreviewRestore(ProgramFolder(), backup); });
     RestoreForm question(preview);
     question.ShowModal();
     if (question.IsAgreed()) Restore(backup);
@@ -152,9 +153,9 @@ void BackupPage::Restore(const BackupFacts& backup) {
     if (!goes) return;
     upkeep::Restored restored;
     QString why;
-    CloseStores();
+    CloseShop();
     try {
-        RunBeside(this, tr("The backup is being brought back."), [&](const Progress& progress) {
+        RunBeside(this, tr("The backup is being brought back."), [&](const upkeep::Progress& progress) {
             restored = upkeep::RestoreBackup(ProgramFolder(), backup, progress);
         });
     } catch (const values::Error& error) {

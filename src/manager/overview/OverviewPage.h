@@ -53,7 +53,6 @@ private:
     void ChooseCashier(int mark);
     void ShowInvoices(const QString& what, const upkeep::InvoicesWish& wish);
     void Arrange(bool asTables);
-    QString AskFile(const QString& title, const QString& filter, const QString& suffix);
     QList<ChartPanel*> Panels() const;
     OverviewPaper Paper() const;
 
