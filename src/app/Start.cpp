@@ -4,8 +4,8 @@
 
 #include <csignal>
 
-#include "app/Backups.h"
 #include "app/Screens.h"
+#include "core/BackupStart.h"
 #include "core/Installation.h"
 #include "core/KeptErrors.h"
 #include "core/PrinterWait.h"
@@ -45,9 +45,6 @@ void ShowSalesScreen() {
     main.showMaximized();
     main.raise();
     main.activateWindow();
-    // Once the login has done all that it does.
-    QMetaObject::invokeMethod(
-        &main, [] { forms::Run(LookAfterBackups, u"VELTON"_s); }, Qt::QueuedConnection);
 }
 
 }  // namespace
@@ -70,7 +67,8 @@ bool StartProgram() {
     forms::Run(
         [] {
             TakeInstallation();
-            forms::Open<frmLogin>(ShowSalesScreen)->Show();
+            forms::Open<frmLogin>(ShowSalesScreen, TellOfBackups)->Show();
+            StartBackupOfTheDay();
         },
         u"VELTON"_s);
     return !forms::ProgramIsEnding() && !forms::LoadedForms().isEmpty();

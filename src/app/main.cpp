@@ -1,18 +1,15 @@
 #include <QApplication>
-#include <cstring>
 
-#include "app/Backups.h"
+#include "app/BackupProgram.h"
 #include "app/Start.h"
-#include "core/BackupBeside.h"
+#include "core/BackupStart.h"
 #include "forms/Program.h"
 
 int main(int argc, char* argv[]) {
-    if (argc == 2 && std::strcmp(argv[1], BackupSwitch) == 0) {
-        const QCoreApplication application(argc, argv);
-        return MakeBackup();
-    }
+    if (IsBackupCall(argc, argv)) return MakeBackupByItself(argc, argv);
     QApplication application(argc, argv);
     PrepareApplication();
+    UseBackupProgram(StartBackupProgram);
     if (StartProgram()) QApplication::exec();
     return forms::ProgramExitCode();
 }

@@ -32,10 +32,6 @@ const std::vector<Key> Keys = {
     {u"heading", u"address", {}, [](Installation& i) -> QString& { return i.heading.Adresa; }},
     {u"heading", u"ident", {}, [](Installation& i) -> QString& { return i.heading.JIB; }},
     {u"heading", u"phone", {}, [](Installation& i) -> QString& { return i.heading.Tel; }},
-    {u"backup", u"folder", {}, [](Installation& i) -> QString& { return i.backupFolder; }},
-    {u"backup", u"days"},
-    {u"backup", u"weeks"},
-    {u"backup", u"months"},
     {u"till",
      u"sound",
      {{u"yes", [](Installation& i) { i.sound = true; }}, {u"no", [](Installation& i) { i.sound = false; }}}},
@@ -46,19 +42,11 @@ const std::vector<Key> Keys = {
       {u"dark", [](Installation& i) { i.contrast = Contrast::Dark; }}}},
 };
 
-// How many backups are kept is read by whoever makes one.
-bool IsCount(const QString& text) {
-    bool isNumber = false;
-    const int count = text.toInt(&isNumber);
-    return isNumber && count >= 0 && count <= 999;
-}
-
 bool Take(const Key& key, const QString& text, Installation& installation) {
     if (key.text != nullptr) {
         key.text(installation) = text;
         return true;
     }
-    if (key.choices.empty()) return IsCount(text);
     for (const Choice& choice : key.choices) {
         if (text.compare(QStringView(choice.text), Qt::CaseInsensitive) != 0) continue;
         choice.set(installation);
@@ -68,9 +56,6 @@ bool Take(const Key& key, const QString& text, Installation& installation) {
 }
 
 QString Refusal(const Key& key, const values::IniFile::Value& value) {
-    if (key.choices.empty())
-        return u"velton.ini, line %1: %2 can't be \"%3\", only a number from 0 to 999."_s.arg(
-            QString::number(value.line), QString::fromUtf16(key.name), value.text.left(LongestShown));
     QStringList known;
     for (const Choice& choice : key.choices) known << QString::fromUtf16(choice.text);
     return u"velton.ini, line %1: %2 can't be \"%3\", only %4."_s.arg(value.line)
@@ -78,10 +63,10 @@ QString Refusal(const Key& key, const values::IniFile::Value& value) {
 }
 
 bool IsKnown(const values::IniFile::Key& key) {
-    return std::ranges::any_of(Keys, [&](const Key& known) {
-        return key.section.compare(QStringView(known.section), Qt::CaseInsensitive) == 0 &&
-               key.name.compare(QStringView(known.name), Qt::CaseInsensitive) == 0;
-    });
+    return upkeep::IsBackupKey(key.section, key.name) || std::ranges::any_of(Keys, [&](const Key& known) {
+               return key.section.compare(QStringView(known.section), Qt::CaseInsensitive) == 0 &&
+                      key.name.compare(QStringView(known.name), Qt::CaseInsensitive) == 0;
+           });
 }
 
 }  // namespace
@@ -98,5 +83,7 @@ QStringList ReadInstallation() {
         const auto value = ini.Find(QString::fromUtf16(key.section), QString::fromUtf16(key.name));
         if (value && !Take(key, value->text, TheInstallation)) refused << Refusal(key, *value);
     }
+    // Also read by programs without a screen.
+    TheInstallation.backup = upkeep::ReadBackupPlan(ini, output::ProgramFolder(), refused);
     return refused;
 }

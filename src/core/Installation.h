@@ -4,14 +4,15 @@
 
 #include "core/Settings.h"
 #include "forms/Theme.h"
+#include "upkeep/BackupPlan.h"
 
 // What velton.ini in the program's folder adds to this installation. Without the file, or a key, the till is as
 // delivered.
 struct Installation {
     Heading heading = BuiltInHeading();                 // [heading] name, address, ident, phone
-    QString backupFolder;                               // [backup] folder; days, weeks, months say how many are kept
     bool sound = true;                                  // [till] sound = yes | no
     forms::Contrast contrast = forms::Contrast::Usual;  // [till] contrast = usual | high | dark
+    upkeep::BackupPlan backup;                          // [backup] folder, days, weeks, months
 };
 
 inline Installation TheInstallation;

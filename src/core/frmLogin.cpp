@@ -8,6 +8,7 @@
 #include "core/mdiORVA.h"
 #include "forms/MsgBox.h"
 #include "output/Folder.h"
+#include "upkeep/Restore.h"
 #include "values/Clock.h"
 #include "values/Format.h"
 #include "values/InstanceLock.h"
@@ -32,8 +33,12 @@ constexpr int Countdown = 59;
 
 }  // namespace
 
-frmLogin::frmLogin(std::function<void()> loggedIn)
-    : timer1_(new QTimer(this)), timer2_(new QTimer(this)), timer3_(new QTimer(this)), loggedIn_(std::move(loggedIn)) {
+frmLogin::frmLogin(std::function<void()> loggedIn, std::function<void(const QString& accLevel)> afterwards)
+    : timer1_(new QTimer(this)),
+      timer2_(new QTimer(this)),
+      timer3_(new QTimer(this)),
+      loggedIn_(std::move(loggedIn)),
+      afterwards_(std::move(afterwards)) {
     ui.setupUi(this);
     setWindowFlag(Qt::WindowCloseButtonHint, false);
     ui.txtUserName->setCompleter(nullptr);
@@ -69,6 +74,7 @@ void frmLogin::Form_Load() {
 }
 
 void frmLogin::StartUp() {
+    upkeep::EndBrokenRestore(output::ProgramFolder());
     if (!LockFolder(output::ProgramFolder())) {
         forms::Tell(u"VELTON already works."_s);
         forms::EndProgram();
@@ -131,9 +137,11 @@ void frmLogin::cmdOK_Click() {
     main.ShowRunningTotal(
         OfSetting(u"StanjeKaseVidljivo", [] { return values::CBool(TheSettings.StanjeKaseVidljivo); }));
     loggedIn_();
-    main.ApplyAccessLevel(rsUsers_[u"AccLevel"].TextOrEmpty());
+    const QString accLevel = rsUsers_[u"AccLevel"].TextOrEmpty();
+    main.ApplyAccessLevel(accLevel);
     done_ = true;
     Unload();
+    if (afterwards_) afterwards_(accLevel);
 }
 
 // What the start could not do; the user need not start the program again when the server is back.

@@ -12,7 +12,8 @@ class frmLogin : public forms::Form {
 
 public:
     // `loggedIn` shows the sales screen; it runs within a good login, before the menu entries are switched off.
-    explicit frmLogin(std::function<void()> loggedIn);
+    // `afterwards` gets the access level when the login has done all that it does.
+    explicit frmLogin(std::function<void()> loggedIn, std::function<void(const QString& accLevel)> afterwards = {});
 
     void FillUserList();
 
@@ -44,4 +45,5 @@ private:
     bool isWithoutServer_ = false;  // the start ended for it
     bool done_ = false;             // cancelled or logged in: nothing else closes the window
     std::function<void()> loggedIn_;
+    std::function<void(const QString&)> afterwards_;
 };

@@ -15,11 +15,11 @@ constexpr std::chrono::milliseconds BetweenLooks{30};
 
 }  // namespace
 
-void RunBeside(QWidget* page, const QString& doing, const std::function<void(const Progress&)>& work) {
+void RunBeside(QWidget* page, const QString& doing, const std::function<void(const upkeep::Progress&)>& work) {
     std::mutex mutex;
     QString told = doing;
     std::atomic<bool> goesOn = true;
-    const Progress progress = [&](const QString& now) {
+    const upkeep::Progress progress = [&](const QString& now) {
         const std::lock_guard lock(mutex);
         told = now;
         return goesOn.load();

@@ -5,9 +5,8 @@
 #include <QShortcut>
 
 #include "core/Installation.h"
-#include "manager/Texts.h"
+#include "manager/backup/BackupWords.h"
 #include "output/Folder.h"
-#include "upkeep/BackupState.h"
 
 using namespace Qt::StringLiterals;
 
@@ -48,6 +47,7 @@ void ManagerWindow::BringUp(size_t number) {
 Page* ManagerWindow::Made(size_t number) {
     std::unique_ptr<Page> page(entries_[number].make(ui.stkPages));
     connect(page.get(), &Page::ShopChanged, this, Guarded(&ManagerWindow::TellOfShop));
+    connect(page.get(), &Page::ShopGoes, this, [this, made = page.get()](bool* goes) { DropOthers(made, goes); });
     page->Load();
     ui.stkPages->addWidget(page.get());
     return page.release();
@@ -65,14 +65,21 @@ bool ManagerWindow::Form_Unload() {
     return true;
 }
 
+// They are made anew when they are chosen.
+void ManagerWindow::DropOthers(const Page* page, bool* goes) {
+    for (Page*& other : pages_) {
+        if (other == nullptr || other == page) continue;
+        if (!other->Unload()) {
+            *goes = false;
+            return;
+        }
+        delete std::exchange(other, nullptr);
+    }
+}
+
 void ManagerWindow::TellOfShop() {
-    const upkeep::BackupState backup = upkeep::ReadBackupState(output::ProgramFolder());
-    const QString told = backup.good.isValid() ? tr("last backup %1, %2, in %3")
-                                                     .arg(MomentText(backup.good), SizeText(backup.bytes),
-                                                          QDir::toNativeSeparators(backup.path))
-                                               : tr("no backup yet");
-    ui.lblStatus->setText(
-        tr("%1   –   %2   –   %3").arg(TheInstallation.heading.NazivFirme, output::ProgramFolder(), told));
+    ui.lblStatus->setText(tr("%1   –   %2   –   %3")
+                              .arg(TheInstallation.heading.NazivFirme, output::ProgramFolder(), LastBackupInWords()));
 }
 
 }  // namespace manager

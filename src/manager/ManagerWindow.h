@@ -27,6 +27,7 @@ private:
     void BringUp(size_t number);
     Page* Made(size_t number);
     void TellOfShop();
+    void DropOthers(const Page* page, bool* goes);
 
     const std::vector<PageEntry> entries_ = AllPages();
     std::vector<Page*> pages_{entries_.size()};

@@ -18,6 +18,9 @@ public:
 Q_SIGNALS:
     // What the window tells below its pages may be another now: the last backup, the shop's name.
     void ShopChanged();
+    // The stores are to be closed and others opened in their place: the other pages go, unless one of them wants to
+    // stay, which makes `goes` false.
+    void ShopGoes(bool* goes);
 
 protected:
     using forms::Form::Form;

@@ -15,6 +15,7 @@
 #include "manager/ManagerLogin.h"
 #include "manager/ManagerWindow.h"
 #include "output/Folder.h"
+#include "upkeep/Restore.h"
 
 using namespace Qt::StringLiterals;
 
@@ -44,6 +45,10 @@ ManagerWindow* ShowWindow() {
 
 }  // namespace
 
+void CloseShop() {
+    CloseStores();
+}
+
 void PrepareManager() {
     ::umask(077);  // a shop's files belong to its user alone
     std::signal(SIGPIPE, SIG_IGN);
@@ -54,6 +59,7 @@ void PrepareManager() {
 }
 
 void OpenShop() {
+    upkeep::EndBrokenRestore(output::ProgramFolder());
     const QStringList refused = ReadInstallation();
     forms::UseContrast(TheInstallation.contrast);
     if (!refused.isEmpty()) forms::Inform(refused.join(u'\n'), Title);

@@ -1,16 +1,15 @@
 #include "manager/Texts.h"
 
-#include <QLocale>
-
 #include "values/DateText.h"
 #include "values/Format.h"
+#include "values/Locale.h"
 
 using namespace Qt::StringLiterals;
 
 namespace manager {
 
 QString MomentText(const QDateTime& moment) {
-    return values::DateText(moment.date()) + u"  "_s + moment.time().toString(u"HH:mm"_s);
+    return values::DateText(moment.date()) + u' ' + values::TimeText(moment.time());
 }
 
 QString AmountText(values::Money amount) {
@@ -18,7 +17,7 @@ QString AmountText(values::Money amount) {
 }
 
 QString SizeText(qint64 bytes) {
-    return QLocale::c().formattedDataSize(bytes, 1, QLocale::DataSizeTraditionalFormat);
+    return values::UserLocale().formattedDataSize(bytes, 1, QLocale::DataSizeTraditionalFormat);
 }
 
 }  // namespace manager

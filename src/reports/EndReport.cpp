@@ -1,5 +1,6 @@
 #include "reports/EndReport.h"
 
+#include "core/BackupStart.h"
 #include "core/dbModule.h"
 #include "values/Numbers.h"
 
@@ -29,4 +30,5 @@ void CloseOpenPeriods(QDate date, QTime time, qint16 lastNumber) {
         period[u"Grupni"] = NextEndReport(lastNumber);
         period.Update();
     }
+    StartBackup();
 }

@@ -3,7 +3,6 @@
 #include <QScopeGuard>
 #include <QSignalBlocker>
 
-#include "core/BackupBeside.h"
 #include "core/dbModule.h"
 #include "forms/MsgBox.h"
 #include "reports/EndReport.h"
@@ -246,7 +245,6 @@ void frmTrenutnoStanjeKasa::cmdZakljuci_Click() {
     if (auto* salesScreen = forms::FindForm(u"frmORVAtouch")) salesScreen->Unload();
     endReportDone_ = true;
     CloseOpenPeriods(now.date(), time, lastGrupni_);
-    BackUpBeside();
 
     ui.lblTipPregleda->setText(u"2"_s);
     ui.lblDatumZakljucka->setText(DateText(now.date()));

@@ -120,6 +120,10 @@ void Database::Retire() {
     engine_->Retire();
 }
 
+void Database::RetireFor(const Place& successor) {
+    engine_->RetireFor(successor);
+}
+
 void Database::AddAllOf(Database& other) {
     AddAllOf(*other.engine_);
 }
@@ -131,6 +135,10 @@ void Database::AddAllOf(Engine& other) {
 
 void Database::BackupTo(const QString& path) {
     engine_->BackupTo(path);
+}
+
+void Database::CopyFile(const QString& from, const QString& to) {
+    sqlite::CopyFile(from, to);
 }
 
 QString Database::ExplainPlan(const QString& query) {

@@ -66,13 +66,17 @@ public:
     // The indexes of the schema that the store lacks, as Table.Column+Column.
     QStringList MissingIndexes();
     // The store for this program alone, so that it can leave its place; 3218 when another has it open. Retire puts it
-    // aside, under the name that PrepareToRetire gave.
+    // aside, under the name that PrepareToRetire gave, and may have another store, which nobody has open, come into its
+    // place in the same step: a file of the same folder, or a schema of the same database.
     void TakeAlone();
     QString PrepareToRetire();
     void Retire();
+    void RetireFor(const Place& successor);
 
     // A consistent copy in a file while others write; the file must not exist. It is opened again and checked.
     void BackupTo(const QString& path);
+    // The same of a store in a file, of whatever schema; 3343 for a file that is no store.
+    static void CopyFile(const QString& from, const QString& to);
     // Adds all rows of another store, as it is at one moment, with their identities. This one is empty and has an open
     // batch.
     void AddAllOf(Database& other);

@@ -6,6 +6,7 @@
 #include <span>
 #include <vector>
 
+#include "store/Place.h"
 #include "store/RowBlock.h"
 #include "store/Schema.h"
 #include "store/dialect/Plan.h"
@@ -130,9 +131,11 @@ public:
     // open, where that is to be known.
     virtual void TakeAlone() = 0;
     // The store leaves its place for good and is kept beside it: the first gives the name that it will have, and throws
-    // when that cannot be; the second does it and ends what TakeAlone began.
+    // when that cannot be; the second does it and ends what TakeAlone began. The third also brings another store into
+    // the place, in one step.
     virtual QString PrepareToRetire() = 0;
     virtual void Retire() = 0;
+    virtual void RetireFor(const Place& successor) = 0;
 
     // Its name and version, as whoever helps asks for them.
     virtual QString Version() = 0;

@@ -60,6 +60,12 @@ Place Place::Server(const QString& address) {
     return place;
 }
 
+Place Place::WithSchema(const QString& name) const {
+    Place place = *this;
+    place.schema_ = name;
+    return place;
+}
+
 QString Place::Shown() const {
     if (!IsServer()) return path_;
     const QString behindUser = address_.section(u'?', 0, 0).section(u"://"_s, 1).section(u'@', -1);

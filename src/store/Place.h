@@ -18,6 +18,8 @@ public:
     const QString& Path() const { return path_; }        // of a file
     const QString& Address() const { return address_; }  // of a server, without the schema
     const QString& SchemaName() const { return schema_; }
+    // The same server, another schema.
+    Place WithSchema(const QString& name) const;
     // For messages: never a password.
     QString Shown() const;
 

@@ -1,10 +1,12 @@
 #include "upkeep/BackupState.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 
 #include "upkeep/Words.h"
+#include "values/DateText.h"
 #include "values/FileError.h"
-#include "values/IniEdit.h"
+#include "values/FileLock.h"
 #include "values/IniFile.h"
 
 using namespace Qt::StringLiterals;
@@ -13,47 +15,113 @@ namespace upkeep {
 
 namespace {
 
-constexpr int LongestWithout = 3;  // days
-
-const auto Section = u"backup"_s;
+const auto Last = u"last"_s;
+const auto Failure = u"failure"_s;
+const auto Till = u"till"_s;
+const auto Folders = u"folders"_s;
 
 QString StateFile(const QString& registerFolder) {
     return QDir(registerFolder).filePath(u"backup.state"_s);
 }
 
-}  // namespace
-
-BackupState ReadBackupState(const QString& registerFolder) {
+values::IniFile ReadState(const QString& registerFolder) {
     try {
-        const values::IniFile ini = values::IniFile::Read(StateFile(registerFolder));
-        const auto entry = [&ini](const QString& key) { return ini.Entry(Section, key).value_or(QString()); };
-        return {.good = QDateTime::fromString(entry(u"good"_s), Qt::ISODate),
-                .path = entry(u"path"_s),
-                .bytes = entry(u"bytes"_s).toLongLong(),
-                .failed = QDateTime::fromString(entry(u"failed"_s), Qt::ISODate),
-                .why = entry(u"why"_s),
-                .told = QDate::fromString(entry(u"told"_s), Qt::ISODate)};
+        return values::IniFile::Read(StateFile(registerFolder));
     } catch (const values::FileError&) {
         return {};
     }
 }
 
-void WriteBackupState(const QString& registerFolder, const BackupState& state) {
-    values::IniEdit ini(StateFile(registerFolder));
-    ini.Set(Section, u"good"_s, state.good.toString(Qt::ISODate));
-    ini.Set(Section, u"path"_s, state.path);
-    ini.Set(Section, u"bytes"_s, QString::number(state.bytes));
-    ini.Set(Section, u"failed"_s, state.failed.toString(Qt::ISODate));
-    ini.Set(Section, u"why"_s, state.why);
-    ini.Set(Section, u"told"_s, state.told.toString(Qt::ISODate));
-    ini.Save();
+// A path can't be a key as it stands.
+QString KeyOf(const QString& place) {
+    constexpr int digits = 12;
+    return QString::fromLatin1(
+        QCryptographicHash::hash(place.toUtf8(), QCryptographicHash::Sha256).toHex().first(digits));
 }
 
-QString BackupTrouble(const BackupState& state, const QDateTime& now) {
-    if (!state.why.isEmpty()) return Words::tr("The last backup failed. %1").arg(state.why);
-    if (state.good.isValid() && state.good.daysTo(now) > LongestWithout)
-        return Words::tr("The last backup is of %1.").arg(state.good.date().toString(u"yyyy-MM-dd"_s));
-    return {};
+// Several programs note here; what one reads and writes is one step.
+void Change(const QString& registerFolder, const std::function<void(values::IniEdit&)>& change) {
+    try {
+        const values::FileLock turn(QDir(registerFolder).filePath(u".backup-state.lock"_s), values::FileLock::On::File,
+                                    values::FileLock::When::Waiting);
+        values::IniEdit state(StateFile(registerFolder));
+        change(state);
+        state.Save();
+    } catch (const values::Error&) {
+        // Told in the header.
+    }
+}
+
+QString Moment(const QDateTime& time) {
+    return values::DateText(time.date()) + u' ' + values::TimeText(time.time());
+}
+
+}  // namespace
+
+BackupState ReadBackupState(const QString& registerFolder) {
+    const values::IniFile ini = ReadState(registerFolder);
+    const auto text = [&ini](const QString& section, const QString& key) {
+        return ini.Entry(section, key).value_or(QString());
+    };
+    const auto time = [&text](const QString& section, const QString& key) {
+        return QDateTime::fromString(text(section, key), Qt::ISODate);
+    };
+    return {.good = time(Last, u"time"_s),
+            .path = text(Last, u"path"_s),
+            .bytes = text(Last, u"bytes"_s).toLongLong(),
+            .failed = time(Failure, u"time"_s),
+            .why = text(Failure, u"words"_s),
+            .asked = time(Till, u"asked"_s),
+            .told = QDate::fromString(text(Till, u"told"_s), Qt::ISODate)};
+}
+
+void NoteGood(const QString& registerFolder, const QDateTime& time, const QString& path, qint64 bytes) {
+    Change(registerFolder, [&](values::IniEdit& state) {
+        state.Set(Last, u"time"_s, time.toString(Qt::ISODate));
+        state.Set(Last, u"path"_s, path);
+        state.Set(Last, u"bytes"_s, QString::number(bytes));
+        state.Remove(Till, u"asked"_s);
+        state.Remove(Failure, u"time"_s);
+        state.Remove(Failure, u"words"_s);
+    });
+}
+
+void NoteFailure(const QString& registerFolder, const QDateTime& time, const QString& why) {
+    Change(registerFolder, [&](values::IniEdit& state) {
+        state.Set(Failure, u"time"_s, time.toString(Qt::ISODate));
+        state.Set(Failure, u"words"_s, why);
+    });
+}
+
+void NotePlace(const QString& registerFolder, const QString& place) {
+    if (HasUsedPlace(registerFolder, place)) return;
+    Change(registerFolder, [&](values::IniEdit& state) { state.Set(Folders, KeyOf(place), place); });
+}
+
+bool HasUsedPlace(const QString& registerFolder, const QString& place) {
+    return ReadState(registerFolder).Entry(Folders, KeyOf(place)).has_value();
+}
+
+void NoteAsked(const QString& registerFolder, const QDateTime& time) {
+    if (ReadBackupState(registerFolder).asked.isValid()) return;
+    Change(registerFolder, [&](values::IniEdit& state) { state.Set(Till, u"asked"_s, time.toString(Qt::ISODate)); });
+}
+
+void NoteTold(const QString& registerFolder, QDate day) {
+    Change(registerFolder, [&](values::IniEdit& state) { state.Set(Till, u"told"_s, day.toString(Qt::ISODate)); });
+}
+
+QString BackupNotice(const BackupState& state, const QDateTime& now, QDate lastSale) {
+    constexpr int oldest = 3;  // days
+    if (state.told == now.date()) return {};
+    const QString lastGood = state.good.isValid() ? Words::tr("The last good backup is of %1.").arg(Moment(state.good))
+                                                  : Words::tr("There is no good backup yet.");
+    if (state.failed.isValid() && !(state.failed < state.good))
+        return Words::tr("The backup of %1 could not be made: %2\n%3").arg(Moment(state.failed), state.why, lastGood);
+    const QDateTime since = state.good.isValid() ? state.good : state.asked;
+    const bool isOld = since.isValid() && since.addDays(oldest) < now && lastSale > since.date();
+    if (!isOld) return {};
+    return Words::tr("No backup was made for more than three days, although the shop was selling.\n%1").arg(lastGood);
 }
 
 }  // namespace upkeep

@@ -1,26 +1,37 @@
 #pragma once
 
 #include <QDateTime>
-#include <QString>
+#include <functional>
+
+#include "values/IniEdit.h"
 
 namespace upkeep {
 
-// What a register knows of its backups, in backup.state in its folder: the last good one, and why the last try failed,
-// which is empty when it did not.
+// What became of the backups of a register, as it is kept in its folder, in backup.state.
 struct BackupState {
-    QDateTime good;
-    QString path;
+    QDateTime good;  // when the last good one was made; invalid when there was none yet
+    QString path;    // where it lies
     qint64 bytes = 0;
-    QDateTime failed;
+    QDateTime failed;  // the last that could not be made
     QString why;
-    QDate told;  // when the owner was last told of it
+    QDateTime asked;  // since when one was asked for by the till in vain
+    QDate told;       // when the owner was last told of it
 };
 
-// A file that can't be read is as none.
+// Without a file, or with one that can't be read, as if there had been none yet.
 BackupState ReadBackupState(const QString& registerFolder);
-void WriteBackupState(const QString& registerFolder, const BackupState& state);
 
-// What the owner ought to know, as one sentence; empty when all is well or there is nothing to say yet.
-QString BackupTrouble(const BackupState& state, const QDateTime& now);
+// What can't be kept is left: a backup counts without its note, and the till must not stop for it.
+void NoteGood(const QString& registerFolder, const QDateTime& time, const QString& path, qint64 bytes);
+void NoteFailure(const QString& registerFolder, const QDateTime& time, const QString& why);
+// A folder that was made fit for backups; several may be used in turn.
+void NotePlace(const QString& registerFolder, const QString& place);
+bool HasUsedPlace(const QString& registerFolder, const QString& place);
+void NoteAsked(const QString& registerFolder, const QDateTime& time);
+void NoteTold(const QString& registerFolder, QDate day);
+
+// What the owner should hear at this moment, once a day: that the last try failed, or that there is no good one of the
+// last three days although the shop sold after it. Empty when all is well or was told today.
+QString BackupNotice(const BackupState& state, const QDateTime& now, QDate lastSale);
 
 }  // namespace upkeep

@@ -18,19 +18,19 @@ using StorePointer = std::unique_ptr<store::Database>;
 // Told what is done, and asked whether to go on, also while a store works.
 class Course {
 public:
-    explicit Course(const GoesOn& goesOn) : goesOn_(goesOn) {}
+    explicit Course(const Progress& progress) : progress_(progress) {}
 
     void Begin(const QString& doing) {
         doing_ = doing;
-        if (goesOn_ && !goesOn_(doing_)) throw store::StoreError(store::Cancelled, u"The check was left."_s);
+        GoOn(progress_, doing_);
     }
     std::unique_ptr<store::Watch> WatchOver(store::Database& database) {
-        if (!goesOn_) return nullptr;
-        return std::make_unique<store::Watch>(database, [this] { return goesOn_(doing_); });
+        if (!progress_) return nullptr;
+        return std::make_unique<store::Watch>(database, [this] { return progress_(doing_); });
     }
 
 private:
-    GoesOn goesOn_;
+    Progress progress_;
     QString doing_;
 };
 
@@ -85,9 +85,9 @@ bool WritesRibbon(store::Database* options) {
 
 }  // namespace
 
-Findings CheckRegister(const QString& folder, const GoesOn& goesOn) {
+Findings CheckRegister(const QString& folder, const Progress& progress) {
     Findings findings;
-    Course course(goesOn);
+    Course course(progress);
     course.Begin(Words::tr("The stores are looked at."));
     // Before the store, so that what is printed meanwhile is in the store already.
     const std::vector<Receipt> ribbon = RibbonOf(folder);

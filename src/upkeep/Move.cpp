@@ -15,7 +15,7 @@ namespace {
 
 struct Totals {
     QStringList tables;  // a line each, with its number of rows
-    std::vector<DayTotal> days;
+    DayTotals days;
     qint64 rows = 0;
     bool operator==(const Totals&) const = default;
 };
@@ -27,7 +27,7 @@ Totals TotalsOf(store::Database& database) {
         totals.tables += u"%1 %2"_s.arg(table.name).arg(rows);
         totals.rows += rows;
     }
-    totals.days = DayTotalsOf(database);
+    totals.days = ReadDayTotals(database);
     return totals;
 }
 

@@ -1,25 +1,40 @@
 #pragma once
 
-#include "upkeep/DayTotals.h"
-#include "upkeep/RegisterBackup.h"
+#include "upkeep/BackupList.h"
 
 namespace upkeep {
 
-// A day on which a backup and the register that it would replace do not have the same sales.
-struct DayDifference {
-    QDate day;
-    DayTotal inStore;
-    DayTotal inBackup;
+// What a shop would lose and get back by a restore.
+struct RestorePreview {
+    BackupFacts backup;
+    QList<DayInTwo> days;  // the live store and the backup, those that differ first
+    QString liveFault;     // why the live store can't be read; empty when it can
 };
 
-// By day, the last first. A store that can't be read counts as empty.
-std::vector<DayDifference> CompareWithBackup(const QString& registerFolder, const QString& backup);
+// By its path, or by its name in a folder of backups, where this register's own is meant first. A FileError when there
+// is none.
+BackupFacts FindBackup(const QString& pathOrName, const QString& folder, const QString& registerFolder);
+RestorePreview PreviewRestore(const QString& registerFolder, const BackupFacts& backup);
 
-// Puts both stores of a backup in the place of the register's; what it replaces is kept in a folder beside them, which
-// is given back. Ini files, pictures and the ribbon come back where they are missing. The backup is checked before
-// anything is touched, and at every moment the folder has a whole main store, the old or the new. Nobody may work with
-// the register: StoreLocked when a till has the folder, or another register the store. NotSupported for a store on a
-// server.
-QString RestoreRegister(const QString& registerFolder, const QString& backup, const Progress& progress = {});
+struct Restored {
+    QString keptAs;    // the folder with what was replaced
+    QString oldStore;  // where the old main store is kept
+    qint64 invoices = 0;
+    int days = 0;
+};
+
+// Puts a backup into the place of a register's stores, pictures and ini files, all or nothing: it is read and checked
+// first, the main store comes into its place (a file, or a schema of the server) in one step, and a restore that is
+// killed behind that step is ended by the next start. What was replaced is kept in the register's folder. store.ini
+// stays, and so does a ribbon that is there, which holds more than the one in the backup.
+//
+// The till of the register must be closed, and so must all others of its store: 3218 where that is not so and is to be
+// known. Whoever calls it has closed its own stores. 3059 when its user left before anything was changed.
+Restored RestoreBackup(const QString& registerFolder, const BackupFacts& backup, const Progress& progress = {});
+
+// Ends, or takes back, what a killed restore left; at the start of every program, before it opens a store.
+void EndBrokenRestore(const QString& registerFolder);
+// A FileError while there is one to be ended.
+void RequireNoBrokenRestore(const QString& registerFolder);
 
 }  // namespace upkeep

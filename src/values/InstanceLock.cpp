@@ -1,34 +1,25 @@
 #include "values/InstanceLock.h"
 
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
+#include <memory>
 
-#include <QFile>
+#include "values/FileLock.h"
 
-#include "values/Error.h"
+using values::FileLock;
 
 namespace {
 
-int lockedFolder = -1;
+std::unique_ptr<FileLock> lockedFolder;
 
 }  // namespace
 
 bool LockFolder(const QString& folder) {
-    if (lockedFolder >= 0) return true;
-    const int descriptor = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0)
-        throw values::Error(values::PathNotFound, QStringLiteral("The folder %1 can't be opened.").arg(folder));
-    if (flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
-        close(descriptor);
-        return false;
-    }
-    lockedFolder = descriptor;
+    if (lockedFolder) return true;
+    auto lock = std::make_unique<FileLock>(folder, FileLock::On::Folder);
+    if (!lock->IsHeld()) return false;
+    lockedFolder = std::move(lock);
     return true;
 }
 
 void UnlockFolder() {
-    if (lockedFolder < 0) return;
-    close(lockedFolder);
-    lockedFolder = -1;
+    lockedFolder.reset();
 }

@@ -42,4 +42,13 @@ TEST_F(InstallationTest, AMissingKeyIsAsDeliveredAndAWrongValueIsToldWithItsLine
     EXPECT_THROW(ReadInstallation(), values::FileError);
 }
 
+TEST_F(InstallationTest, AFolderForBackupsIsTakenFromTheRegistersAndAWrongNumberStaysAsUsual) {
+    EXPECT_EQ(Read("[backup]\nfolder=../stick\ndays=0\nWeeks=2\n"),
+              QStringList{u"velton.ini, line 3: days can't be \"0\", only a number from 1 to 1000."_s});
+    EXPECT_EQ(TheInstallation.backup.folder, QDir::cleanPath(folder.path() + u"/../stick"_s));
+    EXPECT_EQ(TheInstallation.backup.days, 14);
+    EXPECT_EQ(TheInstallation.backup.weeks, 2);
+    EXPECT_EQ(Read("[backup]\nday=3\n"), QStringList{u"velton.ini, line 2: there is no day in [backup]."_s});
+}
+
 }  // namespace

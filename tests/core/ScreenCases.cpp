@@ -47,4 +47,4 @@ void SeeSwitchedOff(ScreenCase& at, const QString& rest, const Step&) {
 
 }  // namespace
 
-INSTANTIATE_SCREEN_CASES(Core, u"backup-at-the-till"_s, u"login"_s);
+INSTANTIATE_SCREEN_CASES(Core, u"login"_s, u"backup-notice"_s);

@@ -1,6 +1,3 @@
-#include <QTemporaryDir>
-#include <list>
-
 #include "manager/ManagerWindow.h"
 #include "manager/Start.h"
 #include "support/ScreenCase.h"
@@ -125,10 +122,12 @@ void CheckTail(ScreenCase& at, const QString& rest, const Step& step) {
         EXPECT_EQ(rows[rows.size() - lines + i].join(u'|'), step.inner[static_cast<size_t>(i)].text);
 }
 
-// `elsewhere NAME`: a folder of the case that lies on another disk, as it were.
-void LieElsewhere(ScreenCase& at, const QString& rest, const Step&) {
-    static std::list<QTemporaryDir> disks;
-    EXPECT_TRUE(QFile::link(disks.emplace_back().path(), at.Path(rest)));
+// `restore TEXT`: the days are looked at, the shop is replaced, and a box that begins so tells of it.
+void Restore(ScreenCase& at, const QString& text, const Step&) {
+    at.Coming().ExpectForm(u"RestoreForm"_s,
+                           [](QWidget& form) { drivers::Click(drivers::Get<QWidget>(form, u"cmdReplace")); });
+    at.Coming().ExpectBeginning(text);
+    drivers::Click(drivers::Get<QWidget>(at.Form(), u"cmdRestore"));
 }
 
 [[maybe_unused]] const bool added = ScreenCase::AddWords(
@@ -138,12 +137,12 @@ void LieElsewhere(ScreenCase& at, const QString& rest, const Step&) {
         {u"ready"_s, WaitUntilReady},
         {u"figures"_s, CheckFigures},
         {u"tail"_s, CheckTail},
-        {u"elsewhere"_s, LieElsewhere},
+        {u"restore"_s, Restore},
     },
     {u"figures"_s, u"tail"_s});
 
 }  // namespace
 
 INSTANTIATE_SCREEN_CASES(Manager, u"manager-backup"_s, u"manager-drawer"_s, u"manager-figures"_s, u"manager-goods"_s,
-                         u"manager-health"_s, u"manager-labels"_s, u"manager-overview"_s, u"manager-prices"_s,
-                         u"manager-printers"_s, u"manager-setup"_s, u"manager-start"_s);
+                         u"manager-health"_s, u"manager-labels"_s, u"manager-overview"_s, u"manager-printers"_s,
+                         u"manager-reports"_s, u"manager-setup"_s, u"manager-start"_s);

@@ -34,7 +34,7 @@ void ScreenCase::PlayStep(const Step& step) {
     if (!step.form.isEmpty())
         boxes_.ExpectForm(step.form, [&](QWidget& form) { PlayIn(static_cast<forms::Form&>(form), step); });
     try {
-        Words()[word](*this, step.text.mid(word.size() + 1), step);
+        Words()[word](*this, step.text.mid(word.size() + 1).replace(u"{folder}"_s, folder.path()), step);
     } catch (const std::exception& error) {
         ADD_FAILURE() << error.what();
     }

@@ -9,17 +9,18 @@
 namespace drivers {
 
 // Plays a case of tests/data/screens: a line is a word and what it is about. A text stands as it is, several of them
-// between " | "; a form that a line brings up stands behind " => ", and the lines under it are played in that form,
-// which is closed after them if it is still there. Every box that a line brings up stands in the lines before it, and
-// has to come with that line and no later. Without a `login` of its own a case begins with the administrator at the
-// till, or with the user that `as` names.
+// between " | ", and {folder} for where the case plays; a form that a line brings up stands behind " => ", and the
+// lines under it are played in that form, which is closed after them if it is still there. Every box that a line brings
+// up stands in the lines before it, and has to come with that line and no later. Without a `login` of its own a case
+// begins with the administrator at the till, or with the user that `as` names.
 //
 // To begin with, and in between:
 //   run QUERY            an action query, on the store that has the table; another register acts like this, too
 //   load TABLE           the rows under it: names of fields, then a line a row, cells divided by |
 //   as USER; login USER; login (the screen alone); crash; restart (a crash, and the user of `as` again)
 //   locale NAME; clock DATE TIME; clipboard TEXT; write FILE | TEXT; remove FILE; folder NAME
-//   program COMMAND      what the till's own program does where it is started once more
+//   stick                a folder {folder}-stick outside of the register's; backup-program: the till's backups are not
+//                        made, but noted in the file "started"
 //   engine SQL | SQL     behind the store's back, as its file and as its server take it
 //   server goes, server comes   (back); where the stores are there
 // What is done:
@@ -30,7 +31,6 @@ namespace drivers {
 //   clickrow N, rightclickrow N, doubleclickrow N     of the form's list; -1 is below its rows; selectrow N
 // What comes up, in this order, at the next thing that is done:
 //   box TEXT | TITLE | ICON | BUTTON   Ok is pressed, or the button; "3021..." is how a text begins,
-//                                      {folder} where the case plays
 //   pick PATH | TITLE                  a file is chosen, or with no path none
 //   help FILE                          comes up and is closed
 // What has to be:

@@ -10,6 +10,7 @@
 #include <QTest>
 #include <QToolBar>
 
+#include "core/BackupStart.h"
 #include "core/Settings.h"
 #include "forms/Program.h"
 #include "player/Input.h"
@@ -165,11 +166,13 @@ QMap<QString, ScreenCase::Word> ScreenCase::States() {
          }},
         {u"remove"_s, [](auto& at, auto& rest, auto&) { EXPECT_TRUE(QFile::remove(at.Path(rest))); }},
         {u"folder"_s, [](auto& at, auto& rest, auto&) { EXPECT_TRUE(QDir().mkdir(at.Path(rest))); }},
-        {u"program"_s,
-         [](auto& at, auto& rest, auto&) {
-             const QString script = at.Path(u"velton"_s);
-             WriteFile(script, "#!/bin/sh\ncd " + at.Path({}).toUtf8() + " && " + rest.toUtf8() + '\n');
-             QFile::setPermissions(script, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+        {u"stick"_s, [](auto& at, auto&, auto&) { EXPECT_TRUE(QDir().mkdir(at.Path({}) + u"-stick"_s)); }},
+        {u"backup-program"_s,
+         [](auto&, auto&, auto&) {
+             UseBackupProgram([](const QString& registerFolder) {
+                 QFile notes(registerFolder + u"/started"_s);
+                 return notes.open(QIODevice::Append) && notes.write("x") == 1;
+             });
          }},
         {u"engine"_s,
          [](auto& at, auto& rest, auto&) {
@@ -234,12 +237,11 @@ QMap<QString, ScreenCase::Word> ScreenCase::Deeds() {
 
 QMap<QString, ScreenCase::Word> ScreenCase::Announcements() {
     return {
-        {u"box"_s, [](auto& at, auto& rest,
-                      auto&) { ExpectBox(at.boxes_, QString(rest).replace(u"{folder}"_s, at.folder.path())); }},
+        {u"box"_s, [](auto& at, auto& rest, auto&) { ExpectBox(at.boxes_, rest); }},
         {u"pick"_s,
          [](auto& at, auto& rest, auto&) {
              const QString name = rest.section(u" | "_s, 0, 0);
-             at.boxes_.ExpectFile(name.isEmpty() ? name : at.Path(name));
+             at.boxes_.ExpectFile(name.isEmpty() ? name : QDir(at.Path({})).filePath(name));
              if (rest.contains(u" | ")) at.boxes_.Titled(rest.section(u" | "_s, 1));
          }},
         {u"help"_s, [](auto& at, auto& rest, auto&) { ExpectHelp(at.boxes_, rest); }},

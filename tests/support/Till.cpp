@@ -1,10 +1,12 @@
 #include "support/Till.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 
 #include "app/Start.h"
 #include "cashier/Restart.h"
+#include "core/BackupStart.h"
 #include "core/Session.h"
 #include "delivery/Delivery.h"
 #include "forms/Program.h"
@@ -30,6 +32,8 @@ TillTest::TillTest() {
 TillTest::~TillTest() {
     Crash();
     values::SetClock({});
+    UseBackupProgram({});
+    QDir(folder.path() + u"-stick"_s).removeRecursively();
 }
 
 void TillTest::Setting(const QString& field, const Value& value) {

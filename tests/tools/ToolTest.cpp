@@ -13,6 +13,8 @@
 #include "support/TestFolder.h"
 #include "support/ValueOf.h"
 #include "upkeep/ValueText.h"
+#include "upkeep/goods/AmountText.h"
+#include "upkeep/goods/PriceChange.h"
 
 using namespace Qt::StringLiterals;
 
@@ -34,7 +36,7 @@ void PrintTo(const Talk& talk, std::ostream* out) {
 
 std::vector<Talk> Talks() {
     std::vector<Talk> talks;
-    for (const auto& topic : {u"backup"_s, u"backup-register"_s, u"check"_s, u"delivery"_s, u"files"_s, u"import"_s,
+    for (const auto& topic : {u"backup"_s, u"backup-register"_s, u"check"_s, u"delivery"_s, u"files"_s, u"goods"_s,
                               u"insert"_s, u"load"_s, u"move"_s, u"new"_s, u"report"_s, u"sql"_s}) {
         const auto file = QStringLiteral(TEST_DATA "/tools/%1.txt").arg(topic);
         QString shell;
@@ -163,6 +165,35 @@ TEST_P(CellTest, GivesWhatItsRowsSay) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Tool, CellTest, testing::ValuesIn(drivers::ReadCases(u"tools"_s, {u"cells"_s})),
+                         [](const auto& info) { return info.param.name.toStdString(); });
+
+class AmountTest : public testing::TestWithParam<drivers::CaseText> {};
+
+TEST_P(AmountTest, GivesWhatItsRowsSay) {
+    const auto sign = [](const QString& text) { return text.isEmpty() ? QChar() : text[0]; };
+    const auto amount = [&](const QStringList& at) {
+        const auto read = upkeep::ReadAmount(at[0], sign(at[1]));
+        if (const auto* fault = std::get_if<upkeep::AmountFault>(&read))
+            return u"fault %1"_s.arg(static_cast<int>(*fault));
+        return upkeep::ShownAmount(std::get<values::Money>(read));
+    };
+    const auto votes = [](const QStringList& at) {
+        upkeep::DecimalVotes counted;
+        for (const QString& text : at[0].split(u' ')) counted.Count(text);
+        return counted.Winner().isNull() ? u"unclear"_s : QString(counted.Winner());
+    };
+    const auto price = [](const QStringList& at) {
+        const auto money = [](const QString& text) {
+            return upkeep::ReadValue(text.toUtf8(), store::Type::Money).ToMoney();
+        };
+        return upkeep::ShownAmount(
+            upkeep::ChangedPrice(money(at[0]), money(at[1]), static_cast<upkeep::PriceEnding>(at[2].toInt())));
+    };
+    for (const drivers::Step& step : GetParam().steps.inner)
+        CheckRows(step, {{u"Amount"_s, amount}, {u"Votes"_s, votes}, {u"Price"_s, price}});
+}
+
+INSTANTIATE_TEST_SUITE_P(Tool, AmountTest, testing::ValuesIn(drivers::ReadCases(u"tools"_s, {u"amounts"_s})),
                          [](const auto& info) { return info.param.name.toStdString(); });
 
 TEST(ValueText, TextsThatNoFileOfCasesHoldsAreKeptOrRefused) {

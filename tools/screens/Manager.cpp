@@ -1,5 +1,7 @@
 #include "screens/Manager.h"
 
+#include <QAbstractButton>
+#include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QRegularExpression>
@@ -8,6 +10,7 @@
 
 #include "cashier/DayClock.h"
 #include "cashier/Restart.h"
+#include "core/Installation.h"
 #include "core/dbModule.h"
 #include "delivery/Delivery.h"
 #include "delivery/Trade.h"
@@ -24,9 +27,10 @@
 #include "player/Keys.h"
 #include "player/ModalWatch.h"
 #include "store/StorePath.h"
-#include "upkeep/RegisterBackup.h"
+#include "upkeep/Backup.h"
+#include "upkeep/BackupPlace.h"
+#include "upkeep/Restore.h"
 #include "upkeep/health/SupportReport.h"
-#include "values/IniEdit.h"
 
 using namespace Qt::StringLiterals;
 
@@ -37,6 +41,32 @@ namespace {
 // "BackupPage" is shown as "manager-backup".
 QString PictureOfPage(const QString& className) {
     return u"manager-"_s + className.chopped(4).toLower();
+}
+
+// A table of a wholesaler: goods that are there, new ones, and rows that can't be taken.
+void ReadTable(const QString& shop) {
+    QFile table(QFileInfo(shop).path() + u"/cjenik.csv"_s);
+    if (!table.open(QIODevice::WriteOnly)) throw std::runtime_error("the table can't be written");
+    table.write(
+        u"EAN;Naziv;JM;MPC;PDV;Zaliha;Grupa\r\n"
+        "3850101040019;Mineralna voda 0,5 l;pcs;1,25;17;96;Pića\r\n"
+        "3850101040088;Mineralna voda 1,5 l;pcs;1,60;17;60;Pića\r\n"
+        "3850101040156;Izvorska voda 0,5 l;pcs;1,05;17;120;Pića\r\n"
+        "3850101099994;Limunada 0,33 l;pcs;1,90;17;24;Pića\r\n"
+        "3850101099987;Kruška 1 kg;kg;3,49;17;12,5;Voće\r\n"
+        "3,85E+12;Ledeni čaj 1,5 l;pcs;2,20;17;30;Pića\r\n"
+        "3850101099970;Sok od bazge;pcs;2.4;17;18;Pića\r\n"_s.toUtf8());
+    table.close();
+    dynamic_cast<manager::GoodsPage&>(*forms::FindForm(u"GoodsPage")).LookAt(table.fileName());
+    drivers::Settle();
+}
+
+void RaisePrices() {
+    auto& page = dynamic_cast<manager::PricesPage&>(*forms::FindForm(u"PricesPage"));
+    page.ui.txtPercent->setText(u"5"_s);
+    page.ui.cboEnding->setCurrentIndex(1);
+    page.ui.cmdLook->click();
+    drivers::Settle();
 }
 
 // What differs from machine to machine is always the same in a picture.
@@ -62,17 +92,14 @@ void ShowSupport(const QString& shop, const Cashier::Camera& camera) {
     camera(form, u"manager-support"_s);
 }
 
-// The day after the backup, on which more was sold.
+// The question before a backup is brought back, on a day on which more was sold.
 void ShowRestore(const QString& shop, const Cashier::Camera& camera) {
-    const upkeep::BackupPlan plan = upkeep::ReadBackupPlan(shop);
-    auto backup = upkeep::BackupsIn(upkeep::FolderOfRegister(plan.place, shop)).front();
-    const auto day = [](int invoices, qint64 hundredths) {
-        return upkeep::DayTotal{.day = QDate(2026, 11, 25),
-                                .invoices = invoices,
-                                .takings = values::Money::FromUnits(100 * hundredths),
-                                .tax = {}};
-    };
-    manager::RestoreForm form(backup, {{.day = QDate(2026, 11, 25), .inStore = day(4, 3120), .inBackup = day(0, 0)}});
+    const auto backups = upkeep::ListBackups(TheInstallation.backup.folder, shop);
+    if (backups.isEmpty()) throw std::runtime_error("no backup was made");
+    upkeep::RestorePreview preview = upkeep::PreviewRestore(shop, backups.first());
+    preview.days.first().one.invoices += 3;
+    preview.days.first().one.takings += values::Money::FromWhole(27);
+    manager::RestoreForm form(preview);
     form.Show();
     drivers::Settle();
     camera(form, u"manager-restore"_s);
@@ -110,29 +137,12 @@ void ShowLabels(manager::ManagerWindow& window, const Cashier::Camera& camera) {
     camera(window, u"manager-labels-own"_s);
 }
 
-// A table with a bit of everything.
-void ReadTable(const QString& shop) {
-    auto& page = dynamic_cast<manager::GoodsPage&>(*forms::FindForm(u"GoodsPage"));
-    const QString path = QFileInfo(shop).path() + u"/prices.csv"_s;
-    QFile table(path);
-    if (!table.open(QIODevice::WriteOnly)) throw std::runtime_error("the table can't be written");
-    table.write(
-        "Artikelnummer;Bezeichnung;VK-Preis;Bestand;MwSt;Einheit\n3850101040019;Mlijeko 2,8 % 1 l;2,45;;P;Stk.\n"
-        "4001;K\xC3\xA4se jung;14,90;6,5;P;kg\n4002;Brot;\"1,2,3\";;P;Stk.\n3,85E+12;Wasser;1,10;;P;Stk.\n");
-    table.close();
-    page.ui.txtFile->setText(path);
-    for (const int separator : {1, 0}) page.ui.cboSeparator->setCurrentIndex(separator);
-    drivers::Settle();
-}
-
 // What a shop has that was set up well.
 void BackUp(const QString& shop) {
-    const QString place = QFileInfo(shop).path() + u"/stick"_s;
-    upkeep::TakeAsPlace(place);
-    values::IniEdit ini(shop + u"/velton.ini"_s);
-    ini.Set(u"backup"_s, u"folder"_s, place);
-    ini.Save();
-    upkeep::BackUpRegister(shop, place, {});
+    const QString stick = QFileInfo(shop).path() + u"/stick"_s;
+    QDir().mkdir(stick);
+    upkeep::ChooseBackupFolder(stick, shop);
+    upkeep::MakeBackup(shop, upkeep::ReadBackupPlan(shop));
 }
 
 manager::ManagerWindow& LogIn(const QString& shop, const Cashier::Camera& camera) {
@@ -236,8 +246,8 @@ void LookAtManager(const QString& shop, const Cashier::Camera& camera) {
         PageOf<manager::Page>(window, entry.className);
         if (entry.className == u"GoodsPage") ReadTable(shop);
         if (entry.className == u"LabelsPage") ChooseGoods(window);
-        if (auto* prices = dynamic_cast<manager::PricesPage*>(forms::FindForm(entry.className)))
-            prices->ui.txtPercent->setText(u"4"_s);
+        if (entry.className == u"PricesPage") RaisePrices();
+        if (entry.className == u"ReportsPage") window.findChild<QAbstractButton*>(u"cmdShow"_s)->click();
         camera(window, PictureOfPage(entry.className));
         if (entry.className == u"LabelsPage") ShowLabels(window, camera);
         if (entry.className == u"HealthPage") ShowSupport(shop, camera);

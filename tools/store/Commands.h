@@ -21,24 +21,24 @@ void Check(const QString& folder);
 void Report(const QString& folder, const QString& file);
 // The main store alone, as a file.
 void Backup(const QString& folder, const QString& file);
-// Whole registers, in `place`, or where velton.ini says when it is empty.
-void BackupRegister(const QString& folder, const QString& place);
-void Backups(const QString& folder, const QString& place);
-void Restore(const QString& folder, const QString& backup);
+// Of the whole register; where nothing is named, into the folder that velton.ini names.
+void BackupRegister(const QString& folder, const QString& to);
+void Backups(const QString& folder, const QString& in);
+void Restore(const QString& folder, const QString& backup, const QString& in);
 // To a server, or into the folder where the address is empty.
 void Move(const QString& folder, const QString& address);
 
-// Goods from a table; what is not said is guessed from it.
+// How a table of goods comes in; what is empty is guessed.
 struct ImportCall {
-    QStringList map;  // COLUMN=FIELD
-    QString encoding, separator, decimal, unit, tax;
-    bool dryRun = false, addOnly = false, updateOnly = false, keepPrice = false, keepQuantity = false,
-         skipRefused = false;
+    QStringList columns;  // COLUMN=FIELD
+    QString encoding, separator, decimal, tax, unit;
+    bool dryRun = false, skipRefused = false;
+    bool addOnly = false, updateOnly = false, keepPrice = false, keepQuantity = false;
 };
 void Import(const QString& folder, const QString& file, const ImportCall& call);
 void UndoImport(const QString& folder);
-// `what`: goods or customers.
-void Export(const QString& folder, const QString& what, const QString& file);
+// `what`: goods, customers, a report of these days, or a table's name.
+void Export(const QString& folder, const QString& what, const QString& file, const QString& from, const QString& to);
 
 // The store of a program's folder, the main one where store.ini says.
 std::unique_ptr<store::Database> OpenStore(const QString& folder, Which which);

@@ -29,7 +29,7 @@ int Report(int number, const QString& description) {
 
 // What the command line gave, in bytes.
 struct Arguments {
-    std::string folder, table, file, text, server, place;
+    std::string folder, table, file, text, server, backups, backup;
     std::vector<std::string> fields;
     bool withDemo = false;
     bool options = false;
@@ -57,38 +57,79 @@ CLI::App* AddCall(CLI::App& app, Arguments& arguments, const char* name, const c
     return call;
 }
 
-void AddGoodsCalls(CLI::App& app, Arguments& a) {
-    CLI::App* call = AddCall(app, a, "import", "Takes goods from a table that a spreadsheet saved as CSV, all or none");
-    call->add_option("FILE", a.file, "The table; its first row names the columns")->required();
-    call->add_option("--map", a.map, "COLUMN=FIELD, a heading or number and code, name, price, unit, tax, quantity");
-    call->add_flag("--dry-run", a.import.dryRun, "Only tells what would be done");
-    call->add_flag("--skip-refused", a.import.skipRefused, "Writes the others where some rows are refused");
-    CLI::Option* addOnly = call->add_flag("--add-only", a.import.addOnly, "Leaves goods that are there alone");
-    call->add_flag("--update-only", a.import.updateOnly, "Leaves new goods out")->excludes(addOnly);
-    call->add_flag("--keep-price", a.import.keepPrice, "Leaves the prices of goods that are there alone");
-    call->add_flag("--keep-quantity", a.import.keepQuantity, "Leaves their quantities alone");
-    call->add_option("--unit", a.unit, "Of new goods where the table has none");
-    call->add_option("--tax", a.tax, "Of new goods where the table has none");
-    call->add_option("--encoding", a.encoding, "UTF-8, windows-1250 and so on; guessed");
-    call->add_option("--separator", a.separator, "; or , or tab; guessed");
-    call->add_option("--decimal", a.decimal, "The decimal sign, . or ,; guessed")->check(CLI::IsMember({".", ","}));
+void AddBackupCalls(CLI::App& app, Arguments& a) {
+    CLI::App* call = AddCall(app, a, "backup", "Backs up the whole register, or copies the main store, at work");
+    CLI::Option* file = call->add_option("FILE", a.file, "A copy of the main store alone, a file that does not exist");
+    call->add_option("--to", a.backups, "A folder for backups; that of velton.ini when it is not said")->excludes(file);
     call->callback([&a] {
-        a.import.map = Texts(a.map);
-        a.import.encoding = Text(a.encoding);
-        a.import.separator = Text(a.separator);
-        a.import.decimal = Text(a.decimal);
-        a.import.unit = Text(a.unit);
-        a.import.tax = Text(a.tax);
-        tool::Import(Text(a.folder), Text(a.file), a.import);
+        a.file.empty() ? tool::BackupRegister(Text(a.folder), Text(a.backups))
+                       : tool::Backup(Text(a.folder), Text(a.file));
     });
 
-    call = AddCall(app, a, "undo-import", "Takes the last import of goods back");
+    constexpr auto usualIn = "The folder for backups; that of velton.ini when it is not said";
+    call = AddCall(app, a, "backups", "Lists the backups, the newest first");
+    call->add_option("--in", a.backups, usualIn);
+    call->callback([&a] { tool::Backups(Text(a.folder), Text(a.backups)); });
+
+    call = AddCall(app, a, "restore", "Puts a backup in the place of the register's data, while no till runs");
+    call->add_option("BACKUP", a.backup, "Its name, or its folder")->required();
+    call->add_option("--in", a.backups, usualIn);
+    call->callback([&a] { tool::Restore(Text(a.folder), Text(a.backup), Text(a.backups)); });
+}
+
+// Goods and customers, in and out as tables of a spreadsheet.
+struct SheetArguments {
+    std::string folder, file, what, from, to, encoding, separator, decimal, tax, unit;
+    std::vector<std::string> columns;
+    tool::ImportCall call;
+
+    tool::ImportCall Call() {
+        call.columns = Texts(columns);
+        call.encoding = Text(encoding);
+        call.separator = Text(separator);
+        call.decimal = Text(decimal);
+        call.tax = Text(tax);
+        call.unit = Text(unit);
+        return call;
+    }
+};
+
+void AddSheetCalls(CLI::App& app, SheetArguments& a) {
+    CLI::App* call = app.add_subcommand("import", "Takes goods from a spreadsheet's CSV, all rows or none");
+    call->add_option("FOLDER", a.folder, "The program's folder")->required();
+    call->add_option("FILE", a.file, "The table")->required();
+    call->add_flag("--dry-run", a.call.dryRun, "Tells what would be done and writes nothing");
+    call->add_option("--map", a.columns,
+                     "COLUMN=FIELD: a heading or number, and code, name, price, quantity, unit, tax, group, "
+                     "picture or none")
+        ->allow_extra_args(false);
+    CLI::Option* addOnly = call->add_flag("--add-only", a.call.addOnly, "Only goods that are new");
+    call->add_flag("--update-only", a.call.updateOnly, "Only goods that are there")->excludes(addOnly);
+    call->add_flag("--keep-price", a.call.keepPrice, "Leaves prices of goods that are there");
+    call->add_flag("--keep-quantity", a.call.keepQuantity, "Leaves quantities of goods that are there");
+    call->add_flag("--skip-refused", a.call.skipRefused, "Writes the other rows when some are refused");
+    call->add_option("--encoding", a.encoding, "UTF-8, UTF-16LE, windows-1250, ...; guessed when it is not said");
+    call->add_option("--separator", a.separator, "Between cells: , ; or tab");
+    call->add_option("--decimal", a.decimal, "Before decimals: , or .");
+    call->add_option("--tax", a.tax, "The tax of new goods whose row says none");
+    call->add_option("--unit", a.unit, "The unit of new goods whose row says none");
+    call->callback([&a] { tool::Import(Text(a.folder), Text(a.file), a.Call()); });
+
+    call = app.add_subcommand("undo-import", "Takes the last import, or change of prices, back");
+    call->add_option("FOLDER", a.folder, "The program's folder")->required();
     call->callback([&a] { tool::UndoImport(Text(a.folder)); });
 
-    call = AddCall(app, a, "export", "Writes goods or customers for a spreadsheet");
-    call->add_option("WHAT", a.text, "goods or customers")->required();
-    call->add_option("FILE", a.file, "NAME.csv; of goods also NAME.xlsx")->required();
-    call->callback([&a] { tool::Export(Text(a.folder), Text(a.text), Text(a.file)); });
+    call = app.add_subcommand("export", "Writes a table that a spreadsheet opens");
+    call->add_option("FOLDER", a.folder, "The program's folder")->required();
+    call->add_option(
+            "TABLE", a.what,
+            "goods, customers, sales-by-cashier, sales-by-product, taxes, tax-book, invoice-list, end-reports, "
+            "hours, stock, or a table's name")
+        ->required();
+    call->add_option("FILE", a.file, "FILE.csv or FILE.xlsx")->required();
+    call->add_option("--from", a.from, "The first day of a report, 2026-11-01; that of this month");
+    call->add_option("--to", a.to, "The last day of a report; today");
+    call->callback([&a] { tool::Export(Text(a.folder), Text(a.what), Text(a.file), Text(a.from), Text(a.to)); });
 }
 
 void AddCalls(CLI::App& app, Arguments& a) {
@@ -121,22 +162,7 @@ void AddCalls(CLI::App& app, Arguments& a) {
     call->add_option("FILE", a.file, "Where to, instead of standard output");
     call->callback([&a] { tool::Report(Text(a.folder), Text(a.file)); });
 
-    call = AddCall(app, a, "backup", "Copies the main store into FILE, or the whole register, while registers work");
-    CLI::Option* file = call->add_option("FILE", a.file, "The copy of the main store, a file that does not exist yet");
-    call->add_option("--to", a.place, "The folder for backups of whole registers; else as velton.ini has it")
-        ->excludes(file);
-    call->callback([&a] {
-        a.file.empty() ? tool::BackupRegister(Text(a.folder), Text(a.place))
-                       : tool::Backup(Text(a.folder), Text(a.file));
-    });
-
-    call = AddCall(app, a, "backups", "Lists the backups of the whole register, the newest first");
-    call->add_option("--to", a.place, "The folder for backups; else as velton.ini has it");
-    call->callback([&a] { tool::Backups(Text(a.folder), Text(a.place)); });
-
-    call = AddCall(app, a, "restore", "Puts a backup of the whole register in its place, while no till runs");
-    call->add_option("BACKUP", a.file, "The folder of one backup")->required();
-    call->callback([&a] { tool::Restore(Text(a.folder), Text(a.file)); });
+    AddBackupCalls(app, a);
 
     call = AddCall(app, a, "move", "Moves the main store to a server or back, while no till runs");
     CLI::Option_group* where = call->add_option_group("where");
@@ -152,7 +178,8 @@ int Run(int argc, char** argv) {
     app.require_subcommand(1);
     Arguments arguments;
     AddCalls(app, arguments);
-    AddGoodsCalls(app, arguments);
+    SheetArguments sheets;
+    AddSheetCalls(app, sheets);
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {

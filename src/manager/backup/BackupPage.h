@@ -2,11 +2,11 @@
 
 #include "manager/Page.h"
 #include "ui_BackupPage.h"
-#include "upkeep/BackupFolder.h"
+#include "upkeep/BackupList.h"
 
 namespace manager {
 
-// Where the backups of the register are kept, which there are, and the way back to one of them.
+// Where the backups go, which there are, one made at once, and the way back.
 class BackupPage : public Page {
     Q_OBJECT
 
@@ -16,19 +16,20 @@ public:
     Ui::BackupPage ui;
 
 protected:
-    void Form_Load() override;
+    void Form_Load() override { Form_Activate(); }
+    // A till may have made one meanwhile.
     void Form_Activate() override;
 
 private:
-    void cmdChoose_Click();
-    void cmdSave_Click();
-    void cmdBackup_Click();
-    void cmdRestore_Click();
-
-    void ShowPlan();
+    void ShowFolder();
+    void ShowLast();
     void ShowBackups();
+    void cmdFolder_Click();
+    void cmdNow_Click();
+    void cmdRestore_Click();
+    void Restore(const upkeep::BackupFacts& backup);
 
-    std::vector<upkeep::Backup> backups_;
+    QList<upkeep::BackupFacts> backups_;
 };
 
 }  // namespace manager

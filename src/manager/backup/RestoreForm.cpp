@@ -1,37 +1,57 @@
 #include "manager/backup/RestoreForm.h"
 
+#include "core/Settings.h"
 #include "manager/Texts.h"
+#include "manager/backup/BackupWords.h"
 #include "values/DateText.h"
 
 using namespace Qt::StringLiterals;
 
 namespace manager {
 
-RestoreForm::RestoreForm(const upkeep::Backup& backup, const std::vector<upkeep::DayDifference>& days) {
+RestoreForm::RestoreForm(const upkeep::RestorePreview& preview) {
     ui.setupUi(this);
-    ui.lstDays->SetColumns({{tr("Day"), Qt::AlignLeft, 130},
+    ui.lstDays->SetColumns({{tr("Day"), Qt::AlignLeft, 120},
                             {tr("Invoices now"), Qt::AlignRight, 120},
                             {tr("Takings now"), Qt::AlignRight, 130},
-                            {tr("Invoices in the backup"), Qt::AlignRight, 170},
-                            {tr("Takings in the backup"), Qt::AlignRight, -1}});
-    ui.lstDays->SetEmptyText(tr("Both have the same sales on every day."));
-    ui.lblWhat->setText(tr("The backup of %1. These days would be others afterwards; what is replaced is kept in a "
-                           "folder beside it. No till may be running.")
-                            .arg(MomentText(backup.made)));
-    for (const auto& [day, now, then] : days)
-        ui.lstDays->Add({values::DateText(day), QString::number(now.invoices), AmountText(now.takings),
-                         QString::number(then.invoices), AmountText(then.takings)});
-    FunctionKeys({{Qt::Key_Escape, ui.cmdLeave}});
+                            {tr("Invoices there"), Qt::AlignRight, 120},
+                            {tr("Takings there"), Qt::AlignRight, 130},
+                            {u""_s, Qt::AlignLeft, -1}});
+    ui.lstDays->SetEmptyText(tr("Neither the shop nor the backup has sold anything yet."));
+    FunctionKeys({{Qt::Key_Escape, ui.cmdCancel}});
     On(ui.cmdReplace, &RestoreForm::cmdReplace_Click);
-    On(ui.cmdLeave, &RestoreForm::cmdLeave_Click);
+    On(ui.cmdCancel, &RestoreForm::cmdCancel_Click);
+    ui.lblBackup->setText(
+        tr("The backup of %1, with %2 invoices. Takings are in %3.")
+            .arg(MomentText(preview.backup.made), QString::number(preview.backup.invoices), TheSettings.Currency));
+    const auto differing = std::ranges::count_if(preview.days, [](const auto& day) { return !day.IsSame(); });
+    if (!preview.liveFault.isEmpty())
+        ui.lblChanges->setText(tr("The shop can't be read: %1").arg(preview.liveFault));
+    else if (differing == 0)
+        ui.lblChanges->setText(tr("All days are the same in the shop and in the backup."));
+    else
+        ui.lblChanges->setText(
+            tr("Days that differ: %1. They stand first. What the shop has now and the backup has not "
+               "will be gone from it; all that is replaced is kept in a folder beside it.")
+                .arg(differing));
+    ShowDays(preview.days);
+}
+
+void RestoreForm::ShowDays(const QList<upkeep::DayInTwo>& days) {
+    for (const upkeep::DayInTwo& day : days)
+        ui.lstDays->Add({day.one.day.isValid() ? values::DateText(day.one.day) : tr("without a day"),
+                         QString::number(day.one.invoices), AmountText(day.one.takings),
+                         QString::number(day.other.invoices), AmountText(day.other.takings),
+                         day.IsSame() ? QString() : tr("differs")});
+    if (!days.isEmpty()) ui.lstDays->Select(0);
 }
 
 void RestoreForm::cmdReplace_Click() {
-    isAgreed_ = true;
+    isWanted_ = true;
     Unload();
 }
 
-void RestoreForm::cmdLeave_Click() {
+void RestoreForm::cmdCancel_Click() {
     Unload();
 }
 

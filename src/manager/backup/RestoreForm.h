@@ -6,22 +6,23 @@
 
 namespace manager {
 
-// What a backup would change, day by day, before the owner agrees to it.
+// Shows day by day what a restore would change before it is done. It does nothing itself.
 class RestoreForm : public forms::Form {
     Q_OBJECT
 
 public:
-    RestoreForm(const upkeep::Backup& backup, const std::vector<upkeep::DayDifference>& days);
+    explicit RestoreForm(const upkeep::RestorePreview& preview);
 
-    bool IsAgreed() const { return isAgreed_; }
+    bool IsWanted() const { return isWanted_; }
 
     Ui::RestoreForm ui;
 
 private:
+    void ShowDays(const QList<upkeep::DayInTwo>& days);
     void cmdReplace_Click();
-    void cmdLeave_Click();
+    void cmdCancel_Click();
 
-    bool isAgreed_ = false;
+    bool isWanted_ = false;
 };
 
 }  // namespace manager

@@ -1,48 +1,51 @@
 #pragma once
 
-#include "manager/Page.h"
-#include "ui_GoodsPage.h"
-#include "upkeep/goods/GoodsPreview.h"
+#include <memory>
+#include <optional>
 
-class QComboBox;
+#include "manager/Page.h"
+#include "manager/goods/GoodsWriting.h"
+#include "ui_GoodsPage.h"
+#include "upkeep/goods/GoodsImport.h"
+#include "upkeep/goods/SheetFile.h"
 
 namespace manager {
 
-// Goods from a spreadsheet's table, looked at row by row before anything is written, and out to one.
+// Goods from a spreadsheet and to one: what a file would do is shown row by row before any of it is written.
 class GoodsPage : public Page {
     Q_OBJECT
 
 public:
     explicit GoodsPage(QWidget* parent);
 
+    // A file as if it had been chosen.
+    void LookAt(const QString& path);
+
     Ui::GoodsPage ui;
 
 protected:
-    void Form_Load() override;
     void Form_Activate() override;
 
 private:
-    void cmdFile_Click();
-    void cboForm_Choice();
-    void Choice_Changed();
-    void cboShow_Choice();
+    void cmdChoose_Click();
+    void ReadAgain();
+    void PreviewAgain();
+    void cboShow_Choose();
+    void ShowRow();
     void cmdWrite_Click();
     void cmdUndo_Click();
-    void cmdExport_Click();
+    void cmdExportGoods_Click();
     void cmdExportCustomers_Click();
 
-    // Reads the file in the form given, and shows what would be done with it.
-    void Read(const upkeep::TableForm& form);
-    void Preview(const upkeep::ImportChoice& choice);
-    void ShowForm();
-    void ShowChoice();
-    void ShowRows();
-    void FillUnitsAndTaxes();
-    QList<std::pair<upkeep::GoodsField, QComboBox*>> ColumnBoxes() const;
-    upkeep::ImportChoice Chosen() const;
+    void Preview(const std::function<bool()>& goesOn);
+    void ShowPreview();
+    void ForgetPreview();
+    void Export(const QString& title, const std::function<upkeep::Sheet()>& sheet);
 
-    upkeep::TableText table_;
-    upkeep::GoodsPreview preview_;
+    GoodsWriting writing_{*this};
+    QString path_;
+    upkeep::GoodsSheet sheet_;
+    std::shared_ptr<const upkeep::Preview> preview_;
 };
 
 }  // namespace manager

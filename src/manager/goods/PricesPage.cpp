@@ -2,131 +2,185 @@
 
 #include "core/dbModule.h"
 #include "forms/MsgBox.h"
-#include "manager/Texts.h"
-#include "output/Folder.h"
-#include "upkeep/goods/GoodsImport.h"
-#include "values/Format.h"
+#include "forms/Scrollable.h"
+#include "manager/goods/PreviewRows.h"
+#include "upkeep/goods/GoodsRules.h"
 #include "values/Numbers.h"
 
 using namespace Qt::StringLiterals;
-using upkeep::GoodsRow;
-using upkeep::PriceChange;
+using upkeep::PriceEnding;
+using upkeep::PriceWish;
+using upkeep::RowKind;
+using values::Money;
 
 namespace manager {
 
 namespace {
 
-const auto TaxesQuery = u"SELECT * FROM Tax"_s;
-const auto TabsQuery = u"SELECT * FROM TabControl"_s;
+// Old and new in columns of their own, and what keeps goods from being changed.
+class PriceRows : public PreviewRows {
+public:
+    using PreviewRows::PreviewRows;
 
-constexpr qsizetype ShownRates = 12;
+    QString Text(int row, int column) const override {
+        if (column < 2) return PreviewRows::Text(row, column == 0 ? Code : Name);
+        if (column == 4) return At(row).reasons.join(u' ');
+        if (At(row).change.columns.empty()) return {};
+        const upkeep::ColumnChange& change = At(row).change.columns.front();
+        return Whole().Shown(change.column, column == 2 ? change.before : change.after);
+    }
+};
+
+// Two decimals, as the arithmetic of prices takes it.
+bool IsPercent(const QString& text) {
+    if (!values::IsNumeric(text)) return false;
+    const Money percent = values::CMoney(text);
+    return percent > -Money::FromWhole(100) && percent <= Money::FromWhole(1000) && percent.Units() % 100 == 0;
+}
 
 }  // namespace
 
 PricesPage::PricesPage(QWidget* parent) : Page(parent) {
     ui.setupUi(this);
-    ui.lstPrices->SetColumns({{tr("Code"), Qt::AlignLeft, 150},
-                              {tr("Name"), Qt::AlignLeft, -1},
-                              {tr("Price now"), Qt::AlignRight, 130},
-                              {tr("New price"), Qt::AlignRight, 130}});
-    ui.lstPrices->SetEmptyText(tr("Say by how many percent; what would be changed stands here before it is written."));
-    ui.cboEnding->addItem(tr("to the cent"), static_cast<int>(PriceChange::Ending::Cents));
-    ui.cboEnding->addItem(u".05"_s, static_cast<int>(PriceChange::Ending::Five));
-    ui.cboEnding->addItem(u".10"_s, static_cast<int>(PriceChange::Ending::Ten));
-    ui.cboEnding->addItem(u".99"_s, static_cast<int>(PriceChange::Ending::NinetyNine));
+    forms::MakeScrollable(ui.panelWish);
+    ShowColumns(false);
+    ui.lstPrices->SetEmptyText(tr("Say what is to change, and press Look."));
+    ui.cboWhat->addItem(tr("Prices by percent"));
+    ui.cboWhat->addItem(tr("Tax rates"));
+    HighlightOnFocus({ui.txtName, ui.txtPercent});
     NumericKeys({ui.txtPercent}, u"-"_s);
-    EnterMovesOn();
-    for (QComboBox* box : {ui.cboTax, ui.cboTab, ui.cboEnding}) OnChange(box, &PricesPage::Choice_Changed);
-    for (QLineEdit* box : {ui.txtName, ui.txtPercent}) OnChange(box, &PricesPage::Choice_Changed);
+    for (QComboBox* box : {ui.cboWhat, ui.cboGoods})
+        connect(box, &QComboBox::activated, this, Guarded(&PricesPage::ShowWhatCounts));
+    On(ui.cmdLook, &PricesPage::cmdLook_Click);
     On(ui.cmdWrite, &PricesPage::cmdWrite_Click);
     On(ui.cmdUndo, &PricesPage::cmdUndo_Click);
-    On(ui.cmdRates, &PricesPage::cmdRates_Click);
+    EnterMovesOn({ui.txtName, ui.txtPercent});
+}
+
+void PricesPage::ShowColumns(bool withReasons) {
+    std::vector<forms::ListColumn> columns{{tr("Code"), Qt::AlignLeft, 132},
+                                           {tr("Name"), Qt::AlignLeft, -1},
+                                           {tr("Before"), Qt::AlignRight, 84},
+                                           {tr("After"), Qt::AlignRight, 84}};
+    if (withReasons) columns.push_back({tr("Why not"), Qt::AlignLeft, 140});
+    ui.lstPrices->SetColumns(columns);
 }
 
 void PricesPage::Form_Load() {
-    ui.cboTax->addItem(tr("all"), QString());
-    auto taxes = MainStore().OpenSnapshot(TaxesQuery);
-    for (auto& tax : taxes)
-        ui.cboTax->addItem(tax[u"TaxID"].TextOrEmpty() + u"  "_s + tax[u"Name"].TextOrEmpty(),
-                           tax[u"TaxID"].TextOrEmpty());
-    ui.cboTab->addItem(tr("all"), -1);
-    auto tabs = MainStore().OpenSnapshot(TabsQuery);
-    for (int number = 0; auto& tab : tabs) ui.cboTab->addItem(tab[1].TextOrEmpty(), number++);
-    Preview();
+    ui.cboGoods->addItem(tr("all goods"), static_cast<int>(PriceWish::Goods::All));
+    ui.cboGoods->addItem(tr("of a tax"), static_cast<int>(PriceWish::Goods::OfTax));
+    ui.cboGoods->addItem(tr("of a group"), static_cast<int>(PriceWish::Goods::OfGroup));
+    ui.cboGoods->addItem(tr("with a name"), static_cast<int>(PriceWish::Goods::Named));
+    ui.cboEnding->addItem(tr("to the cent"), static_cast<int>(PriceEnding::Cent));
+    ui.cboEnding->addItem(tr("by 0.05"), static_cast<int>(PriceEnding::FiveCents));
+    ui.cboEnding->addItem(tr("by 0.10"), static_cast<int>(PriceEnding::TenCents));
+    ui.cboEnding->addItem(tr("at .99"), static_cast<int>(PriceEnding::NinetyNine));
+    ShowWhatCounts();
 }
 
 void PricesPage::Form_Activate() {
-    ui.cmdUndo->setEnabled(upkeep::LastImport(output::ProgramFolder()).isValid());
+    ui.cmdUndo->setEnabled(GoodsWriting::CanTakeBack());
+    ShowWhatCounts();
 }
 
-PriceChange PricesPage::Chosen() const {
-    return {.tax = ui.cboTax->currentData().toString(),
-            .tab = ui.cboTab->currentData().toInt(),
-            .namePart = ui.txtName->text().trimmed(),
+bool PricesPage::IsAboutRates() const {
+    return ui.cboWhat->currentIndex() == 1;
+}
+
+PriceWish::Goods PricesPage::Goods() const {
+    return static_cast<PriceWish::Goods>(ui.cboGoods->currentData().toInt());
+}
+
+void PricesPage::ShowWhatCounts() {
+    const bool rates = IsAboutRates();
+    const QString chosen = ui.cboWhich->currentData().toString();
+    const bool ofTax = rates || Goods() == PriceWish::Goods::OfTax;
+    ui.cboWhich->clear();
+    if (rates) ui.cboWhich->addItem(tr("all taxes"), QString());
+    if (ofTax)
+        for (const upkeep::TaxRate& tax : upkeep::GoodsRules(MainStore()).taxes)
+            ui.cboWhich->addItem(tr("%1 (%2 %)").arg(tax.id, tax.percent.TextOrEmpty()), tax.id);
+    else
+        for (const QString& group : upkeep::ClickGroups(MainStore()).names) ui.cboWhich->addItem(group, group);
+    ui.cboWhich->setCurrentIndex(std::max(0, ui.cboWhich->findData(chosen)));
+    ui.cboWhich->setEnabled(ofTax || Goods() == PriceWish::Goods::OfGroup);
+    ui.txtName->setEnabled(!rates && Goods() == PriceWish::Goods::Named);
+    for (QWidget* box : std::initializer_list<QWidget*>{ui.cboGoods, ui.txtPercent, ui.cboEnding})
+        box->setEnabled(!rates);
+    ui.lblHint->setText(
+        rates ? tr("Goods keep the rate that their tax had when they were entered. Those with another rate get "
+                   "that of now. Prices hold the tax and stay.")
+              : tr("Below zero the goods get cheaper. Of two prices as near the higher one is taken."));
+}
+
+PriceWish PricesPage::Wish() const {
+    const bool isNamed = Goods() == PriceWish::Goods::Named;
+    return {.goods = Goods(),
+            .which = isNamed ? ui.txtName->text().trimmed() : ui.cboWhich->currentData().toString(),
             .percent = values::CMoney(ui.txtPercent->text()),
-            .ending = static_cast<PriceChange::Ending>(ui.cboEnding->currentData().toInt())};
+            .ending = static_cast<PriceEnding>(ui.cboEnding->currentData().toInt())};
 }
 
-void PricesPage::Choice_Changed() {
-    Preview();
+QString PricesPage::Title() const {
+    if (IsAboutRates()) return tr("Tax rates");
+    return tr("Prices by %1 %").arg(ui.txtPercent->text());
 }
 
-void PricesPage::Preview() {
-    const bool isSaid = values::IsNumeric(ui.txtPercent->text());
-    preview_ = isSaid ? upkeep::PreviewPrices(MainStore(), Chosen()) : upkeep::GoodsPreview();
-    ui.lstPrices->Clear();
-    ui.lstPrices->BeginFill();
-    for (const GoodsRow& row : preview_.rows)
-        if (row.kind == GoodsRow::Kind::Changed)
-            ui.lstPrices->Add({row.code, row.before.name, AmountText(row.before.price), AmountText(row.after.price)});
-    ui.lstPrices->EndFill();
-    const int changed = preview_.Count(GoodsRow::Kind::Changed);
-    ui.lblCounts->setText(isSaid ? tr("%1 of %2 chosen goods would get another price.")
-                                       .arg(QString::number(changed), QString::number(preview_.rows.size()))
-                                 : QString());
-    ui.cmdWrite->setEnabled(changed > 0);
-    ui.cmdUndo->setEnabled(upkeep::LastImport(output::ProgramFolder()).isValid());
-}
-
-void PricesPage::cmdWrite_Click() {
-    const int changed = preview_.Count(GoodsRow::Kind::Changed);
-    if (!forms::Ask(tr("Write %n new price(s)?", nullptr, changed), Caption())) return;
-    try {
-        upkeep::ImportGoods(MainStore(), output::ProgramFolder(), preview_);
-        ui.txtPercent->clear();
-        ui.lblCounts->setText(tr("%n price(s) are written.", nullptr, changed));
-    } catch (const values::Error& error) {
-        forms::Inform(error.Description(), Caption());
-        Preview();
+void PricesPage::cmdLook_Click() {
+    if (!IsAboutRates() && !IsPercent(ui.txtPercent->text())) {
+        forms::Tell(tr("The percent has to be a number above -100, up to 1000, with at most two decimals."),
+                    forms::Icon::Warning, Caption());
+        return ui.txtPercent->setFocus();
     }
+    if (ui.txtName->isEnabled() && ui.txtName->text().trimmed().isEmpty()) {
+        forms::Tell(tr("Say a part of the name."), forms::Icon::Warning, Caption());
+        return ui.txtName->setFocus();
+    }
+    Look();
+    ShowPreview();
+}
+
+void PricesPage::Look() {
+    preview_.reset();
+    title_ = Title();
+    writing_.Do([&](const auto& goesOn) {
+        preview_ = std::make_shared<const upkeep::Preview>(
+            IsAboutRates() ? upkeep::PreviewRates(MainStore(), ui.cboWhich->currentData().toString(), goesOn)
+                           : upkeep::PreviewPrices(MainStore(), Wish(), goesOn));
+    });
+}
+
+void PricesPage::ShowPreview() {
+    ui.cmdWrite->setEnabled(preview_ && preview_->Count(RowKind::Changed) > 0);
+    ui.lstPrices->Clear();
+    ui.lblCounts->clear();
+    if (!preview_) return;
+    ShowColumns(preview_->Count(RowKind::Refused) > 0);
+    ui.lstPrices->SetEmptyText(tr("Nothing would change."));
+    ui.lstPrices->ShowRows(std::make_unique<PriceRows>(preview_, std::vector{RowKind::Changed, RowKind::Refused}));
+    ui.lblCounts->setText(tr("%1 changed, %2 unchanged, %3 refused")
+                              .arg(preview_->Count(RowKind::Changed))
+                              .arg(preview_->Count(RowKind::Unchanged))
+                              .arg(preview_->Count(RowKind::Refused)));
+}
+
+// Looked at again, prices would go up twice: what was written is over.
+void PricesPage::cmdWrite_Click() {
+    const bool isWritten = writing_.Write(title_, *preview_);
+    ui.cmdUndo->setEnabled(GoodsWriting::CanTakeBack());
+    if (!isWritten) return;
+    preview_.reset();
+    ShowPreview();
+    Q_EMIT ShopChanged();
 }
 
 void PricesPage::cmdUndo_Click() {
-    const QDateTime last = upkeep::LastImport(output::ProgramFolder());
-    if (!last.isValid() || !forms::Ask(tr("Take back what was written at %1?").arg(MomentText(last)), Caption()))
-        return;
-    const upkeep::Written written = upkeep::UndoImport(MainStore(), output::ProgramFolder());
-    Preview();
-    ui.lblCounts->setText(tr("%n product(s) are as before.", nullptr, written.changed));
-    if (!written.leftAlone.isEmpty())
-        forms::Inform(tr("These were left alone:") + u'\n' + written.leftAlone.mid(0, 20).join(u'\n'), Caption());
-}
-
-// A tax that got another rate changes the goods only here.
-void PricesPage::cmdRates_Click() {
-    const auto changes = upkeep::PreviewRates(MainStore());
-    if (changes.empty()) return forms::Inform(tr("All goods have the rate of their tax."), Caption());
-    QStringList lines{tr("%n product(s) have another rate than their tax:", nullptr, static_cast<int>(changes.size()))};
-    for (const upkeep::RateChange& change : changes)
-        if (lines.size() <= ShownRates)
-            lines << tr("%1  %2: %3 % → %4 %")
-                         .arg(change.code, change.name, values::Format(change.before, u"0.00"),
-                              values::Format(change.after, u"0.00"));
-    if (changes.size() >= ShownRates) lines << u"…"_s;
-    lines << tr("Give them that of their tax? Prices stay.");
-    if (!forms::Ask(lines.join(u'\n'), Caption())) return;
-    ui.lblCounts->setText(
-        tr("%n product(s) have the rate of their tax now.", nullptr, upkeep::WriteRates(MainStore())));
+    const bool isTakenBack = writing_.TakeBack();
+    ui.cmdUndo->setEnabled(GoodsWriting::CanTakeBack());
+    if (!isTakenBack) return;
+    preview_.reset();
+    ShowPreview();
+    Q_EMIT ShopChanged();
 }
 
 }  // namespace manager

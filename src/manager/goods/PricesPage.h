@@ -1,12 +1,15 @@
 #pragma once
 
+#include <memory>
+
 #include "manager/Page.h"
+#include "manager/goods/GoodsWriting.h"
 #include "ui_PricesPage.h"
 #include "upkeep/goods/PriceChange.h"
 
 namespace manager {
 
-// The prices of many goods at once, and the rates of their taxes.
+// Prices by percent, and the rates of taxes that have changed, for many goods at once.
 class PricesPage : public Page {
     Q_OBJECT
 
@@ -20,15 +23,22 @@ protected:
     void Form_Activate() override;
 
 private:
-    void Choice_Changed();
+    void ShowWhatCounts();
+    void ShowColumns(bool withReasons);
+    void ShowPreview();
+    void cmdLook_Click();
     void cmdWrite_Click();
     void cmdUndo_Click();
-    void cmdRates_Click();
 
-    upkeep::PriceChange Chosen() const;
-    void Preview();
+    bool IsAboutRates() const;
+    upkeep::PriceWish::Goods Goods() const;
+    upkeep::PriceWish Wish() const;
+    QString Title() const;
+    void Look();
 
-    upkeep::GoodsPreview preview_;
+    GoodsWriting writing_{*this};
+    std::shared_ptr<const upkeep::Preview> preview_;
+    QString title_;
 };
 
 }  // namespace manager

@@ -50,7 +50,7 @@ void HealthPage::Form_Load() {
 
 QString HealthPage::Look() {
     try {
-        RunBeside(this, tr("The shop is looked over."), [this](const Progress& progress) {
+        RunBeside(this, tr("The shop is looked over."), [this](const upkeep::Progress& progress) {
             findings_ = upkeep::CheckRegister(output::ProgramFolder(), progress);
         });
         return {};
@@ -107,7 +107,7 @@ void HealthPage::lstFindings_Chosen() {
 void HealthPage::cmdReport_Click() {
     QString text;
     try {
-        RunBeside(this, tr("The report is made."), [&text](const Progress& progress) {
+        RunBeside(this, tr("The report is made."), [&text](const upkeep::Progress& progress) {
             text = upkeep::SupportReport(output::ProgramFolder(), progress);
         });
     } catch (const store::StoreError& error) {

@@ -1,9 +1,7 @@
 #include "manager/health/SupportForm.h"
 
-#include <QFileInfo>
-
-#include "forms/FileDialog.h"
 #include "forms/MsgBox.h"
+#include "manager/SaveAs.h"
 #include "values/FileError.h"
 
 using namespace Qt::StringLiterals;
@@ -23,10 +21,8 @@ void SupportForm::Form_Load() {
 }
 
 void SupportForm::cmdSave_Click() {
-    QString path = forms::AskSaveName(this, tr("Save the report"), tr("Text (*.txt)"));
+    const QString path = AskSaveAs(this, tr("Save the report"), tr("Text (*.txt)"), {u".txt"_s});
     if (path.isEmpty()) return;
-    if (!path.endsWith(u".txt"_s, Qt::CaseInsensitive)) path += u".txt"_s;
-    if (QFileInfo::exists(path) && !forms::Ask(tr("Replace %1?").arg(path), Caption())) return;
     values::SaveFile(path, text_.toUtf8());
     forms::Inform(tr("The report is saved as %1.").arg(path), Caption());
     Unload();

@@ -1,12 +1,11 @@
 #include "manager/labels/LabelsPage.h"
 
-#include <QFileInfo>
 #include <QItemSelectionModel>
 #include <functional>
 
 #include "core/dbModule.h"
-#include "forms/FileDialog.h"
 #include "forms/MsgBox.h"
+#include "manager/SaveAs.h"
 #include "manager/labels/GoodsChoice.h"
 #include "manager/labels/LabelChoice.h"
 #include "manager/labels/PriceListChoice.h"
@@ -146,11 +145,8 @@ void LabelsPage::cmdPrint_Click() {
 
 void LabelsPage::cmdPdf_Click() {
     if (!PagesToPrint()) return;
-    QString path = forms::AskSaveName(this, tr("Save as PDF"), tr("PDF (*.pdf)"));
-    if (path.isEmpty()) return;
-    if (!path.endsWith(u".pdf"_s, Qt::CaseInsensitive)) path += u".pdf"_s;
-    if (QFileInfo::exists(path) && !forms::Ask(tr("Replace %1?").arg(path), window()->windowTitle())) return;
-    Print(path);
+    const QString path = AskSaveAs(this, tr("Save as PDF"), tr("PDF (*.pdf)"), {u".pdf"_s});
+    if (!path.isEmpty()) Print(path);
 }
 
 }  // namespace manager

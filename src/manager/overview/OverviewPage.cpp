@@ -2,15 +2,14 @@
 
 #include <QButtonGroup>
 #include <QEvent>
-#include <QSaveFile>
 
 #include "core/Installation.h"
 #include "core/Settings.h"
 #include "core/dbModule.h"
-#include "forms/FileDialog.h"
 #include "forms/LongWork.h"
 #include "forms/MsgBox.h"
 #include "forms/Scrollable.h"
+#include "manager/SaveAs.h"
 #include "manager/Texts.h"
 #include "manager/overview/InvoicesView.h"
 #include "manager/overview/OverviewPaper.h"
@@ -363,17 +362,8 @@ void OverviewPage::cmdPrint_Click() {
     forms::Inform(tr("The overview is printed."), Caption());
 }
 
-// The dialog has asked only for the name that was typed.
-QString OverviewPage::AskFile(const QString& title, const QString& filter, const QString& suffix) {
-    const QString path = forms::AskSaveName(this, title, filter);
-    if (path.isEmpty() || path.endsWith(suffix, Qt::CaseInsensitive)) return path;
-    const QString whole = path + suffix;
-    const bool replaces = QFile::exists(whole);
-    return !replaces || forms::Ask(tr("%1 is there already. Replace it?").arg(whole), Caption()) ? whole : QString();
-}
-
 void OverviewPage::cmdPdf_Click() {
-    const QString path = AskFile(tr("Save the overview"), tr("Document (*.pdf)"), u".pdf"_s);
+    const QString path = AskSaveAs(this, tr("Save the overview"), tr("Document (*.pdf)"), {u".pdf"_s});
     if (path.isEmpty()) return;
     try {
         output::PageDevice pages(path, QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
@@ -387,7 +377,7 @@ void OverviewPage::cmdPdf_Click() {
 }
 
 void OverviewPage::cmdCsv_Click() {
-    const QString path = AskFile(tr("Save the figures"), tr("Table (*.csv)"), u".csv"_s);
+    const QString path = AskSaveAs(this, tr("Save the figures"), tr("Table (*.csv)"), {u".csv"_s});
     if (path.isEmpty()) return;
     QList<QList<values::Value>> rows{{tr("Overview"), DaysText(shown_.days)},
                                      {tr("Taken"), shown_.takings.amounts.total},
@@ -399,10 +389,7 @@ void OverviewPage::cmdCsv_Click() {
         rows << QList<values::Value>(table.headings.begin(), table.headings.end());
         for (const auto& row : table.rows) rows << QList<values::Value>(row.begin(), row.end());
     }
-    QSaveFile file(path);
-    const QByteArray csv = values::CsvText(rows);
-    if (!file.open(QIODevice::WriteOnly) || file.write(csv) != csv.size() || !file.commit())
-        throw values::FileError(file, tr("write '%1'").arg(path));
+    values::SaveFile(path, values::CsvText(rows));
     forms::Inform(tr("Saved as %1.").arg(path), Caption());
 }
 

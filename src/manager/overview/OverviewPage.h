@@ -52,7 +52,6 @@ private:
     void ShowInvoices(const QString& what, const upkeep::InvoicesWish& wish);
     void FitCharts();
     void Arrange(bool asTables);
-    QString AskFile(const QString& title, const QString& filter, const QString& suffix);
     QList<ChartPanel*> Panels() const;
     OverviewPaper Paper() const;
 

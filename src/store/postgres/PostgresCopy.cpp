@@ -105,4 +105,11 @@ void PostgresEngine::Retire() {
     Commit();
 }
 
+void PostgresEngine::RetireFor(const Place& successor) {
+    connection_->Write(
+        Connection::Right::ToWriteMany, nullptr,
+        "ALTER SCHEMA " + Quoted(successor.SchemaName()) + " RENAME TO " + Quoted(connection_->At().SchemaName()), {});
+    Commit();
+}
+
 }  // namespace store::postgres

@@ -1,4 +1,6 @@
 #include <sqlite3.h>
+#include <stdio.h>
+#include <unistd.h>
 
 #include <QFile>
 #include <QFileInfo>
@@ -117,6 +119,19 @@ void SqliteEngine::Retire() {
     if (!QFile::rename(files_.StorePath(), retiresAs_))
         throw StoreError(DiskError, u"The store %1 cannot be renamed."_s.arg(files_.StorePath()));
     sqlite3_exec(Handle(), "ROLLBACK", nullptr, nullptr, nullptr);
+}
+
+// With a second name for the old file there is a store in the place at every moment.
+void SqliteEngine::RetireFor(const Place& successor) {
+    const QByteArray place = QFile::encodeName(files_.StorePath());
+    if (::link(place.constData(), QFile::encodeName(retiresAs_).constData()) != 0) {
+        Retire();
+    } else {
+        isLost_ = true;
+    }
+    if (::rename(QFile::encodeName(successor.Path()).constData(), place.constData()) != 0)
+        throw StoreError(DiskError, u"The store %1 cannot be renamed."_s.arg(successor.Path()));
+    if (InTransaction()) sqlite3_exec(Handle(), "ROLLBACK", nullptr, nullptr, nullptr);
 }
 
 }  // namespace store::sqlite

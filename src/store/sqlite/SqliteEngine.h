@@ -57,6 +57,7 @@ public:
     void TakeAlone() override;
     QString PrepareToRetire() override;
     void Retire() override;
+    void RetireFor(const Place& successor) override;
 
     QString Version() override;
     QStringList CheckIntegrity() override;

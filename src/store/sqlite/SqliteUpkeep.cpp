@@ -1,6 +1,9 @@
 #include <sqlite3.h>
 
+#include <QFileInfo>
+
 #include "store/sqlite/Disk.h"
+#include "store/sqlite/OpenSqlite.h"
 #include "store/sqlite/PreparedPlan.h"
 #include "store/sqlite/SqliteError.h"
 #include "store/sqlite/SqliteSchema.h"
@@ -43,7 +46,28 @@ void CheckCopy(const QString& path) {
     if (!faults.empty()) throw StoreError(NotAStore, u"The copy is damaged: %1"_s.arg(faults.first()));
 }
 
+void MakeCopy(const QString& path, Connection& source) {
+    NewFile file(path);
+    try {
+        CopyInto(file.Path(), source);
+        CheckCopy(file.Path());
+    } catch (const SqliteError& error) {
+        ThrowCode(error.Code(), error.Message(), u"copying to %1"_s.arg(path));
+    }
+    file.Finish();
+}
+
 }  // namespace
+
+void CopyFile(const QString& from, const QString& to) {
+    if (!QFileInfo(from).isFile()) throw StoreError(FileNotFound, u"The store %1 was not found."_s.arg(from));
+    try {
+        Connection source(from, false, 4000ms);
+        MakeCopy(to, source);
+    } catch (const SqliteError& error) {
+        ThrowCode(error.Code(), error.Message(), u"copying %1"_s.arg(from));
+    }
+}
 
 void SqliteEngine::AskWhileWorking(std::function<bool()> goesOn) {
     goesOn_ = std::move(goesOn);
@@ -80,14 +104,7 @@ QStringList SqliteEngine::MissingIndexes(const Schema& schema) {
 
 void SqliteEngine::BackupTo(const QString& path) {
     if (InTransaction()) throw StoreError(NotSupported, u"No copy can be made while a batch is open."_s);
-    NewFile file(path);
-    try {
-        CopyInto(file.Path(), *connection_);
-        CheckCopy(file.Path());
-    } catch (const SqliteError& error) {
-        ThrowCode(error.Code(), error.Message(), u"copying to %1"_s.arg(path));
-    }
-    file.Finish();
+    MakeCopy(path, *connection_);
 }
 
 QString SqliteEngine::Explain(const dialect::Query& query) {

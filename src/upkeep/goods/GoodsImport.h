@@ -1,30 +1,33 @@
 #pragma once
 
-#include <QDateTime>
+#include <functional>
 
-#include "upkeep/goods/GoodsPreview.h"
+#include "upkeep/goods/GoodsChange.h"
+#include "upkeep/goods/GoodsSheet.h"
 
 namespace upkeep {
 
-// What an import, or its undoing, wrote.
-struct Written {
-    int added = 0;
-    int changed = 0;
-    int removed = 0;
-    QStringList leftAlone = {};  // goods that an undoing can't bring back, and why
+struct ImportOptions {
+    enum class Rows { All, OnlyNew, OnlyKnown };
+    Rows rows = Rows::All;
+    // Leaves the prices, the quantities of goods that are there already as they are.
+    bool keepPrice = false;
+    bool keepQuantity = false;
+    // What new goods get where their row says none.
+    QString unit;
+    QString tax;
 };
 
-// Writes the new and changed goods of a preview, all or none, and before that what it takes to undo it, into the folder
-// `undo` of the register. Refused rows are skipped, so the caller asks first. Goods that somebody changed since the
-// preview, in anything but their quantity, refuse the whole with StoreError 3197 and their codes; a quantity is changed
-// by as much as the preview would have, so what was sold meanwhile stays sold.
-Written ImportGoods(store::Database& main, const QString& registerFolder, const GoodsPreview& preview,
-                    const RowProgress& progress = {});
+// Asked every few rows; false leaves with a StoreError 3059.
+using GoesOn = std::function<bool()>;
 
-// When the last import was that can be undone; invalid without one.
-QDateTime LastImport(const QString& registerFolder);
-// Takes it back: new goods go unless they were sold since or are part of others, changed fields get their old values
-// unless somebody changed them again, quantities lose what the import gave them. FileError 53 without one.
-Written UndoImport(store::Database& main, const QString& registerFolder);
+// What a table of goods would do to the shop as it is: rows are matched by their codes, in any case of letters, as the
+// store knows them. An empty cell leaves what is there. A row that the till could not sell, that says what can't be, or
+// whose code stands twice is refused, with the reason in words; what stands in the store already is not, whatever it
+// is. A tax is named by its code or by its rate. A quantity is the stock to be. A group of the click table gives goods
+// that are not in it its first free button; a group that the table does not have leaves them where they are. StoreError
+// 3265 when no column is the code, or a default is none of the shop's.
+Preview PreviewGoods(store::Database& main, const GoodsSheet& sheet, const ImportOptions& options = {},
+                     const GoesOn& goesOn = {});
 
 }  // namespace upkeep

@@ -1,121 +1,132 @@
 #include "upkeep/goods/PriceChange.h"
 
 #include <algorithm>
-#include <optional>
 
-#include "store/Schema.h"
-#include "upkeep/GoodsFaults.h"
-#include "upkeep/goods/ShopGoods.h"
+#include "store/CaseFold.h"
+#include "upkeep/Words.h"
 
 using namespace Qt::StringLiterals;
 using values::Money;
+using values::Value;
 
 namespace upkeep {
 
 namespace {
 
-const auto ProductsQuery = u"SELECT * FROM Products"_s;
+// A price times a percent outgrows 64 bits.
+__extension__ using Wide = __int128;
 
 constexpr qint64 Cent = Money::Scale / 100;
-constexpr qint64 Hundred = 100 * Money::Scale;
+constexpr size_t RowsBetweenQuestions = 256;
 
-// To a whole multiple of `step`, halves away from zero or, where `down` says so, to the lower one. Prices are not
-// negative.
-qint64 Rounded(qint64 units, qint64 step, bool halvesDown) {
-    const qint64 rest = units % step;
-    const bool up = halvesDown ? 2 * rest > step : 2 * rest >= step;
-    return units - rest + (up ? step : 0);
-}
+// So many units, and where within them a price ends.
+struct Grid {
+    qint64 step;
+    qint64 offset;
+};
 
-bool IsChosen(store::Recordset& product, const PriceChange& change) {
-    if (!change.tax.isEmpty() && product[u"TaxID"].TextOrEmpty().compare(change.tax, Qt::CaseInsensitive) != 0)
-        return false;
-    if (change.tab >= 0 && (product[u"Tab"].IsNull() || product[u"Tab"].Whole() < 0 ||
-                            product[u"Tab"].Whole() / store::PlacesPerTab != change.tab))
-        return false;
-    return product[u"ProdDescription"].TextOrEmpty().contains(change.namePart, Qt::CaseInsensitive);
-}
-
-using Rates = QHash<QString, values::Value>;
-
-// The rate of a product's tax where the product has another one or none.
-std::optional<Money> NewRate(store::Recordset& product, const Rates& rates) {
-    const values::Value rate = rates.value(product[u"TaxID"].TextOrEmpty().toCaseFolded());
-    const auto has = product[u"TaxPercent"];
-    if (rate.IsNull() || (!has.IsNull() && has.Money() == rate.ToMoney())) return {};
-    return rate.ToMoney();
-}
-
-}  // namespace
-
-Money ChangedPrice(Money price, const PriceChange& change) {
-    if (price <= Money()) return price;
-    // Wide enough: a price has some ten digits of these, a percentage seven.
-    const __int128 scaled = static_cast<__int128>(price.Units()) * (Hundred + change.percent.Units());
-    const qint64 exact = static_cast<qint64>(std::max<__int128>(0, (scaled + Hundred / 2) / Hundred));
-    qint64 units = Rounded(exact, Cent, false);
-    switch (change.ending) {
-        case PriceChange::Ending::Cents:
-            break;
-        case PriceChange::Ending::Five:
-            units = Rounded(units, 5 * Cent, true);
-            break;
-        case PriceChange::Ending::Ten:
-            units = Rounded(units, 10 * Cent, true);
-            break;
-        case PriceChange::Ending::NinetyNine:
-            units = Rounded(units + Cent, Money::Scale, true) - Cent;
-            break;
+Grid GridOf(PriceEnding ending) {
+    switch (ending) {
+        case PriceEnding::Cent:
+            return {Cent, 0};
+        case PriceEnding::FiveCents:
+            return {5 * Cent, 0};
+        case PriceEnding::TenCents:
+            return {10 * Cent, 0};
+        case PriceEnding::NinetyNine:
+            return {100 * Cent, 99 * Cent};
     }
-    const qint64 least = change.ending == PriceChange::Ending::NinetyNine ? 99 * Cent
-                         : change.ending == PriceChange::Ending::Five     ? 5 * Cent
-                         : change.ending == PriceChange::Ending::Ten      ? 10 * Cent
-                                                                          : Cent;
-    return Money::FromUnits(std::max(units, least));
+    return {Cent, 0};
 }
 
-GoodsPreview PreviewPrices(store::Database& main, const PriceChange& change) {
-    GoodsPreview preview;
-    auto products = main.OpenSnapshot(ProductsQuery);
-    for (auto& product : products) {
-        if (!IsChosen(product, change)) continue;
-        GoodsRow row{.code = product[u"ProdCode"].TextOrEmpty(), .before = GoodsOf(product)};
-        row.after = row.before;
-        row.after.price = ChangedPrice(row.before.price, change);
-        row.kind = row.before == row.after ? GoodsRow::Kind::Unchanged : GoodsRow::Kind::Changed;
-        preview.rows.push_back(std::move(row));
+bool IsMeant(const Product& product, const PriceWish& wish, const ClickGroups& groups) {
+    switch (wish.goods) {
+        case PriceWish::Goods::All:
+            return true;
+        case PriceWish::Goods::OfTax:
+            return store::SameText(product[GoodsColumn::Tax].TextOrEmpty(), wish.which);
+        case PriceWish::Goods::OfGroup:
+            return store::SameText(groups.NameOf(product[GoodsColumn::Button]), wish.which);
+        case PriceWish::Goods::Named:
+            return KeyOf(product.Name()).contains(KeyOf(wish.which));
+    }
+    return false;
+}
+
+PreviewRow RowOf(const Product& product) {
+    PreviewRow row;
+    row.code = product.Code();
+    row.name = product.Name();
+    row.change.code = row.code;
+    return row;
+}
+
+// A row for each product for which `look` gives one.
+Preview LookAtAll(store::Database& main, const std::function<bool()>& goesOn,
+                  const std::function<void(const Product&, Preview&)>& look) {
+    Preview preview;
+    preview.groups = ClickGroups(main).names;
+    const Assortment goods(main);
+    size_t seen = 0;
+    for (const Product& product : goods.Products()) {
+        if (goesOn && ++seen % RowsBetweenQuestions == 0 && !goesOn())
+            throw store::StoreError(store::Cancelled, Words::tr("The look at the goods was left."));
+        look(product, preview);
     }
     return preview;
 }
 
-std::vector<RateChange> PreviewRates(store::Database& main) {
-    std::vector<RateChange> changes;
-    const Rates rates = RatesOf(main);
-    auto products = main.OpenSnapshot(ProductsQuery);
-    for (auto& product : products) {
-        if (const auto rate = NewRate(product, rates))
-            changes.push_back({.code = product[u"ProdCode"].TextOrEmpty(),
-                               .name = product[u"ProdDescription"].TextOrEmpty(),
-                               .before = product[u"TaxPercent"].MoneyOrZero(),
-                               .after = *rate});
-    }
-    return changes;
+}  // namespace
+
+Money ChangedPrice(Money price, Money percent, PriceEnding ending) {
+    if (price == Money()) return price;
+    constexpr Wide hundred = 100 * Money::Scale;
+    const Wide exact = Wide{price.Units()} * (hundred + percent.Units());  // in units of a hundredth of a percent
+    const Grid grid = GridOf(ending);
+    const Wide step = grid.step * hundred;
+    const Wide above = exact - grid.offset * hundred + step / 2;
+    Wide steps = above / step;
+    if (above % step < 0) --steps;  // rounded down, not towards zero
+    steps = std::max(steps, Wide{0});
+    if (steps > Wide{std::numeric_limits<qint64>::max()} / grid.step - 1) values::ThrowOverflow();
+    return Money::FromUnits(static_cast<qint64>(steps) * grid.step + grid.offset);
 }
 
-int WriteRates(store::Database& main) {
-    store::Database::Batch batch(main);
-    const Rates rates = RatesOf(main);
-    int written = 0;
-    for (auto& product : main.OpenRecordset(ProductsQuery)) {
-        const auto rate = NewRate(product, rates);
-        if (!rate) continue;
-        product.Edit();
-        product[u"TaxPercent"] = *rate;
-        product.Update();
-        ++written;
-    }
-    batch.Commit();
-    return written;
+Preview PreviewPrices(store::Database& main, const PriceWish& wish, const std::function<bool()>& goesOn) {
+    const ClickGroups groups(main);
+    return LookAtAll(main, goesOn, [&](const Product& product, Preview& preview) {
+        if (!IsMeant(product, wish, groups)) return;
+        PreviewRow row = RowOf(product);
+        const Value& before = product[GoodsColumn::Price];
+        if (before.IsNull() || before.ToMoney() < Money()) {
+            row.kind = RowKind::Refused;
+            row.reasons = {before.IsNull() ? Words::tr("The goods have no price.")
+                                           : Words::tr("The price is below zero.")};
+        } else if (const Money after = ChangedPrice(before.ToMoney(), wish.percent, wish.ending);
+                   before != Value(after)) {
+            row.kind = RowKind::Changed;
+            row.change.Set(GoodsColumn::Price, before, after);
+        }
+        preview.rows.push_back(std::move(row));
+    });
+}
+
+Preview PreviewRates(store::Database& main, const QString& tax, const std::function<bool()>& goesOn) {
+    const GoodsRules rules(main);
+    return LookAtAll(main, goesOn, [&](const Product& product, Preview& preview) {
+        const QString itsTax = product[GoodsColumn::Tax].TextOrEmpty();
+        if (!tax.isEmpty() && !store::SameText(itsTax, tax)) return;
+        PreviewRow row = RowOf(product);
+        const TaxRate* rate = rules.FindTax(itsTax);
+        if (rate == nullptr || rate->percent.IsNull()) {
+            row.kind = RowKind::Refused;
+            row.reasons = {Words::tr("The shop has no tax '%1' with a rate.").arg(itsTax)};
+        } else if (product[GoodsColumn::Rate] != rate->percent) {
+            row.kind = RowKind::Changed;
+            row.change.Set(GoodsColumn::Rate, product[GoodsColumn::Rate], rate->percent);
+        }
+        preview.rows.push_back(std::move(row));
+    });
 }
 
 }  // namespace upkeep

@@ -1,35 +1,31 @@
 #pragma once
 
-#include "upkeep/goods/GoodsPreview.h"
+#include <functional>
+
+#include "upkeep/goods/GoodsChange.h"
 
 namespace upkeep {
 
-// What many goods get at once. The rows of its preview are written, and taken back, as those of an import.
-struct PriceChange {
-    // Which goods; what is empty, or below 0, is every one.
-    QString tax = {};
-    int tab = -1;                // of the touch table
-    QString namePart = {};       // case ignored
-    values::Money percent = {};  // on the price, negative for less
-    enum class Ending { Cents, Five, Ten, NinetyNine } ending = Ending::Cents;
+enum class PriceEnding { Cent, FiveCents, TenCents, NinetyNine };
+
+// Which goods get other prices, and by how much.
+struct PriceWish {
+    enum class Goods { All, OfTax, OfGroup, Named };
+    Goods goods = Goods::All;
+    QString which;          // a tax, a group of the click table, a text in the name
+    values::Money percent;  // two decimals, above -100; below 0 they get cheaper
+    PriceEnding ending = PriceEnding::Cent;
 };
 
-// A price changed by percent, half a hundredth away from zero, then brought to the nearest price that ends as is said:
-// .x0 or .x5, .x0, or .99, the lower of two that are as near. What was above 0 stays above 0.
-values::Money ChangedPrice(values::Money price, const PriceChange& change);
+// A price by so many percent more, at the nearest that ends so; of two as near the higher one. At .99 it is 0.99 at
+// least, but what costs nothing goes on costing nothing.
+values::Money ChangedPrice(values::Money price, values::Money percent, PriceEnding ending);
 
-// Each of the goods chosen, changed or unchanged.
-GoodsPreview PreviewPrices(store::Database& main, const PriceChange& change);
+// The goods that are meant, each with its price before and after; those without a price are refused.
+Preview PreviewPrices(store::Database& main, const PriceWish& wish, const std::function<bool()>& goesOn = {});
 
-// The goods whose rate is another than that of their tax, which changed since they were saved: their rate is written
-// anew, prices stay.
-struct RateChange {
-    QString code;
-    QString name;
-    values::Money before, after;  // percent
-};
-std::vector<RateChange> PreviewRates(store::Database& main);
-// All or none; how many.
-int WriteRates(store::Database& main);
+// The goods that have another rate than that of their tax, with that rate; of one tax, or of all where none is named.
+// Prices hold the tax and stay.
+Preview PreviewRates(store::Database& main, const QString& tax, const std::function<bool()>& goesOn = {});
 
 }  // namespace upkeep

@@ -119,10 +119,10 @@ void AddFindings(Text& text, const Findings& findings) {
     if (findings.IsSound()) text.Line(u"Both stores are sound."_s);
 }
 
-void AddCheck(Text& text, const QString& folder, const GoesOn& goesOn) {
+void AddCheck(Text& text, const QString& folder, const Progress& progress) {
     text.Head(u"What a check finds"_s);
     try {
-        AddFindings(text, CheckRegister(folder, goesOn));
+        AddFindings(text, CheckRegister(folder, progress));
     } catch (const values::Error& error) {
         if (error.Number() == store::Cancelled) throw;
         text.Line(u"error %1"_s.arg(error.Number()), values::WithoutNames(error.Description()));
@@ -174,7 +174,7 @@ void AddStore(Text& text, const QString& name, const std::function<store::Place(
 
 }  // namespace
 
-QString SupportReport(const QString& folder, const GoesOn& goesOn) {
+QString SupportReport(const QString& folder, const Progress& progress) {
     Text text;
     AddSystem(text, folder);
     AddFiles(text, folder);
@@ -186,7 +186,7 @@ QString SupportReport(const QString& folder, const GoesOn& goesOn) {
         [&](store::Database& database) { AddSettings(text, database); });
     text.Head(u"Small files"_s);
     for (const QString& line : IniReport(folder)) text.Line(line);
-    AddCheck(text, folder, goesOn);
+    AddCheck(text, folder, progress);
     AddBackups(text, folder);
     AddErrors(text, folder);
     return text.Take();
