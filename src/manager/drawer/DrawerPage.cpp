@@ -1,7 +1,6 @@
 #include "manager/drawer/DrawerPage.h"
 
 #include <QFile>
-#include <QItemSelectionModel>
 #include <QLabel>
 
 #include "core/Session.h"
@@ -86,8 +85,7 @@ DrawerPage::DrawerPage(QWidget* parent) : Page(parent) {
     On(ui.cmdEmpty, &DrawerPage::cmdEmpty_Click);
     On(ui.cmdPieces, &DrawerPage::cmdPieces_Click);
     On(ui.cmdPrint, &DrawerPage::cmdPrint_Click);
-    connect(ui.lstCounts->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            Guarded(&DrawerPage::lstCounts_Chosen));
+    connect(ui.lstCounts, &forms::ListView::RowChosen, this, Guarded(&DrawerPage::lstCounts_Chosen));
 }
 
 void DrawerPage::Form_Load() {

@@ -1,7 +1,6 @@
 #include "manager/goods/GoodsPage.h"
 
 #include <QFileInfo>
-#include <QItemSelectionModel>
 
 #include "core/dbModule.h"
 #include "forms/FileDialog.h"
@@ -33,8 +32,7 @@ GoodsPage::GoodsPage(QWidget* parent) : Page(parent) {
     On(ui.cmdExportCustomers, &GoodsPage::cmdExportCustomers_Click);
     connect(ui.panelChoices, &ImportChoices::FormChosen, this, Guarded(&GoodsPage::ReadAgain));
     connect(ui.panelChoices, &ImportChoices::OptionChosen, this, Guarded(&GoodsPage::PreviewAgain));
-    connect(ui.lstPreview->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            Guarded(&GoodsPage::ShowRow));
+    connect(ui.lstPreview, &forms::ListView::RowChosen, this, Guarded(&GoodsPage::ShowRow));
     connect(ui.cboShow, &QComboBox::activated, this, Guarded(&GoodsPage::cboShow_Choose));
 }
 

@@ -1,6 +1,5 @@
 #include "manager/labels/LabelsPage.h"
 
-#include <QItemSelectionModel>
 #include <functional>
 
 #include "core/dbModule.h"
@@ -50,8 +49,7 @@ void LabelsPage::TieGoods() {
     connect(goods.cmdRemove, &QPushButton::clicked, this, to(&GoodsChoice::Remove));
     connect(goods.cmdRemoveAll, &QPushButton::clicked, this, to(&GoodsChoice::RemoveAll));
     connect(goods.spnCopies, &QSpinBox::valueChanged, this, to(&GoodsChoice::TakeCopies));
-    connect(goods.lstChosen->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            to(&GoodsChoice::ShowCopies));
+    connect(goods.lstChosen, &forms::ListView::RowChosen, this, to(&GoodsChoice::ShowCopies));
     connect(goods.lstGoods, &forms::ListView::DoubleClicked, this, to(&GoodsChoice::Add));
     // A scanner ends its code with Enter, which so goes over at once.
     ControlKeys(goods.txtSearch, {{Qt::Key_Return, goods.cmdAdd}, {Qt::Key_Enter, goods.cmdAdd}});
