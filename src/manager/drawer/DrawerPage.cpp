@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QLabel>
+#include <QTabBar>
 
 #include "core/Session.h"
 #include "core/Settings.h"
@@ -132,7 +133,7 @@ void DrawerPage::LayOutRows() {
     }
     std::ranges::move(std::exchange(rows_, {}), std::back_inserter(spare_));
     const int rowsEach = static_cast<int>(worths.size() + 1) / 2;
-    QWidget* before = ui.tabParts;
+    QWidget* before = ui.tabParts->tabBar();
     for (int number = 0; number < worths.size(); ++number) {
         Row row = MakeRow(number);
         row.worth = worths[number];
@@ -148,6 +149,9 @@ void DrawerPage::LayOutRows() {
         before = row.pieces;
         rows_.push_back(row);
     }
+    for (QWidget* control : std::initializer_list<QWidget*>{ui.txtPutIn, ui.txtTakenOut, ui.txtRemark, ui.cmdKeep,
+                                                            ui.cmdEmpty, ui.cmdPieces})
+        setTabOrder(std::exchange(before, control), control);
     for (int row = 0; row < ui.layoutPieces->rowCount(); ++row) ui.layoutPieces->setRowStretch(row, 0);
     ui.layoutPieces->setRowStretch(rowsEach, 1);  // the rest is empty
     Figures_Change();

@@ -27,6 +27,7 @@ LabelsPage::LabelsPage(QWidget* parent)
     ui.tabParts->addTab(goods_, tr("1 Goods"));
     ui.tabParts->addTab(labels_, tr("2 Labels"));
     ui.tabParts->addTab(list_, tr("Price list"));
+    TabLast({ui.cmdPrint, ui.cmdPdf});
     TieGoods();
     connect(goods_, &GoodsChoice::Changed, this, Guarded(&LabelsPage::Goods_Changed));
     connect(labels_, &LabelChoice::Changed, this, Guarded(&LabelsPage::TellWhatComes));
