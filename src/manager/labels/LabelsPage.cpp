@@ -134,8 +134,11 @@ void LabelsPage::Print(const QString& pdfPath) {
     }
     labels_->Remember(output::InProgramFolder(ChoicesFile));
     gone_ = 0;
-    ui.lblSaid->setText(path.isEmpty() ? tr("Printed. Pages: %n.", nullptr, pages->Count())
-                                       : tr("Saved as %1. Pages: %n.", nullptr, pages->Count()).arg(path));
+    const QString said = path.isEmpty() ? tr("Printed. Pages: %n.", nullptr, pages->Count())
+                                        : tr("Saved as %1. Pages: %n.", nullptr, pages->Count()).arg(path);
+    ui.lblSaid->setText(said);
+    // The page looks at the shop anew when the dialog that asked for the name is gone, and tells that instead.
+    if (!pdfPath.isEmpty()) forms::Inform(said, window()->windowTitle());
 }
 
 void LabelsPage::cmdPrint_Click() {
