@@ -37,8 +37,11 @@ GoodsPage::GoodsPage(QWidget* parent) : Page(parent) {
 }
 
 void GoodsPage::Form_Activate() {
-    ui.panelChoices->OfferDefaults(upkeep::GoodsRules(MainStore()));
+    const upkeep::GoodsRules rules(MainStore());
+    ui.panelChoices->OfferDefaults(rules);
     ui.cmdUndo->setEnabled(GoodsWriting::CanTakeBack());
+    // A row that was refused may name a tax that has been entered since.
+    if (std::exchange(rules_, rules) != rules && preview_) PreviewAgain();
 }
 
 void GoodsPage::cmdChoose_Click() {

@@ -274,7 +274,11 @@ private:
         if (text.isEmpty()) text = options_.unit;
         if (text.isEmpty()) return Refuse(Words::tr("New goods need a unit, and none is said for those without one."));
         const QString* unit = rules_.FindUnit(text);
-        if (unit == nullptr) return Refuse(Words::tr("The shop has no unit '%1'.").arg(Quoted(text)));
+        if (unit == nullptr)
+            return Refuse(
+                Words::tr("The shop has no unit '%1'. It has: %2.").arg(Quoted(text), rules_.units.join(u", ")));
+        // The same unit under another word is no other one.
+        if (!change.isNew && KeyOf(*unit) == KeyOf(Before(GoodsColumn::Unit).TextOrEmpty())) return;
         Put(change, GoodsColumn::Unit, *unit);
     }
 

@@ -1,5 +1,6 @@
 #include "upkeep/goods/GoodsRules.h"
 
+#include <QHash>
 #include <algorithm>
 
 #include "store/CaseFold.h"
@@ -7,6 +8,33 @@
 using namespace Qt::StringLiterals;
 
 namespace upkeep {
+
+namespace {
+
+// What pieces, kilograms, litres and metres are called in the tables of shops and wholesalers.
+QHash<QString, int> MeasureWords() {
+    const QStringList measures[] = {
+        u"pcs,pc,pce,piece,pieces,ea,each,stk,stck,st,stück,stueck,kom,komad,komada,pz,pezzo,pezzi,pièce,pièces,ud,uds,"
+        "unidad,ks,szt,db"_s.split(u','),
+        u"kg,kgs,kilo,kilogram,kilograms,kilogramm,kilogramme"_s.split(u','),
+        u"l,lt,ltr,litre,litres,liter,liters,litar,litra,litro,litri,litros"_s.split(u','),
+        u"m,mtr,metre,metres,meter,meters,metar,metara,metro,metri,metros,mètre,mètres"_s.split(u',')};
+    QHash<QString, int> words;
+    int measure = 0;
+    for (const QStringList& names : measures) {
+        for (const QString& name : names) words.insert(name, measure);
+        ++measure;
+    }
+    return words;
+}
+
+// -1 when it is none of them.
+int MeasureOf(const QString& unit) {
+    static const auto words = MeasureWords();
+    return words.value((unit.endsWith(u'.') ? unit.chopped(1) : unit).toCaseFolded(), -1);
+}
+
+}  // namespace
 
 ClickGroups::ClickGroups(store::Database& main) {
     for (int group = 1; group <= Count; ++group) names += QString::number(group);
@@ -39,7 +67,11 @@ const TaxRate* GoodsRules::FindTax(const QString& id) const {
 
 const QString* GoodsRules::FindUnit(const QString& unit) const {
     const auto found = std::ranges::find_if(units, [&](const QString& known) { return store::SameText(known, unit); });
-    return found == units.end() ? nullptr : &*found;
+    if (found != units.end()) return &*found;
+    const int measure = MeasureOf(unit);
+    const auto isOfIt = [&](const QString& known) { return MeasureOf(known) == measure; };
+    if (measure < 0 || std::ranges::count_if(units, isOfIt) != 1) return nullptr;
+    return &*std::ranges::find_if(units, isOfIt);
 }
 
 }  // namespace upkeep

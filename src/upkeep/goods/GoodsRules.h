@@ -22,14 +22,17 @@ struct ClickGroups {
 struct TaxRate {
     QString id;
     values::Value percent;
+    bool operator==(const TaxRate&) const = default;
 };
 
 // The taxes and units of a shop.
 struct GoodsRules {
     explicit GoodsRules(store::Database& main);
     const TaxRate* FindTax(const QString& id) const;
-    // As the store spells it; null when there is none.
+    // As the store spells it; of another word for the same measure ("Stk" for pcs), the one unit that the shop has of
+    // it. Null when there is none.
     const QString* FindUnit(const QString& unit) const;
+    bool operator==(const GoodsRules&) const = default;
 
     QList<TaxRate> taxes;
     QStringList units;
