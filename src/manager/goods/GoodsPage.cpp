@@ -1,7 +1,6 @@
 #include "manager/goods/GoodsPage.h"
 
 #include <QFileInfo>
-#include <QItemSelectionModel>
 
 #include "core/dbModule.h"
 #include "forms/FileDialog.h"
@@ -46,14 +45,16 @@ GoodsPage::GoodsPage(QWidget* parent) : Page(parent) {
     On(ui.cmdExportCustomers, &GoodsPage::cmdExportCustomers_Click);
     connect(ui.panelChoices, &ImportChoices::FormChosen, this, Guarded(&GoodsPage::ReadAgain));
     connect(ui.panelChoices, &ImportChoices::OptionChosen, this, Guarded(&GoodsPage::PreviewAgain));
-    connect(ui.lstPreview->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            Guarded(&GoodsPage::ShowRow));
+    connect(ui.lstPreview, &forms::ListView::RowChosen, this, Guarded(&GoodsPage::ShowRow));
     connect(ui.cboShow, &QComboBox::activated, this, Guarded(&GoodsPage::cboShow_Choose));
 }
 
 void GoodsPage::Form_Activate() {
-    ui.panelChoices->OfferDefaults(upkeep::GoodsRules(MainStore()));
+    const upkeep::GoodsRules rules(MainStore());
+    ui.panelChoices->OfferDefaults(rules);
     ui.cmdUndo->setEnabled(GoodsWriting::CanTakeBack());
+    // A row that was refused may name a tax that has been entered since.
+    if (std::exchange(rules_, rules) != rules && preview_) PreviewAgain();
 }
 
 void GoodsPage::resizeEvent(QResizeEvent* event) {

@@ -49,6 +49,7 @@ private:
     QString path_;
     upkeep::GoodsSheet sheet_;
     std::shared_ptr<const upkeep::Preview> preview_;
+    std::optional<upkeep::GoodsRules> rules_;  // of the last look
 };
 
 }  // namespace manager

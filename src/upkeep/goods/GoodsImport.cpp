@@ -274,7 +274,9 @@ private:
         if (text.isEmpty()) text = options_.unit;
         if (text.isEmpty()) return Refuse(Words::tr("New goods need a unit, and none is said for those without one."));
         const QString* unit = rules_.UnitMeantBy(text, Before(GoodsColumn::Unit).TextOrEmpty());
-        if (unit == nullptr) return Refuse(Words::tr("The shop has no unit '%1'.").arg(Quoted(text)));
+        if (unit == nullptr)
+            return Refuse(
+                Words::tr("The shop has no unit '%1'. It has: %2.").arg(Quoted(text), rules_.units.join(u", ")));
         Put(change, GoodsColumn::Unit, *unit);
     }
 

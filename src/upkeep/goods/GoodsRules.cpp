@@ -14,9 +14,11 @@ namespace {
 // What tables of several countries call the same unit.
 const std::array<QStringList, 4>& SameUnits() {
     static const std::array<QStringList, 4> units{
-        u"pcs,pc,piece,pieces,each,ea,stk,stck,st,stück,kom,komad,ks,pz,pza,ud,u"_s.split(u','),
-        u"kg,kilo,kilogram,kilogramm"_s.split(u','), u"l,lt,ltr,lit,liter,litre,litar"_s.split(u','),
-        u"m,mtr,meter,metre,metar"_s.split(u',')};
+        u"pcs,pc,pce,piece,pieces,each,ea,stk,stck,st,stück,stueck,kom,komad,komada,ks,pz,pezzo,pezzi,pza,ud,uds,pièce,szt,db"_s
+            .split(u','),
+        u"kg,kgs,kilo,kilogram,kilograms,kilogramm,kilogramme"_s.split(u','),
+        u"l,lt,ltr,lit,liter,liters,litre,litres,litar,litra,litro,litri"_s.split(u','),
+        u"m,mtr,meter,meters,metre,metres,metar,metara,metro,metri,mètre"_s.split(u',')};
     return units;
 }
 

@@ -24,6 +24,7 @@ struct ClickGroups {
 struct TaxRate {
     QString id;
     values::Value percent;
+    bool operator==(const TaxRate&) const = default;
 };
 
 // The taxes and units of a shop.
@@ -35,6 +36,7 @@ struct GoodsRules {
     // Also by what other countries call it, "Stk." for pcs: `usual` where the word can mean it, else the first that it
     // can mean.
     const QString* UnitMeantBy(const QString& word, const QString& usual) const;
+    bool operator==(const GoodsRules&) const = default;
 
     QList<TaxRate> taxes;
     QStringList units;
