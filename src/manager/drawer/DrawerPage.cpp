@@ -71,13 +71,13 @@ QString NameOf(const upkeep::DrawerPeriod& period) {
 DrawerPage::DrawerPage(QWidget* parent) : Page(parent) {
     ui.setupUi(this);
     ui.lstCounts->SetColumns({{tr("Count"), Qt::AlignRight, 60},
-                              {tr("Counted"), Qt::AlignLeft, 146},
+                              {tr("Counted"), Qt::AlignLeft, 176},
                               {tr("By"), Qt::AlignLeft, -1},
-                              {tr("End Report"), Qt::AlignRight, 92},
-                              {tr("Should be"), Qt::AlignRight, 92},
-                              {tr("Found"), Qt::AlignRight, 92},
-                              {tr("Difference"), Qt::AlignRight, 92},
-                              {tr("Remark"), Qt::AlignLeft, 120}});
+                              {tr("End Report"), Qt::AlignRight, 88},
+                              {tr("Should be"), Qt::AlignRight, 88},
+                              {tr("Found"), Qt::AlignRight, 88},
+                              {tr("Difference"), Qt::AlignRight, 88},
+                              {tr("Remark"), Qt::AlignLeft, 110}});
     ui.lstCounts->SetEmptyText(tr("Nothing was counted yet. Count the drawer on the page before and keep the count."));
     none_ = new QLabel(ui.panelPieces);
     none_->setWordWrap(true);
