@@ -1,9 +1,9 @@
 #include "manager/drawer/DrawerPage.h"
 
 #include <QFile>
-#include <QItemSelectionModel>
 #include <QLabel>
 #include <QSignalBlocker>
+#include <QTabBar>
 
 #include "core/Session.h"
 #include "core/Settings.h"
@@ -96,8 +96,7 @@ DrawerPage::DrawerPage(QWidget* parent) : Page(parent) {
     On(ui.cmdEmpty, &DrawerPage::cmdEmpty_Click);
     On(ui.cmdPieces, &DrawerPage::cmdPieces_Click);
     On(ui.cmdPrint, &DrawerPage::cmdPrint_Click);
-    connect(ui.lstCounts->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            Guarded(&DrawerPage::lstCounts_Chosen));
+    connect(ui.lstCounts, &forms::ListView::RowChosen, this, Guarded(&DrawerPage::lstCounts_Chosen));
 }
 
 void DrawerPage::Form_Load() {
@@ -146,7 +145,7 @@ void DrawerPage::LayOutRows() {
     }
     std::ranges::move(std::exchange(rows_, {}), std::back_inserter(spare_));
     const int rowsEach = static_cast<int>(worths.size() + 1) / 2;
-    QWidget* before = ui.tabParts;
+    QWidget* before = ui.tabParts->tabBar();
     for (int number = 0; number < worths.size(); ++number) {
         Row row = MakeRow(number);
         row.worth = worths[number];
@@ -162,6 +161,9 @@ void DrawerPage::LayOutRows() {
         before = row.pieces;
         rows_.push_back(row);
     }
+    for (QWidget* control : std::initializer_list<QWidget*>{ui.txtPutIn, ui.txtTakenOut, ui.txtRemark, ui.cmdKeep,
+                                                            ui.cmdEmpty, ui.cmdPieces})
+        setTabOrder(std::exchange(before, control), control);
     for (int row = 0; row < ui.layoutPieces->rowCount(); ++row) ui.layoutPieces->setRowStretch(row, 0);
     ui.layoutPieces->setRowStretch(rowsEach, 1);  // the rest is empty
     Figures_Change();
