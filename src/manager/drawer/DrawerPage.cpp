@@ -161,8 +161,8 @@ void DrawerPage::LayOutRows() {
         before = row.pieces;
         rows_.push_back(row);
     }
-    for (QWidget* control : std::initializer_list<QWidget*>{ui.txtPutIn, ui.txtTakenOut, ui.txtRemark, ui.cmdKeep,
-                                                            ui.cmdEmpty, ui.cmdPieces})
+    for (QWidget* control : std::initializer_list<QWidget*>{ui.cboPeriod, ui.txtPutIn, ui.txtTakenOut, ui.txtRemark,
+                                                            ui.cmdKeep, ui.cmdEmpty, ui.cmdPieces})
         setTabOrder(std::exchange(before, control), control);
     for (int row = 0; row < ui.layoutPieces->rowCount(); ++row) ui.layoutPieces->setRowStretch(row, 0);
     ui.layoutPieces->setRowStretch(rowsEach, 1);  // the rest is empty
