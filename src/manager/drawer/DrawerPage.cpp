@@ -71,13 +71,13 @@ QString NameOf(const upkeep::DrawerPeriod& period) {
 DrawerPage::DrawerPage(QWidget* parent) : Page(parent) {
     ui.setupUi(this);
     ui.lstCounts->SetColumns({{tr("Count"), Qt::AlignRight, 60},
-                              {tr("Counted"), Qt::AlignLeft, 146},
+                              {tr("Counted"), Qt::AlignLeft, 176},
                               {tr("By"), Qt::AlignLeft, -1},
-                              {tr("End Report"), Qt::AlignRight, 92},
-                              {tr("Should be"), Qt::AlignRight, 92},
-                              {tr("Found"), Qt::AlignRight, 92},
-                              {tr("Difference"), Qt::AlignRight, 92},
-                              {tr("Remark"), Qt::AlignLeft, 120}});
+                              {tr("End Report"), Qt::AlignRight, 88},
+                              {tr("Should be"), Qt::AlignRight, 88},
+                              {tr("Found"), Qt::AlignRight, 88},
+                              {tr("Difference"), Qt::AlignRight, 88},
+                              {tr("Remark"), Qt::AlignLeft, 110}});
     ui.lstCounts->SetEmptyText(tr("Nothing was counted yet. Count the drawer on the page before and keep the count."));
     none_ = new QLabel(ui.panelPieces);
     none_->setWordWrap(true);
@@ -161,8 +161,8 @@ void DrawerPage::LayOutRows() {
         before = row.pieces;
         rows_.push_back(row);
     }
-    for (QWidget* control : std::initializer_list<QWidget*>{ui.txtPutIn, ui.txtTakenOut, ui.txtRemark, ui.cmdKeep,
-                                                            ui.cmdEmpty, ui.cmdPieces})
+    for (QWidget* control : std::initializer_list<QWidget*>{ui.cboPeriod, ui.txtPutIn, ui.txtTakenOut, ui.txtRemark,
+                                                            ui.cmdKeep, ui.cmdEmpty, ui.cmdPieces})
         setTabOrder(std::exchange(before, control), control);
     for (int row = 0; row < ui.layoutPieces->rowCount(); ++row) ui.layoutPieces->setRowStretch(row, 0);
     ui.layoutPieces->setRowStretch(rowsEach, 1);  // the rest is empty

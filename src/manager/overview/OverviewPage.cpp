@@ -224,9 +224,9 @@ void OverviewPage::ShowBoxes() {
                                  : tr("%1 invoices, %2 each").arg(chosen.invoices).arg(AmountText(meanInvoice)));
     upkeep::Takings compare;
     for (const auto& [date, takings] : shown_.before) compare += takings;
-    ShowText(ui.lblDaysNote2, shown_.before.empty() ? QString()
-                                                    : compared(DaysText(upkeep::DaysBefore(shown_.days)),
-                                                               chosen.amounts.total, compare.amounts.total));
+    ShowText(ui.lblDaysNote2, shown_.before.empty()
+                                  ? QString()
+                                  : compared(DaysBeforeText(shown_.days), chosen.amounts.total, compare.amounts.total));
 }
 
 upkeep::By OverviewPage::ChosenBy() const {
@@ -280,7 +280,7 @@ void OverviewPage::FitCharts() {
     const int others = ui.panelToday->sizeHint().height() + ui.layoutGoods->sizeHint().height() +
                        ui.panelBest->sizeHint().height() + 3 * ui.layoutFigures->verticalSpacing();
     const int height = std::clamp(ui.panelFigures->height() - others, least, most);
-    for (ChartPanel* panel : {ui.panelTakings, ui.panelHours}) panel->setMinimumHeight(height);
+    for (ChartPanel* panel : {ui.panelTakings, ui.panelHours}) panel->SetLeastHeight(height);
 }
 
 // Tables stand one below the other, since their columns need the whole width.
