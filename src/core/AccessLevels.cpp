@@ -4,6 +4,10 @@
 
 using namespace Qt::StringLiterals;
 
+bool IsOwner(const QString& accLevel) {
+    return values::Val(accLevel) >= OwnersLevel;
+}
+
 QStringList EntriesSwitchedOff(const QString& accLevel) {
     const double level = values::Val(accLevel);
     if (level == 1)

@@ -1,19 +1,18 @@
 #include "core/BackupStart.h"
 
+#include "core/AccessLevels.h"
 #include "core/Installation.h"
 #include "core/dbModule.h"
 #include "forms/MsgBox.h"
 #include "output/Folder.h"
 #include "upkeep/BackupState.h"
 #include "values/Clock.h"
-#include "values/Numbers.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 const auto LastSaleQuery = u"SELECT Max(DateSold) AS LastDay FROM Invoices"_s;
-constexpr double OwnersLevel = 3;
 
 std::function<bool(const QString&)> startProgram;
 
@@ -42,7 +41,7 @@ void StartBackupOfTheDay() {
 }
 
 void TellOfBackups(const QString& accLevel) {
-    if (TheInstallation.backup.folder.isEmpty() || values::Val(accLevel) < OwnersLevel) return;
+    if (TheInstallation.backup.folder.isEmpty() || !IsOwner(accLevel)) return;
     const QString folder = output::ProgramFolder();
     const QString notice = upkeep::BackupNotice(upkeep::ReadBackupState(folder), values::Now(), LastSale());
     if (notice.isEmpty()) return;

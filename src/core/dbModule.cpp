@@ -36,14 +36,13 @@ store::Database& Opened(const std::unique_ptr<store::Database>& database) {
 }  // namespace
 
 void OpenOptionsStore() {
-    optionsStore = store::Database::Open(store::OptionsPlace(output::ProgramFolder()), store::OptionsSchema());
+    optionsStore = store::OpenOptions(output::ProgramFolder());
 }
 
 void OpenMainStore() {
     mainPatience.reset();
-    const store::Place place = store::MainPlace(output::ProgramFolder());
-    isMainOnServer = place.IsServer();
-    mainStore = store::Database::Open(place, store::MainSchema());
+    isMainOnServer = store::MainPlace(output::ProgramFolder()).IsServer();
+    mainStore = store::OpenMain(output::ProgramFolder());
 }
 
 QString WaitsForMainStore() {

@@ -46,6 +46,7 @@ private:
 ListView::ListView(QWidget* parent) : QTreeView(parent), rows_(new RowModel(this)) {
     setHeader(new Headings(*rows_, this));
     setModel(rows_);
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &ListView::RowChosen);
     // Not at once: rows are looked at while the list is painted.
     connect(rows_, &RowModel::TextsGrew, this, &ListView::LayOutColumns, Qt::QueuedConnection);
     // Not at once either: whoever has just found the list empty has work of his own under way.

@@ -71,6 +71,9 @@ public:
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
+    // Another row, or none, is selected, and Selected() says which. The current row of a view's model is another thing:
+    // a press moves it before it selects.
+    void RowChosen();
     // A double click while a row is selected, wherever in the list it falls.
     void DoubleClicked();
 

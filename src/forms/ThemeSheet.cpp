@@ -186,7 +186,7 @@ QAbstractScrollArea::corner { background: transparent; }
 constexpr auto tabs = R"(
 QTabWidget::pane { background: @paper; border: 1px solid @line; border-radius: @corner; top: -1px; }
 QTabWidget::pane:top { border-top-left-radius: 0; }
-QTabBar { font-size: @labelSize; }
+QTabBar { font-size: @labelSize; outline: none; }
 QTabBar::tab {
     background: @tabBehind; color: @ink; border: 1px solid @line; border-bottom: 1px solid @line;
     border-top-left-radius: @corner; border-top-right-radius: @corner;

@@ -1,10 +1,10 @@
 #include "manager/ManagerLogin.h"
 
+#include "core/AccessLevels.h"
 #include "core/Session.h"
 #include "core/UserList.h"
 #include "core/dbModule.h"
 #include "forms/MsgBox.h"
-#include "values/Numbers.h"
 
 using namespace Qt::StringLiterals;
 
@@ -14,8 +14,6 @@ namespace {
 
 const auto UsersQuery = u"SELECT * FROM Users"_s;
 const auto UserCriteria = u"UserName = %1"_s;
-
-constexpr int OwnersLevel = 3;
 
 }  // namespace
 
@@ -42,7 +40,7 @@ void ManagerLogin::cmdLogin_Click() {
     user.FindFirst(UserCriteria.arg(Quoted(ui.cboUser->currentText())));
     // One answer for all, so that nobody learns what was wrong.
     if (user.NoMatch() || user[u"Password"].IsNull() || user[u"Password"].Text() != ui.txtPassword->text() ||
-        values::Val(user[u"AccLevel"].TextOrEmpty()) < OwnersLevel) {
+        !IsOwner(user[u"AccLevel"].TextOrEmpty())) {
         ui.txtPassword->clear();
         ui.txtPassword->setFocus();
         return forms::Tell(tr("This name and password are not those of a user of level 3."), forms::Icon::Critical,

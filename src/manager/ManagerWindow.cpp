@@ -1,7 +1,6 @@
 #include "manager/ManagerWindow.h"
 
 #include <QDir>
-#include <QItemSelectionModel>
 #include <QShortcut>
 
 #include "core/Installation.h"
@@ -16,8 +15,7 @@ ManagerWindow::ManagerWindow() {
     ui.setupUi(this);
     setWindowFlags(Qt::Window);
     ui.lstPages->SetColumns({{u""_s, Qt::AlignLeft, -1}});
-    connect(ui.lstPages->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            Guarded(&ManagerWindow::lstPages_Chosen));
+    connect(ui.lstPages, &forms::ListView::RowChosen, this, Guarded(&ManagerWindow::lstPages_Chosen));
     for (const auto& [key, step] : {std::pair{Qt::Key_PageDown, 1}, std::pair{Qt::Key_PageUp, -1}})
         connect(new QShortcut(QKeyCombination(Qt::ControlModifier, key), this), &QShortcut::activated, this,
                 [this, step = step] {
@@ -78,8 +76,8 @@ void ManagerWindow::DropOthers(const Page* page, bool* goes) {
 }
 
 void ManagerWindow::TellOfShop() {
-    ui.lblStatus->setText(tr("%1   –   %2   –   %3")
-                              .arg(TheInstallation.heading.NazivFirme, output::ProgramFolder(), LastBackupInWords()));
+    ui.lblStatus->ShowWhole(tr("%1   –   %2   –   %3")
+                                .arg(TheInstallation.heading.NazivFirme, output::ProgramFolder(), LastBackupInWords()));
 }
 
 }  // namespace manager

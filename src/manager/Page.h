@@ -24,6 +24,10 @@ Q_SIGNALS:
 
 protected:
     using forms::Form::Form;
+
+    // Puts these behind all others of the page in the order of the Tab key, in which parts that are added in code come
+    // last.
+    void TabLast(std::initializer_list<QWidget*> controls);
 };
 
 }  // namespace manager

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <csignal>
 
+#include "core/AccessLevels.h"
 #include "core/Installation.h"
 #include "core/KeptErrors.h"
 #include "core/PrinterWait.h"
@@ -27,8 +28,9 @@ namespace {
 const auto Title = u"VELTON Manager"_s;
 
 // The password that every shop is delivered with.
-const auto DeliveredUserQuery = u"SELECT UserID FROM Users WHERE AccLevel = '3' AND Password = '1234'"_s;
-const auto OwnersQuery = u"SELECT UserID FROM Users WHERE AccLevel = '3'"_s;
+const auto DeliveredUserQuery =
+    u"SELECT UserID FROM Users WHERE AccLevel = '%1' AND Password = '1234'"_s.arg(OwnersLevel);
+const auto OwnersQuery = u"SELECT UserID FROM Users WHERE AccLevel = '%1'"_s.arg(OwnersLevel);
 const auto InvoicesQuery = u"SELECT InvoiceID FROM Invoices"_s;
 
 bool IsAsDelivered() {

@@ -5,7 +5,6 @@
 #include "output/Channel.h"
 #include "output/Folder.h"
 #include "receipts/InvoiceOutput.h"
-#include "receipts/PrintedText.h"
 #include "receipts/ReceiptParts.h"
 #include "values/Language.h"
 
@@ -64,8 +63,4 @@ void AppendInvoiceToPreview(const InvoiceText& invoice) {
 
 void ClosePreview() {
     output::Channel1().Close();
-}
-
-QString ReviewText(const InvoiceText& invoice) {
-    return PrintedText([&] { PrintReviewText(PreviewMode, InPreview, invoice); });
 }

@@ -13,6 +13,3 @@ inline const QString PreviewFile = QStringLiteral("\\tempracun.txt");
 // Adds the receipt and two blank lines at the end of that text, which then stands open for the next one.
 void AppendInvoiceToPreview(const InvoiceText& invoice);
 void ClosePreview();
-
-// The same as a text for whoever only looks at it.
-QString ReviewText(const InvoiceText& invoice);

@@ -136,10 +136,6 @@ void Database::BackupTo(const QString& path) {
     engine_->BackupTo(path);
 }
 
-void Database::CopyFile(const QString& from, const QString& to) {
-    sqlite::CopyFile(from, to);
-}
-
 QString Database::ExplainPlan(const QString& query) {
     return engine_->Explain(internals_->compiler.Compile(query));
 }

@@ -75,8 +75,6 @@ public:
 
     // A consistent copy in a file while others write; the file must not exist. It is opened again and checked.
     void BackupTo(const QString& path);
-    // The same of a store in a file, of whatever schema; 3343 for a file that is no store.
-    static void CopyFile(const QString& from, const QString& to);
     // Adds all rows of another store, as it is at one moment, with their identities. This one is empty and has an open
     // batch.
     void AddAllOf(Database& other);

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "store/Database.h"
 #include "store/StoreError.h"
 #include "store/Words.h"
 #include "values/FileError.h"
@@ -61,6 +62,14 @@ Place MainPlace(const QString& programFolder) {
 
 Place OptionsPlace(const QString& programFolder) {
     return QDir(programFolder).filePath(OptionsFile);
+}
+
+std::unique_ptr<Database> OpenMain(const QString& programFolder) {
+    return Database::Open(MainPlace(programFolder), MainSchema());
+}
+
+std::unique_ptr<Database> OpenOptions(const QString& programFolder) {
+    return Database::Open(OptionsPlace(programFolder), OptionsSchema());
 }
 
 }  // namespace store

@@ -1,8 +1,12 @@
 #pragma once
 
+#include <memory>
+
 #include "store/Place.h"
 
 namespace store {
+
+class Database;
 
 // What the stores are called in a program's folder.
 inline constexpr QLatin1StringView MainFile("ORVA.pos");
@@ -14,5 +18,9 @@ inline constexpr QLatin1StringView OptionsFile("opt.pos");
 // of a server. A store.ini that cannot be read throws 3051, so that a register never falls back to a store of its own.
 Place MainPlace(const QString& programFolder);
 Place OptionsPlace(const QString& programFolder);
+
+// The stores of a program's folder, which have to be there.
+std::unique_ptr<Database> OpenMain(const QString& programFolder);
+std::unique_ptr<Database> OpenOptions(const QString& programFolder);
 
 }  // namespace store

@@ -20,7 +20,16 @@ namespace upkeep {
 
 namespace {
 
-const auto RibbonFile = u"invoices.txt"_s;
+const auto RibbonFile = u"invoices.txt"_s;  // which the screens read
+const auto RibbonQuery = u"SELECT TrakaRacunaFile FROM Options"_s;
+
+// The ribbon as the settings name it, where it lies in the register's folder itself.
+QString RibbonOf(store::Database& options) {
+    auto row = options.OpenSnapshot(RibbonQuery);
+    const QString name = row.AtEOF() ? QString() : row[0].TextOrEmpty();
+    const bool isElsewhere = name.contains(u'/') || name.contains(u'\\');
+    return name.isEmpty() || isElsewhere || name.endsWith(u".pos") ? RibbonFile : name;
+}
 
 // What a store may take: its log is a part of it.
 qint64 SizeOf(const QString& store) {
@@ -105,19 +114,22 @@ private:
         const store::Place place = store::MainPlace(register_.path());
         GoOn(progress_, Words::tr("Copying the shop"));
         if (!place.IsServer()) RequireRoom(register_.path(), SizeOf(place.Path()));
-        const auto main = store::Database::Open(place, store::MainSchema());
-        const auto options = store::Database::Open(store::OptionsPlace(register_.path()), store::OptionsSchema());
+        const auto main = store::OpenMain(register_.path());
         constexpr int tries = 3;
         for (int i = 1; !CopyMain(*main); ++i)
             if (i == tries)
                 throw store::StoreError(store::NotAStore, Words::tr("The days in the copy are not those of the shop."));
         GoOn(progress_, Words::tr("Copying the settings"));
-        const QString copy = shop_.filePath(store::OptionsFile);
-        options->BackupTo(copy);
-        Send(copy, store::OptionsFile);
-        if (!register_.exists(ManagerFile)) return;
-        store::Database::CopyFile(register_.filePath(ManagerFile), shop_.filePath(ManagerFile));
-        Send(shop_.filePath(ManagerFile), ManagerFile);
+        const auto options = store::OpenOptions(register_.path());
+        ribbons_ = {RibbonFile, RibbonOf(*options)};
+        SendCopyOf(*options, store::OptionsFile);
+        if (register_.exists(ManagerFile)) SendCopyOf(*OpenManagerStore(register_.path()), ManagerFile);
+    }
+
+    void SendCopyOf(store::Database& database, const QString& name) {
+        const QString copy = shop_.filePath(name);
+        database.BackupTo(copy);
+        Send(copy, name);
     }
 
     // False when a day before today is another one in the copy, as when rows came in for it at this very moment.
@@ -140,7 +152,8 @@ private:
 
     QStringList OtherFiles() const {
         QStringList names = register_.entryList({u"*.ini"_s}, QDir::Files);
-        if (register_.exists(RibbonFile)) names += RibbonFile;
+        for (const QString& ribbon : ribbons_)
+            if (register_.exists(ribbon) && !names.contains(ribbon)) names += ribbon;
         for (QDirIterator pictures(register_.filePath(u"img"_s), QDir::Files, QDirIterator::Subdirectories);
              pictures.hasNext();)
             names += register_.relativeFilePath(pictures.next());
@@ -233,6 +246,7 @@ private:
     const QDir shop_;    // the stores, before they are sent there
     QString part_;       // what is being made; empty when it is whole
     QString target_;
+    QStringList ribbons_;
     QList<BackupFacts> backups_;
     backup::FileList before_;
     QString beforePath_;

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "upkeep/Words.h"
+#include "values/IniEdit.h"
 
 using namespace Qt::StringLiterals;
 
@@ -20,16 +21,15 @@ struct Count {
     int least;
 };
 
-// The last good one is kept in any case, but a slip of a key must not leave it alone.
-constexpr Count Counts[] = {
-    {u"days", &BackupPlan::days, 1}, {u"weeks", &BackupPlan::weeks, 0}, {u"months", &BackupPlan::months, 0}};
-constexpr int Most = 1000;
+constexpr Count Counts[] = {{u"days", &BackupPlan::days, BackupPlan::LeastDays},
+                            {u"weeks", &BackupPlan::weeks, 0},
+                            {u"months", &BackupPlan::months, 0}};
 
 QString Refusal(const Count& count, const values::IniFile::Value& value) {
     constexpr int longestShown = 48;
     return Words::tr("velton.ini, line %1: %2 can't be \"%3\", only a number from %4 to %5.")
         .arg(QString::number(value.line), QString::fromUtf16(count.name), value.text.left(longestShown),
-             QString::number(count.least), QString::number(Most));
+             QString::number(count.least), QString::number(BackupPlan::Most));
 }
 
 }  // namespace
@@ -51,7 +51,7 @@ BackupPlan ReadBackupPlan(const values::IniFile& ini, const QString& registerFol
         if (!value) continue;
         bool isNumber = false;
         const int number = value->text.toInt(&isNumber);
-        if (isNumber && number >= count.least && number <= Most)
+        if (isNumber && number >= count.least && number <= BackupPlan::Most)
             plan.*count.number = number;
         else
             refused += Refusal(count, *value);
@@ -63,6 +63,13 @@ BackupPlan ReadBackupPlan(const QString& registerFolder) {
     QStringList refused;
     return ReadBackupPlan(values::IniFile::Read(QDir(registerFolder).filePath(u"velton.ini"_s)), registerFolder,
                           refused);
+}
+
+void KeepSoMany(const BackupPlan& plan, const QString& registerFolder) {
+    values::IniEdit ini(QDir(registerFolder).filePath(u"velton.ini"_s));
+    for (const Count& count : Counts)
+        ini.Set(Section, QString::fromUtf16(count.name), QString::number(plan.*count.number));
+    ini.Save();
 }
 
 }  // namespace upkeep

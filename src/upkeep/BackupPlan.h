@@ -13,6 +13,9 @@ struct BackupPlan {
     int days = 14;
     int weeks = 8;
     int months = 24;
+
+    static constexpr int LeastDays = 1;  // the last good one is kept in any case; a slip must not leave it alone
+    static constexpr int Most = 1000;    // of days, weeks and months each
 };
 
 bool IsBackupKey(const QString& section, const QString& name);
@@ -20,5 +23,7 @@ bool IsBackupKey(const QString& section, const QString& name);
 // the register's on, and "~/" from the user's.
 BackupPlan ReadBackupPlan(const values::IniFile& ini, const QString& registerFolder, QStringList& refused);
 BackupPlan ReadBackupPlan(const QString& registerFolder);
+// How many are kept from now on.
+void KeepSoMany(const BackupPlan& plan, const QString& registerFolder);
 
 }  // namespace upkeep

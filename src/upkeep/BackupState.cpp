@@ -15,9 +15,7 @@ namespace upkeep {
 
 namespace {
 
-const auto Last = u"last"_s;
-const auto Failure = u"failure"_s;
-const auto Till = u"till"_s;
+const auto Section = u"backup"_s;
 const auto Folders = u"folders"_s;
 
 QString StateFile(const QString& registerFolder) {
@@ -43,7 +41,8 @@ QString KeyOf(const QString& place) {
 void Change(const QString& registerFolder, const std::function<void(values::IniEdit&)>& change) {
     try {
         const values::FileLock turn(QDir(registerFolder).filePath(u".backup-state.lock"_s), values::FileLock::On::File,
-                                    values::FileLock::When::Waiting);
+                                    values::FileLock::When::Shortly);
+        if (!turn.IsHeld()) return;
         values::IniEdit state(StateFile(registerFolder));
         change(state);
         state.Save();
@@ -60,36 +59,30 @@ QString Moment(const QDateTime& time) {
 
 BackupState ReadBackupState(const QString& registerFolder) {
     const values::IniFile ini = ReadState(registerFolder);
-    const auto text = [&ini](const QString& section, const QString& key) {
-        return ini.Entry(section, key).value_or(QString());
-    };
-    const auto time = [&text](const QString& section, const QString& key) {
-        return QDateTime::fromString(text(section, key), Qt::ISODate);
-    };
-    return {.good = time(Last, u"time"_s),
-            .path = text(Last, u"path"_s),
-            .bytes = text(Last, u"bytes"_s).toLongLong(),
-            .failed = time(Failure, u"time"_s),
-            .why = text(Failure, u"words"_s),
-            .asked = time(Till, u"asked"_s),
-            .told = QDate::fromString(text(Till, u"told"_s), Qt::ISODate)};
+    const auto text = [&ini](const QString& key) { return ini.Entry(Section, key).value_or(QString()); };
+    const auto time = [&text](const QString& key) { return QDateTime::fromString(text(key), Qt::ISODate); };
+    return {.good = time(u"good"_s),
+            .path = text(u"path"_s),
+            .bytes = text(u"bytes"_s).toLongLong(),
+            .failed = time(u"failed"_s),
+            .why = text(u"why"_s),
+            .asked = time(u"asked"_s),
+            .told = QDate::fromString(text(u"told"_s), Qt::ISODate)};
 }
 
 void NoteGood(const QString& registerFolder, const QDateTime& time, const QString& path, qint64 bytes) {
     Change(registerFolder, [&](values::IniEdit& state) {
-        state.Set(Last, u"time"_s, time.toString(Qt::ISODate));
-        state.Set(Last, u"path"_s, path);
-        state.Set(Last, u"bytes"_s, QString::number(bytes));
-        state.Remove(Till, u"asked"_s);
-        state.Remove(Failure, u"time"_s);
-        state.Remove(Failure, u"words"_s);
+        state.Set(Section, u"good"_s, time.toString(Qt::ISODate));
+        state.Set(Section, u"path"_s, path);
+        state.Set(Section, u"bytes"_s, QString::number(bytes));
+        for (const QString& key : {u"asked"_s, u"failed"_s, u"why"_s}) state.Remove(Section, key);
     });
 }
 
 void NoteFailure(const QString& registerFolder, const QDateTime& time, const QString& why) {
     Change(registerFolder, [&](values::IniEdit& state) {
-        state.Set(Failure, u"time"_s, time.toString(Qt::ISODate));
-        state.Set(Failure, u"words"_s, why);
+        state.Set(Section, u"failed"_s, time.toString(Qt::ISODate));
+        state.Set(Section, u"why"_s, why);
     });
 }
 
@@ -104,11 +97,11 @@ bool HasUsedPlace(const QString& registerFolder, const QString& place) {
 
 void NoteAsked(const QString& registerFolder, const QDateTime& time) {
     if (ReadBackupState(registerFolder).asked.isValid()) return;
-    Change(registerFolder, [&](values::IniEdit& state) { state.Set(Till, u"asked"_s, time.toString(Qt::ISODate)); });
+    Change(registerFolder, [&](values::IniEdit& state) { state.Set(Section, u"asked"_s, time.toString(Qt::ISODate)); });
 }
 
 void NoteTold(const QString& registerFolder, QDate day) {
-    Change(registerFolder, [&](values::IniEdit& state) { state.Set(Till, u"told"_s, day.toString(Qt::ISODate)); });
+    Change(registerFolder, [&](values::IniEdit& state) { state.Set(Section, u"told"_s, day.toString(Qt::ISODate)); });
 }
 
 QString BackupNotice(const BackupState& state, const QDateTime& now, QDate lastSale) {

@@ -16,16 +16,8 @@ namespace {
 const auto DaysQuery =
     u"SELECT DateSold, Count(*) AS N, Sum(CashAmount) AS Cash, Sum(TaxTotal) AS Tax FROM Invoices GROUP BY DateSold"_s;
 
-values::Money MoneyOrNothing(const values::Value& value) {
-    return value.IsNull() ? values::Money() : value.ToMoney();
-}
-
-DayTotal FromValues(const values::Value& day, const values::Value& invoices, const values::Value& takings,
-                    const values::Value& tax) {
-    return {.day = day.IsNull() ? QDate() : day.ToDate(),
-            .invoices = invoices.ToWhole(),
-            .takings = MoneyOrNothing(takings),
-            .tax = MoneyOrNothing(tax)};
+QDate DayOf(const values::Value& value) {
+    return value.IsNull() ? QDate() : value.ToDate();
 }
 
 }  // namespace
@@ -33,7 +25,11 @@ DayTotal FromValues(const values::Value& day, const values::Value& invoices, con
 DayTotals ReadDayTotals(store::Database& main) {
     DayTotals days;
     auto rows = main.OpenSnapshot(DaysQuery);
-    for (auto& row : rows) days += FromValues(row[0].Get(), row[1].Get(), row[2].Get(), row[3].Get());
+    for (auto& row : rows)
+        days += {.day = DayOf(row[0].Get()),
+                 .invoices = row[1].Whole(),
+                 .takings = row[2].MoneyOrZero(),
+                 .tax = row[3].MoneyOrZero()};
     std::ranges::sort(days, {}, &DayTotal::day);
     return days;
 }
@@ -55,8 +51,10 @@ DayTotals ParseDayTotals(const QByteArray& lines) {
         const QByteArrayList cells = line.split('\t');
         if (cells.size() != 4)
             throw store::StoreError(store::NotAStore, Words::tr("The totals of the days can't be read."));
-        days += FromValues(ReadValue(cells[0], store::Type::Date), ReadValue(cells[1], store::Type::Whole),
-                           ReadValue(cells[2], store::Type::Money), ReadValue(cells[3], store::Type::Money));
+        days += {.day = DayOf(ReadValue(cells[0], store::Type::Date)),
+                 .invoices = ReadValue(cells[1], store::Type::Whole).ToWhole(),
+                 .takings = ReadValue(cells[2], store::Type::Money).ToMoney(),
+                 .tax = ReadValue(cells[3], store::Type::Money).ToMoney()};
     }
     return days;
 }

@@ -21,7 +21,7 @@ struct DayTotal {
 using DayTotals = QList<DayTotal>;
 DayTotals ReadDayTotals(store::Database& main);
 
-// As lines of a file; a StoreError for what are none.
+// As lines of a file; a values::Error for what are none.
 QByteArray WriteDayTotals(const DayTotals& days);
 DayTotals ParseDayTotals(const QByteArray& lines);
 

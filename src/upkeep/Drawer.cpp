@@ -1,5 +1,7 @@
 #include "upkeep/Drawer.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using values::Money;
 
@@ -8,8 +10,11 @@ namespace upkeep {
 namespace {
 
 const auto CashQuery =
-    u"SELECT Sum(Invoices.CashAmount), Sum(Invoices.CheckAmount), Count(Invoices.InvoiceID)"
-    u" FROM Sales INNER JOIN Invoices ON Sales.SalesID = Invoices.SalesID WHERE Sales.Closed = False"_s;
+    u"SELECT Sum(Invoices.CashAmount), Sum(Invoices.CheckAmount)"
+    u" FROM Sales INNER JOIN Invoices ON Sales.SalesID = Invoices.SalesID WHERE "_s;
+const auto OfOpenPeriods = u"Sales.Closed = False"_s;
+const auto OfEndReport = u"Sales.Closed = True AND Sales.Grupni = %1"_s;
+const auto EndReportsQuery = u"SELECT Grupni, Max(DateStoped) FROM Sales WHERE Closed = True GROUP BY Grupni"_s;
 
 constexpr QByteArrayView CashRecord = "I,1,________,_,__;";
 constexpr QByteArrayView DailyReport = "Z,1,______,_,__;";
@@ -29,10 +34,21 @@ Money AmountOf(QByteArrayView text) {
 
 }  // namespace
 
-CashSold ReadCashSold(store::Database& main) {
-    auto row = main.OpenSnapshot(CashQuery);
-    const auto money = [&](int column) { return row[column].IsNull() ? Money() : row[column].Money(); };
-    return {money(0) - money(1), row[2].Whole()};
+QList<DrawerPeriod> DrawerPeriods(store::Database& main, qsizetype endReports) {
+    QList<DrawerPeriod> periods;
+    auto reports = main.OpenSnapshot(EndReportsQuery);
+    for (auto& report : reports)
+        if (!report[0].IsNull() && report[0].Whole() > 0)
+            periods << DrawerPeriod{report[0].Whole(), report[1].IsNull() ? QDate() : report[1].Get().ToDate()};
+    std::ranges::sort(periods, std::greater(), &DrawerPeriod::endReport);
+    periods.resize(std::min(periods.size(), endReports));
+    periods.prepend({});
+    return periods;
+}
+
+Money ReadCashSold(store::Database& main, qint64 endReport) {
+    auto row = main.OpenSnapshot(CashQuery + (endReport == 0 ? OfOpenPeriods : OfEndReport.arg(endReport)));
+    return row[0].MoneyOrZero() - row[1].MoneyOrZero();
 }
 
 FiscalCash ReadFiscalCash(QIODevice& commands) {

@@ -18,6 +18,9 @@ namespace {
 
 const auto InvoicesQuery =
     u"SELECT InvoiceID, OrNo, DateSold, TimeSold, CashierID, CashierName, CashAmount, TaxTotal FROM Invoices WHERE "_s;
+const auto LinesOfDaysQuery =
+    u"SELECT SalesDetails.InvoiceID, SalesDetails.ProdCode, SalesDetails.TaxID FROM Invoices INNER JOIN SalesDetails"
+    u" ON Invoices.InvoiceID = SalesDetails.InvoiceID WHERE "_s;
 const auto LinesQuery =
     u"SELECT ProdDescription, QtySold, Unit, UnitPrice, Amount FROM SalesDetails WHERE InvoiceID = '%1'"_s;
 
@@ -33,6 +36,49 @@ bool IsWished(const InvoicesWish& wish, QDate day, QTime time, const QString& ca
            (!wish.cashierID || cashierID.compare(*wish.cashierID, Qt::CaseInsensitive) == 0);
 }
 
+// The lines that are meant, by the goods and the tax on them.
+class WishedLines {
+public:
+    WishedLines(store::Database& main, const InvoicesWish& wish) : taxID_(wish.taxID) {
+        if (wish.goods) goods_.emplace().Meet(*wish.goods);
+        if (!wish.taken && !wish.group) return;
+        const Articles articles(main);
+        if (wish.taken) {
+            goods_.emplace().Meet(*wish.taken);
+            for (const QString& code : articles.MadeWith(*wish.taken)) goods_->Meet(code);
+            return;
+        }
+        // What is on no tab may also be gone from the table of goods, so it is known by the others.
+        areOthers_ = wish.group->isEmpty();
+        goods_.emplace();
+        const size_t tabs = CountTabs(main);
+        for (const Article& article : articles.List()) {
+            const size_t tab = TabOf(article, tabs);
+            if (areOthers_ ? tab < tabs : QString::number(tab) == *wish.group) goods_->Meet(article.sold.code);
+        }
+    }
+
+    bool Holds(const QString& code, const QString& taxID) const {
+        return (!goods_ || goods_->Contains(code) != areOthers_) &&
+               (!taxID_ || taxID.compare(*taxID_, Qt::CaseInsensitive) == 0);
+    }
+
+private:
+    std::optional<DistinctKeys> goods_;
+    bool areOthers_ = false;
+    const std::optional<QString> taxID_;
+};
+
+DistinctKeys InvoicesWith(store::Database& main, const InvoicesWish& wish) {
+    const WishedLines wished(main, wish);
+    DistinctKeys invoices;
+    store::Listing rows = main.ReadListing(LinesOfDaysQuery + WithinDays(wish.days, u"Invoices.DateSold"_s));
+    for (qint64 row = 0, count = rows.WaitFor(0); row < count; ++row)
+        if (wished.Holds(rows.At(row, 1).TextOrEmpty(), rows.At(row, 2).TextOrEmpty()))
+            invoices.Meet(rows.At(row, 0).TextOrEmpty());
+    return invoices;
+}
+
 QString Line(const QString& left, const QString& right) {
     const qsizetype room = std::max<qsizetype>(Width - right.size() - 1, 0);
     return left.left(room).leftJustified(Width - right.size()) + right + u'\n';
@@ -46,8 +92,11 @@ QString Amount(Money amount) {
 
 std::vector<ListedInvoice> ReadInvoices(store::Database& main, const InvoicesWish& wish) {
     std::vector<ListedInvoice> invoices;
+    std::optional<DistinctKeys> withLines;
+    if (wish.goods || wish.taken || wish.group || wish.taxID) withLines = InvoicesWith(main, wish);
     store::Listing rows = main.ReadListing(InvoicesQuery + WithinDays(wish.days));
     for (qint64 row = 0, count = rows.WaitFor(0); row < count; ++row) {
+        if (withLines && !withLines->Contains(rows.At(row, 0).TextOrEmpty())) continue;
         const QDate day = rows.At(row, 2).ToDate();
         const values::Value time = rows.At(row, 3);
         const QTime timeSold = time.IsNull() ? QTime() : time.ToTime();

@@ -11,9 +11,14 @@ namespace upkeep {
 // Which invoices are meant; what is not said counts for nothing.
 struct InvoicesWish {
     Days days;
-    std::optional<int> hour;
-    std::optional<int> weekday;  // 1 is Monday
-    std::optional<QString> cashierID;
+    std::optional<int> hour = {};
+    std::optional<int> weekday = {};  // 1 is Monday
+    std::optional<QString> cashierID = {};
+    // With a line of which this holds.
+    std::optional<QString> goods = {};  // by their code
+    std::optional<QString> taken = {};  // these goods, or others that they are a part of
+    std::optional<QString> group = {};  // as an overview numbers them
+    std::optional<QString> taxID = {};
 };
 
 struct ListedInvoice {

@@ -32,6 +32,7 @@ store::Table CountsTable() {
              {u"Currency"_s, Type::Text},
              {u"Pieces"_s, Type::Text},
              {u"Counted"_s, Type::Money},
+             {u"EndReport"_s, Type::Whole},
              {u"Sold"_s, Type::Money},
              {u"PutIn"_s, Type::Money},
              {u"TakenOut"_s, Type::Money},
@@ -170,6 +171,7 @@ qint64 KeepCount(store::Database& manager, const DrawerCount& count) {
     rows[u"Currency"] = count.currency;
     rows[u"Pieces"] = PiecesText(count.pieces);
     rows[u"Counted"] = count.counted;
+    rows[u"EndReport"] = count.endReport;
     rows[u"Sold"] = count.sold;
     rows[u"PutIn"] = count.putIn;
     rows[u"TakenOut"] = count.takenOut;
@@ -193,6 +195,7 @@ QList<DrawerCount> KeptCounts(store::Database& manager) {
                               .currency = row[u"Currency"].TextOrEmpty(),
                               .pieces = ReadPieces(row[u"Pieces"].TextOrEmpty()),
                               .counted = row[u"Counted"].Money(),
+                              .endReport = row[u"EndReport"].Whole(),
                               .sold = row[u"Sold"].Money(),
                               .putIn = row[u"PutIn"].Money(),
                               .takenOut = row[u"TakenOut"].Money(),

@@ -45,7 +45,8 @@ struct DrawerCount {
     QString currency;
     Denominations pieces;
     values::Money counted;
-    values::Money sold;  // in cash since the last End Report
+    qint64 endReport = 0;  // the one whose sales it was counted for; 0: those since the last one
+    values::Money sold;    // in cash
     values::Money putIn;
     values::Money takenOut;
     QString remark;

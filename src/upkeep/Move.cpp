@@ -42,7 +42,7 @@ void RequireSame(const Totals& before, const Totals& after) {
 Moved MoveMainStore(const QString& folder, const QString& address) {
     const store::Place target =
         address.isEmpty() ? store::Place(QDir(folder).filePath(store::MainFile)) : store::Place::Server(address);
-    const auto source = store::Database::Open(store::MainPlace(folder), store::MainSchema());
+    const auto source = store::OpenMain(folder);
     source->TakeAlone();
     const Totals before = TotalsOf(*source);
     store::Creation creation(target, store::MainSchema());

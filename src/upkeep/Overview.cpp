@@ -17,8 +17,6 @@ const auto FirstSaleQuery = u"SELECT Min(DateSold) FROM Invoices"_s;
 const auto LastSaleQuery = u"SELECT Max(DateSold) FROM Invoices"_s;
 const auto LastSaleUpToQuery = u"SELECT Max(DateSold) FROM Invoices WHERE DateSold <= #%1#"_s;
 
-constexpr int ButtonsPerTab = 32;
-
 QDate DayOf(store::Database& main, const QString& query) {
     auto row = main.OpenSnapshot(query);
     return row.AtEOF() || row[0].IsNull() ? QDate() : row[0].Get().ToDate();
@@ -141,9 +139,7 @@ private:
         for (size_t tab = 0; tab < groups.size(); ++tab) groups[tab] = {QString::number(tab), tabNames_[tab], {}};
         groups.push_back({{}, wish_.noGroup, {}});
         for (const Article& article : articles_.List()) {
-            const bool isOnTable = article.tab >= 0 && article.tab / ButtonsPerTab < static_cast<int>(tabNames_.size());
-            const size_t group = isOnTable ? static_cast<size_t>(article.tab / ButtonsPerTab) : groups.size() - 1;
-            groups[group].takings.amounts.total += article.sold.total;
+            groups[TabOf(article, tabNames_.size())].takings.amounts.total += article.sold.total;
             if (article.sold.pieces != Money() || article.sold.total != Money()) shown.goods.push_back(article.sold);
             if (article.isKept && !article.isComposed && article.stock > Money() && article.taken == Money())
                 shown.idle.push_back(article.sold);

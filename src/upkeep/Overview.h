@@ -27,6 +27,8 @@ struct Days {
 // month before, of a whole year the year before, else as many days.
 Days MonthOf(QDate day);
 Days DaysBefore(const Days& days);
+// The last four weeks, by which it is reckoned how long the stock lasts.
+Days DaysOfPace(QDate today);
 
 struct Takings {
     Amounts amounts;

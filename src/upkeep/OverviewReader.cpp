@@ -17,7 +17,6 @@ const auto LinesQuery =
     u" WHERE %1"_s;
 
 constexpr int WeekdaysOfMean = 4;
-constexpr int DaysOfPace = 28;
 
 Money MoneyOf(const store::Listing& rows, qint64 row, int column) {
     const values::Value value = rows.At(row, column);
@@ -126,8 +125,29 @@ void Articles::CountParts() {
     for (const Part& part : parts_) list_[part.part].taken += part.pieces * list_[part.of].sold.pieces;
 }
 
+QStringList Articles::MadeWith(const QString& code) const {
+    QStringList codes;
+    const Place place = places_.Find(code);
+    for (const Part& part : parts_)
+        if (part.part == place) codes << list_[part.of].sold.code;
+    return codes;
+}
+
+size_t TabOf(const Article& article, size_t tabs) {
+    return article.tab < 0 ? tabs : std::min(static_cast<size_t>(article.tab / store::PlacesPerTab), tabs);
+}
+
+size_t CountTabs(store::Database& main) {
+    return static_cast<size_t>(main.OpenSnapshot(u"SELECT Count(*) FROM TabControl"_s)[0].Whole());
+}
+
+Days DaysOfPace(QDate today) {
+    constexpr int days = 28;
+    return {today.addDays(1 - days), today};
+}
+
 std::vector<RunningOut> ReadRunningOut(store::Database& main, Articles articles, QDate today, QDate firstSale) {
-    const Days pace{std::max(firstSale, today.addDays(1 - DaysOfPace)), today};
+    const Days pace{std::max(firstSale, DaysOfPace(today).first), today};
     if (!firstSale.isValid() || !pace.IsValid()) return {};
     ReadLines(main, pace, [&](const QString& code, const QString&, Money pieces, const Amounts& amounts) {
         articles.Add(code, pieces, amounts.total);

@@ -26,6 +26,8 @@ public:
     // Counts for the parts of composed goods what was taken of them, as the till takes it off the stock.
     void CountParts();
     const std::vector<Article>& List() const { return list_; }
+    // The codes of the goods that one is a part of.
+    QStringList MadeWith(const QString& code) const;
 
 private:
     struct Part {
@@ -39,6 +41,10 @@ private:
     KeyPlaces places_;
     std::vector<Part> parts_;
 };
+
+// The tab of the touch table that goods are on, from 0; `tabs`, which is how many there are, for those on none.
+size_t TabOf(const Article& article, size_t tabs);
+size_t CountTabs(store::Database& main);
 
 // The stock of goods at the pace of the days before.
 std::vector<RunningOut> ReadRunningOut(store::Database& main, Articles articles, QDate today, QDate firstSale);

@@ -8,6 +8,7 @@
 #include "store/StorePath.h"
 #include "upkeep/BackupPlace.h"
 #include "upkeep/BackupPlan.h"
+#include "upkeep/ManagerStore.h"
 #include "upkeep/RestoreSteps.h"
 #include "upkeep/Words.h"
 #include "values/Clock.h"
@@ -23,7 +24,6 @@ namespace {
 
 const auto StoreIni = u"store.ini"_s;
 const auto TillIni = u"velton.ini"_s;
-const auto RibbonFile = u"invoices.txt"_s;
 
 void RequireSound(store::Database& database, const QString& name) {
     const QStringList faults = database.CheckIntegrity();
@@ -71,8 +71,11 @@ public:
     }
 
 private:
+    // What only grows holds more where it is there: the ribbon, and what the owner's program keeps.
     bool IsWanted(const QString& name) const {
-        return name != StoreIni && !(name == RibbonFile && register_.exists(name));
+        const bool isReplaced =
+            name == store::MainFile || name == store::OptionsFile || name.endsWith(u".ini") || name.contains(u'/');
+        return name != StoreIni && (isReplaced || !register_.exists(name));
     }
 
     void RemoveComing() const {
@@ -122,8 +125,8 @@ private:
         if (days_ != DaysOf(backup_))
             throw store::StoreError(store::NotAStore,
                                     Words::tr("The days in the backup's shop are not those that it was made with."));
-        RequireSound(*store::Database::Open(steps_.Coming().filePath(store::OptionsFile), store::OptionsSchema()),
-                     store::OptionsFile);
+        RequireSound(*store::OpenOptions(steps_.Coming().path()), store::OptionsFile);
+        if (steps_.Coming().exists(ManagerFile)) RequireSound(*OpenManagerStore(steps_.Coming().path()), ManagerFile);
     }
 
     // None where there is no store, or one that can't be opened any more.
@@ -215,7 +218,7 @@ RestorePreview PreviewRestore(const QString& registerFolder, const BackupFacts& 
     preview.backup = backup;
     DayTotals live;
     try {
-        live = ReadDayTotals(*store::Database::Open(store::MainPlace(registerFolder), store::MainSchema()));
+        live = ReadDayTotals(*store::OpenMain(registerFolder));
     } catch (const store::StoreError& error) {
         preview.liveFault = error.Description();
     }

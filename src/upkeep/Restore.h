@@ -26,7 +26,7 @@ struct Restored {
 // Puts a backup into the place of a register's stores, pictures and ini files, all or nothing: it is read and checked
 // first, the main store comes into its place (a file, or a schema of the server) in one step, and a restore that is
 // killed behind that step is ended by the next start. What was replaced is kept in the register's folder. store.ini
-// stays, and so does a ribbon that is there, which holds more than the one in the backup.
+// stays, and so do a ribbon and a manager.pos that are there, which hold more than those in the backup.
 //
 // The till of the register must be closed, and so must all others of its store: 3218 where that is not so and is to be
 // known. Whoever calls it has closed its own stores. 3059 when its user left before anything was changed.

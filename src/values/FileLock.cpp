@@ -6,11 +6,20 @@
 
 #include <QFile>
 #include <cerrno>
+#include <chrono>
+#include <thread>
 
 #include "values/FileError.h"
 #include "values/Words.h"
 
 namespace values {
+
+namespace {
+
+constexpr auto BetweenTries = std::chrono::milliseconds(5);
+constexpr int Tries = 100;
+
+}  // namespace
 
 FileLock::FileLock(const QString& path, On on, When when) {
     constexpr mode_t itsUserAlone = 0600;
@@ -21,9 +30,11 @@ FileLock::FileLock(const QString& path, On on, When when) {
         if (on == On::Folder) throw Error(PathNotFound, Words::tr("The folder %1 can't be opened.").arg(path));
         throw FileError(NumberOfOsError(errno), Words::tr("Cannot open '%1': %2").arg(path, qt_error_string(errno)));
     }
-    int result = 0;
-    do result = ::flock(file, LOCK_EX | (when == When::Now ? LOCK_NB : 0));
-    while (result != 0 && errno == EINTR);
+    int result = ::flock(file, LOCK_EX | LOCK_NB);
+    for (int tries = when == When::Now ? 0 : Tries; result != 0 && tries > 0; --tries) {
+        std::this_thread::sleep_for(BetweenTries);
+        result = ::flock(file, LOCK_EX | LOCK_NB);
+    }
     if (result == 0)
         descriptor_ = file;
     else

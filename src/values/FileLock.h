@@ -9,7 +9,7 @@ namespace values {
 class FileLock {
 public:
     enum class On { File, Folder };
-    enum class When { Now, Waiting };
+    enum class When { Now, Shortly };  // within half a second
 
     // A file is made when it is missing. A FileError when it can't be opened.
     explicit FileLock(const QString& path, On on = On::File, When when = When::Now);

@@ -12,6 +12,7 @@
 #include "support/TestFolder.h"
 #include "upkeep/Backup.h"
 #include "upkeep/BackupPruning.h"
+#include "upkeep/ManagerStore.h"
 #include "upkeep/Restore.h"
 #include "upkeep/RestoreSteps.h"
 #include "values/IniEdit.h"
@@ -30,12 +31,8 @@ protected:
         delivery::MakeProgramFolder(shop_, {.withDemo = true, .server = drivers::ServerForTest()});
     }
 
-    std::unique_ptr<store::Database> Main() const {
-        return store::Database::Open(store::MainPlace(shop_), store::MainSchema());
-    }
-    std::unique_ptr<store::Database> Options() const {
-        return store::Database::Open(store::OptionsPlace(shop_), store::OptionsSchema());
-    }
+    std::unique_ptr<store::Database> Main() const { return store::OpenMain(shop_); }
+    std::unique_ptr<store::Database> Options() const { return store::OpenOptions(shop_); }
     // A mark in each part of the shop.
     void Mark(const QString& mark) const {
         Main()->Execute(u"UPDATE Users SET UserFullName = '%1'"_s.arg(mark));
@@ -136,6 +133,27 @@ TEST_F(BackupTest, ARestoreGoesOnWhereTheStoreHasComeIntoItsPlaceAndElseIsTakenB
         EXPECT_EQ(Left(shop_), QStringList());
         QDir(shop_ + u"/kept"_s).removeRecursively();
     }
+}
+
+// The owner's program may have its store open; what it kept is there in the log alone.
+TEST_F(BackupTest, ACountOfTheDrawerIsBackedUpAndBroughtBackWhereItIsMissing) {
+    const auto manager = OpenManagerStore(shop_);
+    DrawerCount count;
+    count.day = QDate(2026, 11, 26);
+    count.time = QTime(20, 0);
+    count.remark = u"in the evening"_s;
+    KeepCount(*manager, count);
+    const BackupFacts backup = Save();
+    const QTemporaryDir aside(FolderTemplate());
+    ASSERT_TRUE(
+        QFile::copy(QDir(backup.path).filePath(backup::Register + u'/' + ManagerFile), aside.filePath(ManagerFile)));
+    EXPECT_EQ(KeptCounts(*OpenManagerStore(aside.path())).first().remark, u"in the evening"_s);
+    KeepCount(*manager, count);
+    RestoreBackup(shop_, backup);
+    EXPECT_EQ(KeptCounts(*OpenManagerStore(shop_)).size(), 2);
+    for (const QString& ending : StoreEndings()) QFile::remove(shop_ + u'/' + ManagerFile + ending);
+    RestoreBackup(shop_, backup);
+    EXPECT_EQ(KeptCounts(*OpenManagerStore(shop_)).size(), 1);
 }
 
 // A store that can't be opened any more is put aside as it is.

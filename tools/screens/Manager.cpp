@@ -1,6 +1,5 @@
 #include "screens/Manager.h"
 
-#include <QAbstractButton>
 #include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -24,6 +23,7 @@
 #include "manager/health/SupportForm.h"
 #include "manager/overview/InvoicesView.h"
 #include "manager/overview/OverviewPage.h"
+#include "manager/reports/ReportsPage.h"
 #include "player/Keys.h"
 #include "player/ModalWatch.h"
 #include "store/StorePath.h"
@@ -247,7 +247,8 @@ void LookAtManager(const QString& shop, const Cashier::Camera& camera) {
         if (entry.className == u"GoodsPage") ReadTable(shop);
         if (entry.className == u"LabelsPage") ChooseGoods(window);
         if (entry.className == u"PricesPage") RaisePrices();
-        if (entry.className == u"ReportsPage") window.findChild<QAbstractButton*>(u"cmdShow")->click();
+        if (auto* reports = dynamic_cast<manager::ReportsPage*>(forms::FindForm(entry.className)))
+            reports->ui.cmdShow->click();
         camera(window, PictureOfPage(entry.className));
         if (entry.className == u"LabelsPage") ShowLabels(window, camera);
         if (entry.className == u"HealthPage") ShowSupport(shop, camera);

@@ -4,8 +4,7 @@
 namespace tool {
 
 std::unique_ptr<store::Database> OpenStore(const QString& folder, Which which) {
-    if (which == Which::Options) return store::Database::Open(store::OptionsPlace(folder), store::OptionsSchema());
-    return store::Database::Open(store::MainPlace(folder), store::MainSchema());
+    return which == Which::Options ? store::OpenOptions(folder) : store::OpenMain(folder);
 }
 
 }  // namespace tool

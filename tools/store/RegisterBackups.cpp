@@ -39,6 +39,24 @@ QByteArray Line(const upkeep::BackupFacts& backup) {
            '\n';
 }
 
+template <class T>
+QString Shown(const T& value) {
+    return QString::fromUtf8(WriteValue(value));
+}
+
+// The days that are others by a restore.
+QByteArray Changes(const upkeep::RestorePreview& preview) {
+    QByteArray lines;
+    for (const auto& [one, other] : preview.days)
+        if (one != other)
+            lines += ToolWords::tr("%1: %2 invoices, %3 become %4, %5")
+                         .arg(Shown(one.day), Shown(one.invoices), Shown(one.takings), Shown(other.invoices),
+                              Shown(other.takings))
+                         .toUtf8() +
+                     '\n';
+    return lines;
+}
+
 }  // namespace
 
 void BackupRegister(const QString& folder, const QString& to) {
@@ -63,8 +81,11 @@ void Backups(const QString& folder, const QString& in) {
 
 void Restore(const QString& folder, const QString& backup, const QString& in) {
     const QString place = in.isEmpty() ? upkeep::ReadBackupPlan(folder).folder : in;
-    const upkeep::Restored restored = upkeep::RestoreBackup(folder, upkeep::FindBackup(backup, place, folder));
+    const upkeep::BackupFacts found = upkeep::FindBackup(backup, place, folder);
+    const QByteArray changes = found.fault.isEmpty() ? Changes(upkeep::PreviewRestore(folder, found)) : QByteArray();
+    const upkeep::Restored restored = upkeep::RestoreBackup(folder, found);
     Output output;
+    output.Write(changes);
     output.WriteLine(ToolWords::tr("Restored %1 invoices of %2 days.").arg(restored.invoices).arg(restored.days));
     output.WriteLine(ToolWords::tr("What was replaced is kept in %1.").arg(restored.keptAs));
     if (!restored.oldStore.isEmpty() && !restored.oldStore.startsWith(restored.keptAs))

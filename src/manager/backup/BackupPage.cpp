@@ -13,67 +13,78 @@
 #include "upkeep/Backup.h"
 #include "upkeep/BackupPlace.h"
 #include "upkeep/BackupState.h"
-#include "upkeep/Restore.h"
 #include "values/DateText.h"
 
 using namespace Qt::StringLiterals;
 using output::ProgramFolder;
 using upkeep::BackupFacts;
+using upkeep::BackupPlan;
 
 namespace manager {
 
 BackupPage::BackupPage(QWidget* parent) : Page(parent) {
     ui.setupUi(this);
+    ui.spnDays->setRange(BackupPlan::LeastDays, BackupPlan::Most);
+    for (QSpinBox* count : {ui.spnWeeks, ui.spnMonths}) count->setRange(0, BackupPlan::Most);
     ui.lstBackups->SetColumns({{tr("Made"), Qt::AlignLeft, 190},
                                {tr("Size"), Qt::AlignRight, 80},
                                {tr("Invoices"), Qt::AlignRight, 80},
                                {tr("Last day"), Qt::AlignLeft, 100},
                                {tr("Its takings"), Qt::AlignRight, 110},
                                {tr("State"), Qt::AlignLeft, -1}});
-    ui.lstBackups->SetEmptyText(tr("No backups yet."));
-    On(ui.cmdFolder, &BackupPage::cmdFolder_Click);
-    On(ui.cmdNow, &BackupPage::cmdNow_Click);
+    ui.lstBackups->SetEmptyText(tr("There are no backups yet."));
+    On(ui.cmdChoose, &BackupPage::cmdChoose_Click);
+    On(ui.cmdSave, &BackupPage::cmdSave_Click);
+    On(ui.cmdBackup, &BackupPage::cmdBackup_Click);
     On(ui.cmdRestore, &BackupPage::cmdRestore_Click);
     OnDoubleClick(ui.lstBackups, &BackupPage::cmdRestore_Click);
 }
 
-void BackupPage::Form_Activate() {
-    ShowFolder();
-    ShowLast();
-    ShowBackups();
+void BackupPage::Form_Load() {
+    ShowPlan();
 }
 
-void BackupPage::ShowFolder() {
-    const upkeep::BackupPlan& plan = TheInstallation.backup;
-    const bool isChosen = !plan.folder.isEmpty();
-    ui.cmdNow->setEnabled(isChosen);
-    if (!isChosen) {
+// A till may have made one meanwhile.
+void BackupPage::Form_Activate() {
+    ShowAll();
+}
+
+void BackupPage::ShowAll() {
+    ShowState();
+    ShowBackups();
+    Q_EMIT ShopChanged();
+}
+
+void BackupPage::ShowPlan() {
+    const BackupPlan& plan = TheInstallation.backup;
+    ui.spnDays->setValue(plan.days);
+    ui.spnWeeks->setValue(plan.weeks);
+    ui.spnMonths->setValue(plan.months);
+    ui.cmdBackup->setEnabled(!plan.folder.isEmpty());
+    if (plan.folder.isEmpty())
         ui.lblFolder->setText(
             tr("No folder has been chosen yet, and the till makes no backups. Choose one on a second "
                "disk, on a stick or in the network."));
-        ui.lblKept->clear();
-        return;
-    }
-    const bool isSameDisk = upkeep::IsOnSameDisk(plan.folder, ProgramFolder());
-    const QString where = isSameDisk
-                              ? tr("Backups go to %1, on the same disk as the shop: if it breaks, both are lost.")
-                              : tr("Backups go to %1.");
-    ui.lblFolder->setText(where.arg(plan.folder));
-    ui.lblKept->setText(
-        tr("The till makes one at each End Report and when it is first started on a day. Kept are the "
-           "newest of each of %1 days, %2 weeks and %3 months.")
-            .arg(QString::number(plan.days), QString::number(plan.weeks), QString::number(plan.months)));
+    else if (upkeep::IsOnSameDisk(plan.folder, ProgramFolder()))
+        ui.lblFolder->setText(
+            tr("Backups go to %1, on the same disk as the shop: if it breaks, both are lost.").arg(plan.folder));
+    else
+        ui.lblFolder->setText(tr("Backups go to %1.").arg(plan.folder));
+    ui.lblFolder->setToolTip(plan.folder);
 }
 
-void BackupPage::ShowLast() {
+void BackupPage::ShowState() {
     const upkeep::BackupState state = upkeep::ReadBackupState(ProgramFolder());
     const bool hasFailed = state.failed.isValid() && !(state.failed < state.good);
-    ui.lblLast->setText(
+    ui.lblState->setText(
         hasFailed ? tr("%1.\nThe try of %2 failed: %3").arg(LastBackupInWords(), MomentText(state.failed), state.why)
                   : tr("%1.").arg(LastBackupInWords()));
+    ui.lblState->setToolTip(ui.lblState->text());
 }
 
 void BackupPage::ShowBackups() {
+    const int row = ui.lstBackups->Selected();
+    const QString chosen = row < 0 ? QString() : backups_[row].path;
     backups_.clear();
     if (!TheInstallation.backup.folder.isEmpty())
         backups_ = upkeep::ListBackups(TheInstallation.backup.folder, ProgramFolder());
@@ -87,29 +98,38 @@ void BackupPage::ShowBackups() {
                             QString::number(backup.invoices),
                             hasSold ? values::DateText(backup.lastDay.day) : QString(),
                             hasSold ? AmountText(backup.lastDay.takings) : QString(), state});
+        if (backup.path == chosen) ui.lstBackups->Select(ui.lstBackups->Count() - 1);
     }
     ui.cmdRestore->setEnabled(!backups_.isEmpty());
-    if (!backups_.isEmpty()) ui.lstBackups->Select(0);
+    if (ui.lstBackups->Selected() < 0 && !backups_.isEmpty()) ui.lstBackups->Select(0);
 }
 
-void BackupPage::cmdFolder_Click() {
+void BackupPage::cmdChoose_Click() {
     const QString folder = forms::AskFolder(this, tr("The folder for backups"));
     if (folder.isEmpty()) return;
     upkeep::ChooseBackupFolder(folder, ProgramFolder());
     ReadInstallation();
-    Form_Activate();
+    ShowPlan();
+    ShowAll();
 }
 
-void BackupPage::cmdNow_Click() {
+void BackupPage::cmdSave_Click() {
+    upkeep::KeepSoMany(
+        {.folder = {}, .days = ui.spnDays->value(), .weeks = ui.spnWeeks->value(), .months = ui.spnMonths->value()},
+        ProgramFolder());
+    ReadInstallation();
+    ShowPlan();
+}
+
+void BackupPage::cmdBackup_Click() {
     try {
-        RunBeside(this, tr("The backup is made."), [](const upkeep::Progress& progress) {
+        RunBeside(this, tr("The register is being backed up."), [](const upkeep::Progress& progress) {
             upkeep::MakeBackup(ProgramFolder(), TheInstallation.backup, progress);
         });
     } catch (const values::Error& error) {
         if (error.Number() != store::Cancelled) forms::Tell(error.Description(), forms::Icon::Warning, Caption());
     }
-    Form_Activate();
-    Q_EMIT ShopChanged();
+    ShowAll();
 }
 
 void BackupPage::cmdRestore_Click() {
@@ -119,13 +139,11 @@ void BackupPage::cmdRestore_Click() {
     if (!backup.fault.isEmpty())
         return forms::Tell(tr("This backup can't be restored: %1").arg(backup.fault), forms::Icon::Warning, Caption());
     upkeep::RestorePreview preview;
-    RunBeside(this, tr("The backup is looked at."),
+    RunBeside(this, tr("The shop and the backup are being compared."),
               [&](const upkeep::Progress&) { preview = upkeep::PreviewRestore(ProgramFolder(), backup); });
     RestoreForm question(preview);
     question.ShowModal();
-    if (question.IsWanted()) Restore(backup);
-    Form_Activate();
-    Q_EMIT ShopChanged();
+    if (question.IsAgreed()) Restore(backup);
 }
 
 // The window works on the same stores; whatever becomes of them, they are opened again.
@@ -137,13 +155,15 @@ void BackupPage::Restore(const BackupFacts& backup) {
     QString why;
     CloseShop();
     try {
-        RunBeside(this, tr("The backup is brought back."), [&](const upkeep::Progress& progress) {
+        RunBeside(this, tr("The backup is being brought back."), [&](const upkeep::Progress& progress) {
             restored = upkeep::RestoreBackup(ProgramFolder(), backup, progress);
         });
     } catch (const values::Error& error) {
         why = error.Description();
     }
     OpenShop();
+    ShowPlan();
+    ShowAll();
     if (!why.isEmpty()) return forms::Tell(tr("Nothing was restored. %1").arg(why), forms::Icon::Warning, Caption());
     forms::Inform(tr("The shop is as it was in the backup of %1, with %2 invoices. What was replaced is kept in %3.")
                       .arg(MomentText(backup.made), QString::number(restored.invoices), restored.keptAs),

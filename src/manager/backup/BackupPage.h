@@ -6,7 +6,7 @@
 
 namespace manager {
 
-// Where the backups go, which there are, one made at once, and the way back.
+// Where the backups go and how many are kept, which there are, one made at once, and the way back.
 class BackupPage : public Page {
     Q_OBJECT
 
@@ -16,17 +16,19 @@ public:
     Ui::BackupPage ui;
 
 protected:
-    void Form_Load() override { Form_Activate(); }
-    // A till may have made one meanwhile.
+    void Form_Load() override;
     void Form_Activate() override;
 
 private:
-    void ShowFolder();
-    void ShowLast();
-    void ShowBackups();
-    void cmdFolder_Click();
-    void cmdNow_Click();
+    void cmdChoose_Click();
+    void cmdSave_Click();
+    void cmdBackup_Click();
     void cmdRestore_Click();
+
+    void ShowAll();
+    void ShowPlan();
+    void ShowState();
+    void ShowBackups();
     void Restore(const upkeep::BackupFacts& backup);
 
     QList<upkeep::BackupFacts> backups_;

@@ -2,7 +2,6 @@
 
 #include "core/Settings.h"
 #include "manager/Texts.h"
-#include "manager/backup/BackupWords.h"
 #include "values/DateText.h"
 
 using namespace Qt::StringLiterals;
@@ -18,9 +17,9 @@ RestoreForm::RestoreForm(const upkeep::RestorePreview& preview) {
                             {tr("Takings there"), Qt::AlignRight, 130},
                             {u""_s, Qt::AlignLeft, -1}});
     ui.lstDays->SetEmptyText(tr("Neither the shop nor the backup has sold anything yet."));
-    FunctionKeys({{Qt::Key_Escape, ui.cmdCancel}});
+    FunctionKeys({{Qt::Key_Escape, ui.cmdLeave}});
     On(ui.cmdReplace, &RestoreForm::cmdReplace_Click);
-    On(ui.cmdCancel, &RestoreForm::cmdCancel_Click);
+    On(ui.cmdLeave, &RestoreForm::cmdLeave_Click);
     ui.lblBackup->setText(
         tr("The backup of %1, with %2 invoices. Takings are in %3.")
             .arg(MomentText(preview.backup.made), QString::number(preview.backup.invoices), TheSettings.Currency));
@@ -47,11 +46,11 @@ void RestoreForm::ShowDays(const QList<upkeep::DayInTwo>& days) {
 }
 
 void RestoreForm::cmdReplace_Click() {
-    isWanted_ = true;
+    isAgreed_ = true;
     Unload();
 }
 
-void RestoreForm::cmdCancel_Click() {
+void RestoreForm::cmdLeave_Click() {
     Unload();
 }
 

@@ -13,16 +13,16 @@ class RestoreForm : public forms::Form {
 public:
     explicit RestoreForm(const upkeep::RestorePreview& preview);
 
-    bool IsWanted() const { return isWanted_; }
+    bool IsAgreed() const { return isAgreed_; }
 
     Ui::RestoreForm ui;
 
 private:
     void ShowDays(const QList<upkeep::DayInTwo>& days);
     void cmdReplace_Click();
-    void cmdCancel_Click();
+    void cmdLeave_Click();
 
-    bool isWanted_ = false;
+    bool isAgreed_ = false;
 };
 
 }  // namespace manager

@@ -49,6 +49,12 @@ void ChartPanel::SetHeading(const QString& heading) {
     list_->setAccessibleName(heading);
 }
 
+void ChartPanel::SetLeastHeight(int height) {
+    const QMargins edges = layout()->contentsMargins();
+    const int others = edges.top() + edges.bottom() + title_->sizeHint().height() + layout()->spacing();
+    chart_->setMinimumHeight(height - others);
+}
+
 void ChartPanel::ShowAsTable(bool asTable) {
     if (asTable) FillList();
     if (!asTable) list_->setMinimumHeight(0);

@@ -29,6 +29,8 @@ public:
     void SetHeading(const QString& heading);
     Chart& Held() const { return *chart_; }
 
+    // Of the panel while it shows the chart; a table may need more.
+    void SetLeastHeight(int height);
     void ShowAsTable(bool asTable);
     // To be called when the chart shows other figures.
     void FiguresChanged();

@@ -1,8 +1,9 @@
 #include "manager/drawer/DrawerPage.h"
 
 #include <QFile>
-#include <QItemSelectionModel>
 #include <QLabel>
+#include <QSignalBlocker>
+#include <QTabBar>
 
 #include "core/Session.h"
 #include "core/Settings.h"
@@ -33,6 +34,7 @@ constexpr int SumWidth = 72;
 constexpr int BetweenHalves = 24;
 constexpr int SecondHalf = 4;  // its first column
 constexpr qint64 MostPieces = 1'000'000;
+constexpr qsizetype EndReportsShown = 10;
 
 // An empty box counts nothing; -1 for what is no number of pieces.
 qint64 PiecesIn(const QLineEdit& box) {
@@ -57,18 +59,25 @@ Money AmountIn(const QLineEdit& box) {
     return HoldsAmount(box) && !box.text().trimmed().isEmpty() ? values::CMoney(box.text()) : Money();
 }
 
+QString NameOf(const upkeep::DrawerPeriod& period) {
+    if (period.endReport == 0) return DrawerPage::tr("Since the last End Report");
+    const QString number = QString::number(period.endReport);
+    return period.closed.isValid() ? DrawerPage::tr("End Report %1 of %2").arg(number, values::DateText(period.closed))
+                                   : DrawerPage::tr("End Report %1").arg(number);
+}
+
 }  // namespace
 
 DrawerPage::DrawerPage(QWidget* parent) : Page(parent) {
     ui.setupUi(this);
-    ui.lstCounts->SetColumns({{tr("Count"), Qt::AlignRight, 64},
-                              {tr("Date"), Qt::AlignLeft, 104},
-                              {tr("Time"), Qt::AlignLeft, 104},
-                              {tr("Counted by"), Qt::AlignLeft, -1},
-                              {tr("Should be"), Qt::AlignRight, 96},
-                              {tr("Counted"), Qt::AlignRight, 96},
-                              {tr("Difference"), Qt::AlignRight, 96},
-                              {tr("Remark"), Qt::AlignLeft, 120}});
+    ui.lstCounts->SetColumns({{tr("Count"), Qt::AlignRight, 60},
+                              {tr("Counted"), Qt::AlignLeft, 176},
+                              {tr("By"), Qt::AlignLeft, -1},
+                              {tr("End Report"), Qt::AlignRight, 88},
+                              {tr("Should be"), Qt::AlignRight, 88},
+                              {tr("Found"), Qt::AlignRight, 88},
+                              {tr("Difference"), Qt::AlignRight, 88},
+                              {tr("Remark"), Qt::AlignLeft, 110}});
     ui.lstCounts->SetEmptyText(tr("Nothing was counted yet. Count the drawer on the page before and keep the count."));
     none_ = new QLabel(ui.panelPieces);
     none_->setWordWrap(true);
@@ -79,25 +88,27 @@ DrawerPage::DrawerPage(QWidget* parent) : Page(parent) {
     ui.layoutPieces->setColumnStretch(SecondHalf + 3, 1);
     NumericKeys({ui.txtPutIn, ui.txtTakenOut});
     ShrinkFigures({ui.txtDifference});
+    OnChange(ui.cboPeriod, &DrawerPage::cboPeriod_Choice);
     OnChange(ui.txtPutIn, &DrawerPage::Figures_Change);
     OnChange(ui.txtTakenOut, &DrawerPage::Figures_Change);
-    EnterMovesOn({ui.txtPutIn, ui.txtTakenOut, ui.txtRemark});
+    EnterMovesOn({ui.cboPeriod, ui.txtPutIn, ui.txtTakenOut, ui.txtRemark});
     On(ui.cmdKeep, &DrawerPage::cmdKeep_Click);
     On(ui.cmdEmpty, &DrawerPage::cmdEmpty_Click);
     On(ui.cmdPieces, &DrawerPage::cmdPieces_Click);
     On(ui.cmdPrint, &DrawerPage::cmdPrint_Click);
-    connect(ui.lstCounts->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            Guarded(&DrawerPage::lstCounts_Chosen));
+    connect(ui.lstCounts, &forms::ListView::RowChosen, this, Guarded(&DrawerPage::lstCounts_Chosen));
 }
 
 void DrawerPage::Form_Load() {
     OpenKept();
     LayOutRows();
+    FillPeriods();
     OfferFiscalCash();
     ListCounts();
 }
 
 void DrawerPage::Form_Activate() {
+    FillPeriods();
     ReadSold();
     Figures_Change();
 }
@@ -134,7 +145,7 @@ void DrawerPage::LayOutRows() {
     }
     std::ranges::move(std::exchange(rows_, {}), std::back_inserter(spare_));
     const int rowsEach = static_cast<int>(worths.size() + 1) / 2;
-    QWidget* before = ui.tabParts;
+    QWidget* before = ui.tabParts->tabBar();
     for (int number = 0; number < worths.size(); ++number) {
         Row row = MakeRow(number);
         row.worth = worths[number];
@@ -150,6 +161,9 @@ void DrawerPage::LayOutRows() {
         before = row.pieces;
         rows_.push_back(row);
     }
+    for (QWidget* control : std::initializer_list<QWidget*>{ui.cboPeriod, ui.txtPutIn, ui.txtTakenOut, ui.txtRemark,
+                                                            ui.cmdKeep, ui.cmdEmpty, ui.cmdPieces})
+        setTabOrder(std::exchange(before, control), control);
     for (int row = 0; row < ui.layoutPieces->rowCount(); ++row) ui.layoutPieces->setRowStretch(row, 0);
     ui.layoutPieces->setRowStretch(rowsEach, 1);  // the rest is empty
     Figures_Change();
@@ -179,16 +193,43 @@ DrawerPage::Row DrawerPage::MakeRow(int number) {
     return row;
 }
 
-void DrawerPage::ReadSold() {
-    sold_ = upkeep::ReadCashSold(MainStore());
+// The chosen one stays, also when an End Report came before it; the open one is chosen otherwise.
+void DrawerPage::FillPeriods() {
+    const qint64 chosen = EndReport();
+    const QSignalBlocker quiet(ui.cboPeriod);
+    ui.cboPeriod->clear();
+    for (const upkeep::DrawerPeriod& period : upkeep::DrawerPeriods(MainStore(), EndReportsShown))
+        ui.cboPeriod->addItem(NameOf(period), period.endReport);
+    ui.cboPeriod->setCurrentIndex(std::max(0, ui.cboPeriod->findData(chosen)));
 }
 
+qint64 DrawerPage::EndReport() const {
+    return ui.cboPeriod->currentData().toLongLong();
+}
+
+void DrawerPage::cboPeriod_Choice() {
+    ReadSold();
+    OfferFiscalCash();
+    Figures_Change();
+}
+
+void DrawerPage::ReadSold() {
+    sold_ = upkeep::ReadCashSold(MainStore(), EndReport());
+}
+
+// Known only of the open period. What was typed over an offer stays.
 void DrawerPage::OfferFiscalCash() {
+    upkeep::FiscalCash cash;
     QFile commands(output::InProgramFolder(TheSettings.FiskalniFile));
-    if (TheSettings.FiskalniFile.isEmpty() || !commands.open(QIODevice::ReadOnly)) return;
-    const upkeep::FiscalCash cash = upkeep::ReadFiscalCash(commands);
-    if (cash.putIn != Money()) ui.txtPutIn->setText(AmountText(cash.putIn));
-    if (cash.takenOut != Money()) ui.txtTakenOut->setText(AmountText(cash.takenOut));
+    if (EndReport() == 0 && !TheSettings.FiskalniFile.isEmpty() && commands.open(QIODevice::ReadOnly))
+        cash = upkeep::ReadFiscalCash(commands);
+    const auto offer = [](QLineEdit* box, Money before, Money now) {
+        const auto text = [](Money amount) { return amount == Money() ? QString() : AmountText(amount); };
+        if (box->text() == text(before)) box->setText(text(now));
+    };
+    offer(ui.txtPutIn, offered_.putIn, cash.putIn);
+    offer(ui.txtTakenOut, offered_.takenOut, cash.takenOut);
+    offered_ = cash;
 }
 
 upkeep::Denominations DrawerPage::Pieces() const {
@@ -208,7 +249,8 @@ upkeep::DrawerCount DrawerPage::Count() const {
             .currency = TheSettings.Currency,
             .pieces = pieces,
             .counted = SumOf(pieces),
-            .sold = sold_.cash,
+            .endReport = EndReport(),
+            .sold = sold_,
             .putIn = AmountIn(*ui.txtPutIn),
             .takenOut = AmountIn(*ui.txtTakenOut),
             .remark = ui.txtRemark->text()};
@@ -245,9 +287,10 @@ void DrawerPage::cmdKeep_Click() {
         forms::Inform(tr("This is no number of pieces and no amount."), Caption());
         return forms::GoTo(fault);
     }
-    const Money seen = sold_.cash;
+    const Money seen = sold_;
     ReadSold();
-    if (sold_.cash != seen) {
+    if (sold_ != seen) {
+        FillPeriods();
         Figures_Change();
         return forms::Inform(tr("Something was sold, or an End Report was made, since this page came up. The count is "
                                 "not kept: look at the difference again."),
@@ -262,6 +305,7 @@ void DrawerPage::cmdKeep_Click() {
 void DrawerPage::cmdEmpty_Click() {
     for (const Row& row : rows_) row.pieces->clear();
     for (QLineEdit* box : {ui.txtPutIn, ui.txtTakenOut, ui.txtRemark}) box->clear();
+    offered_ = {};
     OfferFiscalCash();
     if (!rows_.empty()) rows_.front().pieces->setFocus();
 }
@@ -279,9 +323,10 @@ void DrawerPage::ListCounts() {
     counts_ = upkeep::KeptCounts(*kept_);
     ui.lstCounts->Clear();
     for (const upkeep::DrawerCount& count : counts_)
-        ui.lstCounts->Add({QString::number(count.number), values::DateText(count.day), values::TimeText(count.time),
-                           count.userName, AmountText(count.Expected()), AmountText(count.counted),
-                           AmountText(count.Difference()), count.remark});
+        ui.lstCounts->Add({QString::number(count.number), MomentText(QDateTime(count.day, count.time)), count.userName,
+                           count.endReport == 0 ? QString() : QString::number(count.endReport),
+                           AmountText(count.Expected()), AmountText(count.counted), AmountText(count.Difference()),
+                           count.remark});
     if (!counts_.isEmpty()) ui.lstCounts->Select(0);
     lstCounts_Chosen();
 }

@@ -38,6 +38,7 @@ private:
     void cmdEmpty_Click();
     void cmdPieces_Click();
     void cmdPrint_Click();
+    void cboPeriod_Choice();
     void Figures_Change();
     void lstCounts_Chosen();
 
@@ -45,6 +46,8 @@ private:
     store::Database& Kept();
     void LayOutRows();
     Row MakeRow(int number);
+    void FillPeriods();
+    qint64 EndReport() const;
     void ReadSold();
     void OfferFiscalCash();
     upkeep::Denominations Pieces() const;
@@ -56,7 +59,8 @@ private:
     std::vector<Row> rows_;
     std::vector<Row> spare_;  // of a currency with more of them
     QLabel* none_ = nullptr;
-    upkeep::CashSold sold_;
+    values::Money sold_;
+    upkeep::FiscalCash offered_;
     QList<upkeep::DrawerCount> counts_;
 };
 

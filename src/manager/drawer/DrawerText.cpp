@@ -34,6 +34,8 @@ QStringList DrawerLines(const upkeep::DrawerCount& count) {
                       Words::tr("Count %1 of the drawer, in %2").arg(count.number).arg(count.currency),
                       values::DateText(count.day) + u"  "_s + values::TimeText(count.time),
                       Words::tr("Counted by %1").arg(count.userName),
+                      count.endReport == 0 ? Words::tr("Since the last End Report")
+                                           : Words::tr("For End Report %1").arg(count.endReport),
                       rule};
     for (const auto& [worth, pieces] : count.pieces)
         lines << Line(u"%1 x %2"_s.arg(pieces, 6).arg(AmountText(worth)), worth * values::Money::FromWhole(pieces));

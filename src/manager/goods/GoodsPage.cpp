@@ -1,7 +1,6 @@
 #include "manager/goods/GoodsPage.h"
 
 #include <QFileInfo>
-#include <QItemSelectionModel>
 
 #include "core/dbModule.h"
 #include "forms/FileDialog.h"
@@ -15,17 +14,30 @@ using upkeep::RowKind;
 
 namespace manager {
 
+namespace {
+
+// What is shown beside the rows of one kind.
+constexpr int AllButUnchanged = -1, AllRows = -2;
+// The list and the choices beside it fit a page so wide; on a narrower one the list takes all of it.
+constexpr int WideEnough = 960;
+
+}  // namespace
+
 GoodsPage::GoodsPage(QWidget* parent) : Page(parent) {
     ui.setupUi(this);
     ui.lstPreview->SetColumns({{tr("Line"), Qt::AlignRight, 52},
                                {tr("What"), Qt::AlignLeft, 96},
                                {tr("Code"), Qt::AlignLeft, 132},
-                               {tr("Name"), Qt::AlignLeft, 104},
+                               {tr("Name"), Qt::AlignLeft, 132},
                                {tr("Changes"), Qt::AlignLeft, -1}});
     ui.lstPreview->SetEmptyText(tr("Choose a table of goods that a spreadsheet saved as CSV."));
-    ui.cboShow->addItem(tr("all rows"), -1);
+    ui.cboShow->addItem(tr("all but unchanged"), AllButUnchanged);
+    ui.cboShow->addItem(tr("all rows"), AllRows);
     for (size_t kind = 0; kind < upkeep::RowKinds; ++kind)
         ui.cboShow->addItem(upkeep::KindName(static_cast<RowKind>(kind)), static_cast<int>(kind));
+    ui.cmdChoices->setChecked(true);
+    connect(ui.cmdChoices, &QPushButton::toggled, ui.panelChoices, &QWidget::setVisible);
+    connect(ui.cmdChoices, &QPushButton::clicked, this, [this] { areChoicesChosen_ = true; });
     On(ui.cmdChoose, &GoodsPage::cmdChoose_Click);
     On(ui.cmdWrite, &GoodsPage::cmdWrite_Click);
     On(ui.cmdUndo, &GoodsPage::cmdUndo_Click);
@@ -33,14 +45,21 @@ GoodsPage::GoodsPage(QWidget* parent) : Page(parent) {
     On(ui.cmdExportCustomers, &GoodsPage::cmdExportCustomers_Click);
     connect(ui.panelChoices, &ImportChoices::FormChosen, this, Guarded(&GoodsPage::ReadAgain));
     connect(ui.panelChoices, &ImportChoices::OptionChosen, this, Guarded(&GoodsPage::PreviewAgain));
-    connect(ui.lstPreview->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            Guarded(&GoodsPage::ShowRow));
+    connect(ui.lstPreview, &forms::ListView::RowChosen, this, Guarded(&GoodsPage::ShowRow));
     connect(ui.cboShow, &QComboBox::activated, this, Guarded(&GoodsPage::cboShow_Choose));
 }
 
 void GoodsPage::Form_Activate() {
-    ui.panelChoices->OfferDefaults(upkeep::GoodsRules(MainStore()));
+    const upkeep::GoodsRules rules(MainStore());
+    ui.panelChoices->OfferDefaults(rules);
     ui.cmdUndo->setEnabled(GoodsWriting::CanTakeBack());
+    // A row that was refused may name a tax that has been entered since.
+    if (std::exchange(rules_, rules) != rules && preview_) PreviewAgain();
+}
+
+void GoodsPage::resizeEvent(QResizeEvent* event) {
+    Page::resizeEvent(event);
+    if (!areChoicesChosen_) ui.cmdChoices->setChecked(event->size().width() >= WideEnough);
 }
 
 void GoodsPage::cmdChoose_Click() {
@@ -69,7 +88,13 @@ void GoodsPage::ReadAgain() {
         Preview(goesOn);
     });
     ui.panelChoices->setEnabled(isRead || !ui.panelChoices->Wish().form.encoding.isEmpty());
+    // Nobody knows better than its reader.
+    if (isRead && LacksCode()) ui.cmdChoices->setChecked(true);
     ShowPreview();
+}
+
+bool GoodsPage::LacksCode() const {
+    return sheet_.ColumnOf(upkeep::SheetField::Code) < 0;
 }
 
 void GoodsPage::PreviewAgain() {
@@ -79,7 +104,7 @@ void GoodsPage::PreviewAgain() {
 
 void GoodsPage::Preview(const std::function<bool()>& goesOn) {
     preview_.reset();
-    if (sheet_.ColumnOf(upkeep::SheetField::Code) < 0) return;
+    if (LacksCode()) return;
     preview_ = std::make_shared<const upkeep::Preview>(
         upkeep::PreviewGoods(MainStore(), sheet_, ui.panelChoices->Options(), goesOn));
 }
@@ -99,9 +124,9 @@ void GoodsPage::ShowPreview() {
 
 void GoodsPage::ForgetPreview() {
     // No box: whoever goes through a list of columns by the arrow keys meets it on the way.
-    const bool lacksCode = ui.panelChoices->isEnabled() && sheet_.ColumnOf(upkeep::SheetField::Code) < 0;
-    ui.lstPreview->SetEmptyText(lacksCode ? tr("Say which column is the code of the goods.")
-                                          : tr("Choose a table of goods that a spreadsheet saved as CSV."));
+    ui.lstPreview->SetEmptyText(ui.panelChoices->isEnabled() && LacksCode()
+                                    ? tr("Say which column is the code of the goods.")
+                                    : tr("Choose a table of goods that a spreadsheet saved as CSV."));
     ui.lstPreview->Clear();
     ui.lblCounts->clear();
     ui.lblRow->clear();
@@ -113,7 +138,9 @@ void GoodsPage::cboShow_Choose() {
     if (!preview_) return;
     const int kind = ui.cboShow->currentData().toInt();
     std::vector<RowKind> kinds;
-    if (kind >= 0) kinds.push_back(static_cast<RowKind>(kind));
+    if (kind >= 0) kinds = {static_cast<RowKind>(kind)};
+    if (kind == AllButUnchanged) kinds = {RowKind::New, RowKind::Changed, RowKind::LeftOut, RowKind::Refused};
+    ui.lstPreview->SetEmptyText(kind == AllButUnchanged ? tr("Nothing would change.") : tr("There are no such rows."));
     ui.lstPreview->ShowRows(std::make_unique<PreviewRows>(preview_, kinds));
 }
 

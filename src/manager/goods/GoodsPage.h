@@ -25,6 +25,7 @@ public:
 
 protected:
     void Form_Activate() override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void cmdChoose_Click();
@@ -37,15 +38,18 @@ private:
     void cmdExportGoods_Click();
     void cmdExportCustomers_Click();
 
+    bool LacksCode() const;
     void Preview(const std::function<bool()>& goesOn);
     void ShowPreview();
     void ForgetPreview();
     void Export(const QString& title, const std::function<upkeep::Sheet()>& sheet);
 
     GoodsWriting writing_{*this};
+    bool areChoicesChosen_ = false;  // to be shown or not, by hand
     QString path_;
     upkeep::GoodsSheet sheet_;
     std::shared_ptr<const upkeep::Preview> preview_;
+    std::optional<upkeep::GoodsRules> rules_;  // of the last look
 };
 
 }  // namespace manager

@@ -3,12 +3,12 @@
 #include "core/dbModule.h"
 #include "forms/LongWork.h"
 #include "forms/MsgBox.h"
+#include "manager/Texts.h"
 #include "output/Folder.h"
 #include "upkeep/Findings.h"
 #include "upkeep/goods/GoodsUndo.h"
 #include "upkeep/goods/UndoFile.h"
 #include "upkeep/goods/WriteGoods.h"
-#include "values/DateText.h"
 
 using namespace Qt::StringLiterals;
 using upkeep::RowKind;
@@ -28,8 +28,9 @@ bool GoodsWriting::Do(const std::function<void(const std::function<bool()>& goes
 }
 
 bool GoodsWriting::Write(const QString& title, const upkeep::Preview& preview) {
-    QStringList question{
-        tr("Write %1 new and %2 changed goods?").arg(preview.Count(RowKind::New)).arg(preview.Count(RowKind::Changed))};
+    const size_t added = preview.Count(RowKind::New), changed = preview.Count(RowKind::Changed);
+    QStringList question{added > 0 ? tr("Write %1 new and %2 changed goods?").arg(added).arg(changed)
+                                   : tr("Write %1 changed goods?").arg(changed)};
     if (const size_t refused = preview.Count(RowKind::Refused); refused > 0)
         question += tr("Refused rows stay out of it: %1.").arg(refused);
     if (!forms::Ask(question.join(u'\n'), page_.Caption())) return false;
@@ -38,7 +39,8 @@ bool GoodsWriting::Write(const QString& title, const upkeep::Preview& preview) {
             written = upkeep::WriteGoods(MainStore(), output::ProgramFolder(), title, preview.Changes(), goesOn);
         }))
         return false;
-    QStringList told{tr("Written: %1 new, %2 changed.").arg(written.added).arg(written.changed)};
+    QStringList told{added > 0 ? tr("Written: %1 new, %2 changed.").arg(written.added).arg(written.changed)
+                               : tr("Written: %1 changed.").arg(written.changed)};
     if (!written.movedMeanwhile.isEmpty())
         told += tr("Sold since the look, and taken off the new quantity too: %1.")
                     .arg(upkeep::FirstFew(written.movedMeanwhile));
@@ -53,10 +55,9 @@ bool GoodsWriting::CanTakeBack() {
 bool GoodsWriting::TakeBack() {
     std::optional<upkeep::UndoRecord> last;
     if (!Do([&](const auto&) { last = upkeep::LastUndo(output::ProgramFolder()); }) || !last) return false;
-    const QString question =
-        tr("Take back '%1' of %2, %3? Goods that were new go, and others get their old values back. "
-           "What was sold since stays sold.")
-            .arg(last->title, values::DateText(last->time.date()), values::TimeText(last->time.time()));
+    const QString question = tr("Take back '%1' of %2? Goods that were new go, and others get their old values back. "
+                                "What was sold since stays sold.")
+                                 .arg(last->title, MomentText(last->time));
     if (!forms::Ask(question, page_.Caption())) return false;
     upkeep::Undone undone;
     if (!Do([&](const auto&) { undone = upkeep::UndoGoods(MainStore(), output::ProgramFolder()); })) return false;

@@ -49,8 +49,7 @@ PricesPage::PricesPage(QWidget* parent) : Page(parent) {
     ui.cboWhat->addItem(tr("Tax rates"));
     HighlightOnFocus({ui.txtName, ui.txtPercent});
     NumericKeys({ui.txtPercent}, u"-"_s);
-    for (QComboBox* box : {ui.cboWhat, ui.cboGoods})
-        connect(box, &QComboBox::activated, this, Guarded(&PricesPage::ShowWhatCounts));
+    connect(ui.cboWhat, &QComboBox::activated, this, Guarded(&PricesPage::ShowWhatCounts));
     On(ui.cmdLook, &PricesPage::cmdLook_Click);
     On(ui.cmdWrite, &PricesPage::cmdWrite_Click);
     On(ui.cmdUndo, &PricesPage::cmdUndo_Click);
@@ -67,19 +66,15 @@ void PricesPage::ShowColumns(bool withReasons) {
 }
 
 void PricesPage::Form_Load() {
-    ui.cboGoods->addItem(tr("all goods"), static_cast<int>(PriceWish::Goods::All));
-    ui.cboGoods->addItem(tr("of a tax"), static_cast<int>(PriceWish::Goods::OfTax));
-    ui.cboGoods->addItem(tr("of a group"), static_cast<int>(PriceWish::Goods::OfGroup));
-    ui.cboGoods->addItem(tr("with a name"), static_cast<int>(PriceWish::Goods::Named));
     ui.cboEnding->addItem(tr("to the cent"), static_cast<int>(PriceEnding::Cent));
     ui.cboEnding->addItem(tr("by 0.05"), static_cast<int>(PriceEnding::FiveCents));
     ui.cboEnding->addItem(tr("by 0.10"), static_cast<int>(PriceEnding::TenCents));
     ui.cboEnding->addItem(tr("at .99"), static_cast<int>(PriceEnding::NinetyNine));
-    ShowWhatCounts();
 }
 
 void PricesPage::Form_Activate() {
     ui.cmdUndo->setEnabled(GoodsWriting::CanTakeBack());
+    OfferGoods();
     ShowWhatCounts();
 }
 
@@ -87,25 +82,24 @@ bool PricesPage::IsAboutRates() const {
     return ui.cboWhat->currentIndex() == 1;
 }
 
-PriceWish::Goods PricesPage::Goods() const {
-    return static_cast<PriceWish::Goods>(ui.cboGoods->currentData().toInt());
+// The shop's taxes and groups as they are now; what was chosen stays.
+void PricesPage::OfferGoods() {
+    const QVariant tax = ui.cboTax->currentData(), group = ui.cboGroup->currentData();
+    ui.cboTax->clear();
+    ui.cboTax->addItem(tr("all"), QString());
+    for (const upkeep::TaxRate& rate : upkeep::GoodsRules(MainStore()).taxes)
+        ui.cboTax->addItem(tr("%1 (%2 %)").arg(rate.id, rate.percent.TextOrEmpty()), rate.id);
+    ui.cboTax->setCurrentIndex(std::max(0, ui.cboTax->findData(tax)));
+    ui.cboGroup->clear();
+    ui.cboGroup->addItem(tr("all"), -1);
+    for (int number = 0; const QString& name : upkeep::ClickGroups(MainStore()).names)
+        ui.cboGroup->addItem(name, number++);
+    ui.cboGroup->setCurrentIndex(std::max(0, ui.cboGroup->findData(group)));
 }
 
 void PricesPage::ShowWhatCounts() {
     const bool rates = IsAboutRates();
-    const QString chosen = ui.cboWhich->currentData().toString();
-    const bool ofTax = rates || Goods() == PriceWish::Goods::OfTax;
-    ui.cboWhich->clear();
-    if (rates) ui.cboWhich->addItem(tr("all taxes"), QString());
-    if (ofTax)
-        for (const upkeep::TaxRate& tax : upkeep::GoodsRules(MainStore()).taxes)
-            ui.cboWhich->addItem(tr("%1 (%2 %)").arg(tax.id, tax.percent.TextOrEmpty()), tax.id);
-    else
-        for (const QString& group : upkeep::ClickGroups(MainStore()).names) ui.cboWhich->addItem(group, group);
-    ui.cboWhich->setCurrentIndex(std::max(0, ui.cboWhich->findData(chosen)));
-    ui.cboWhich->setEnabled(ofTax || Goods() == PriceWish::Goods::OfGroup);
-    ui.txtName->setEnabled(!rates && Goods() == PriceWish::Goods::Named);
-    for (QWidget* box : std::initializer_list<QWidget*>{ui.cboGoods, ui.txtPercent, ui.cboEnding})
+    for (QWidget* box : std::initializer_list<QWidget*>{ui.cboGroup, ui.txtName, ui.txtPercent, ui.cboEnding})
         box->setEnabled(!rates);
     ui.lblHint->setText(
         rates ? tr("Goods keep the rate that their tax had when they were entered. Those with another rate get "
@@ -114,9 +108,9 @@ void PricesPage::ShowWhatCounts() {
 }
 
 PriceWish PricesPage::Wish() const {
-    const bool isNamed = Goods() == PriceWish::Goods::Named;
-    return {.goods = Goods(),
-            .which = isNamed ? ui.txtName->text().trimmed() : ui.cboWhich->currentData().toString(),
+    return {.tax = ui.cboTax->currentData().toString(),
+            .group = ui.cboGroup->currentData().toInt(),
+            .namePart = ui.txtName->text().trimmed(),
             .percent = values::CMoney(ui.txtPercent->text()),
             .ending = static_cast<PriceEnding>(ui.cboEnding->currentData().toInt())};
 }
@@ -132,10 +126,6 @@ void PricesPage::cmdLook_Click() {
                     forms::Icon::Warning, Caption());
         return ui.txtPercent->setFocus();
     }
-    if (ui.txtName->isEnabled() && ui.txtName->text().trimmed().isEmpty()) {
-        forms::Tell(tr("Say a part of the name."), forms::Icon::Warning, Caption());
-        return ui.txtName->setFocus();
-    }
     Look();
     ShowPreview();
 }
@@ -145,7 +135,7 @@ void PricesPage::Look() {
     title_ = Title();
     writing_.Do([&](const auto& goesOn) {
         preview_ = std::make_shared<const upkeep::Preview>(
-            IsAboutRates() ? upkeep::PreviewRates(MainStore(), ui.cboWhich->currentData().toString(), goesOn)
+            IsAboutRates() ? upkeep::PreviewRates(MainStore(), ui.cboTax->currentData().toString(), goesOn)
                            : upkeep::PreviewPrices(MainStore(), Wish(), goesOn));
     });
 }

@@ -23,6 +23,7 @@ protected:
     void Form_Activate() override;
 
 private:
+    void OfferGoods();
     void ShowWhatCounts();
     void ShowColumns(bool withReasons);
     void ShowPreview();
@@ -31,7 +32,6 @@ private:
     void cmdUndo_Click();
 
     bool IsAboutRates() const;
-    upkeep::PriceWish::Goods Goods() const;
     upkeep::PriceWish Wish() const;
     QString Title() const;
     void Look();

@@ -1,7 +1,5 @@
 #include "manager/health/HealthPage.h"
 
-#include <QItemSelectionModel>
-
 #include "manager/Beside.h"
 #include "manager/health/SupportForm.h"
 #include "output/Folder.h"
@@ -37,8 +35,7 @@ HealthPage::HealthPage(QWidget* parent) : Page(parent) {
     ui.setupUi(this);
     ui.lstFindings->SetColumns({{tr("Kind"), Qt::AlignLeft, 110}, {tr("What was found"), Qt::AlignLeft, -1}});
     ui.lstFindings->SetEmptyText(tr("Nothing was looked at yet."));
-    connect(ui.lstFindings->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            Guarded(&HealthPage::lstFindings_Chosen));
+    connect(ui.lstFindings, &forms::ListView::RowChosen, this, Guarded(&HealthPage::lstFindings_Chosen));
     On(ui.cmdLook, &HealthPage::cmdLook_Click);
     On(ui.cmdReport, &HealthPage::cmdReport_Click);
 }

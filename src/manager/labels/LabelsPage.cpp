@@ -1,6 +1,5 @@
 #include "manager/labels/LabelsPage.h"
 
-#include <QItemSelectionModel>
 #include <functional>
 
 #include "core/dbModule.h"
@@ -28,6 +27,7 @@ LabelsPage::LabelsPage(QWidget* parent)
     ui.tabParts->addTab(goods_, tr("1 Goods"));
     ui.tabParts->addTab(labels_, tr("2 Labels"));
     ui.tabParts->addTab(list_, tr("Price list"));
+    TabLast({ui.cmdPrint, ui.cmdPdf});
     TieGoods();
     connect(goods_, &GoodsChoice::Changed, this, Guarded(&LabelsPage::Goods_Changed));
     connect(labels_, &LabelChoice::Changed, this, Guarded(&LabelsPage::TellWhatComes));
@@ -50,8 +50,7 @@ void LabelsPage::TieGoods() {
     connect(goods.cmdRemove, &QPushButton::clicked, this, to(&GoodsChoice::Remove));
     connect(goods.cmdRemoveAll, &QPushButton::clicked, this, to(&GoodsChoice::RemoveAll));
     connect(goods.spnCopies, &QSpinBox::valueChanged, this, to(&GoodsChoice::TakeCopies));
-    connect(goods.lstChosen->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            to(&GoodsChoice::ShowCopies));
+    connect(goods.lstChosen, &forms::ListView::RowChosen, this, to(&GoodsChoice::ShowCopies));
     connect(goods.lstGoods, &forms::ListView::DoubleClicked, this, to(&GoodsChoice::Add));
     // A scanner ends its code with Enter, which so goes over at once.
     ControlKeys(goods.txtSearch, {{Qt::Key_Return, goods.cmdAdd}, {Qt::Key_Enter, goods.cmdAdd}});
@@ -135,8 +134,11 @@ void LabelsPage::Print(const QString& pdfPath) {
     }
     labels_->Remember(output::InProgramFolder(ChoicesFile));
     gone_ = 0;
-    ui.lblSaid->setText(path.isEmpty() ? tr("Printed. Pages: %n.", nullptr, pages->Count())
-                                       : tr("Saved as %1. Pages: %n.", nullptr, pages->Count()).arg(path));
+    const QString said = path.isEmpty() ? tr("Printed. Pages: %n.", nullptr, pages->Count())
+                                        : tr("Saved as %1. Pages: %n.", nullptr, pages->Count()).arg(path);
+    ui.lblSaid->setText(said);
+    // The page looks at the shop anew when the dialog that asked for the name is gone, and tells that instead.
+    if (!pdfPath.isEmpty()) forms::Inform(said, window()->windowTitle());
 }
 
 void LabelsPage::cmdPrint_Click() {

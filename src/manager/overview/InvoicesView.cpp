@@ -1,6 +1,6 @@
 #include "manager/overview/InvoicesView.h"
 
-#include <QTemporaryFile>
+#include <QFile>
 
 #include "core/Settings.h"
 #include "core/dbModule.h"
@@ -9,7 +9,6 @@
 #include "output/CodePage.h"
 #include "output/Folder.h"
 #include "values/DateText.h"
-#include "values/FileError.h"
 
 using namespace Qt::StringLiterals;
 
@@ -55,26 +54,20 @@ void InvoicesView::Form_Load() {
 }
 
 // The receipt's own text where the ribbon has it, else the one that the rows tell.
-QByteArray InvoicesView::ReceiptOf(const upkeep::ListedInvoice& invoice) {
+QString InvoicesView::ReceiptOf(const upkeep::ListedInvoice& invoice) {
     QFile ribbon(output::InProgramFolder(TheSettings.TrakaRacunaFile));
     if (!TheSettings.TrakaRacunaFile.isEmpty() && ribbon.open(QIODevice::ReadOnly)) {
         if (ribbon.size() > LongestRibbon) ribbon.seek(ribbon.size() - LongestRibbon);
         if (const QByteArray receipt = upkeep::FindReceipt(ribbon, invoice); !receipt.isEmpty())
-            return output::FromCodePage(receipt).toUtf8();
+            return output::FromCodePage(receipt);
     }
-    return upkeep::InvoiceAsText(MainStore(), invoice).toUtf8();
+    return upkeep::InvoiceAsText(MainStore(), invoice);
 }
 
 void InvoicesView::cmdReceipt_Click() {
     const int row = ui.lstInvoices->Selected();
     if (row < 0) return;
-    QTemporaryFile file;
-    const QByteArray text = ReceiptOf(invoices_[static_cast<size_t>(row)]);
-    if (!file.open() || file.write(text) != text.size() || !file.flush())
-        throw values::FileError(values::NumberOfFailure(file),
-                                tr("Cannot show the receipt: %1").arg(file.errorString()));
-    ui.txtReceipt->SetDecoder([](const QByteArray& line) { return QString::fromUtf8(line); });
-    ui.txtReceipt->Open(file.fileName());
+    ui.txtReceipt->ShowText(ReceiptOf(invoices_[static_cast<size_t>(row)]));
     ui.stkParts->setCurrentIndex(1);
     ui.cmdReceipt->hide();
     ui.cmdBack->show();

@@ -22,7 +22,7 @@ private:
     void cmdReceipt_Click();
     void cmdBack_Click();
     void cmdClose_Click();
-    QByteArray ReceiptOf(const upkeep::ListedInvoice& invoice);
+    QString ReceiptOf(const upkeep::ListedInvoice& invoice);
 
     const std::vector<upkeep::ListedInvoice> invoices_;
 };

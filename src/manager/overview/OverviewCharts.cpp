@@ -237,4 +237,9 @@ QString MonthText(QDate day) {
     return values::UserLocale().standaloneMonthName(day.month()) + u' ' + QString::number(day.year());
 }
 
+QString DaysBeforeText(const Days& days) {
+    const bool hasName = days.Count() == 1 || days == upkeep::MonthOf(days.first) || days == YearOf(days.first);
+    return hasName ? DaysText(upkeep::DaysBefore(days)) : BeforeName(days);
+}
+
 }  // namespace manager

@@ -37,5 +37,7 @@ RankList::Content RunningOutContent(const std::vector<upkeep::RunningOut>& list)
 QString ChangeText(values::Money now, values::Money before);
 QString DaysText(const upkeep::Days& days);
 QString MonthText(QDate day);
+// What the days before are called, which is short: their name, or how far they lie back.
+QString DaysBeforeText(const upkeep::Days& days);
 
 }  // namespace manager

@@ -1,6 +1,7 @@
 #include "manager/overview/OverviewPage.h"
 
 #include <QButtonGroup>
+#include <QEvent>
 
 #include "core/Installation.h"
 #include "core/Settings.h"
@@ -13,7 +14,6 @@
 #include "manager/overview/InvoicesView.h"
 #include "manager/overview/OverviewPaper.h"
 #include "output/Channel.h"
-#include "upkeep/InvoiceList.h"
 #include "values/Clock.h"
 #include "values/Csv.h"
 #include "values/DateText.h"
@@ -44,6 +44,7 @@ OverviewPage::OverviewPage(QWidget* parent) : Page(parent) {
     ui.setupUi(this);
     PrepareCharts();
     forms::MakeScrollable(ui.panelFigures);
+    ui.panelFigures->installEventFilter(this);
     auto* ranges = new QButtonGroup(this);
     for (QPushButton* range : {ui.cmdToday, ui.cmdWeek, ui.cmdMonth, ui.cmdYear, ui.cmdAll, ui.cmdOwn}) {
         ranges->addButton(range);
@@ -76,9 +77,36 @@ void OverviewPage::PrepareCharts() {
     for (ChartPanel* panel : Panels()) panel->Held().SetEmptyText(tr("Nothing was sold on these days."));
     idle_->SetEmptyText(tr("No goods are in stock. Enter what you have on the page of the goods."));
     runningOut_->SetEmptyText(tr("Nothing was sold in the last four weeks, so nothing runs out."));
-    connect(takings_, &Chart::Chosen, this, [this](int mark) { Run([&] { ChooseSpan(mark); }); });
-    connect(byHour_, &Chart::Chosen, this, [this](int mark) { Run([&] { ChooseHour(mark); }); });
-    connect(cashiers_, &Chart::Chosen, this, [this](int mark) { Run([&] { ChooseCashier(mark); }); });
+    PrepareChoices();
+}
+
+// Which invoices stand behind the marks of each chart.
+void OverviewPage::PrepareChoices() {
+    using upkeep::InvoicesWish;
+    const auto behind = [this](Chart* chart, auto wishOf) {
+        connect(chart, &Chart::Chosen, this, [this, chart, wishOf](int mark) {
+            Run([&] { ShowInvoices(chart->MarkText(mark), wishOf(static_cast<size_t>(mark))); });
+        });
+    };
+    behind(takings_, [this](size_t mark) { return BehindSpan(static_cast<int>(mark)); });
+    behind(byHour_, [this](size_t mark) {
+        const int cell = static_cast<int>(mark);
+        return InvoicesWish{
+            .days = shown_.days, .hour = hours_.first + byHour_->ColumnOf(cell), .weekday = byHour_->RowOf(cell) + 1};
+    });
+    behind(best_, [this](size_t mark) {
+        return InvoicesWish{.days = shown_.days, .goods = upkeep::Best(shown_.goods, ChosenBy(), mark + 1).back().code};
+    });
+    behind(idle_, [this](size_t mark) {
+        return InvoicesWish{.days = shown_.days, .goods = upkeep::Least(shown_.idle, ChosenBy(), mark + 1).back().code};
+    });
+    behind(runningOut_, [this](size_t mark) {
+        return InvoicesWish{.days = upkeep::DaysOfPace(values::Today()), .taken = shown_.runningOut[mark].goods.code};
+    });
+    behind(groups_, [this](size_t mark) { return InvoicesWish{.days = shown_.days, .group = shown_.groups[mark].id}; });
+    behind(cashiers_,
+           [this](size_t mark) { return InvoicesWish{.days = shown_.days, .cashierID = shown_.cashiers[mark].id}; });
+    behind(taxes_, [this](size_t mark) { return InvoicesWish{.days = shown_.days, .taxID = shown_.taxes[mark].id}; });
 }
 
 QList<ChartPanel*> OverviewPage::Panels() const {
@@ -196,13 +224,17 @@ void OverviewPage::ShowBoxes() {
                                  : tr("%1 invoices, %2 each").arg(chosen.invoices).arg(AmountText(meanInvoice)));
     upkeep::Takings compare;
     for (const auto& [date, takings] : shown_.before) compare += takings;
-    ShowText(ui.lblDaysNote2, shown_.before.empty() ? QString()
-                                                    : compared(DaysText(upkeep::DaysBefore(shown_.days)),
-                                                               chosen.amounts.total, compare.amounts.total));
+    ShowText(ui.lblDaysNote2, shown_.before.empty()
+                                  ? QString()
+                                  : compared(DaysBeforeText(shown_.days), chosen.amounts.total, compare.amounts.total));
+}
+
+upkeep::By OverviewPage::ChosenBy() const {
+    return ui.optPieces->isChecked() ? upkeep::By::Pieces : upkeep::By::Total;
 }
 
 void OverviewPage::ShowGoods() {
-    const upkeep::By by = ui.optPieces->isChecked() ? upkeep::By::Pieces : upkeep::By::Total;
+    const upkeep::By by = ChosenBy();
     best_->Show(GoodsContent(upkeep::Best(shown_.goods, by, shown_.goods.size()), by));
     idle_->Show(GoodsContent(upkeep::Least(shown_.idle, by, shown_.idle.size()), by));
 }
@@ -236,6 +268,21 @@ void OverviewPage::cmdTable_Click() {
     for (ChartPanel* panel : Panels()) panel->ShowAsTable(asTables);
 }
 
+bool OverviewPage::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == ui.panelFigures && event->type() == QEvent::Resize) FitCharts();
+    return Page::eventFilter(watched, event);
+}
+
+// As high as leaves room for the goods below, so that as much as can be is seen without scrolling.
+void OverviewPage::FitCharts() {
+    constexpr int least = 174;
+    constexpr int most = 236;
+    const int others = ui.panelToday->sizeHint().height() + ui.layoutGoods->sizeHint().height() +
+                       ui.panelBest->sizeHint().height() + 3 * ui.layoutFigures->verticalSpacing();
+    const int height = std::clamp(ui.panelFigures->height() - others, least, most);
+    for (ChartPanel* panel : {ui.panelTakings, ui.panelHours}) panel->SetLeastHeight(height);
+}
+
 // Tables stand one below the other, since their columns need the whole width.
 void OverviewPage::Arrange(bool asTables) {
     struct Place {
@@ -258,22 +305,12 @@ void OverviewPage::Arrange(bool asTables) {
     }
 }
 
-void OverviewPage::ChooseSpan(int mark) {
+upkeep::InvoicesWish OverviewPage::BehindSpan(int mark) const {
     const bool isByHour = spans_.front().kind == Span::Kind::Hour;
     const Span& span = spans_[static_cast<size_t>(isByHour ? hours_.first + mark : mark)];
-    upkeep::InvoicesWish wish{span.days, {}, {}, {}};
+    upkeep::InvoicesWish wish{.days = span.days};
     if (isByHour) wish.hour = span.hour;
-    ShowInvoices(NameOf(span), wish);
-}
-
-void OverviewPage::ChooseHour(int mark) {
-    ShowInvoices(byHour_->MarkText(mark),
-                 {shown_.days, hours_.first + byHour_->ColumnOf(mark), byHour_->RowOf(mark) + 1, {}});
-}
-
-void OverviewPage::ChooseCashier(int mark) {
-    const upkeep::NamedTakings& cashier = shown_.cashiers[static_cast<size_t>(mark)];
-    ShowInvoices(cashier.name, {shown_.days, {}, {}, cashier.id});
+    return wish;
 }
 
 void OverviewPage::ShowInvoices(const QString& what, const upkeep::InvoicesWish& wish) {
@@ -325,7 +362,6 @@ void OverviewPage::cmdPrint_Click() {
     forms::Inform(tr("The overview is printed."), Caption());
 }
 
-// The dialog has asked only for the name that was typed.
 void OverviewPage::cmdPdf_Click() {
     const QString path = AskSaveAs(this, tr("Save the overview"), tr("Document (*.pdf)"), {u".pdf"_s});
     if (path.isEmpty()) return;

@@ -6,10 +6,7 @@
 #include "manager/overview/OverviewCharts.h"
 #include "manager/overview/OverviewRun.h"
 #include "ui_OverviewPage.h"
-
-namespace upkeep {
-struct InvoicesWish;
-}
+#include "upkeep/InvoiceList.h"
 
 namespace manager {
 
@@ -30,6 +27,7 @@ protected:
     void Form_Load() override;
     void Form_Activate() override;
     bool Form_Unload() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void Range_Click();
@@ -48,10 +46,11 @@ private:
     void ShowBoxes();
     void ShowGoods();
     void ShowState(const QString& fault);
-    void ChooseSpan(int mark);
-    void ChooseHour(int mark);
-    void ChooseCashier(int mark);
+    void PrepareChoices();
+    upkeep::InvoicesWish BehindSpan(int mark) const;
+    upkeep::By ChosenBy() const;
     void ShowInvoices(const QString& what, const upkeep::InvoicesWish& wish);
+    void FitCharts();
     void Arrange(bool asTables);
     QList<ChartPanel*> Panels() const;
     OverviewPaper Paper() const;

@@ -47,6 +47,7 @@ PrintersPage::PrintersPage(QWidget* parent) : Page(parent) {
         ports_ << new PortPanel(number, [this] { return Family(); });
         ui.layPorts->insertWidget(number, ports_.last());
     }
+    TabLast({ui.cmdSave, ui.cmdLook, ui.cmdTestPage});
     ui.layPorts->addStretch(1);
     forms::MakeScrollable(ui.fraPorts);
     On(ui.cmdSave, &PrintersPage::cmdSave_Click);

@@ -43,9 +43,9 @@ void PasswordStep::Fill() {
 void PasswordStep::TellOfDelivered() {
     auto user = OpenUser(ui.cboUser->currentText());
     const bool isDelivered = !user.AtEOF() && user[u"Password"].TextOrEmpty() == Delivered;
-    ui.lblWarning->setText(
-        isDelivered ? tr("%1 still has the password that every shop is delivered with.").arg(ui.cboUser->currentText())
-                    : QString());
+    ui.lblWarning->setText(isDelivered ? tr("%1 still has the password that every shop is delivered with: %2.")
+                                             .arg(ui.cboUser->currentText(), Delivered)
+                                       : QString());
 }
 
 bool PasswordStep::Store() {

@@ -1,6 +1,5 @@
 #include "manager/setup/RowsStep.h"
 
-#include <QItemSelectionModel>
 #include <QScopedValueRollback>
 
 #include "core/dbModule.h"
@@ -16,7 +15,7 @@ void RowsStep::Begin(const Facts& facts) {
     const auto guarded = [this](void (RowsStep::*handler)()) {
         return [this, handler] { forms::Run([&] { (this->*handler)(); }, window()->windowTitle()); };
     };
-    connect(facts_.list->selectionModel(), &QItemSelectionModel::currentRowChanged, this, guarded(&RowsStep::Choose));
+    connect(facts_.list, &forms::ListView::RowChosen, this, guarded(&RowsStep::Choose));
     connect(facts_.add, &QPushButton::clicked, this, guarded(&RowsStep::New));
     connect(facts_.remove, &QPushButton::clicked, this, guarded(&RowsStep::Remove));
 }

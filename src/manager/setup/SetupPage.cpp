@@ -1,5 +1,6 @@
 #include "manager/setup/SetupPage.h"
 
+#include <QPushButton>
 #include <QSignalBlocker>
 
 #include "forms/MsgBox.h"
@@ -21,10 +22,16 @@ SetupPage::SetupPage(QWidget* parent) : Page(parent) {
     for (const auto& [step, name] : steps) {
         ui.tabSteps->addTab(step, name);
         step->mayLeave = [this] { return LeaveStep(); };
-        connect(step, &SetupStep::Filled, this, [this, step = step] { filled_ = step->Boxes(); });
+        connect(step, &SetupStep::Filled, this, [this, step = step] {
+            filled_ = step->Boxes();
+            ui.lblSaved->clear();
+        });
+        // On a button Enter presses it.
+        for (auto* control : step->findChildren<QWidget*>())
+            if (control->focusPolicy() != Qt::NoFocus && !qobject_cast<QPushButton*>(control)) EnterMovesOn({control});
         connect(step, &SetupStep::ShopChanged, this, &SetupPage::ShopChanged);
     }
-    EnterMovesOn();
+    TabLast({ui.cmdSave, ui.cmdNext});
     connect(ui.tabSteps, &QTabWidget::currentChanged, this, Guarded(&SetupPage::tabSteps_Changed));
     On(ui.cmdSave, &SetupPage::cmdSave_Click);
     On(ui.cmdNext, &SetupPage::cmdNext_Click);

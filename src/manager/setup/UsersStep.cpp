@@ -1,5 +1,6 @@
 #include "manager/setup/UsersStep.h"
 
+#include "core/AccessLevels.h"
 #include "core/Session.h"
 #include "core/dbModule.h"
 
@@ -11,12 +12,12 @@ namespace {
 
 const auto UsersQuery = u"SELECT * FROM Users"_s;
 const auto UserQuery = u"SELECT * FROM Users WHERE UserID = %1"_s;
-const auto OtherOwnersQuery = u"SELECT UserID FROM Users WHERE AccLevel = '3' AND UserID <> %1"_s;
+const auto OtherOwnersQuery = u"SELECT UserID FROM Users WHERE AccLevel = '%1' AND UserID <> %2"_s;
 
-const auto Owner = u"3"_s;
+const auto Owner = QString::number(OwnersLevel);
 
 bool IsLastOwner(const QString& userID) {
-    return MainStore().OpenSnapshot(OtherOwnersQuery.arg(Quoted(userID))).AtEOF();
+    return MainStore().OpenSnapshot(OtherOwnersQuery.arg(Owner, Quoted(userID))).AtEOF();
 }
 
 }  // namespace

@@ -11,7 +11,4 @@ std::unique_ptr<Engine> OpenFile(const QString& path, const Schema& schema);
 // Makes an empty file a store without rows; errors tell of `path`, where it is to lie.
 void BuildFile(const QString& file, const QString& path, const Schema& schema);
 
-// Copies a store of whatever schema while others write, as Engine::BackupTo does.
-void CopyFile(const QString& from, const QString& to);
-
 }  // namespace store::sqlite

@@ -1,10 +1,7 @@
 #include <sqlite3.h>
 
-#include <QFileInfo>
-
 #include "store/Words.h"
 #include "store/sqlite/Disk.h"
-#include "store/sqlite/OpenSqlite.h"
 #include "store/sqlite/PreparedPlan.h"
 #include "store/sqlite/SqliteError.h"
 #include "store/sqlite/SqliteSchema.h"
@@ -47,28 +44,7 @@ void CheckCopy(const QString& path) {
     if (!faults.empty()) throw StoreError(NotAStore, Words::tr("The copy is damaged: %1").arg(faults.first()));
 }
 
-void MakeCopy(const QString& path, Connection& source) {
-    NewFile file(path);
-    try {
-        CopyInto(file.Path(), source);
-        CheckCopy(file.Path());
-    } catch (const SqliteError& error) {
-        ThrowCode(error.Code(), error.Message(), Words::tr("copying to %1").arg(path));
-    }
-    file.Finish();
-}
-
 }  // namespace
-
-void CopyFile(const QString& from, const QString& to) {
-    if (!QFileInfo(from).isFile()) throw StoreError(FileNotFound, Words::tr("The store %1 was not found.").arg(from));
-    try {
-        Connection source(from, false, 4000ms);
-        MakeCopy(to, source);
-    } catch (const SqliteError& error) {
-        ThrowCode(error.Code(), error.Message(), Words::tr("copying %1").arg(from));
-    }
-}
 
 void SqliteEngine::AskWhileWorking(std::function<bool()> goesOn) {
     goesOn_ = std::move(goesOn);
@@ -105,7 +81,14 @@ QStringList SqliteEngine::MissingIndexes(const Schema& schema) {
 
 void SqliteEngine::BackupTo(const QString& path) {
     if (InTransaction()) throw StoreError(NotSupported, Words::tr("No copy can be made while a batch is open."));
-    MakeCopy(path, *connection_);
+    NewFile file(path);
+    try {
+        CopyInto(file.Path(), *connection_);
+        CheckCopy(file.Path());
+    } catch (const SqliteError& error) {
+        ThrowCode(error.Code(), error.Message(), Words::tr("copying to %1").arg(path));
+    }
+    file.Finish();
 }
 
 QString SqliteEngine::Explain(const dialect::Query& query) {

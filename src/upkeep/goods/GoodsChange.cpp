@@ -61,7 +61,7 @@ QString Preview::Shown(GoodsColumn column, const values::Value& value) const {
     if (value.IsNull()) return {};
     if (column == GoodsColumn::Price || column == GoodsColumn::Rate) return AmountText(value);
     if (column != GoodsColumn::Button) return value.ToText();
-    const qint64 group = value.ToWhole() < 0 ? -1 : value.ToWhole() / ClickGroups::ButtonsEach;
+    const int group = ClickGroups::GroupOf(value);
     return group >= 0 && group < groups.size() ? groups[group] : QString();
 }
 

@@ -273,8 +273,10 @@ private:
         if (text.isEmpty() && !change.isNew) return;
         if (text.isEmpty()) text = options_.unit;
         if (text.isEmpty()) return Refuse(Words::tr("New goods need a unit, and none is said for those without one."));
-        const QString* unit = rules_.FindUnit(text);
-        if (unit == nullptr) return Refuse(Words::tr("The shop has no unit '%1'.").arg(Quoted(text)));
+        const QString* unit = rules_.UnitMeantBy(text, Before(GoodsColumn::Unit).TextOrEmpty());
+        if (unit == nullptr)
+            return Refuse(
+                Words::tr("The shop has no unit '%1'. It has: %2.").arg(Quoted(text), rules_.units.join(u", ")));
         Put(change, GoodsColumn::Unit, *unit);
     }
 

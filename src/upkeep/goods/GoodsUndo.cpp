@@ -64,8 +64,7 @@ private:
         for (const ColumnChange& column : change.columns)
             if (product[column.column] != column.after)
                 return Keep(change, Words::tr("It stays, since its %1 was changed.").arg(ColumnName(column.column)));
-        main_.Execute(
-            u"DELETE * FROM Products WHERE ProdCode = '%1'"_s.arg(QString(change.code).replace(u'\'', u"''"_s)));
+        RemoveProduct(main_, change.code);
         ++undone_.removed;
     }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "store/CaseFold.h"
+#include "upkeep/GoodsFaults.h"
 #include "upkeep/Words.h"
 
 using namespace Qt::StringLiterals;
@@ -39,18 +40,10 @@ Grid GridOf(PriceEnding ending) {
     return {Cent, 0};
 }
 
-bool IsMeant(const Product& product, const PriceWish& wish, const ClickGroups& groups) {
-    switch (wish.goods) {
-        case PriceWish::Goods::All:
-            return true;
-        case PriceWish::Goods::OfTax:
-            return store::SameText(product[GoodsColumn::Tax].TextOrEmpty(), wish.which);
-        case PriceWish::Goods::OfGroup:
-            return store::SameText(groups.NameOf(product[GoodsColumn::Button]), wish.which);
-        case PriceWish::Goods::Named:
-            return KeyOf(product.Name()).contains(KeyOf(wish.which));
-    }
-    return false;
+bool IsMeant(const Product& product, const PriceWish& wish) {
+    if (!wish.tax.isEmpty() && !store::SameText(product[GoodsColumn::Tax].TextOrEmpty(), wish.tax)) return false;
+    if (wish.group >= 0 && ClickGroups::GroupOf(product[GoodsColumn::Button]) != wish.group) return false;
+    return KeyOf(product.Name()).contains(KeyOf(wish.namePart));
 }
 
 PreviewRow RowOf(const Product& product) {
@@ -87,15 +80,14 @@ Money ChangedPrice(Money price, Money percent, PriceEnding ending) {
     const Wide above = exact - grid.offset * hundred + step / 2;
     Wide steps = above / step;
     if (above % step < 0) --steps;  // rounded down, not towards zero
-    steps = std::max(steps, Wide{0});
+    steps = std::max(steps, Wide{grid.offset > 0 ? 0 : 1});
     if (steps > Wide{std::numeric_limits<qint64>::max()} / grid.step - 1) values::ThrowOverflow();
     return Money::FromUnits(static_cast<qint64>(steps) * grid.step + grid.offset);
 }
 
 Preview PreviewPrices(store::Database& main, const PriceWish& wish, const std::function<bool()>& goesOn) {
-    const ClickGroups groups(main);
     return LookAtAll(main, goesOn, [&](const Product& product, Preview& preview) {
-        if (!IsMeant(product, wish, groups)) return;
+        if (!IsMeant(product, wish)) return;
         PreviewRow row = RowOf(product);
         const Value& before = product[GoodsColumn::Price];
         if (before.IsNull() || before.ToMoney() < Money()) {
@@ -112,18 +104,18 @@ Preview PreviewPrices(store::Database& main, const PriceWish& wish, const std::f
 }
 
 Preview PreviewRates(store::Database& main, const QString& tax, const std::function<bool()>& goesOn) {
-    const GoodsRules rules(main);
+    const auto rates = RatesOf(main);
     return LookAtAll(main, goesOn, [&](const Product& product, Preview& preview) {
         const QString itsTax = product[GoodsColumn::Tax].TextOrEmpty();
         if (!tax.isEmpty() && !store::SameText(itsTax, tax)) return;
         PreviewRow row = RowOf(product);
-        const TaxRate* rate = rules.FindTax(itsTax);
-        if (rate == nullptr || rate->percent.IsNull()) {
+        const Value rate = rates.value(itsTax.toCaseFolded());
+        if (rate.IsNull()) {
             row.kind = RowKind::Refused;
             row.reasons = {Words::tr("The shop has no tax '%1' with a rate.").arg(itsTax)};
-        } else if (product[GoodsColumn::Rate] != rate->percent) {
+        } else if (product[GoodsColumn::Rate] != rate) {
             row.kind = RowKind::Changed;
-            row.change.Set(GoodsColumn::Rate, product[GoodsColumn::Rate], rate->percent);
+            row.change.Set(GoodsColumn::Rate, product[GoodsColumn::Rate], rate);
         }
         preview.rows.push_back(std::move(row));
     });

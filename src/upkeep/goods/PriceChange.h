@@ -10,15 +10,16 @@ enum class PriceEnding { Cent, FiveCents, TenCents, NinetyNine };
 
 // Which goods get other prices, and by how much.
 struct PriceWish {
-    enum class Goods { All, OfTax, OfGroup, Named };
-    Goods goods = Goods::All;
-    QString which;          // a tax, a group of the click table, a text in the name
-    values::Money percent;  // two decimals, above -100; below 0 they get cheaper
+    // What is empty, or below 0, is every one.
+    QString tax = {};
+    int group = -1;  // of the click table, from 0
+    QString namePart = {};
+    values::Money percent = {};  // two decimals, above -100; below 0 they get cheaper
     PriceEnding ending = PriceEnding::Cent;
 };
 
-// A price by so many percent more, at the nearest that ends so; of two as near the higher one. At .99 it is 0.99 at
-// least, but what costs nothing goes on costing nothing.
+// A price, not below 0, by so many percent more, at the nearest that ends so; of two as near the higher one. What costs
+// nothing goes on costing nothing, and what costs something goes on costing something.
 values::Money ChangedPrice(values::Money price, values::Money percent, PriceEnding ending);
 
 // The goods that are meant, each with its price before and after; those without a price are refused.

@@ -40,10 +40,10 @@ const std::array<Fact, 8>& Facts() {
          "bruttopreis,preis,prix ttc,prix de vente,prix,prezzo al pubblico,prezzo di vendita,prezzo,pvp,"
          "precio de venta,precio"_s.split(u',')},
         {SheetField::Quantity, u"quantity"_s, QT_TRANSLATE_NOOP("upkeep", "Quantity"),
-         u"quantity,qty,stock,on hand,in stock,zaliha,zalihe,stanje,kolicina,kol,bestand,lagerbestand,menge,anzahl,"
-         "quantite,qte,quantita,qta,giacenza,cantidad,existencias"_s.split(u',')},
+         u"quantity,qty,stock,stock level,on hand,in stock,zaliha,zalihe,stanje,kolicina,kol,bestand,lagerbestand,"
+         "menge,anzahl,quantite,qte,quantita,qta,giacenza,cantidad,existencias"_s.split(u',')},
         {SheetField::Unit, u"unit"_s, QT_TRANSLATE_NOOP("upkeep", "Unit"),
-         u"unit,uom,unit of measure,jm,j m,jed mj,jed mjere,jedinica,jedinica mjere,jedinica mere,mjera,einheit,"
+         u"unit,uom,unit of measure,jm,j m,mj,jed mj,jed mjere,jedinica,jedinica mjere,jedinica mere,mjera,einheit,"
          "mengeneinheit,me,unite,unita,unita di misura,um,unidad,unidad de medida,ud"_s.split(u',')},
         {SheetField::Tax, u"tax"_s, QT_TRANSLATE_NOOP("upkeep", "Tax"),
          u"tax,taxid,tax id,tax code,tax rate,vat,vat rate,pdv,stopa pdv,porez,poreska stopa,porezna stopa,tarifa,"
@@ -83,14 +83,26 @@ QString Plain(const QString& heading) {
     return plain.simplified();
 }
 
-const QStringList& PlainHeadings(const Fact& fact) {
-    static const std::array<QStringList, 8> plain = [] {
-        std::array<QStringList, 8> all;
+QString WithoutBlanks(QString heading) {
+    return heading.remove(u' ');
+}
+
+struct KnownHeadings {
+    QStringList plain;
+    QStringList joined;  // "unitprice" is "unit price"
+};
+
+const KnownHeadings& HeadingsOf(const Fact& fact) {
+    static const std::array<KnownHeadings, 8> known = [] {
+        std::array<KnownHeadings, 8> all;
         for (size_t i = 0; i < all.size(); ++i)
-            for (const QString& heading : Facts()[i].headings) all[i] += Plain(heading);
+            for (const QString& heading : Facts()[i].headings) {
+                all[i].plain += Plain(heading);
+                all[i].joined += WithoutBlanks(all[i].plain.last());
+            }
         return all;
     }();
-    return plain[static_cast<size_t>(&fact - Facts().data())];
+    return known[static_cast<size_t>(&fact - Facts().data())];
 }
 
 // 0: it can't be this. A whole heading says more than the beginning of one.
@@ -99,13 +111,14 @@ int Likeness(const Fact& fact, const QString& heading) {
     if (heading.isEmpty()) return 0;
     // As it goes out, in the language of its reader.
     if (heading == Plain(QCoreApplication::translate("upkeep", fact.name))) return whole;
-    const QStringList& known = PlainHeadings(fact);
-    if (const qsizetype place = known.indexOf(heading); place >= 0) return whole - static_cast<int>(place);
+    const KnownHeadings& known = HeadingsOf(fact);
+    if (const qsizetype place = known.joined.indexOf(WithoutBlanks(heading)); place >= 0)
+        return whole - static_cast<int>(place);
     if (fact.field == SheetField::Price)
         for (const QString& word : heading.split(u' '))
             if (OtherPrices().contains(word)) return 0;
-    for (qsizetype i = 0; i < known.size(); ++i)
-        if (heading.startsWith(known[i] + u' ')) return beginning - static_cast<int>(i);
+    for (qsizetype i = 0; i < known.plain.size(); ++i)
+        if (heading.startsWith(known.plain[i] + u' ')) return beginning - static_cast<int>(i);
     return 0;
 }
 

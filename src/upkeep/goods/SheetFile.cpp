@@ -4,7 +4,6 @@
 #include <xlsxwriter.h>
 
 #include <QFile>
-#include <QSaveFile>
 #include <algorithm>
 #include <cstdio>
 
@@ -70,10 +69,7 @@ QByteArray CsvOf(const Sheet& sheet) {
 }
 
 void WriteCsv(const QString& path, const Sheet& sheet) {
-    QSaveFile file(path);
-    const QByteArray text = CsvOf(sheet);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
-        throw values::FileError(file, Words::tr("write '%1'").arg(path));
+    values::SaveFile(path, CsvOf(sheet));
 }
 
 // One sheet of a workbook; its file is written when it is closed.

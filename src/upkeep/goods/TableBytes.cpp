@@ -39,6 +39,7 @@ void RefuseWorkbook(const QByteArray& bytes) {
 
 void RefuseOtherKinds(const QByteArray& bytes) {
     RefuseWorkbook(bytes);
+    if (bytes.startsWith("SQLite format 3")) Refuse(Words::tr("This is a store, not a table."));
     if (bytes.startsWith("%PDF")) Refuse(Words::tr("This is a PDF. Ask for the table itself, as CSV."));
     for (const char* head : {"\x89PNG", "\xFF\xD8\xFF", "GIF8", "II*", "MM\0*", "RIFF"})
         if (bytes.startsWith(head)) Refuse(Words::tr("This is a picture, not a table."));

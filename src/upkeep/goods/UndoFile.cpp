@@ -1,7 +1,6 @@
 #include "upkeep/goods/UndoFile.h"
 
 #include <QDir>
-#include <QSaveFile>
 
 #include "upkeep/ValueText.h"
 #include "upkeep/Words.h"
@@ -125,12 +124,9 @@ QString KeepForUndo(const QString& folder, const UndoRecord& record) {
         throw values::FileError(values::PathFault, Words::tr("The folder '%1' can't be made.").arg(undo.path()));
     const QStringList files = FilesIn(undo);
     const int number = files.isEmpty() ? 1 : files.last().first(6).toInt() + 1;
-    QSaveFile file(undo.filePath(QString::number(number).rightJustified(6, u'0') + Uncertain));
-    const QByteArray text = TextOf(record);
-    if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) ||
-        file.write(text) != text.size() || !file.commit())
-        throw values::FileError(file, Words::tr("write '%1'").arg(file.fileName()));
-    return file.fileName();
+    const QString path = undo.filePath(QString::number(number).rightJustified(6, u'0') + Uncertain);
+    values::SaveFile(path, TextOf(record));
+    return path;
 }
 
 void DropUndo(const QString& path) {

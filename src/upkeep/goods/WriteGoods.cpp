@@ -122,6 +122,10 @@ void ChangeProduct(store::Database& main, const GoodsChange& change) {
                                 Words::tr("%1 was removed, and nothing was written.").arg(change.code));
 }
 
+void RemoveProduct(store::Database& main, const QString& code) {
+    main.Execute(u"DELETE * FROM Products WHERE ProdCode = "_s + InQuotes(code));
+}
+
 Written WriteGoods(store::Database& main, const QString& folder, const QString& title,
                    const std::vector<GoodsChange>& changes, const std::function<bool()>& goesOn) {
     Written written;

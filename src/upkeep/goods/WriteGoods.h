@@ -21,7 +21,8 @@ struct Written {
 Written WriteGoods(store::Database& main, const QString& folder, const QString& title,
                    const std::vector<GoodsChange>& changes, const std::function<bool()>& goesOn = {});
 
-// Writes one change of what is in the store; within a batch.
+// Write one change of what is in the store, take a product out of it; within a batch.
 void ChangeProduct(store::Database& main, const GoodsChange& change);
+void RemoveProduct(store::Database& main, const QString& code);
 
 }  // namespace upkeep
