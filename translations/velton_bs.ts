@@ -8,10 +8,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Choose &amp;folder ...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Backups</source>
         <translation type="unfinished"></translation>
     </message>
@@ -20,7 +16,43 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Restore ...</source>
+        <source>&amp;Choose…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The till makes one at each End Report and when it is first started on a day. Kept are the newest of each of the last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Days of which one is kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weeks of which one is kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> weeks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Months of which one is kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> months</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Restore…</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -167,10 +199,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Sold in cash since the last End Report:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>P&amp;ut in:</source>
         <translation type="unfinished"></translation>
     </message>
@@ -200,6 +228,18 @@
     </message>
     <message>
         <source>Prints the chosen count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Per&amp;iod:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whose sales the drawer is counted for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sold in cash:</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -296,6 +336,10 @@
     </message>
     <message>
         <source>&amp;Show:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How it is rea&amp;d</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1333,14 +1377,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Goods:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>W&amp;hich:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Name:</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1362,6 +1398,14 @@
     </message>
     <message>
         <source>Take &amp;back…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tax:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Group:</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1697,11 +1741,11 @@ Yes: look at it again. No: print all the same.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Replace the shop</source>
+        <source>&amp;Replace the shop by the backup</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Cancel</source>
+        <source>&amp;Leave it as it is</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1773,10 +1817,6 @@ Yes: look at it again. No: print all the same.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Each step can be left out, and done again at any time.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Steps</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1786,6 +1826,10 @@ Yes: look at it again. No: print all the same.</source>
     </message>
     <message>
         <source>&amp;Next step</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each step can be left out, and done again at any time. To sell, close this window and start VELTON.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2051,6 +2095,10 @@ Yes: look at it again. No: print all the same.</source>
     </message>
     <message>
         <source>What was replaced is kept in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 invoices, %3 become %4, %5</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -4588,10 +4636,6 @@ Are you sure you want to delete this user?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>No backups yet.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>No folder has been chosen yet, and the till makes no backups. Choose one on a second disk, on a stick or in the network.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -4601,10 +4645,6 @@ Are you sure you want to delete this user?</source>
     </message>
     <message>
         <source>Backups go to %1.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The till makes one at each End Report and when it is first started on a day. Kept are the newest of each of %1 days, %2 weeks and %3 months.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4629,19 +4669,7 @@ The try of %2 failed: %3</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The backup is made.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>This backup can&apos;t be restored: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The backup is looked at.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The backup is brought back.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4650,6 +4678,22 @@ The try of %2 failed: %3</source>
     </message>
     <message>
         <source>The shop is as it was in the backup of %1, with %2 invoices. What was replaced is kept in %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no backups yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The register is being backed up.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The shop and the backup are being compared.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The backup is being brought back.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -4679,18 +4723,6 @@ The try of %2 failed: %3</source>
     <name>manager::DrawerPage</name>
     <message>
         <source>Count</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Date</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Time</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Counted by</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4749,6 +4781,30 @@ The try of %2 failed: %3</source>
         <source>Count %1 is printed.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Since the last End Report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End Report %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End Report %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End Report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Found</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>manager::DrawerText</name>
@@ -4782,6 +4838,14 @@ The try of %2 failed: %3</source>
     </message>
     <message>
         <source>DIFFERENCE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Since the last End Report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For End Report %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -4898,6 +4962,18 @@ The try of %2 failed: %3</source>
         <source>Written: %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>all but unchanged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing would change.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no such rows.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>manager::GoodsWriting</name>
@@ -4918,15 +4994,23 @@ The try of %2 failed: %3</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Take back &apos;%1&apos; of %2, %3? Goods that were new go, and others get their old values back. What was sold since stays sold.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Taken back: %1 restored, %2 removed.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>So it is with %1 more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write %1 changed goods?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Written: %1 changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take back &apos;%1&apos; of %2? Goods that were new go, and others get their old values back. What was sold since stays sold.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -5098,10 +5182,6 @@ The try of %2 failed: %3</source>
     </message>
     <message>
         <source>Total %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Cannot show the receipt: %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -5562,10 +5642,6 @@ The try of %2 failed: %3</source>
 <context>
     <name>manager::PasswordStep</name>
     <message>
-        <source>%1 still has the password that every shop is delivered with.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Choose a password that not everybody knows.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -5575,6 +5651,10 @@ The try of %2 failed: %3</source>
     </message>
     <message>
         <source>This user is gone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 still has the password that every shop is delivered with: %2.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -5703,22 +5783,6 @@ The try of %2 failed: %3</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>all goods</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>of a tax</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>of a group</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>with a name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>to the cent</source>
         <translation type="unfinished"></translation>
     </message>
@@ -5732,10 +5796,6 @@ The try of %2 failed: %3</source>
     </message>
     <message>
         <source>at .99</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>all taxes</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -5759,15 +5819,15 @@ The try of %2 failed: %3</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Say a part of the name.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Nothing would change.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 changed, %2 unchanged, %3 refused</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -6933,10 +6993,6 @@ ports.ini has no other printer for %2.</source>
     </message>
     <message>
         <source>copying to %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>copying %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -8522,6 +8578,14 @@ ports.ini has no other printer for %2.</source>
     </message>
     <message>
         <source>The text is not valid UTF-8.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The shop has no unit &apos;%1&apos;. It has: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is a store, not a table.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -8,10 +8,6 @@
         <translation>Sicherung</translation>
     </message>
     <message>
-        <source>Choose &amp;folder ...</source>
-        <translation>&amp;Ordner wählen ...</translation>
-    </message>
-    <message>
         <source>Backups</source>
         <translation>Sicherungen</translation>
     </message>
@@ -20,8 +16,44 @@
         <translation>Jetzt &amp;sichern</translation>
     </message>
     <message>
-        <source>&amp;Restore ...</source>
-        <translation>&amp;Zurückspielen ...</translation>
+        <source>&amp;Choose…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The till makes one at each End Report and when it is first started on a day. Kept are the newest of each of the last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Days of which one is kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weeks of which one is kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> weeks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Months of which one is kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> months</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished">&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Restore…</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -167,10 +199,6 @@
         <translation>Differenz</translation>
     </message>
     <message>
-        <source>Sold in cash since the last End Report:</source>
-        <translation>Barverkäufe seit dem letzten Tagesabschluss:</translation>
-    </message>
-    <message>
         <source>P&amp;ut in:</source>
         <translation>&amp;Einlage:</translation>
     </message>
@@ -201,6 +229,18 @@
     <message>
         <source>Prints the chosen count</source>
         <translation>Druckt die gewählte Zählung</translation>
+    </message>
+    <message>
+        <source>Per&amp;iod:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whose sales the drawer is counted for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sold in cash:</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -297,6 +337,10 @@
     <message>
         <source>&amp;Show:</source>
         <translation>Anze&amp;igen:</translation>
+    </message>
+    <message>
+        <source>How it is rea&amp;d</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1333,14 +1377,6 @@
         <translation>&amp;Was:</translation>
     </message>
     <message>
-        <source>&amp;Goods:</source>
-        <translation>&amp;Artikel:</translation>
-    </message>
-    <message>
-        <source>W&amp;hich:</source>
-        <translation>We&amp;lche:</translation>
-    </message>
-    <message>
         <source>&amp;Name:</source>
         <translation>&amp;Name:</translation>
     </message>
@@ -1363,6 +1399,14 @@
     <message>
         <source>Take &amp;back…</source>
         <translation>&amp;Zurücknehmen…</translation>
+    </message>
+    <message>
+        <source>&amp;Tax:</source>
+        <translation type="unfinished">S&amp;teuer:</translation>
+    </message>
+    <message>
+        <source>&amp;Group:</source>
+        <translation type="unfinished">&amp;Gruppe:</translation>
     </message>
 </context>
 <context>
@@ -1699,12 +1743,12 @@ Ja: noch einmal prüfen. Nein: trotzdem drucken.</translation>
         <translation>Vorher die Kasse und alle anderen Kassen dieses Geschäfts schließen.</translation>
     </message>
     <message>
-        <source>&amp;Replace the shop</source>
-        <translation>&amp;Geschäftsdaten ersetzen</translation>
+        <source>&amp;Replace the shop by the backup</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Abbrechen</translation>
+        <source>&amp;Leave it as it is</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1775,10 +1819,6 @@ Ja: noch einmal prüfen. Nein: trotzdem drucken.</translation>
         <translation>Einrichtung</translation>
     </message>
     <message>
-        <source>Each step can be left out, and done again at any time.</source>
-        <translation>Jeder Schritt kann ausgelassen und jederzeit nachgeholt werden.</translation>
-    </message>
-    <message>
         <source>Steps</source>
         <translation>Schritte</translation>
     </message>
@@ -1789,6 +1829,10 @@ Ja: noch einmal prüfen. Nein: trotzdem drucken.</translation>
     <message>
         <source>&amp;Next step</source>
         <translation>&amp;Nächster Schritt</translation>
+    </message>
+    <message>
+        <source>Each step can be left out, and done again at any time. To sell, close this window and start VELTON.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2052,6 +2096,10 @@ Ja: noch einmal prüfen. Nein: trotzdem drucken.</translation>
     </message>
     <message>
         <source>What was replaced is kept in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 invoices, %3 become %4, %5</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -4606,10 +4654,6 @@ Diesen Benutzer löschen?</translation>
         <translation>Zustand</translation>
     </message>
     <message>
-        <source>No backups yet.</source>
-        <translation>Noch keine Sicherungen.</translation>
-    </message>
-    <message>
         <source>No folder has been chosen yet, and the till makes no backups. Choose one on a second disk, on a stick or in the network.</source>
         <translation>Es ist noch kein Ordner gewählt, und die Kasse sichert nicht. Bitte einen auf einer zweiten Platte, einem Stick oder im Netzwerk wählen.</translation>
     </message>
@@ -4620,10 +4664,6 @@ Diesen Benutzer löschen?</translation>
     <message>
         <source>Backups go to %1.</source>
         <translation>Gesichert wird nach %1.</translation>
-    </message>
-    <message>
-        <source>The till makes one at each End Report and when it is first started on a day. Kept are the newest of each of %1 days, %2 weeks and %3 months.</source>
-        <translation>Die Kasse sichert bei jedem Tagesabschluss und beim ersten Start am Tag. Behalten wird jeweils die neueste Sicherung von %1 Tagen, %2 Wochen und %3 Monaten.</translation>
     </message>
     <message>
         <source>%1.
@@ -4648,20 +4688,8 @@ Der Versuch vom %2 ist misslungen: %3</translation>
         <translation>Der Ordner für Sicherungen</translation>
     </message>
     <message>
-        <source>The backup is made.</source>
-        <translation>Die Sicherung wird erstellt.</translation>
-    </message>
-    <message>
         <source>This backup can&apos;t be restored: %1</source>
         <translation>Diese Sicherung lässt sich nicht zurückspielen: %1</translation>
-    </message>
-    <message>
-        <source>The backup is looked at.</source>
-        <translation>Die Sicherung wird geprüft.</translation>
-    </message>
-    <message>
-        <source>The backup is brought back.</source>
-        <translation>Die Sicherung wird zurückgespielt.</translation>
     </message>
     <message>
         <source>Nothing was restored. %1</source>
@@ -4670,6 +4698,22 @@ Der Versuch vom %2 ist misslungen: %3</translation>
     <message>
         <source>The shop is as it was in the backup of %1, with %2 invoices. What was replaced is kept in %3.</source>
         <translation>Das Geschäft ist wieder auf dem Stand der Sicherung vom %1, mit %2 Rechnungen. Was ersetzt wurde, liegt in %3.</translation>
+    </message>
+    <message>
+        <source>There are no backups yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The register is being backed up.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The shop and the backup are being compared.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The backup is being brought back.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4699,18 +4743,6 @@ Der Versuch vom %2 ist misslungen: %3</translation>
     <message>
         <source>Count</source>
         <translation>Zählung</translation>
-    </message>
-    <message>
-        <source>Date</source>
-        <translation>Datum</translation>
-    </message>
-    <message>
-        <source>Time</source>
-        <translation>Zeit</translation>
-    </message>
-    <message>
-        <source>Counted by</source>
-        <translation>Gezählt von</translation>
     </message>
     <message>
         <source>Should be</source>
@@ -4768,6 +4800,30 @@ Der Versuch vom %2 ist misslungen: %3</translation>
         <source>Count %1 is printed.</source>
         <translation>Zählung %1 ist gedruckt.</translation>
     </message>
+    <message>
+        <source>Since the last End Report</source>
+        <translation type="unfinished">Seit dem letzten Tagesabschluss</translation>
+    </message>
+    <message>
+        <source>End Report %1 of %2</source>
+        <translation type="unfinished">Tagesabschluss %1 vom %2</translation>
+    </message>
+    <message>
+        <source>End Report %1</source>
+        <translation type="unfinished">Tagesabschluss %1</translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End Report</source>
+        <translation type="unfinished">Tagesabschluss</translation>
+    </message>
+    <message>
+        <source>Found</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>manager::DrawerText</name>
@@ -4802,6 +4858,14 @@ Der Versuch vom %2 ist misslungen: %3</translation>
     <message>
         <source>DIFFERENCE</source>
         <translation>DIFFERENZ</translation>
+    </message>
+    <message>
+        <source>Since the last End Report</source>
+        <translation type="unfinished">Seit dem letzten Tagesabschluss</translation>
+    </message>
+    <message>
+        <source>For End Report %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4916,6 +4980,18 @@ Der Versuch vom %2 ist misslungen: %3</translation>
         <source>Written: %1</source>
         <translation>Geschrieben: %1</translation>
     </message>
+    <message>
+        <source>all but unchanged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing would change.</source>
+        <translation type="unfinished">Es würde sich nichts ändern.</translation>
+    </message>
+    <message>
+        <source>There are no such rows.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>manager::GoodsWriting</name>
@@ -4936,16 +5012,24 @@ Der Versuch vom %2 ist misslungen: %3</translation>
         <translation>Seit der Vorschau verkauft und auch von der neuen Menge abgezogen: %1.</translation>
     </message>
     <message>
-        <source>Take back &apos;%1&apos; of %2, %3? Goods that were new go, and others get their old values back. What was sold since stays sold.</source>
-        <translation>„%1“ vom %2, %3 zurücknehmen? Neue Artikel verschwinden wieder, andere bekommen ihre alten Werte. Was seither verkauft wurde, bleibt verkauft.</translation>
-    </message>
-    <message>
         <source>Taken back: %1 restored, %2 removed.</source>
         <translation>Zurückgenommen: %1 wiederhergestellt, %2 entfernt.</translation>
     </message>
     <message>
         <source>So it is with %1 more.</source>
         <translation>Ebenso bei %1 weiteren.</translation>
+    </message>
+    <message>
+        <source>Write %1 changed goods?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Written: %1 changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take back &apos;%1&apos; of %2? Goods that were new go, and others get their old values back. What was sold since stays sold.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -5116,10 +5200,6 @@ Der Versuch vom %2 ist misslungen: %3</translation>
     <message>
         <source>Total %1</source>
         <translation>Gesamt %1</translation>
-    </message>
-    <message>
-        <source>Cannot show the receipt: %1</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -5572,10 +5652,6 @@ Der Versuch vom %2 ist misslungen: %3</translation>
 <context>
     <name>manager::PasswordStep</name>
     <message>
-        <source>%1 still has the password that every shop is delivered with.</source>
-        <translation>%1 hat noch das Passwort, mit dem jedes Geschäft ausgeliefert wird.</translation>
-    </message>
-    <message>
         <source>Choose a password that not everybody knows.</source>
         <translation>Bitte ein Passwort wählen, das nicht jeder kennt.</translation>
     </message>
@@ -5586,6 +5662,10 @@ Der Versuch vom %2 ist misslungen: %3</translation>
     <message>
         <source>This user is gone.</source>
         <translation>Diesen Benutzer gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>%1 still has the password that every shop is delivered with: %2.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -5713,22 +5793,6 @@ Der Versuch vom %2 ist misslungen: %3</translation>
         <translation>Warum nicht</translation>
     </message>
     <message>
-        <source>all goods</source>
-        <translation>alle Artikel</translation>
-    </message>
-    <message>
-        <source>of a tax</source>
-        <translation>einer Steuer</translation>
-    </message>
-    <message>
-        <source>of a group</source>
-        <translation>einer Gruppe</translation>
-    </message>
-    <message>
-        <source>with a name</source>
-        <translation>nach Name</translation>
-    </message>
-    <message>
         <source>to the cent</source>
         <translation>auf den Cent</translation>
     </message>
@@ -5743,10 +5807,6 @@ Der Versuch vom %2 ist misslungen: %3</translation>
     <message>
         <source>at .99</source>
         <translation>auf ,99</translation>
-    </message>
-    <message>
-        <source>all taxes</source>
-        <translation>alle Steuern</translation>
     </message>
     <message>
         <source>%1 (%2 %)</source>
@@ -5769,16 +5829,16 @@ Der Versuch vom %2 ist misslungen: %3</translation>
         <translation>Der Prozentwert muss eine Zahl über -100 und bis 1000 sein, mit höchstens zwei Nachkommastellen.</translation>
     </message>
     <message>
-        <source>Say a part of the name.</source>
-        <translation>Bitte einen Teil des Namens eingeben.</translation>
-    </message>
-    <message>
         <source>Nothing would change.</source>
         <translation>Es würde sich nichts ändern.</translation>
     </message>
     <message>
         <source>%1 changed, %2 unchanged, %3 refused</source>
         <translation>%1 geändert, %2 unverändert, %3 abgelehnt</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -6944,10 +7004,6 @@ In ports.ini gibt es keinen anderen Drucker für %2.</translation>
     <message>
         <source>copying to %1</source>
         <translation>beim Kopieren nach %1</translation>
-    </message>
-    <message>
-        <source>copying %1</source>
-        <translation>beim Kopieren von %1</translation>
     </message>
     <message>
         <source>preparing %1</source>
@@ -8500,6 +8556,14 @@ In ports.ini gibt es keinen anderen Drucker für %2.</translation>
     </message>
     <message>
         <source>The text is not valid UTF-8.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The shop has no unit &apos;%1&apos;. It has: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is a store, not a table.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -8,10 +8,6 @@
         <translation>Backup</translation>
     </message>
     <message>
-        <source>Choose &amp;folder ...</source>
-        <translation>Choose &amp;folder ...</translation>
-    </message>
-    <message>
         <source>Backups</source>
         <translation>Backups</translation>
     </message>
@@ -20,8 +16,44 @@
         <translation>&amp;Back up now</translation>
     </message>
     <message>
-        <source>&amp;Restore ...</source>
-        <translation>&amp;Restore ...</translation>
+        <source>&amp;Choose…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The till makes one at each End Report and when it is first started on a day. Kept are the newest of each of the last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Days of which one is kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weeks of which one is kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> weeks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Months of which one is kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> months</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished">&amp;Save</translation>
+    </message>
+    <message>
+        <source>&amp;Restore…</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -167,10 +199,6 @@
         <translation>Difference</translation>
     </message>
     <message>
-        <source>Sold in cash since the last End Report:</source>
-        <translation>Sold in cash since the last End Report:</translation>
-    </message>
-    <message>
         <source>P&amp;ut in:</source>
         <translation>P&amp;ut in:</translation>
     </message>
@@ -201,6 +229,18 @@
     <message>
         <source>Prints the chosen count</source>
         <translation>Prints the chosen count</translation>
+    </message>
+    <message>
+        <source>Per&amp;iod:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whose sales the drawer is counted for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sold in cash:</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -297,6 +337,10 @@
     <message>
         <source>&amp;Show:</source>
         <translation>&amp;Show:</translation>
+    </message>
+    <message>
+        <source>How it is rea&amp;d</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1333,14 +1377,6 @@
         <translation>&amp;What:</translation>
     </message>
     <message>
-        <source>&amp;Goods:</source>
-        <translation>&amp;Goods:</translation>
-    </message>
-    <message>
-        <source>W&amp;hich:</source>
-        <translation>W&amp;hich:</translation>
-    </message>
-    <message>
         <source>&amp;Name:</source>
         <translation>&amp;Name:</translation>
     </message>
@@ -1363,6 +1399,14 @@
     <message>
         <source>Take &amp;back…</source>
         <translation>Take &amp;back…</translation>
+    </message>
+    <message>
+        <source>&amp;Tax:</source>
+        <translation type="unfinished">&amp;Tax:</translation>
+    </message>
+    <message>
+        <source>&amp;Group:</source>
+        <translation type="unfinished">&amp;Group:</translation>
     </message>
 </context>
 <context>
@@ -1699,12 +1743,12 @@ Yes: look at it again. No: print all the same.</translation>
         <translation>Close the till, and all others of this shop, before you go on.</translation>
     </message>
     <message>
-        <source>&amp;Replace the shop</source>
-        <translation>&amp;Replace the shop</translation>
+        <source>&amp;Replace the shop by the backup</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Cancel</translation>
+        <source>&amp;Leave it as it is</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1775,10 +1819,6 @@ Yes: look at it again. No: print all the same.</translation>
         <translation>Set-up</translation>
     </message>
     <message>
-        <source>Each step can be left out, and done again at any time.</source>
-        <translation>Each step can be left out, and done again at any time.</translation>
-    </message>
-    <message>
         <source>Steps</source>
         <translation>Steps</translation>
     </message>
@@ -1789,6 +1829,10 @@ Yes: look at it again. No: print all the same.</translation>
     <message>
         <source>&amp;Next step</source>
         <translation>&amp;Next step</translation>
+    </message>
+    <message>
+        <source>Each step can be left out, and done again at any time. To sell, close this window and start VELTON.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2052,6 +2096,10 @@ Yes: look at it again. No: print all the same.</translation>
     </message>
     <message>
         <source>What was replaced is kept in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 invoices, %3 become %4, %5</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -4606,10 +4654,6 @@ Do you want to delete this user?</translation>
         <translation>State</translation>
     </message>
     <message>
-        <source>No backups yet.</source>
-        <translation>No backups yet.</translation>
-    </message>
-    <message>
         <source>No folder has been chosen yet, and the till makes no backups. Choose one on a second disk, on a stick or in the network.</source>
         <translation>No folder has been chosen yet, and the till makes no backups. Choose one on a second disk, on a stick or in the network.</translation>
     </message>
@@ -4620,10 +4664,6 @@ Do you want to delete this user?</translation>
     <message>
         <source>Backups go to %1.</source>
         <translation>Backups go to %1.</translation>
-    </message>
-    <message>
-        <source>The till makes one at each End Report and when it is first started on a day. Kept are the newest of each of %1 days, %2 weeks and %3 months.</source>
-        <translation>The till makes one at each End Report and when it is first started on a day. Kept are the newest of each of %1 days, %2 weeks and %3 months.</translation>
     </message>
     <message>
         <source>%1.
@@ -4648,20 +4688,8 @@ The try of %2 failed: %3</translation>
         <translation>The folder for backups</translation>
     </message>
     <message>
-        <source>The backup is made.</source>
-        <translation>The backup is made.</translation>
-    </message>
-    <message>
         <source>This backup can&apos;t be restored: %1</source>
         <translation>This backup can&apos;t be restored: %1</translation>
-    </message>
-    <message>
-        <source>The backup is looked at.</source>
-        <translation>The backup is looked at.</translation>
-    </message>
-    <message>
-        <source>The backup is brought back.</source>
-        <translation>The backup is brought back.</translation>
     </message>
     <message>
         <source>Nothing was restored. %1</source>
@@ -4670,6 +4698,22 @@ The try of %2 failed: %3</translation>
     <message>
         <source>The shop is as it was in the backup of %1, with %2 invoices. What was replaced is kept in %3.</source>
         <translation>The shop is as it was in the backup of %1, with %2 invoices. What was replaced is kept in %3.</translation>
+    </message>
+    <message>
+        <source>There are no backups yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The register is being backed up.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The shop and the backup are being compared.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The backup is being brought back.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4699,18 +4743,6 @@ The try of %2 failed: %3</translation>
     <message>
         <source>Count</source>
         <translation>Count</translation>
-    </message>
-    <message>
-        <source>Date</source>
-        <translation>Date</translation>
-    </message>
-    <message>
-        <source>Time</source>
-        <translation>Time</translation>
-    </message>
-    <message>
-        <source>Counted by</source>
-        <translation>Counted by</translation>
     </message>
     <message>
         <source>Should be</source>
@@ -4768,6 +4800,30 @@ The try of %2 failed: %3</translation>
         <source>Count %1 is printed.</source>
         <translation>Count %1 is printed.</translation>
     </message>
+    <message>
+        <source>Since the last End Report</source>
+        <translation type="unfinished">Since the last End Report</translation>
+    </message>
+    <message>
+        <source>End Report %1 of %2</source>
+        <translation type="unfinished">End Report %1 of %2</translation>
+    </message>
+    <message>
+        <source>End Report %1</source>
+        <translation type="unfinished">End Report %1</translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End Report</source>
+        <translation type="unfinished">End Report</translation>
+    </message>
+    <message>
+        <source>Found</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>manager::DrawerText</name>
@@ -4802,6 +4858,14 @@ The try of %2 failed: %3</translation>
     <message>
         <source>DIFFERENCE</source>
         <translation>DIFFERENCE</translation>
+    </message>
+    <message>
+        <source>Since the last End Report</source>
+        <translation type="unfinished">Since the last End Report</translation>
+    </message>
+    <message>
+        <source>For End Report %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4916,6 +4980,18 @@ The try of %2 failed: %3</translation>
         <source>Written: %1</source>
         <translation>Written: %1</translation>
     </message>
+    <message>
+        <source>all but unchanged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing would change.</source>
+        <translation type="unfinished">Nothing would change.</translation>
+    </message>
+    <message>
+        <source>There are no such rows.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>manager::GoodsWriting</name>
@@ -4936,16 +5012,24 @@ The try of %2 failed: %3</translation>
         <translation>Sold since the look, and taken off the new quantity too: %1.</translation>
     </message>
     <message>
-        <source>Take back &apos;%1&apos; of %2, %3? Goods that were new go, and others get their old values back. What was sold since stays sold.</source>
-        <translation>Take back &apos;%1&apos; of %2, %3? Goods that were new go, and others get their old values back. What was sold since stays sold.</translation>
-    </message>
-    <message>
         <source>Taken back: %1 restored, %2 removed.</source>
         <translation>Taken back: %1 restored, %2 removed.</translation>
     </message>
     <message>
         <source>So it is with %1 more.</source>
         <translation>So it is with %1 more.</translation>
+    </message>
+    <message>
+        <source>Write %1 changed goods?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Written: %1 changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take back &apos;%1&apos; of %2? Goods that were new go, and others get their old values back. What was sold since stays sold.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -5116,10 +5200,6 @@ The try of %2 failed: %3</translation>
     <message>
         <source>Total %1</source>
         <translation>Total %1</translation>
-    </message>
-    <message>
-        <source>Cannot show the receipt: %1</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -5572,10 +5652,6 @@ The try of %2 failed: %3</translation>
 <context>
     <name>manager::PasswordStep</name>
     <message>
-        <source>%1 still has the password that every shop is delivered with.</source>
-        <translation>%1 still has the password that every shop is delivered with.</translation>
-    </message>
-    <message>
         <source>Choose a password that not everybody knows.</source>
         <translation>Choose a password that not everybody knows.</translation>
     </message>
@@ -5586,6 +5662,10 @@ The try of %2 failed: %3</translation>
     <message>
         <source>This user is gone.</source>
         <translation>This user is gone.</translation>
+    </message>
+    <message>
+        <source>%1 still has the password that every shop is delivered with: %2.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -5713,22 +5793,6 @@ The try of %2 failed: %3</translation>
         <translation>Why not</translation>
     </message>
     <message>
-        <source>all goods</source>
-        <translation>all goods</translation>
-    </message>
-    <message>
-        <source>of a tax</source>
-        <translation>of a tax</translation>
-    </message>
-    <message>
-        <source>of a group</source>
-        <translation>of a group</translation>
-    </message>
-    <message>
-        <source>with a name</source>
-        <translation>with a name</translation>
-    </message>
-    <message>
         <source>to the cent</source>
         <translation>to the cent</translation>
     </message>
@@ -5743,10 +5807,6 @@ The try of %2 failed: %3</translation>
     <message>
         <source>at .99</source>
         <translation>at .99</translation>
-    </message>
-    <message>
-        <source>all taxes</source>
-        <translation>all taxes</translation>
     </message>
     <message>
         <source>%1 (%2 %)</source>
@@ -5769,16 +5829,16 @@ The try of %2 failed: %3</translation>
         <translation>The percent has to be a number above -100, up to 1000, with at most two decimals.</translation>
     </message>
     <message>
-        <source>Say a part of the name.</source>
-        <translation>Say a part of the name.</translation>
-    </message>
-    <message>
         <source>Nothing would change.</source>
         <translation>Nothing would change.</translation>
     </message>
     <message>
         <source>%1 changed, %2 unchanged, %3 refused</source>
         <translation>%1 changed, %2 unchanged, %3 refused</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -6944,10 +7004,6 @@ ports.ini has no other printer for %2.</translation>
     <message>
         <source>copying to %1</source>
         <translation>copying to %1</translation>
-    </message>
-    <message>
-        <source>copying %1</source>
-        <translation>copying %1</translation>
     </message>
     <message>
         <source>preparing %1</source>
@@ -8500,6 +8556,14 @@ ports.ini has no other printer for %2.</translation>
     </message>
     <message>
         <source>The text is not valid UTF-8.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The shop has no unit &apos;%1&apos;. It has: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is a store, not a table.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

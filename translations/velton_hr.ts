@@ -8,10 +8,6 @@
         <translation>Sigurnosna kopija</translation>
     </message>
     <message>
-        <source>Choose &amp;folder ...</source>
-        <translation>Odaberi &amp;mapu ...</translation>
-    </message>
-    <message>
         <source>Backups</source>
         <translation>Sigurnosne kopije</translation>
     </message>
@@ -20,8 +16,44 @@
         <translation>&amp;Kopiraj odmah</translation>
     </message>
     <message>
-        <source>&amp;Restore ...</source>
-        <translation>&amp;Vrati ...</translation>
+        <source>&amp;Choose…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The till makes one at each End Report and when it is first started on a day. Kept are the newest of each of the last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Days of which one is kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weeks of which one is kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> weeks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Months of which one is kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> months</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished">&amp;Spremi</translation>
+    </message>
+    <message>
+        <source>&amp;Restore…</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -167,10 +199,6 @@
         <translation>Razlika</translation>
     </message>
     <message>
-        <source>Sold in cash since the last End Report:</source>
-        <translation>Prodano za gotovinu od zadnjeg zaključka dana:</translation>
-    </message>
-    <message>
         <source>P&amp;ut in:</source>
         <translation>Pol&amp;og:</translation>
     </message>
@@ -201,6 +229,18 @@
     <message>
         <source>Prints the chosen count</source>
         <translation>Ispisuje odabrano brojanje</translation>
+    </message>
+    <message>
+        <source>Per&amp;iod:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whose sales the drawer is counted for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sold in cash:</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -297,6 +337,10 @@
     <message>
         <source>&amp;Show:</source>
         <translation>P&amp;rikaži:</translation>
+    </message>
+    <message>
+        <source>How it is rea&amp;d</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1333,14 +1377,6 @@
         <translation>Š&amp;to:</translation>
     </message>
     <message>
-        <source>&amp;Goods:</source>
-        <translation>Ro&amp;ba:</translation>
-    </message>
-    <message>
-        <source>W&amp;hich:</source>
-        <translation>Ko&amp;ja:</translation>
-    </message>
-    <message>
         <source>&amp;Name:</source>
         <translation>&amp;Naziv:</translation>
     </message>
@@ -1363,6 +1399,14 @@
     <message>
         <source>Take &amp;back…</source>
         <translation>&amp;Poništi…</translation>
+    </message>
+    <message>
+        <source>&amp;Tax:</source>
+        <translation type="unfinished">&amp;Porez:</translation>
+    </message>
+    <message>
+        <source>&amp;Group:</source>
+        <translation type="unfinished">&amp;Grupa:</translation>
     </message>
 </context>
 <context>
@@ -1699,12 +1743,12 @@ Da: provjeri ponovno. Ne: svejedno ispiši.</translation>
         <translation>Prije nastavka zatvorite blagajnu i sve ostale blagajne ove trgovine.</translation>
     </message>
     <message>
-        <source>&amp;Replace the shop</source>
-        <translation>&amp;Zamijeni podatke</translation>
+        <source>&amp;Replace the shop by the backup</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Odustani</translation>
+        <source>&amp;Leave it as it is</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1775,10 +1819,6 @@ Da: provjeri ponovno. Ne: svejedno ispiši.</translation>
         <translation>Priprema</translation>
     </message>
     <message>
-        <source>Each step can be left out, and done again at any time.</source>
-        <translation>Svaki se korak može preskočiti i bilo kada ponoviti.</translation>
-    </message>
-    <message>
         <source>Steps</source>
         <translation>Koraci</translation>
     </message>
@@ -1789,6 +1829,10 @@ Da: provjeri ponovno. Ne: svejedno ispiši.</translation>
     <message>
         <source>&amp;Next step</source>
         <translation>Sljedeći &amp;korak</translation>
+    </message>
+    <message>
+        <source>Each step can be left out, and done again at any time. To sell, close this window and start VELTON.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2053,6 +2097,10 @@ Da: provjeri ponovno. Ne: svejedno ispiši.</translation>
     </message>
     <message>
         <source>What was replaced is kept in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 invoices, %3 become %4, %5</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -4607,10 +4655,6 @@ Lozinka: %2
         <translation>Stanje</translation>
     </message>
     <message>
-        <source>No backups yet.</source>
-        <translation>Još nema sigurnosnih kopija.</translation>
-    </message>
-    <message>
         <source>No folder has been chosen yet, and the till makes no backups. Choose one on a second disk, on a stick or in the network.</source>
         <translation>Mapa još nije odabrana i blagajna ne radi sigurnosne kopije. Odaberite mapu na drugom disku, na USB sticku ili na mreži.</translation>
     </message>
@@ -4621,10 +4665,6 @@ Lozinka: %2
     <message>
         <source>Backups go to %1.</source>
         <translation>Sigurnosne kopije idu u %1.</translation>
-    </message>
-    <message>
-        <source>The till makes one at each End Report and when it is first started on a day. Kept are the newest of each of %1 days, %2 weeks and %3 months.</source>
-        <translation>Blagajna radi jednu kopiju kod svakog zaključka dana i kod prvog pokretanja u danu. Čuvaju se najnovije za svaki od %1 dana, %2 tjedana i %3 mjeseci.</translation>
     </message>
     <message>
         <source>%1.
@@ -4649,20 +4689,8 @@ Pokušaj od %2 nije uspio: %3</translation>
         <translation>Mapa za sigurnosne kopije</translation>
     </message>
     <message>
-        <source>The backup is made.</source>
-        <translation>Sigurnosna kopija je napravljena.</translation>
-    </message>
-    <message>
         <source>This backup can&apos;t be restored: %1</source>
         <translation>Ova sigurnosna kopija ne može se vratiti: %1</translation>
-    </message>
-    <message>
-        <source>The backup is looked at.</source>
-        <translation>Sigurnosna kopija se provjerava.</translation>
-    </message>
-    <message>
-        <source>The backup is brought back.</source>
-        <translation>Sigurnosna kopija se vraća.</translation>
     </message>
     <message>
         <source>Nothing was restored. %1</source>
@@ -4671,6 +4699,22 @@ Pokušaj od %2 nije uspio: %3</translation>
     <message>
         <source>The shop is as it was in the backup of %1, with %2 invoices. What was replaced is kept in %3.</source>
         <translation>Podaci trgovine su kakvi su bili u sigurnosnoj kopiji od %1, s brojem računa %2. Ono što je zamijenjeno čuva se u %3.</translation>
+    </message>
+    <message>
+        <source>There are no backups yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The register is being backed up.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The shop and the backup are being compared.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The backup is being brought back.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4700,18 +4744,6 @@ Pokušaj od %2 nije uspio: %3</translation>
     <message>
         <source>Count</source>
         <translation>Brojanje</translation>
-    </message>
-    <message>
-        <source>Date</source>
-        <translation>Datum</translation>
-    </message>
-    <message>
-        <source>Time</source>
-        <translation>Vrijeme</translation>
-    </message>
-    <message>
-        <source>Counted by</source>
-        <translation>Izbrojao</translation>
     </message>
     <message>
         <source>Should be</source>
@@ -4769,6 +4801,30 @@ Pokušaj od %2 nije uspio: %3</translation>
         <source>Count %1 is printed.</source>
         <translation>Brojanje %1 je ispisano.</translation>
     </message>
+    <message>
+        <source>Since the last End Report</source>
+        <translation type="unfinished">Od zadnjeg zaključka dana</translation>
+    </message>
+    <message>
+        <source>End Report %1 of %2</source>
+        <translation type="unfinished">Zaključak dana %1 od %2</translation>
+    </message>
+    <message>
+        <source>End Report %1</source>
+        <translation type="unfinished">Zaključak dana %1</translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End Report</source>
+        <translation type="unfinished">Zaključak dana</translation>
+    </message>
+    <message>
+        <source>Found</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>manager::DrawerText</name>
@@ -4803,6 +4859,14 @@ Pokušaj od %2 nije uspio: %3</translation>
     <message>
         <source>DIFFERENCE</source>
         <translation>RAZLIKA</translation>
+    </message>
+    <message>
+        <source>Since the last End Report</source>
+        <translation type="unfinished">Od zadnjeg zaključka dana</translation>
+    </message>
+    <message>
+        <source>For End Report %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4918,6 +4982,18 @@ Pokušaj od %2 nije uspio: %3</translation>
         <source>Written: %1</source>
         <translation>Zapisano: %1</translation>
     </message>
+    <message>
+        <source>all but unchanged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing would change.</source>
+        <translation type="unfinished">Ništa se ne bi promijenilo.</translation>
+    </message>
+    <message>
+        <source>There are no such rows.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>manager::GoodsWriting</name>
@@ -4938,16 +5014,24 @@ Pokušaj od %2 nije uspio: %3</translation>
         <translation>Prodano nakon pregleda i skinuto i s nove količine: %1.</translation>
     </message>
     <message>
-        <source>Take back &apos;%1&apos; of %2, %3? Goods that were new go, and others get their old values back. What was sold since stays sold.</source>
-        <translation>Poništiti &apos;%1&apos; od %2, %3? Roba koja je bila nova nestaje, a ostala dobiva svoje stare podatke. Što je u međuvremenu prodano, ostaje prodano.</translation>
-    </message>
-    <message>
         <source>Taken back: %1 restored, %2 removed.</source>
         <translation>Poništeno: vraćeno %1, uklonjeno %2.</translation>
     </message>
     <message>
         <source>So it is with %1 more.</source>
         <translation>Isto vrijedi za još %1.</translation>
+    </message>
+    <message>
+        <source>Write %1 changed goods?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Written: %1 changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take back &apos;%1&apos; of %2? Goods that were new go, and others get their old values back. What was sold since stays sold.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -5119,10 +5203,6 @@ Pokušaj od %2 nije uspio: %3</translation>
     <message>
         <source>Total %1</source>
         <translation>Ukupno %1</translation>
-    </message>
-    <message>
-        <source>Cannot show the receipt: %1</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -5582,10 +5662,6 @@ Pokušaj od %2 nije uspio: %3</translation>
 <context>
     <name>manager::PasswordStep</name>
     <message>
-        <source>%1 still has the password that every shop is delivered with.</source>
-        <translation>%1 još ima lozinku s kojom se isporučuje svaka trgovina.</translation>
-    </message>
-    <message>
         <source>Choose a password that not everybody knows.</source>
         <translation>Odaberite lozinku koju ne znaju svi.</translation>
     </message>
@@ -5596,6 +5672,10 @@ Pokušaj od %2 nije uspio: %3</translation>
     <message>
         <source>This user is gone.</source>
         <translation>Ovog korisnika više nema.</translation>
+    </message>
+    <message>
+        <source>%1 still has the password that every shop is delivered with: %2.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -5723,22 +5803,6 @@ Pokušaj od %2 nije uspio: %3</translation>
         <translation>Zašto ne</translation>
     </message>
     <message>
-        <source>all goods</source>
-        <translation>sva roba</translation>
-    </message>
-    <message>
-        <source>of a tax</source>
-        <translation>jednog poreza</translation>
-    </message>
-    <message>
-        <source>of a group</source>
-        <translation>jedne grupe</translation>
-    </message>
-    <message>
-        <source>with a name</source>
-        <translation>s nazivom</translation>
-    </message>
-    <message>
         <source>to the cent</source>
         <translation>na cent</translation>
     </message>
@@ -5753,10 +5817,6 @@ Pokušaj od %2 nije uspio: %3</translation>
     <message>
         <source>at .99</source>
         <translation>na ,99</translation>
-    </message>
-    <message>
-        <source>all taxes</source>
-        <translation>svi porezi</translation>
     </message>
     <message>
         <source>%1 (%2 %)</source>
@@ -5779,16 +5839,16 @@ Pokušaj od %2 nije uspio: %3</translation>
         <translation>Postotak mora biti broj veći od -100, a najviše 1000, s najviše dvije decimale.</translation>
     </message>
     <message>
-        <source>Say a part of the name.</source>
-        <translation>Upišite dio naziva.</translation>
-    </message>
-    <message>
         <source>Nothing would change.</source>
         <translation>Ništa se ne bi promijenilo.</translation>
     </message>
     <message>
         <source>%1 changed, %2 unchanged, %3 refused</source>
         <translation>promijenjeno %1, nepromijenjeno %2, odbijeno %3</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -6957,10 +7017,6 @@ U datoteci ports.ini nema drugog pisača za %2.</translation>
     <message>
         <source>copying to %1</source>
         <translation>kopiranje u %1</translation>
-    </message>
-    <message>
-        <source>copying %1</source>
-        <translation>kopiranje %1</translation>
     </message>
     <message>
         <source>preparing %1</source>
@@ -8547,6 +8603,14 @@ U datoteci ports.ini nema drugog pisača za %2.</translation>
     </message>
     <message>
         <source>The text is not valid UTF-8.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The shop has no unit &apos;%1&apos;. It has: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is a store, not a table.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -9,6 +9,9 @@
 #include "forms/Tokens.h"
 #include "output/Folder.h"
 #include "support/RtfReader.h"
+#include "values/Language.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -22,6 +25,12 @@ void Add(QTextDocument& document, const QString& fault) {
     QTextCharFormat letters;
     letters.setForeground(forms::TheTokens().Danger);
     cursor.insertText(frmHelp::tr("The help text is damaged: %1").arg(fault), letters);
+}
+
+// A language's own text is in the program, the one without a language in the folder of the register.
+QString PathOf(const QString& helpFile) {
+    const QString own = u":/help/"_s + values::LanguageOf(values::Shown::OnScreens) + u'/' + helpFile.mid(1);
+    return QFileInfo(own).isFile() ? own : output::InProgramFolder(helpFile);
 }
 
 }  // namespace
@@ -55,7 +64,7 @@ void frmHelp::ShowText() {
 }
 
 void frmHelp::ReadText() {
-    QFile file(output::InProgramFolder(HelpFileName));
+    QFile file(PathOf(HelpFileName));
     if (!QFileInfo(file).isFile())
         return ui.rtBox->setPlainText(
             tr("The help text is not there.\n\nIt should be in this file:\n%1").arg(file.fileName()));

@@ -4,6 +4,7 @@
 #include <QTranslator>
 #include <memory>
 
+#include "values/FileError.h"
 #include "values/IniFile.h"
 
 using namespace Qt::StringLiterals;
@@ -26,16 +27,14 @@ private:
     const Shown where_;
 };
 
-using Translators = std::vector<std::unique_ptr<QTranslator>>;
+struct InUse {
+    QString code;
+    std::vector<std::unique_ptr<QTranslator>> translators;
+};
 
-Translators& InstalledFor(Shown where) {
-    static Translators screens, paper;
+InUse& InUseFor(Shown where) {
+    static InUse screens, paper;
     return where == Shown::OnPaper ? paper : screens;
-}
-
-void Install(Translators& all, std::unique_ptr<QTranslator> translator) {
-    QCoreApplication::installTranslator(translator.get());
-    all.push_back(std::move(translator));
 }
 
 }  // namespace
@@ -69,24 +68,33 @@ QString LanguageFor(const QStringList& wanted) {
 }
 
 void UseLanguage(Shown where, const QString& wanted) {
-    Translators& installed = InstalledFor(where);
-    installed.clear();  // a translator that goes takes itself out of the program
-    const QString code = Known(wanted);
-    if (code.isEmpty()) return;
+    InUse& inUse = InUseFor(where);
+    inUse.translators.clear();  // a translator that goes takes itself out of the program
+    inUse.code = Known(wanted);
+    if (inUse.code.isEmpty()) return;
+    const auto install = [&](std::unique_ptr<QTranslator> translator, const QString& name, const QString& folder) {
+        if (!translator->load(name + u'_' + inUse.code, folder)) return;
+        QCoreApplication::installTranslator(translator.get());
+        inUse.translators.push_back(std::move(translator));
+    };
+    const QString carried = u":/languages"_s;
     if (where == Shown::OnScreens) {
-        // What Qt's own boxes say; languages that Qt lacks have these texts among ours.
-        auto qt = std::make_unique<QTranslator>();
-        if (qt->load(u"qtbase_"_s + code, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) Install(installed, std::move(qt));
+        // What Qt's own boxes say: some of our languages it lacks, and we bring it.
+        install(std::make_unique<QTranslator>(), u"qtbase"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+        install(std::make_unique<QTranslator>(), u"qt"_s, carried);
     }
-    auto ours = std::make_unique<PartOfTexts>(where);
-    if (ours->load(u":/languages/velton_%1.qm"_s.arg(code))) Install(installed, std::move(ours));
+    install(std::make_unique<PartOfTexts>(where), u"velton"_s, carried);
+}
+
+QString LanguageOf(Shown where) {
+    return InUseFor(where).code;
 }
 
 void UseLanguageOf(const QString& registerFolder) {
     try {
         const auto value = IniFile::Read(registerFolder + u"/velton.ini"_s).Find(u"language"_s, u"screens"_s);
         if (value) UseLanguage(Shown::OnScreens, value->text);
-    } catch (const Error&) {
+    } catch (const FileError&) {
         // It is told where it is read for what else it holds.
     }
 }

@@ -24,6 +24,8 @@ enum class Shown { OnScreens, OnPaper };
 // Holds for every text that is asked for from now on. The case of the code does not matter; an empty one is no
 // language, and so is one that isn't there.
 void UseLanguage(Shown where, const QString& wanted);
+// The code of the one in use; empty without one.
+QString LanguageOf(Shown where);
 
 // For a program without screens: what velton.ini in the folder of a register has for them, where it can be read.
 void UseLanguageOf(const QString& registerFolder);

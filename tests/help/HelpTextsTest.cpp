@@ -4,6 +4,8 @@
 
 #include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
+#include <QMap>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTextBlock>
@@ -25,48 +27,57 @@ QString Caption(QString text) {
     return text.remove(u'&').trimmed();
 }
 
-void AddAll(QSet<QString>& captions, const QString& source, const QRegularExpression& literal) {
-    for (const auto& match : literal.globalMatch(source)) {
+void AddAll(QSet<QString>& captions, const QString& path, const QRegularExpression& literal) {
+    const std::pair<QString, QString> escapes[] = {{u"&amp;"_s, u"&"_s}, {u"&quot;"_s, u"\""_s}, {u"&apos;"_s, u"'"_s}};
+    for (const auto& match : literal.globalMatch(ReadText(path))) {
         QString text = match.captured(1);
-        captions << Caption(text.replace(u"&amp;"_s, u"&"_s));
+        for (const auto& [escape, character] : escapes) text.replace(escape, character);
+        captions << Caption(text);
     }
 }
 
-// Every text of the screens and of the sources.
-const QSet<QString>& ProgramTexts() {
-    static const QSet<QString> texts = [] {
-        static const QRegularExpression inForm(u"<string>([^<]*)</string>"_s);
-        static const QRegularExpression inSource(u"u\"((?:[^\"\\\\]|\\\\.)*)\""_s);
-        QSet<QString> found;
-        QDirIterator files(QString::fromUtf8(SOURCE_ROOT "/src"), {u"*.ui"_s, u"*.cpp"_s, u"*.h"_s}, QDir::Files,
-                           QDirIterator::Subdirectories);
-        while (files.hasNext()) {
-            const QString path = files.next();
-            AddAll(found, ReadText(path), path.endsWith(u".ui"_s) ? inForm : inSource);
-        }
+// Every text of the screens and of the sources, or those of a language.
+QSet<QString> ProgramTexts(const QString& language) {
+    static const QRegularExpression inForm(u"<string[^>]*>([^<]*)</string>"_s);
+    static const QRegularExpression inSource(u"(?:u|tr\\()\"((?:[^\"\\\\]|\\\\.)*)\""_s);
+    static const QRegularExpression translated(u"<(?:translation|numerusform)>([^<]*)</"_s);
+    QSet<QString> found;
+    if (!language.isEmpty()) {
+        AddAll(found, QStringLiteral(SOURCE_ROOT "/translations/velton_%1.ts").arg(language), translated);
         return found;
-    }();
-    return texts;
+    }
+    QDirIterator files(QStringLiteral(SOURCE_ROOT "/src"), {u"*.ui"_s, u"*.cpp"_s, u"*.h"_s}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        AddAll(found, path, path.endsWith(u".ui"_s) ? inForm : inSource);
+    }
+    return found;
 }
 
-bool IsInProgram(const QString& text) {
-    return ProgramTexts().contains(Caption(text));
-}
+const auto HelpFolder = QStringLiteral(SOURCE_ROOT "/data/help/");
 
-// "Settings - Taxes": a menu and its entry.
-bool IsMenuPath(const QString& text) {
-    const qsizetype dash = text.indexOf(u" - "_s);
-    return dash > 0 && IsInProgram(text.left(dash)) && IsInProgram(text.mid(dash + 3));
-}
-
-class HelpTextsTest : public testing::TestWithParam<const char*> {
+// A help text in the folder of its language.
+class HelpTextsTest : public testing::TestWithParam<QString> {
 protected:
-    HelpTextsTest() {
-        rtf_ = ReadText(QString::fromUtf8(SOURCE_ROOT "/data/help/") + QString::fromUtf8(GetParam()));
+    HelpTextsTest() : rtf_(ReadText(HelpFolder + GetParam())), language_(QFileInfo(GetParam()).path()) {
         EXPECT_EQ(ReadRtf(rtf_.toLatin1(), text_).toStdString(), "");
+        if (language_ == u".") language_.clear();
     }
 
-    QString rtf_;
+    bool IsInProgram(const QString& text) const {
+        static QMap<QString, QSet<QString>> texts;
+        if (!texts.contains(language_)) texts[language_] = ProgramTexts(language_);
+        return texts[language_].contains(Caption(text));
+    }
+    // "Settings - Taxes": a menu and its entry.
+    bool IsMenuPath(const QString& text) const {
+        const qsizetype dash = text.indexOf(u" - "_s);
+        return dash > 0 && IsInProgram(text.left(dash)) && IsInProgram(text.mid(dash + 3));
+    }
+
+    const QString rtf_;
+    QString language_;
     QTextDocument text_;
 };
 
@@ -102,7 +113,7 @@ TEST_P(HelpTextsTest, NamesCaptionsThatAreThere) {
 }
 
 TEST_P(HelpTextsTest, QuotesMessagesThatAreThere) {
-    static const QRegularExpression quoted(u"\u201C([^\u201D]+)\u201D"_s);
+    static const QRegularExpression quoted(u"[\u201C\u201E]([^\u201C\u201D]+)[\u201C\u201D]"_s);
     for (const auto& match : quoted.globalMatch(text_.toPlainText()))
         EXPECT_TRUE(IsInProgram(match.captured(1))) << match.captured(1).toStdString();
 }
@@ -111,14 +122,21 @@ TEST_P(HelpTextsTest, LinksToTextsThatAreThere) {
     for (QTextBlock block = text_.begin(); block.isValid(); block = block.next())
         for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
             const QString target = piece.fragment().charFormat().anchorHref();
-            EXPECT_TRUE(target.isEmpty() || QFile::exists(QString::fromUtf8(SOURCE_ROOT "/data/help/") + target))
+            EXPECT_TRUE(target.isEmpty() || QFile::exists(HelpFolder + language_ + u'/' + target))
                 << target.toStdString();
         }
 }
 
-INSTANTIATE_TEST_SUITE_P(Delivered, HelpTextsTest, testing::Values("helpVELTON.rtf", "Lozinka.rtf", "Podesavanje.rtf"),
-                         [](const auto& info) {
-                             return QString::fromUtf8(info.param).section(u'.', 0, 0).toStdString();
-                         });
+QStringList Delivered() {
+    QStringList texts;
+    for (const QString& language : {u""_s, u"de/"_s, u"hr/"_s})
+        for (const QString& name : {u"helpVELTON.rtf"_s, u"Lozinka.rtf"_s, u"Podesavanje.rtf"_s})
+            texts << language + name;
+    return texts;
+}
+
+INSTANTIATE_TEST_SUITE_P(Delivered, HelpTextsTest, testing::ValuesIn(Delivered()), [](const auto& info) {
+    return QString(info.param).replace(u'/', u'_').section(u'.', 0, 0).toStdString();
+});
 
 }  // namespace

@@ -37,7 +37,7 @@ std::vector<Message> MessagesOf(const QString& language) {
         if (name == u"extracomment") messages.back().remark = xml.readElementText();
         if (name == u"numerusform") messages.back().texts << xml.readElementText();
         if (name != u"translation") continue;
-        messages.back().isWhole = !xml.attributes().hasAttribute(u"type");
+        messages.back().isWhole = !xml.attributes().hasAttribute("type"_L1);
         while (xml.readNext() != QXmlStreamReader::EndElement || xml.name() != u"translation") {
             if (xml.isStartElement()) messages.back().texts << xml.readElementText();
             if (xml.isCharacters() && !xml.isWhitespace()) messages.back().texts << xml.text().toString();

@@ -53,5 +53,5 @@ namespace {
 
 }  // namespace
 
-INSTANTIATE_SCREEN_CASES(Sales, u"cashier"_s, u"invoice"_s, u"item-entry"_s);
+INSTANTIATE_SCREEN_CASES(Sales, u"cashier"_s, u"invoice"_s, u"item-entry"_s, u"languages"_s);
 INSTANTIATE_SCREEN_CASES(SalesOnServer, drivers::OnServer() ? QStringList{u"server"_s} : QStringList{});

@@ -15,6 +15,7 @@
 #include "support/Engines.h"
 #include "upkeep/TableLoader.h"
 #include "values/Clock.h"
+#include "values/Language.h"
 
 using namespace Qt::StringLiterals;
 using values::Value;
@@ -33,6 +34,8 @@ TillTest::~TillTest() {
     Crash();
     values::SetClock({});
     UseBackupProgram({});
+    values::UseLanguage(values::Shown::OnScreens, {});
+    values::UseLanguage(values::Shown::OnPaper, {});
     QDir(folder.path() + u"-stick"_s).removeRecursively();
 }
 

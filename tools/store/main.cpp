@@ -10,6 +10,7 @@
 #include "ToolWords.h"
 #include "upkeep/ValueText.h"
 #include "values/FileError.h"
+#include "values/Language.h"
 
 using namespace Qt::StringLiterals;
 
@@ -35,9 +36,6 @@ struct Arguments {
     bool withDemo = false;
     bool options = false;
     bool toFile = false;
-    std::vector<std::string> map;
-    std::string encoding, separator, decimal, unit, tax;
-    tool::ImportCall import = {};
 
     tool::Which Store() const { return options ? tool::Which::Options : tool::Which::Main; }
 };
@@ -52,9 +50,15 @@ QStringList Texts(const std::vector<std::string>& list) {
     return texts;
 }
 
+// From the folder on, errors are told in the language of its register.
+void AddFolder(CLI::App* call, std::string& folder) {
+    const auto speak = [](const std::string& named) { values::UseLanguageOf(Text(named)); };
+    call->add_option("FOLDER", folder, "The program's folder")->required()->each(speak);
+}
+
 CLI::App* AddCall(CLI::App& app, Arguments& arguments, const char* name, const char* description) {
     CLI::App* call = app.add_subcommand(name, description);
-    call->add_option("FOLDER", arguments.folder, "The program's folder")->required();
+    AddFolder(call, arguments.folder);
     return call;
 }
 
@@ -97,7 +101,7 @@ struct SheetArguments {
 
 void AddSheetCalls(CLI::App& app, SheetArguments& a) {
     CLI::App* call = app.add_subcommand("import", "Takes goods from a spreadsheet's CSV, all rows or none");
-    call->add_option("FOLDER", a.folder, "The program's folder")->required();
+    AddFolder(call, a.folder);
     call->add_option("FILE", a.file, "The table")->required();
     call->add_flag("--dry-run", a.call.dryRun, "Tells what would be done and writes nothing");
     call->add_option("--map", a.columns,
@@ -117,11 +121,11 @@ void AddSheetCalls(CLI::App& app, SheetArguments& a) {
     call->callback([&a] { tool::Import(Text(a.folder), Text(a.file), a.Call()); });
 
     call = app.add_subcommand("undo-import", "Takes the last import, or change of prices, back");
-    call->add_option("FOLDER", a.folder, "The program's folder")->required();
+    AddFolder(call, a.folder);
     call->callback([&a] { tool::UndoImport(Text(a.folder)); });
 
     call = app.add_subcommand("export", "Writes a table that a spreadsheet opens");
-    call->add_option("FOLDER", a.folder, "The program's folder")->required();
+    AddFolder(call, a.folder);
     call->add_option(
             "TABLE", a.what,
             "goods, customers, sales-by-cashier, sales-by-product, taxes, tax-book, invoice-list, end-reports, "
