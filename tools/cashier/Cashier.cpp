@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <stdexcept>
@@ -14,6 +15,7 @@
 #include "forms/ListView.h"
 #include "masterdata/clicktable/ClickTable.h"
 #include "player/Keys.h"
+#include "values/Language.h"
 
 using namespace Qt::StringLiterals;
 
@@ -61,7 +63,9 @@ bool Cashier::Attend(QWidget& modal) {
 }
 
 void Cashier::AnswerBox(QMessageBox& box) {
-    if (answers_.isEmpty() || answers_.first().text != box.text())
+    // In a language the order of the messages is held against the script, without one the words, too.
+    const bool isTranslated = !values::LanguageOf(values::Shown::OnScreens).isEmpty();
+    if (answers_.isEmpty() || (answers_.first().text != box.text() && !isTranslated))
         GiveUp(u"Nobody expected the message \"%1\"."_s.arg(box.text()));
     const BoxAnswer answer = answers_.takeFirst();
     if (!answer.picture.isEmpty()) TakePicture(answer.picture);
@@ -143,6 +147,12 @@ void Cashier::Answer(const QString& text, bool yes, const QString& picture) {
 
 void Cashier::Within(const QString& screen, Script script) {
     scripts_ << std::pair(screen, std::move(script));
+}
+
+void Cashier::OpenMenu(const QString& name) {
+    const auto* menu = mdiORVA::Window().findChild<QMenu*>(name);
+    if (!menu) GiveUp(u"The menu %1 is not there."_s.arg(name));
+    Press(u"{Alt+%1}"_s.arg(menu->title().section(u'&', 1).first(1).toLower()));
 }
 
 void Cashier::Choose(const QString& entry) {

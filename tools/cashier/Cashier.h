@@ -45,6 +45,8 @@ public:
     void Answer(const QString& text, bool yes, const QString& picture = {});
     // When this screen comes up modally, its user does so and closes it.
     void Within(const QString& screen, Script script);
+    // A menu of the main window, by the key that its title names.
+    void OpenMenu(const QString& name);
     // A menu entry of the main window, by its name.
     void Choose(const QString& entry);
     // The same for an entry that opens a modal screen, in which the script works.

@@ -43,7 +43,7 @@ void Tour::OpenTheShop() {
     cashier.Fill(u"frmLogin"_s, u"txtUserName"_s, u"{Backspace}"_s);
     cashier.LogIn(u"voditelj"_s, u"1234"_s, u"login"_s);
     cashier.TakePicture(u"sales-empty"_s);
-    cashier.Press(u"{Alt+s}"_s);
+    cashier.OpenMenu(u"mnuPodesavanje"_s);
     cashier.TakePicture(u"menu"_s);
     cashier.Press(u"{Esc}{Esc}"_s);
 }
