@@ -11,7 +11,7 @@ trap 'rm -rf "$pictures"' EXIT
 LC_ALL=en_US.UTF-8 build/release/bin/velton-screens "$pictures" >/dev/null
 for guide in docs/user-guide.*.md; do
     language=$(basename "$guide" .md) language=${language#user-guide.}
-    LC_ALL=en_US.UTF-8 build/release/bin/velton-screens --language "$language" "$pictures/all-$language" >/dev/null
+    LC_ALL=${language}_${language^^}.UTF-8 build/release/bin/velton-screens --language "$language" "$pictures/all-$language" >/dev/null
     mkdir "$pictures/$language"
     for shown in $(grep -o "(screens/$language/[^)]*" "$guide"); do
         cp "$pictures/all-$language/${shown##*/}" "$pictures/$language/"

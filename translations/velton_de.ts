@@ -644,7 +644,7 @@
         </message>
         <message>
             <source>Total by</source>
-            <translation>Gesamt nach</translation>
+            <translation>Summen nach</translation>
         </message>
         <message>
             <source>F1-Help</source>
@@ -851,11 +851,11 @@
         </message>
         <message>
             <source>In stock and sold least</source>
-            <translation>Auf Lager und am wenigsten verkauft</translation>
+            <translation>Ladenhüter</translation>
         </message>
         <message>
             <source>Runs out at the present pace</source>
-            <translation>Geht bei jetzigem Verkauf zur Neige</translation>
+            <translation>Geht beim jetzigen Absatz zur Neige</translation>
         </message>
         <message>
             <source>Groups of the touch table</source>
@@ -1197,7 +1197,7 @@
         <message>
             <source>Currently</source>
             <extracomment>at most 39 columns</extracomment>
-            <translation>Aktuell</translation>
+            <translation>Aktueller Stand</translation>
         </message>
         <message>
             <source>CASH REGISTERS</source>
@@ -1452,7 +1452,7 @@
         <name>ProductEntry</name>
         <message>
             <source>ProductID - BarCode</source>
-            <translation>Art.-Nr. - Strichcode</translation>
+            <translation>Art.-Nr./Strichcode</translation>
         </message>
         <message>
             <source>Product name</source>
@@ -1484,7 +1484,7 @@
         </message>
         <message>
             <source>Thumbnail (icon)</source>
-            <translation>Kleines Bild (Symbol)</translation>
+            <translation>Kleines Bild</translation>
         </message>
         <message>
             <source>Insert icon</source>
@@ -1492,7 +1492,7 @@
         </message>
         <message>
             <source>Izaberi ikonu za artikl</source>
-            <translation>Symbol für den Artikel wählen</translation>
+            <translation>Bild für den Artikel wählen</translation>
         </message>
         <message>
             <source>Delete icon</source>
@@ -1500,7 +1500,7 @@
         </message>
         <message>
             <source>Obrisi ikonu za artikl</source>
-            <translation>Symbol des Artikels löschen</translation>
+            <translation>Bild des Artikels löschen</translation>
         </message>
         <message>
             <source>F5-Save</source>
@@ -1755,7 +1755,7 @@ Ja: noch einmal prüfen. Nein: trotzdem drucken.</translation>
         <name>SalesWords</name>
         <message>
             <source>End Report is done?</source>
-            <translation>Ist der Tagesabschluss gemacht?</translation>
+            <translation>Der Tagesabschluss ist gemacht.</translation>
         </message>
         <message>
             <source>End Report %1 %2</source>
@@ -1771,7 +1771,7 @@ Ja: noch einmal prüfen. Nein: trotzdem drucken.</translation>
         </message>
         <message>
             <source>Close the program?</source>
-            <translation>Programm schließen?</translation>
+            <translation>Programm beenden?</translation>
         </message>
         <message>
             <source>END OF WORK</source>
@@ -2226,7 +2226,7 @@ Ja: noch einmal prüfen. Nein: trotzdem drucken.</translation>
         </message>
         <message>
             <source>ESC-Leave</source>
-            <translation>ESC-Abbrechen</translation>
+            <translation>Esc-Abbrechen</translation>
         </message>
     </context>
     <context>
@@ -2345,7 +2345,7 @@ Ja: noch einmal prüfen. Nein: trotzdem drucken.</translation>
         </message>
         <message>
             <source>ProductID - BarCode</source>
-            <translation>Art.-Nr. - Strichcode</translation>
+            <translation>Art.-Nr./Strichcode</translation>
         </message>
         <message>
             <source>Product name</source>
@@ -2383,7 +2383,7 @@ Ja: noch einmal prüfen. Nein: trotzdem drucken.</translation>
             <source>ProductID - Barcode: %1
 Product name: %2
 Do you want to delete this item?</source>
-            <translation>Art.-Nr. - Strichcode: %1
+            <translation>Art.-Nr./Strichcode: %1
 Artikelname: %2
 Diesen Artikel löschen?</translation>
         </message>
@@ -2564,7 +2564,7 @@ Diesen Artikel löschen?</translation>
         </message>
         <message>
             <source>Select a thumbnail - icon</source>
-            <translation>Kleines Bild (Symbol) wählen</translation>
+            <translation>Kleines Bild wählen</translation>
         </message>
         <message>
             <source>All images</source>
@@ -2986,7 +2986,7 @@ Diesen Kunden löschen?</translation>
         </message>
         <message>
             <source>Program VELTON already run.</source>
-            <translation>VELTON läuft bereits.</translation>
+            <translation>VELTON läuft bereits: Die Datenbank ist belegt.</translation>
         </message>
         <message>
             <source>VELTON already works.</source>
@@ -3086,11 +3086,11 @@ Diesen Kunden löschen?</translation>
         </message>
         <message>
             <source>ESC-Delete</source>
-            <translation>Esc-Löschen</translation>
+            <translation>Esc-Leeren</translation>
         </message>
         <message>
             <source>Choose image - icon</source>
-            <translation>Bild (Symbol) wählen</translation>
+            <translation>Bild wählen</translation>
         </message>
         <message>
             <source>Sve slike</source>
@@ -3147,7 +3147,7 @@ Diesen Kunden löschen?</translation>
         </message>
         <message>
             <source>ProductID-BarCode:</source>
-            <translation>Art.-Nr.-Strichcode:</translation>
+            <translation>Art.-Nr./Strichcode:</translation>
         </message>
         <message>
             <source>Product name:</source>
@@ -3677,7 +3677,7 @@ Diesen Kunden löschen?</translation>
         </message>
         <message>
             <source>Sifra-BarKod</source>
-            <translation>Art.-Nr. - Strichcode</translation>
+            <translation>Art.-Nr./Strichcode</translation>
         </message>
         <message>
             <source>Naziv</source>
@@ -4021,7 +4021,7 @@ Diesen Kunden löschen?</translation>
         </message>
         <message>
             <source>ProductID - BarCode</source>
-            <translation>Art.-Nr. - Strichcode</translation>
+            <translation>Art.-Nr./Strichcode</translation>
         </message>
         <message>
             <source>Product Name:</source>
@@ -4069,7 +4069,7 @@ Diesen Kunden löschen?</translation>
         </message>
         <message>
             <source>F5-Delete</source>
-            <translation>F5-Löschen</translation>
+            <translation>F5-Leeren</translation>
         </message>
         <message>
             <source>F1-Help</source>
@@ -4167,7 +4167,7 @@ Diesen Kunden löschen?</translation>
         </message>
         <message>
             <source>Tax name</source>
-            <translation>Name der Steuer</translation>
+            <translation>Steuername</translation>
         </message>
         <message>
             <source>Tax deleted.</source>
@@ -4178,7 +4178,7 @@ Diesen Kunden löschen?</translation>
 Tax name: %2
 Are you sure you want to delete this type of tax?</source>
             <translation>Kürzel: %1
-Name der Steuer: %2
+Steuername: %2
 Diese Steuer löschen?</translation>
         </message>
     </context>
@@ -4248,11 +4248,11 @@ Diese Steuer löschen?</translation>
         <name>frmTrenutnoStanjeKasa</name>
         <message>
             <source>Currently - End Report</source>
-            <translation>Aktuell - Tagesabschluss</translation>
+            <translation>Aktueller Stand - Tagesabschluss</translation>
         </message>
         <message>
             <source>Currently</source>
-            <translation>Aktuell</translation>
+            <translation>Aktueller Stand</translation>
         </message>
         <message>
             <source>Lists shows currently balance from last done End Report</source>
@@ -4475,7 +4475,7 @@ Diesen Benutzer löschen?</translation>
         </message>
         <message>
             <source>ProductID-BarCode</source>
-            <translation>Art.-Nr. - Strichcode</translation>
+            <translation>Art.-Nr./Strichcode</translation>
         </message>
         <message>
             <source>Product Name</source>
@@ -4553,7 +4553,7 @@ Diesen Benutzer löschen?</translation>
         <name>frmZakljucakPregled</name>
         <message>
             <source>End Reports review</source>
-            <translation>Frühere Tagesabschlüsse</translation>
+            <translation>Einzelne Zeiträume</translation>
         </message>
         <message>
             <source>end report</source>
@@ -4982,7 +4982,7 @@ Der Versuch vom %2 ist misslungen: %3</translation>
         </message>
         <message>
             <source>all but unchanged</source>
-            <translation>alle außer unveränderten</translation>
+            <translation>ohne unveränderte</translation>
         </message>
         <message>
             <source>Nothing would change.</source>
@@ -5044,7 +5044,7 @@ Der Versuch vom %2 ist misslungen: %3</translation>
         </message>
         <message>
             <source>The longest line has %1 columns; paper has 32, 40 or 80.</source>
-            <translation>Die längste Zeile hat %1 Spalten; das Papier hat 32, 40 oder 80.</translation>
+            <translation>Längste Zeile: %1 Spalten; Papier: 32, 40, 80.</translation>
         </message>
     </context>
     <context>
@@ -5468,7 +5468,7 @@ Der Versuch vom %2 ist misslungen: %3</translation>
         </message>
         <message>
             <source>Lasts days</source>
-            <translation>Reicht Tage</translation>
+            <translation>Reicht (Tage)</translation>
         </message>
         <message>
             <source>%1 to %2</source>
@@ -5531,7 +5531,7 @@ Der Versuch vom %2 ist misslungen: %3</translation>
         </message>
         <message>
             <source>Mean of the last %1</source>
-            <translation>Mittel der letzten %1</translation>
+            <translation>Schnitt der letzten %1</translation>
         </message>
         <message>
             <source>Until %1</source>
@@ -5547,7 +5547,7 @@ Der Versuch vom %2 ist misslungen: %3</translation>
         </message>
         <message>
             <source>%1 invoices, %2 each</source>
-            <translation>%1 Rechnungen, je %2</translation>
+            <translation>%1 Rechnungen, im Schnitt %2</translation>
         </message>
         <message>
             <source>Read back to %1; what is older was left out.</source>
@@ -5559,7 +5559,7 @@ Der Versuch vom %2 ist misslungen: %3</translation>
         </message>
         <message>
             <source>Overview of %1, printed on %2, amounts in %3</source>
-            <translation>Übersicht von %1, gedruckt am %2, Beträge in %3</translation>
+            <translation>Übersicht: %1, gedruckt am %2, Beträge in %3</translation>
         </message>
         <message>
             <source>The overview is printed.</source>
@@ -5895,11 +5895,11 @@ Der Versuch vom %2 ist misslungen: %3</translation>
         </message>
         <message>
             <source>Goods by their number (form 1)</source>
-            <translation>Artikel nach ihrer Nummer (Form 1)</translation>
+            <translation>Artikel nach interner Nummer (Form 1)</translation>
         </message>
         <message>
             <source>Goods by their code (form 2)</source>
-            <translation>Artikel nach ihrer Artikelnummer (Form 2)</translation>
+            <translation>Artikel nach Artikelnummer (Form 2)</translation>
         </message>
     </context>
     <context>
@@ -5979,7 +5979,7 @@ Der Versuch vom %2 ist misslungen: %3</translation>
         </message>
         <message>
             <source>Days that differ: %1. They stand first. What the shop has now and the backup has not will be gone from it; all that is replaced is kept in a folder beside it.</source>
-            <translation>Abweichende Tage: %1. Sie stehen zuerst. Was das Geschäft jetzt hat und die Sicherung nicht, wird darin fehlen; alles, was ersetzt wird, bleibt in einem Ordner daneben.</translation>
+            <translation>Abweichende Tage: %1. Sie stehen zuerst. Was das Geschäft jetzt hat, die Sicherung aber nicht, ist danach nicht mehr im Geschäft; alles, was ersetzt wird, bleibt in einem Ordner daneben.</translation>
         </message>
         <message>
             <source>without a day</source>
@@ -6184,7 +6184,7 @@ Der Versuch vom %2 ist misslungen: %3</translation>
         </message>
         <message>
             <source>Preview End Reports </source>
-            <translation>Frühere Tagesabschlüsse </translation>
+            <translation>Einzelne Zeiträume </translation>
         </message>
         <message>
             <source>&amp;Settings</source>
@@ -6284,7 +6284,7 @@ Der Versuch vom %2 ist misslungen: %3</translation>
         </message>
         <message>
             <source>Fiscal Periodic Report</source>
-            <translation>Zeitraumbericht des Fiskaldruckers</translation>
+            <translation>Zeitraumbericht</translation>
         </message>
         <message>
             <source>Invoice Reclamation</source>

@@ -3318,11 +3318,11 @@ Do you want to delete the customer?</translation>
         </message>
         <message>
             <source>POS printer LPT1</source>
-            <translation>Receipt printer LPT1</translation>
+            <translation>Printer LPT1</translation>
         </message>
         <message>
             <source>POS printer LPT2</source>
-            <translation>Receipt printer LPT2</translation>
+            <translation>Printer LPT2</translation>
         </message>
         <message>
             <source>windows printer</source>
@@ -3354,11 +3354,11 @@ Do you want to delete the customer?</translation>
         </message>
         <message>
             <source>POS printer na LPT1</source>
-            <translation>Receipt printer on LPT1</translation>
+            <translation>Printer on LPT1</translation>
         </message>
         <message>
             <source>POS printer na LPT2</source>
-            <translation>Receipt printer on LPT2</translation>
+            <translation>Printer on LPT2</translation>
         </message>
         <message>
             <source>POS Monitor</source>
@@ -3471,7 +3471,7 @@ Do you want to delete the customer?</translation>
         </message>
         <message>
             <source>My Firm Name</source>
-            <translation>Name of my company</translation>
+            <translation>Company name</translation>
         </message>
         <message>
             <source>Address</source>
@@ -3479,7 +3479,7 @@ Do you want to delete the customer?</translation>
         </message>
         <message>
             <source>Firm Ident</source>
-            <translation>Ident. of the company</translation>
+            <translation>Company ID</translation>
         </message>
         <message>
             <source>Phone</source>

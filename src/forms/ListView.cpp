@@ -18,6 +18,7 @@ namespace forms {
 
 namespace {
 
+constexpr int widthOfADate = 110;
 constexpr int narrowestFlexibleColumn = 60;
 constexpr int betweenLooks = 15;  // milliseconds, while rows are coming in
 // What the style leaves free on both sides of a cell's text.
@@ -313,30 +314,48 @@ void ListView::LayOutColumns() {
         header()->resizeSection(column, WidthOf(column));
         rest -= header()->sectionSize(column);
     }
-    // Numbers are whole, so codes give way before a bar would have to come.
-    const int least = Scaled(narrowestFlexibleColumn) * static_cast<int>(flexible.size());
-    for (int column = 0; column < static_cast<int>(columns_.size()) && rest < least; ++column) {
-        if (!columns_[static_cast<size_t>(column)].shrinks) continue;
-        const int width = header()->sectionSize(column);
-        header()->resizeSection(column, qMax(Scaled(narrowestFlexibleColumn), width - (least - rest)));
-        rest += width - header()->sectionSize(column);
-    }
+    int lacking = -rest;
+    for (const int column : flexible) lacking += LeastOf(column);
+    // Numbers are whole, so codes give way before a bar would have to come, and then what room others have to spare.
+    for (const bool isCode : {true, false})
+        for (int column = 0; column < static_cast<int>(columns_.size()) && lacking > 0; ++column) {
+            const ListColumn& facts = columns_[static_cast<size_t>(column)];
+            if (facts.width <= 0 || facts.shrinks != isCode) continue;
+            const int width = header()->sectionSize(column);
+            const int least = isCode ? Scaled(narrowestFlexibleColumn) : NeedOf(column);
+            header()->resizeSection(column, qMin(width, qMax(least, width - lacking)));
+            rest += width - header()->sectionSize(column);
+            lacking -= width - header()->sectionSize(column);
+        }
     for (size_t i = 0; i < flexible.size(); ++i) {
         const int share = rest / static_cast<int>(flexible.size() - i);
-        header()->resizeSection(flexible[i], qMax(share, Scaled(narrowestFlexibleColumn)));
+        header()->resizeSection(flexible[i],
+                                qMax(share, qMax(Scaled(narrowestFlexibleColumn), HeadingOf(flexible[i]))));
         rest -= share;
     }
 }
 
-// A number that does not show all its digits is a wrong number.
+// A number that does not show all its digits is a wrong number, and a heading may be longer in another language.
 int ListView::WidthOf(int column) const {
     const ListColumn& facts = columns_[static_cast<size_t>(column)];
     const int designed = Scaled(facts.width);
-    if (!(facts.align & Qt::AlignRight) && !facts.shrinks) return designed;
-    const int needed = fontMetrics().horizontalAdvance(QString(rows_->LongestText(column), u'0')) + cellPadding;
-    if (facts.align & Qt::AlignRight) return qMax(designed, needed);
-    const int heading = header()->fontMetrics().horizontalAdvance(facts.heading) + cellPadding;
-    return qMin(designed, qMax(needed + roundingRoom, heading));
+    if (facts.align & Qt::AlignRight) return qMax(designed, NeedOf(column));
+    return facts.shrinks ? qMin(designed, NeedOf(column) + roundingRoom) : qMax(designed, HeadingOf(column));
+}
+
+int ListView::HeadingOf(int column) const {
+    return header()->fontMetrics().horizontalAdvance(columns_[static_cast<size_t>(column)].heading) + cellPadding;
+}
+
+// What shows all that the column holds, its heading too.
+int ListView::NeedOf(int column) const {
+    const int longest = fontMetrics().horizontalAdvance(QString(rows_->LongestText(column), u'0')) + cellPadding;
+    return qMax(longest, HeadingOf(column));
+}
+
+// A heading and a date are shown whole, of a name so much that it can be told from others.
+int ListView::LeastOf(int column) const {
+    return qMax(HeadingOf(column), qBound(Scaled(narrowestFlexibleColumn), NeedOf(column), Scaled(widthOfADate)));
 }
 
 // A hidden first column would not do as the current cell: the view could not scroll to it.

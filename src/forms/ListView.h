@@ -98,6 +98,9 @@ private:
     void SelectFirst();
     void Report(const std::exception_ptr& why);
     int WidthOf(int column) const;
+    int HeadingOf(int column) const;
+    int NeedOf(int column) const;
+    int LeastOf(int column) const;
     int FirstShownColumn() const;
 
     RowModel* rows_;

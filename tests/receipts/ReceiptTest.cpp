@@ -6,6 +6,7 @@
 #include "output/CodePage.h"
 #include "receipts/PrintInvoice.h"
 #include "receipts/ReceiptLayout.h"
+#include "values/Language.h"
 
 using namespace Qt::StringLiterals;
 
@@ -59,6 +60,30 @@ TEST_F(TwoReceipts, FollowEachOtherInEveryFile) {
     PrintInvoice(invoice);
     EXPECT_EQ(Read(u"invoices.txt"_s), ribbon + ribbon);
     EXPECT_EQ(Read(u"fiscal.txt"_s), fiscal + fiscal);
+}
+
+// A language changes the words of a line, not how many lines there are nor how far they go.
+TEST_F(TwoReceipts, KeepToTheirPaperInEveryLanguage) {
+    const auto print = [this](const InvoiceText& invoice) {
+        for (const QString& name : {u"lpt1.prn"_s, u"invoices.txt"_s}) QFile::remove(Path(name));
+        PrintInvoice(invoice);
+        return (Read(u"lpt1.prn"_s) + Read(u"invoices.txt"_s)).split('\n');
+    };
+    for (const ReceiptLayout* layout : ReceiptLayouts()) {
+        const InvoiceText invoice = LoadShop(u"TrakaRacunaFileDA=1\nTipRacuna="_s + layout->tipRacuna);
+        const QByteArrayList plain = print(invoice);
+        EXPECT_GT(plain.size(), 20);
+        for (const values::Language& language : values::Languages()) {
+            values::UseLanguage(values::Shown::OnPaper, language.code);
+            const QByteArrayList lines = print(invoice);
+            values::UseLanguage(values::Shown::OnPaper, {});
+            SCOPED_TRACE((layout->tipRacuna + u' ' + language.code).toStdString());
+            EXPECT_TRUE(lines != plain || language.code == u"en");
+            ASSERT_EQ(lines.size(), plain.size());
+            for (qsizetype i = 0; i < lines.size(); ++i)
+                EXPECT_LE(lines[i].size(), qMax<qsizetype>(plain[i].size(), layout->width + 1)) << lines[i].constData();
+        }
+    }
 }
 
 TEST_F(TwoReceipts, ThePaperAndTheRibbonEachReadTheClock) {

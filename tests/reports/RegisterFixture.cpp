@@ -50,6 +50,10 @@ void OpenShopOfReports(const QString& folder) {
     OpenMainStore();
 }
 
+QStringList ReportNames() {
+    return Reports.keys();
+}
+
 forms::Form& ShowReport(const QString& name) {
     if (!forms::LoadedForms().isEmpty()) forms::LoadedForms().last()->Unload();
     forms::Form* form = Reports[name]();

@@ -7,6 +7,7 @@
 // closed by End Report 3, 7 to 9 open on three registers, the last of them without an invoice.
 void OpenShopOfReports(const QString& folder);
 
+QStringList ReportNames();
 // A report by its name, up and active; the one that is open closes.
 forms::Form& ShowReport(const QString& name);
 

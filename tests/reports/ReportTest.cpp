@@ -14,6 +14,8 @@
 #include "receipts/TextFiles.h"
 #include "reports/RegisterFixture.h"
 #include "support/Files.h"
+#include "values/DateText.h"
+#include "values/Language.h"
 #include "values/Locale.h"
 #include "values/Numbers.h"
 
@@ -103,6 +105,32 @@ TEST_F(ReportTest, ThePagePrinterGetsTheSameLines) {
     reader.waitForFinished();
     EXPECT_EQ(QString::fromUtf8(reader.readAllStandardOutput()).simplified(), saved.simplified());
     EXPECT_FALSE(QFile::exists(Path(u"lpt1.prn"_s)));
+}
+
+TEST_F(ReportTest, KeepToTheirPaperInEveryLanguage) {
+    drivers::AddRows(MainStore(), u"Login"_s, {u"LogInNo=1 | Date="_s + values::DateText(QDate(2026, 11, 20))});
+    const auto save = [this](const QString& name) {
+        forms::Form& form = ShowReport(name);
+        if (form.findChild<QCalendarWidget*>(u"mv1"_s)) Choose(form, u"01.11.2026-30.11.2026"_s);
+        boxes_.ExpectFile(Path(u"saved.txt"_s));
+        Keys(name == u"frmRacuni" ? u"{F5}" : u"{F4}");
+        return File(u"saved.txt"_s).split('\n');
+    };
+    for (const QString& name : ReportNames()) {
+        if (name == u"frmZakljucakPregled1") continue;  // prints what the period of another has
+        const QByteArrayList plain = save(name);
+        EXPECT_GT(plain.size(), 5) << name.toStdString();
+        const qsizetype widest = std::ranges::max(plain, {}, &QByteArray::size).size();
+        for (const values::Language& language : values::Languages()) {
+            values::UseLanguage(values::Shown::OnPaper, language.code);
+            const QByteArrayList lines = save(name);
+            values::UseLanguage(values::Shown::OnPaper, {});
+            SCOPED_TRACE((name + u' ' + language.code).toStdString());
+            EXPECT_TRUE(lines != plain || language.code == u"en");
+            ASSERT_EQ(lines.size(), plain.size());
+            for (const QByteArray& line : lines) EXPECT_LE(line.size(), widest) << line.constData();
+        }
+    }
 }
 
 TEST_F(ReportTest, ACopyThatDoesNotFitLeavesTheOldFile) {

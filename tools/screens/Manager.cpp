@@ -21,6 +21,7 @@
 #include "manager/goods/GoodsPage.h"
 #include "manager/goods/PricesPage.h"
 #include "manager/health/SupportForm.h"
+#include "manager/labels/LabelChoice.h"
 #include "manager/overview/InvoicesView.h"
 #include "manager/overview/OverviewPage.h"
 #include "manager/reports/ReportsPage.h"
@@ -131,7 +132,7 @@ void ShowLabels(manager::ManagerWindow& window, const Cashier::Camera& camera) {
         camera(window, u"manager-labels-"_s + picture);
     }
     auto* sheets = window.findChild<QComboBox*>(u"cboSheet"_s);
-    sheets->setCurrentIndex(sheets->findText(u"Own size on A4"_s));
+    sheets->setCurrentIndex(sheets->findText(manager::LabelChoice::tr("Own size on A4")));
     parts->setCurrentIndex(1);
     drivers::Settle();
     camera(window, u"manager-labels-own"_s);
@@ -168,8 +169,9 @@ T& PageOf(manager::ManagerWindow& window, const QString& className) {
 }
 
 // Weeks and months in figures, the invoices behind one of them, and a drawer that is counted.
-void LookAtOlderShop(const QString& shop, const Cashier::Camera& camera) {
+void LookAtOlderShop(const QString& shop, const QString& likeShop, const Cashier::Camera& camera) {
     delivery::MakeProgramFolder(shop, {.withDemo = true});
+    QFile::copy(likeShop + u"/velton.ini"_s, shop + u"/velton.ini"_s);
     delivery::TradeForWeeks(*store::Database::Open(store::MainPlace(shop), store::MainSchema()), values::Today());
     auto& window = LogIn(shop, {});
     QStringList views{u"manager-invoices"_s, u"manager-receipt"_s};
@@ -255,7 +257,7 @@ void LookAtManager(const QString& shop, const Cashier::Camera& camera) {
         if (entry.className == u"SetupPage") ShowSteps(window, camera);
         if (entry.className == u"BackupPage") ShowRestore(shop, camera);
     }
-    LookAtOlderShop(shop + u"-of-weeks"_s, camera);
+    LookAtOlderShop(shop + u"-of-weeks"_s, shop, camera);
 }
 
 }  // namespace screens
