@@ -107,7 +107,7 @@ void ShowRestore(const QString& shop, const Cashier::Camera& camera) {
 
 void ShowSteps(manager::ManagerWindow& window, const Cashier::Camera& camera) {
     auto* steps = window.findChild<QTabWidget*>(u"tabSteps"_s);
-    for (const QString& picture : {u"taxes"_s, u"password"_s, u"users"_s, u"register"_s}) {
+    for (const QString& picture : {u"taxes"_s, u"units"_s, u"password"_s, u"users"_s, u"register"_s}) {
         steps->setCurrentIndex(steps->currentIndex() + 1);
         drivers::Settle();
         camera(window, u"manager-setup-"_s + picture);

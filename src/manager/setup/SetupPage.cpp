@@ -8,17 +8,16 @@
 #include "manager/setup/PasswordStep.h"
 #include "manager/setup/RegisterStep.h"
 #include "manager/setup/TaxesStep.h"
+#include "manager/setup/UnitsStep.h"
 #include "manager/setup/UsersStep.h"
 
 namespace manager {
 
 SetupPage::SetupPage(QWidget* parent) : Page(parent) {
     ui.setupUi(this);
-    const std::pair<SetupStep*, QString> steps[] = {{new HeadingStep, tr("1 Receipt")},
-                                                    {new TaxesStep, tr("2 Taxes")},
-                                                    {new PasswordStep, tr("3 Password")},
-                                                    {new UsersStep, tr("4 Users")},
-                                                    {new RegisterStep, tr("5 Register")}};
+    const std::pair<SetupStep*, QString> steps[] = {
+        {new HeadingStep, tr("1 Receipt")},   {new TaxesStep, tr("2 Taxes")}, {new UnitsStep, tr("3 Units")},
+        {new PasswordStep, tr("4 Password")}, {new UsersStep, tr("5 Users")}, {new RegisterStep, tr("6 Register")}};
     for (const auto& [step, name] : steps) {
         ui.tabSteps->addTab(step, name);
         step->mayLeave = [this] { return LeaveStep(); };
