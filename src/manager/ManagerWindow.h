@@ -25,6 +25,7 @@ protected:
 private:
     void lstPages_Chosen();
     void BringUp(size_t number);
+    bool MayLeavePage() const;
     Page* Made(size_t number);
     void TellOfShop();
     void DropOthers(const Page* page, bool* goes);

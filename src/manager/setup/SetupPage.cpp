@@ -45,8 +45,11 @@ void SetupPage::Form_Activate() {
     if (!IsChanged()) FillStep();
 }
 
-bool SetupPage::Form_Unload() {
-    return LeaveStep();
+// What was not to be saved is gone, so that nobody is asked for it again.
+bool SetupPage::MayLeave() {
+    if (!LeaveStep()) return false;
+    if (IsChanged()) FillStep();
+    return true;
 }
 
 SetupStep& SetupPage::Step() const {
