@@ -64,6 +64,11 @@ void ManagerWindow::ShowPage(const QString& className) {
         if (entries_[number].className == className) ui.lstPages->Select(static_cast<int>(number));
 }
 
+void ManagerWindow::BeginIn(const QString& className) {
+    ShowPage(className);
+    ui.stkPages->currentWidget()->setFocus();
+}
+
 // A page that is in the middle of something may want to stay.
 bool ManagerWindow::Form_Unload() {
     if (!MayLeavePage()) return false;

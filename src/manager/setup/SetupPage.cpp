@@ -30,6 +30,7 @@ SetupPage::SetupPage(QWidget* parent) : Page(parent) {
             if (control->focusPolicy() != Qt::NoFocus && !qobject_cast<QPushButton*>(control)) EnterMovesOn({control});
         connect(step, &SetupStep::ShopChanged, this, &SetupPage::ShopChanged);
     }
+    setFocusProxy(steps[0].first);
     TabLast({ui.cmdSave, ui.cmdNext});
     connect(ui.tabSteps, &QTabWidget::currentChanged, this, Guarded(&SetupPage::tabSteps_Changed));
     On(ui.cmdSave, &SetupPage::cmdSave_Click);
