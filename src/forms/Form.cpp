@@ -20,6 +20,7 @@
 #include "forms/SpokenNames.h"
 #include "forms/TextView.h"
 #include "forms/Theme.h"
+#include "forms/WindowPlace.h"
 
 namespace forms {
 
@@ -34,8 +35,8 @@ QRect RoomAround(const QWidget* window) {
     return QGuiApplication::primaryScreen()->availableGeometry();
 }
 
-// What a window manager puts around a window.
-constexpr QSize Surroundings(8, 34);
+// What a window manager puts around a window at least; before it is first shown its own measure isn't known.
+constexpr QMargins UsualFrame(4, 30, 4, 4);
 // Of a list, beyond this many times the width and height that it was designed for nothing more is to be seen.
 constexpr double LargestList = 1.6;
 
@@ -55,13 +56,9 @@ QSize FirstSize(const QWidget& form, QSize room) {
 }
 
 void CentreOver(QWidget* form, const QWidget* window) {
-    const QRect screen = form->screen()->availableGeometry();
-    form->resize(form->size().expandedTo(form->minimumSizeHint()).boundedTo(screen.size() - Surroundings));
-    QRect place = form->geometry();
-    place.moveCenter(RoomAround(window).center());
-    place.moveLeft(qBound(screen.left(), place.left(), qMax(screen.left(), screen.right() - place.width())));
-    place.moveTop(qBound(screen.top(), place.top(), qMax(screen.top(), screen.bottom() - place.height())));
-    form->move(place.topLeft());
+    const QMargins frame = UsualFrame | form->windowHandle()->frameMargins();
+    form->setGeometry(WindowPlace(form->size().expandedTo(form->minimumSizeHint()), RoomAround(window).center(), frame,
+                                  form->screen()->availableGeometry()));
 }
 
 }  // namespace
@@ -208,7 +205,7 @@ void Form::Present() {
     if (!isVisible()) {
         if (below != this) behaviours_->cameFrom.emplace();
         if (!std::exchange(behaviours_->sized, true))
-            resize(FirstSize(*this, screen()->availableSize() - Surroundings));
+            resize(FirstSize(*this, screen()->availableGeometry().marginsRemoved(UsualFrame).size()));
         winId();
         if (below && below != this) windowHandle()->setTransientParent(below->windowHandle());
         CentreOver(this, below);

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QShortcut>
+#include <algorithm>
 
 #include "core/Installation.h"
 #include "manager/backup/BackupWords.h"
@@ -36,9 +37,16 @@ void ManagerWindow::lstPages_Chosen() {
 
 void ManagerWindow::BringUp(size_t number) {
     Page*& page = pages_[number];
+    if (QWidget* shown = ui.stkPages->currentWidget(); shown != page && !MayLeavePage())
+        return ui.lstPages->Select(static_cast<int>(std::ranges::find(pages_, shown) - pages_.begin()));
     if (page == nullptr) page = Made(number);
     ui.lblPage->setText(page->Name());
     ui.stkPages->setCurrentWidget(page);
+}
+
+bool ManagerWindow::MayLeavePage() const {
+    auto* shown = static_cast<Page*>(ui.stkPages->currentWidget());
+    return shown == nullptr || shown->MayLeave();
 }
 
 // One that can't be shown is not there, and is tried again the next time.
@@ -56,8 +64,14 @@ void ManagerWindow::ShowPage(const QString& className) {
         if (entries_[number].className == className) ui.lstPages->Select(static_cast<int>(number));
 }
 
+void ManagerWindow::BeginIn(const QString& className) {
+    ShowPage(className);
+    ui.stkPages->currentWidget()->setFocus();
+}
+
 // A page that is in the middle of something may want to stay.
 bool ManagerWindow::Form_Unload() {
+    if (!MayLeavePage()) return false;
     for (Page* page : pages_)
         if (page != nullptr && !page->Unload()) return false;
     return true;

@@ -14,6 +14,8 @@ public:
 
     // By the name of its class.
     void ShowPage(const QString& className);
+    // With the focus where its work begins.
+    void BeginIn(const QString& className);
 
     // Named as the widgets are, for those who work the program from outside.
     Ui::ManagerWindow ui;
@@ -25,6 +27,7 @@ protected:
 private:
     void lstPages_Chosen();
     void BringUp(size_t number);
+    bool MayLeavePage() const;
     Page* Made(size_t number);
     void TellOfShop();
     void DropOthers(const Page* page, bool* goes);

@@ -14,6 +14,8 @@ public:
     virtual QString Name() const { return Caption(); }
     // Whether something is still under way beside the window, after which the page will look otherwise.
     virtual bool IsBusy() const { return false; }
+    // Asked before another page takes its place and before the window closes; false when it has to stay in front.
+    virtual bool MayLeave() { return true; }
 
 Q_SIGNALS:
     // What the window tells below its pages may be another now: the last backup, the shop's name.

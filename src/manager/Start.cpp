@@ -91,7 +91,7 @@ bool StartManager(const QString& folder) {
     forms::Run(
         [] {
             OpenShop();
-            if (IsAsDelivered()) return ShowWindow()->ShowPage(u"SetupPage"_s);
+            if (IsAsDelivered()) return ShowWindow()->BeginIn(u"SetupPage"_s);
             forms::Open<ManagerLogin>([] { ShowWindow(); })->Show();
         },
         Title, true);

@@ -1,5 +1,7 @@
 #include "values/Csv.h"
 
+#include <algorithm>
+
 #include "values/Locale.h"
 
 using namespace Qt::StringLiterals;
@@ -8,32 +10,56 @@ namespace values {
 
 namespace {
 
-QString SafeText(const QString& text) {
-    static const auto beginsFormula = u"=+-@\t\r\n"_s;
-    return !text.isEmpty() && beginsFormula.contains(text.front()) ? u'\'' + text : text;
-}
-
-QString Cell(const Value& value, QChar separator) {
-    // Numbers and dates are the program's own texts: a minus of theirs is one.
-    QString text = value.GetKind() == Value::Kind::Text ? SafeText(value.As<QString>()) : value.TextOrEmpty();
-    const bool isPlain = std::ranges::none_of(
-        text, [separator](QChar c) { return c == separator || c == u'"' || c == u'\r' || c == u'\n'; });
-    return isPlain ? text : u'"' + text.replace(u'"', u"\"\""_s) + u'"';
+// Apostrophes, and behind them what begins a formula; -1 without the latter.
+qsizetype ApostrophesOfFormula(const QString& text) {
+    const auto end = std::ranges::find_if(text, [](QChar c) { return c != u'\''; });
+    const bool isFormula = end != text.end() && QStringView(u"=+-@\t\r\n").contains(*end);
+    return isFormula ? end - text.begin() : -1;
 }
 
 }  // namespace
 
+QString GuardedText(const QString& text) {
+    return ApostrophesOfFormula(text) >= 0 ? u'\'' + text : text;
+}
+
+QString UnguardedText(const QString& text) {
+    return ApostrophesOfFormula(text) > 0 ? text.sliced(1) : text;
+}
+
+CsvWriter::CsvWriter(CsvQuotes quotes)
+    : quotes_(quotes), separator_(DecimalSeparatorChar() == u',' ? u';' : u','), text_("\xEF\xBB\xBF") {}
+
+void CsvWriter::AddText(const QString& text) {
+    Add(GuardedText(text), quotes_ == CsvQuotes::AllTexts);
+}
+
+void CsvWriter::AddPlain(const QString& text) {
+    Add(text, false);
+}
+
+void CsvWriter::Add(const QString& cell, bool inQuotes) {
+    if (std::exchange(isRowBegun_, true)) text_ += QString(separator_).toUtf8();
+    const auto misleads = [this](QChar c) { return c == separator_ || c == u'"' || c == u'\r' || c == u'\n'; };
+    if (inQuotes || std::ranges::any_of(cell, misleads))
+        text_ += (u'"' + QString(cell).replace(u'"', u"\"\""_s) + u'"').toUtf8();
+    else
+        text_ += cell.toUtf8();
+}
+
+void CsvWriter::EndRow() {
+    text_ += "\r\n";
+    isRowBegun_ = false;
+}
+
 QByteArray CsvText(const QList<QList<Value>>& rows) {
-    const QChar separator = DecimalSeparatorChar() == u',' ? u';' : u',';
-    QByteArray csv("\xEF\xBB\xBF");
+    CsvWriter csv;
     for (const QList<Value>& row : rows) {
-        for (qsizetype cell = 0; cell < row.size(); ++cell) {
-            if (cell > 0) csv += QString(separator).toUtf8();
-            csv += Cell(row[cell], separator).toUtf8();
-        }
-        csv += "\r\n";
+        for (const Value& cell : row)
+            cell.GetKind() == Value::Kind::Text ? csv.AddText(cell.As<QString>()) : csv.AddPlain(cell.TextOrEmpty());
+        csv.EndRow();
     }
-    return csv;
+    return csv.Text();
 }
 
 }  // namespace values

@@ -7,6 +7,7 @@
 #include "forms/Controls.h"
 #include "forms/Frame.h"
 #include "forms/MsgBox.h"
+#include "forms/WindowPlace.h"
 #include "support/ErrorOf.h"
 #include "support/Files.h"
 #include "support/ScreenTest.h"
@@ -53,6 +54,22 @@ TEST_F(FormTest, UnloadsUnlessItRefusesAndCanBeLoadedAgain) {
     form.Show();
     Settle();
     EXPECT_THAT(form.log, ElementsAre(u"load"_s, u"activate"_s));
+}
+
+TEST_F(FormTest, AWindowIsCentredAndItsFrameStaysOnTheScreen) {
+    const QMargins frame(4, 30, 4, 4);
+    const QRect screen(0, 24, 1024, 576);
+    const auto framed = [&](QSize size, QPoint centre) {
+        const QRect place = forms::WindowPlace(size, centre, frame, screen);
+        EXPECT_EQ(place.size(), size.boundedTo({1016, 542}));
+        EXPECT_TRUE(screen.contains(place.marginsAdded(frame)));
+        return place;
+    };
+    EXPECT_EQ(framed({400, 200}, {512, 312}), QRect(313, 213, 400, 200));
+    EXPECT_EQ(framed({1016, 542}, {512, 312}), QRect(4, 54, 1016, 542));
+    EXPECT_EQ(framed({1400, 900}, {512, 312}), QRect(4, 54, 1016, 542));
+    EXPECT_EQ(framed({400, 200}, {0, 0}), QRect(4, 54, 400, 200));
+    EXPECT_EQ(framed({400, 200}, {1024, 600}), QRect(620, 396, 400, 200));
 }
 
 TEST_F(FormTest, AControlThatIsNotThereIsAnError) {

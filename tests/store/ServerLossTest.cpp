@@ -1,3 +1,4 @@
+#include <QSet>
 #include <atomic>
 #include <set>
 #include <thread>
@@ -5,6 +6,7 @@
 #include "store/StoreTestBase.h"
 #include "support/Proxy.h"
 #include "support/Server.h"
+#include "values/Clock.h"
 
 namespace store::test {
 
@@ -112,6 +114,20 @@ TEST_F(ServerLossTest, AShopThatWasMovedAwayIsToldToBeGone) {
     mover->Retire();
     EXPECT_THROW(AddTax(*store, u"B"_s), FilesLost);
     EXPECT_EQ(ErrorOf([&] { Open(address_); }), FileNotFound);
+}
+
+TEST_F(ServerLossTest, ShopsThatGoInOneSecondAreKeptBesideEachOther) {
+    values::SetClock([] { return QDateTime(QDate(2026, 11, 24), QTime(10, 42, 7)); });
+    QSet<QString> kept;
+    for (int round = 0; round < 3; ++round) {
+        if (round > 0) store = Database::Create(Place::Server(address_), MainSchema());
+        AddTax(*store, u"A"_s);
+        store->TakeAlone();
+        kept << store->PrepareToRetire();
+        store->Retire();
+    }
+    values::SetClock({});
+    EXPECT_EQ(kept.size(), 3);
 }
 
 TEST_F(ServerLossTest, PostingsThatWereAcknowledgedSurviveKills) {

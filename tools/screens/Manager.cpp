@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMessageBox>
 #include <QRegularExpression>
 #include <QSpinBox>
@@ -13,6 +14,7 @@
 #include "core/dbModule.h"
 #include "delivery/Delivery.h"
 #include "delivery/Trade.h"
+#include "forms/ElidedLabel.h"
 #include "manager/ManagerLogin.h"
 #include "manager/ManagerWindow.h"
 #include "manager/Start.h"
@@ -86,6 +88,16 @@ QString OnAnyMachine(QString report) {
     return report;
 }
 
+// So does the folder that each run makes for itself.
+void NameFoldersAsUsual(const QWidget& window, const QString& made) {
+    const auto usual = [&made](QString text) { return text.replace(made, u"/home/shop"_s); };
+    for (auto* label : window.findChildren<QLabel*>())
+        if (auto* line = qobject_cast<forms::ElidedLabel*>(label); line && line->toolTip().contains(made))
+            line->ShowWhole(usual(line->toolTip()));
+        else if (label->text().contains(made))
+            label->setText(usual(label->text()));
+}
+
 void ShowSupport(const QString& shop, const Cashier::Camera& camera) {
     manager::SupportForm form(OnAnyMachine(upkeep::SupportReport(shop)));
     form.Show();
@@ -108,7 +120,7 @@ void ShowRestore(const QString& shop, const Cashier::Camera& camera) {
 
 void ShowSteps(manager::ManagerWindow& window, const Cashier::Camera& camera) {
     auto* steps = window.findChild<QTabWidget*>(u"tabSteps"_s);
-    for (const QString& picture : {u"taxes"_s, u"password"_s, u"users"_s, u"register"_s}) {
+    for (const QString& picture : {u"taxes"_s, u"units"_s, u"password"_s, u"users"_s, u"register"_s}) {
         steps->setCurrentIndex(steps->currentIndex() + 1);
         drivers::Settle();
         camera(window, u"manager-setup-"_s + picture);
@@ -140,9 +152,9 @@ void ShowLabels(manager::ManagerWindow& window, const Cashier::Camera& camera) {
 
 // What a shop has that was set up well.
 void BackUp(const QString& shop) {
-    const QString stick = QFileInfo(shop).path() + u"/stick"_s;
-    QDir().mkdir(stick);
-    upkeep::ChooseBackupFolder(stick, shop);
+    const QString backups = QFileInfo(shop).path() + u"/backups"_s;
+    QDir().mkdir(backups);
+    upkeep::ChooseBackupFolder(backups, shop);
     upkeep::MakeBackup(shop, upkeep::ReadBackupPlan(shop));
 }
 
@@ -235,7 +247,11 @@ void LookAtOlderShop(const QString& shop, const QString& likeShop, const Cashier
 
 }  // namespace
 
-void LookAtManager(const QString& shop, const Cashier::Camera& camera) {
+void LookAtManager(const QString& shop, const Cashier::Camera& takePicture) {
+    const Cashier::Camera camera = [&](QWidget& window, const QString& name) {
+        NameFoldersAsUsual(window, QFileInfo(shop).path());
+        takePicture(window, name);
+    };
     const DayClock clock(QDateTime(QDate(2026, 11, 24), QTime(18, 5)));
     BackUp(shop);
     auto& window = LogIn(shop, camera);

@@ -73,7 +73,7 @@ int Run(int argc, char* argv[]) {
     QApplication application(argc, argv);
     PrepareApplication();
     QApplication::setCursorFlashTime(0);  // the caret always shows
-    return TakePictures(QString::fromLocal8Bit(arguments.folder), temporary.filePath(u"shop"_s),
+    return TakePictures(QString::fromLocal8Bit(arguments.folder), temporary.filePath(u"VELTON"_s),
                         QString::fromStdString(arguments.language));
 }
 

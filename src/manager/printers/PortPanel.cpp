@@ -1,5 +1,7 @@
 #include "manager/printers/PortPanel.h"
 
+#include <QStyledItemDelegate>
+
 #include "forms/Program.h"
 #include "manager/printers/TestPage.h"
 #include "output/Channel.h"
@@ -28,12 +30,33 @@ QString Words(output::PrinterState state) {
     return {};
 }
 
+// Of an address as ports.ini has it.
+QString Words(const QString& where) {
+    const auto rest = [&where](int scheme) { return where.mid(scheme).trimmed(); };
+    if (where.startsWith(u"file:", Qt::CaseInsensitive))
+        return rest(5).startsWith(u'/') ? PortPanel::tr("File %1").arg(rest(5))
+                                        : PortPanel::tr("File %1 in the folder of the register").arg(rest(5));
+    if (where.startsWith(u"tcp:", Qt::CaseInsensitive))
+        return PortPanel::tr("Printer on the network at %1").arg(rest(4));
+    return where.isEmpty() ? PortPanel::tr("The usual device") : PortPanel::tr("Device %1").arg(where);
+}
+
+// The choices are told in words, while the box has the address that can be edited.
+class ChoicesInWords : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QString displayText(const QVariant& where, const QLocale&) const override { return Words(where.toString()); }
+};
+
 }  // namespace
 
 PortPanel::PortPanel(int number, std::function<output::PrinterFamily()> family)
     : number_(number), family_(std::move(family)) {
     ui.setupUi(this);
     ui.lblPort->setText(tr("Port &%1:").arg(number));
+    ui.cboPort->setItemDelegate(new ChoicesInWords(ui.cboPort));
+    connect(ui.cboPort, &QComboBox::editTextChanged, this,
+            [this](const QString& where) { ui.lblWhere->setText(Words(where.trimmed())); });
     for (auto* control : findChildren<QWidget*>())
         if (!control->objectName().startsWith(u"qt_"))
             control->setObjectName(control->objectName() + QString::number(number));
@@ -59,6 +82,7 @@ void PortPanel::Fill(const QStringList& found) {
     ui.cboPort->addItems(found);
     ui.cboPort->addItem(u"file:lpt%1.prn"_s.arg(number_));
     ui.cboPort->setCurrentText(entry.where);
+    ui.lblWhere->setText(Words(entry.where));
     ui.chkAsked->setChecked(entry.isAsked);
 }
 

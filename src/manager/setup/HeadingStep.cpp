@@ -24,6 +24,7 @@ const QStringList Currencies{u"KM"_s, u"EUR"_s, u"GBP"_s, u"CHF"_s, u"RSD"_s, u"
 
 HeadingStep::HeadingStep() {
     ui.setupUi(this);
+    setFocusProxy(ui.txtName);
     ui.cboCurrency->addItems(Currencies);
     for (const ReceiptLayout* layout : ReceiptLayouts())
         ui.cboLayout->addItem(tr("%1, %2 columns").arg(layout->tipRacuna, QString::number(layout->width)),

@@ -19,30 +19,38 @@ public:
     bool Store() override;
 
 protected:
+    // A box and the field that it shows.
+    struct Box {
+        QString field;
+        QWidget* box;     // a QLineEdit, or a QComboBox that can't be typed in
+        QString missing;  // what an empty one is told as; none where it may be empty
+        QString format;   // of a number
+    };
     struct Facts {
-        forms::ListView* list;
-        QLineEdit* first;  // the box of the key
+        forms::ListView* list;  // its columns are the fields of the first boxes
+        QList<Box> boxes;       // that of the key first, a QLineEdit
         QPushButton* add;
         QPushButton* remove;
-        QString query;      // of all rows; the first of its columns that are listed is the key
-        QString rowQuery;   // of the row with the key %1, which comes quoted
-        QString duplicate;  // what a key that is taken is told as
-        QString isProtected;
-        QString question;  // whether to remove %1
+        QString query;           // of all rows
+        QString rowQuery;        // of the row with the key %1, which comes quoted
+        QString duplicate;       // what a key that is taken is told as
+        QString isProtected;     // why rows stay that are marked as delivered; none where the table has no such mark
+        QString question;        // whether to remove %1
+        bool isKeyFree = false;  // the key may be another as long as nothing keeps the row
     };
     void Begin(const Facts& facts);
 
-    virtual QStringList CellsOf(store::Recordset& row) const = 0;
-    // Of the boxes: emptied, filled from a row, and written to one.
-    virtual void Clear() = 0;
-    virtual void Show(store::Recordset& row) = 0;
-    virtual void Write(store::Recordset& row) const = 0;
-    // Why the boxes cannot be stored, and the box that is to blame; empty when they can.
+    // Brings the boxes into a row.
+    virtual void Write(store::Recordset& row) const;
+    // Why the boxes, which are filled, cannot be stored, and the box that is to blame; empty when they can.
     virtual std::pair<QString, QWidget*> Fault() const = 0;
     // Why a row has to stay; empty when it need not.
     virtual QString WhyItStays(store::Recordset& row) const = 0;
 
 private:
+    QLineEdit* KeyBox() const;
+    QStringList CellsOf(store::Recordset& row) const;
+    std::pair<QString, QWidget*> Missing() const;
     store::Recordset OpenRow(const QString& key) const;
     // Lists all rows, and shows the one with this key, or else the first.
     void FillList(const QString& key);
@@ -51,6 +59,8 @@ private:
     void Choose();
     void New();
     void Remove();
+    // Says so.
+    bool Refuse(const std::pair<QString, QWidget*>& fault);
 
     Facts facts_;
     QString key_;         // of the row in the boxes

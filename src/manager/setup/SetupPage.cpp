@@ -8,17 +8,16 @@
 #include "manager/setup/PasswordStep.h"
 #include "manager/setup/RegisterStep.h"
 #include "manager/setup/TaxesStep.h"
+#include "manager/setup/UnitsStep.h"
 #include "manager/setup/UsersStep.h"
 
 namespace manager {
 
 SetupPage::SetupPage(QWidget* parent) : Page(parent) {
     ui.setupUi(this);
-    const std::pair<SetupStep*, QString> steps[] = {{new HeadingStep, tr("1 Receipt")},
-                                                    {new TaxesStep, tr("2 Taxes")},
-                                                    {new PasswordStep, tr("3 Password")},
-                                                    {new UsersStep, tr("4 Users")},
-                                                    {new RegisterStep, tr("5 Register")}};
+    const std::pair<SetupStep*, QString> steps[] = {
+        {new HeadingStep, tr("1 Receipt")},   {new TaxesStep, tr("2 Taxes")}, {new UnitsStep, tr("3 Units")},
+        {new PasswordStep, tr("4 Password")}, {new UsersStep, tr("5 Users")}, {new RegisterStep, tr("6 Register")}};
     for (const auto& [step, name] : steps) {
         ui.tabSteps->addTab(step, name);
         step->mayLeave = [this] { return LeaveStep(); };
@@ -31,6 +30,7 @@ SetupPage::SetupPage(QWidget* parent) : Page(parent) {
             if (control->focusPolicy() != Qt::NoFocus && !qobject_cast<QPushButton*>(control)) EnterMovesOn({control});
         connect(step, &SetupStep::ShopChanged, this, &SetupPage::ShopChanged);
     }
+    setFocusProxy(steps[0].first);
     TabLast({ui.cmdSave, ui.cmdNext});
     connect(ui.tabSteps, &QTabWidget::currentChanged, this, Guarded(&SetupPage::tabSteps_Changed));
     On(ui.cmdSave, &SetupPage::cmdSave_Click);
@@ -46,8 +46,11 @@ void SetupPage::Form_Activate() {
     if (!IsChanged()) FillStep();
 }
 
-bool SetupPage::Form_Unload() {
-    return LeaveStep();
+// What was not to be saved is gone, so that nobody is asked for it again.
+bool SetupPage::MayLeave() {
+    if (!LeaveStep()) return false;
+    if (IsChanged()) FillStep();
+    return true;
 }
 
 SetupStep& SetupPage::Step() const {

@@ -13,12 +13,13 @@ class SetupPage : public Page {
 public:
     explicit SetupPage(QWidget* parent);
 
+    bool MayLeave() override;
+
     Ui::SetupPage ui;
 
 protected:
     void Form_Load() override;
     void Form_Activate() override;
-    bool Form_Unload() override;
 
 private:
     SetupStep& Step() const;

@@ -1,7 +1,6 @@
 #include "manager/setup/TaxesStep.h"
 
 #include "core/dbModule.h"
-#include "values/Format.h"
 #include "values/Numbers.h"
 
 using namespace Qt::StringLiterals;
@@ -22,7 +21,9 @@ TaxesStep::TaxesStep() {
                              {tr("Name"), Qt::AlignLeft, -1},
                              {tr("Rate in percent"), Qt::AlignRight, 160}});
     Begin({.list = ui.lstTaxes,
-           .first = ui.txtTaxID,
+           .boxes = {{u"TaxID"_s, ui.txtTaxID, tr("The tax needs a code, such as P."), {}},
+                     {u"Name"_s, ui.txtTaxName, tr("The tax needs a name."), {}},
+                     {u"Percent"_s, ui.txtPercent, {}, u"0.00"_s}},
            .add = ui.cmdNewTax,
            .remove = ui.cmdRemoveTax,
            .query = TaxesQuery,
@@ -32,38 +33,19 @@ TaxesStep::TaxesStep() {
            .question = tr("Remove the tax \"%1\"?")});
 }
 
-QStringList TaxesStep::CellsOf(store::Recordset& tax) const {
-    return {tax[u"TaxID"].TextOrEmpty(), tax[u"Name"].TextOrEmpty(), values::Format(tax[u"Percent"].Get(), u"0.00")};
-}
-
-void TaxesStep::Clear() {
-    for (QLineEdit* box : {ui.txtTaxID, ui.txtTaxName, ui.txtPercent}) box->clear();
-    ui.txtTaxID->setReadOnly(false);
-}
-
-// Products name a tax by its code.
-void TaxesStep::Show(store::Recordset& tax) {
-    ui.txtTaxID->setText(tax[u"TaxID"].TextOrEmpty());
-    ui.txtTaxID->setReadOnly(true);
-    ui.txtTaxName->setText(tax[u"Name"].TextOrEmpty());
-    ui.txtPercent->setText(values::Format(tax[u"Percent"].Get(), u"0.00"));
-}
-
 void TaxesStep::Write(store::Recordset& tax) const {
-    tax[u"TaxID"] = ui.txtTaxID->text().trimmed();
+    RowsStep::Write(tax);
     tax[u"Name"] = ProperCase(ui.txtTaxName->text().trimmed());
-    tax[u"Percent"] = ui.txtPercent->text();
 }
 
 std::pair<QString, QWidget*> TaxesStep::Fault() const {
-    if (ui.txtTaxID->text().trimmed().isEmpty()) return {tr("The tax needs a code, such as P."), ui.txtTaxID};
-    if (ui.txtTaxName->text().trimmed().isEmpty()) return {tr("The tax needs a name."), ui.txtTaxName};
     const QString percent = ui.txtPercent->text();
     if (!values::IsNumeric(percent) || values::CDouble(percent) < 0 || values::CDouble(percent) >= 100)
         return {tr("The rate is a number of percent, from 0 to less than 100."), ui.txtPercent};
     return {};
 }
 
+// Products name a tax by its code.
 QString TaxesStep::WhyItStays(store::Recordset& tax) const {
     const QString code = tax[u"TaxID"].TextOrEmpty();
     const auto goods = MainStore().OpenSnapshot(GoodsQuery.arg(Quoted(code)));

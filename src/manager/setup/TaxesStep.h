@@ -13,9 +13,6 @@ public:
     TaxesStep();
 
 protected:
-    QStringList CellsOf(store::Recordset& tax) const override;
-    void Clear() override;
-    void Show(store::Recordset& tax) override;
     void Write(store::Recordset& tax) const override;
     std::pair<QString, QWidget*> Fault() const override;
     QString WhyItStays(store::Recordset& tax) const override;

@@ -28,7 +28,10 @@ UsersStep::UsersStep() {
     ui.lstUsers->SetColumns(
         {{tr("Number"), Qt::AlignLeft, 110}, {tr("Name"), Qt::AlignLeft, -1}, {tr("Level"), Qt::AlignLeft, 100}});
     Begin({.list = ui.lstUsers,
-           .first = ui.txtUserID,
+           .boxes = {{u"UserID"_s, ui.txtUserID, tr("The user needs a number."), {}},
+                     {u"UserName"_s, ui.txtUserName, tr("The user needs a name to log in with."), {}},
+                     {u"AccLevel"_s, ui.cboLevel, tr("Choose a level from 1 to 3."), {}},
+                     {u"Password"_s, ui.txtUserPassword, {}, {}}},
            .add = ui.cmdNewUser,
            .remove = ui.cmdRemoveUser,
            .query = UsersQuery,
@@ -38,41 +41,15 @@ UsersStep::UsersStep() {
            .question = tr("Remove the user \"%1\"?")});
 }
 
-QStringList UsersStep::CellsOf(store::Recordset& user) const {
-    return {user[u"UserID"].TextOrEmpty(), user[u"UserName"].TextOrEmpty(), user[u"AccLevel"].TextOrEmpty()};
-}
-
-void UsersStep::Clear() {
-    for (QLineEdit* box : {ui.txtUserID, ui.txtUserName, ui.txtUserPassword}) box->clear();
-    ui.txtUserID->setReadOnly(false);
-    ui.cboLevel->setCurrentIndex(0);
-}
-
-// Invoices and logins name a user by the number.
-void UsersStep::Show(store::Recordset& user) {
-    ui.txtUserID->setText(user[u"UserID"].TextOrEmpty());
-    ui.txtUserID->setReadOnly(true);
-    ui.txtUserName->setText(user[u"UserName"].TextOrEmpty());
-    ui.cboLevel->setCurrentIndex(ui.cboLevel->findText(user[u"AccLevel"].TextOrEmpty()));
-    ui.txtUserPassword->setText(user[u"Password"].TextOrEmpty());
-}
-
 // The full name is the user name, as the till has it.
 void UsersStep::Write(store::Recordset& user) const {
-    user[u"UserID"] = ui.txtUserID->text().trimmed();
-    user[u"UserName"] = user[u"UserFullName"] = ui.txtUserName->text().trimmed();
+    RowsStep::Write(user);
+    user[u"UserFullName"] = ui.txtUserName->text().trimmed();
     user[u"UserPosition"] = u""_s;
-    user[u"AccLevel"] = ui.cboLevel->currentText();
-    user[u"Password"] = ui.txtUserPassword->text();
 }
 
 std::pair<QString, QWidget*> UsersStep::Fault() const {
-    const QString number = ui.txtUserID->text().trimmed();
-    if (number.isEmpty()) return {tr("The user needs a number."), ui.txtUserID};
-    if (ui.txtUserName->text().trimmed().isEmpty())
-        return {tr("The user needs a name to log in with."), ui.txtUserName};
-    if (ui.cboLevel->currentIndex() < 0) return {tr("Choose a level from 1 to 3."), ui.cboLevel};
-    if (ui.cboLevel->currentText() != Owner && IsLastOwner(number))
+    if (ui.cboLevel->currentText() != Owner && IsLastOwner(ui.txtUserID->text().trimmed()))
         return {tr("Somebody has to keep level 3, or nobody can set up the shop any more."), ui.cboLevel};
     return {};
 }

@@ -13,9 +13,6 @@ public:
     UsersStep();
 
 protected:
-    QStringList CellsOf(store::Recordset& user) const override;
-    void Clear() override;
-    void Show(store::Recordset& user) override;
     void Write(store::Recordset& user) const override;
     std::pair<QString, QWidget*> Fault() const override;
     QString WhyItStays(store::Recordset& user) const override;

@@ -23,6 +23,21 @@ std::string AddSql(const Table& table) {
     return "INSERT INTO " + Quoted(table.name) + " (" + names + ") SELECT * FROM unnest(" + arrays + ")";
 }
 
+// For the schema that goes, beside those that went in the same second.
+QString FreeName(Connection& connection) {
+    constexpr qsizetype longestName = 63;  // bytes
+    for (QDateTime time = values::Now();; time = time.addSecs(1)) {
+        QString name = connection.At().SchemaName();
+        const QString ending = time.toString(u"'_moved_'yyyyMMdd_HHmmss"_s);
+        while (name.toUtf8().size() + ending.size() > longestName) name.chop(1);
+        name += ending;
+        Arguments wanted;
+        wanted.Add(name.toUtf8());
+        if (!connection.Read("SELECT EXISTS (SELECT 1 FROM pg_namespace WHERE nspname = $1)", wanted).IsTrue(0, 0))
+            return name;
+    }
+}
+
 }  // namespace
 
 void PostgresEngine::ReadStore(const Schema& schema, const std::function<void(const Table&, const StoredRows&)>& take) {
@@ -93,11 +108,7 @@ void PostgresEngine::TakeAlone() {
 }
 
 QString PostgresEngine::PrepareToRetire() {
-    constexpr qsizetype longestName = 63;  // bytes
-    QString name = connection_->At().SchemaName();
-    const QString ending = values::Now().toString(u"'_moved_'yyyyMMdd_HHmmss"_s);
-    while (name.toUtf8().size() + ending.size() > longestName) name.chop(1);
-    name += ending;
+    const QString name = FreeName(*connection_);
     connection_->Write(Connection::Right::ToWriteMany, nullptr,
                        "ALTER SCHEMA " + Quoted(connection_->At().SchemaName()) + " RENAME TO " + Quoted(name), {});
     return Words::tr("schema %1").arg(name);

@@ -1,22 +1,15 @@
 #include "upkeep/goods/CellText.h"
 
 #include <QRegularExpression>
-#include <algorithm>
 
 #include "upkeep/Words.h"
+#include "values/Csv.h"
 
 using namespace Qt::StringLiterals;
 
 namespace upkeep {
 
 namespace {
-
-// Apostrophes, and behind them what begins a formula.
-qsizetype ApostrophesOfFormula(const QString& text) {
-    const auto end = std::find_if(text.begin(), text.end(), [](QChar c) { return c != u'\''; });
-    const bool isFormula = end != text.end() && QStringView(u"=+-@\t\r").contains(*end);
-    return isFormula ? end - text.begin() : -1;
-}
 
 const QRegularExpression& KeptText() {
     static const QRegularExpression pattern(u"^=\"([^\"]*)\"$"_s);
@@ -25,14 +18,9 @@ const QRegularExpression& KeptText() {
 
 }  // namespace
 
-QString GuardedCell(const QString& text) {
-    return ApostrophesOfFormula(text) >= 0 ? u'\'' + text : text;
-}
-
 QString TextOfCell(const QString& cell) {
-    if (ApostrophesOfFormula(cell) > 0) return cell.sliced(1);
     const auto kept = KeptText().match(cell);
-    return kept.hasMatch() ? kept.captured(1) : cell;
+    return kept.hasMatch() ? kept.captured(1) : values::UnguardedText(cell);
 }
 
 QString FaultOfCell(const QString& cell) {

@@ -1,6 +1,5 @@
 #include "upkeep/goods/SheetFile.h"
 
-#include <csv.h>
 #include <xlsxwriter.h>
 
 #include <QFile>
@@ -9,7 +8,7 @@
 
 #include "upkeep/ValueText.h"
 #include "upkeep/Words.h"
-#include "upkeep/goods/CellText.h"
+#include "values/Csv.h"
 #include "values/FileError.h"
 #include "values/Locale.h"
 
@@ -25,15 +24,7 @@ bool IsNumber(const Value& value) {
            value.GetKind() == Value::Kind::Double;
 }
 
-QByteArray InQuotes(const QByteArray& text) {
-    QByteArray quoted(text.size() * 2 + 2, Qt::Uninitialized);
-    const size_t length = csv_write(quoted.data(), static_cast<size_t>(quoted.size()), text.constData(),
-                                    static_cast<size_t>(text.size()));
-    quoted.truncate(static_cast<qsizetype>(length));
-    return quoted;
-}
-
-QByteArray NumberCell(const Value& value, bool isPrice, char decimal) {
+QByteArray NumberCell(const Value& value, bool isPrice) {
     QByteArray number = WriteValue(value);
     if (isPrice) {
         const qsizetype point = number.indexOf('.');
@@ -41,31 +32,23 @@ QByteArray NumberCell(const Value& value, bool isPrice, char decimal) {
         if (decimals == 0) number += ".00";
         if (decimals == 1) number += '0';
     }
-    return number.replace('.', decimal);
+    return values::DecimalSeparatorChar() == u',' ? number.replace('.', ',') : number;
 }
 
 QByteArray CsvOf(const Sheet& sheet) {
-    const char decimal = values::DecimalSeparatorChar() == u',' ? ',' : '.';
-    const char separator = decimal == ',' ? ';' : ',';
-    QByteArray text = "\xEF\xBB\xBF";
-    for (size_t i = 0; i < sheet.columns.size(); ++i) {
-        if (i > 0) text += separator;
-        text += InQuotes(GuardedCell(sheet.columns[i].heading).toUtf8());
-    }
-    text += "\r\n";
+    values::CsvWriter csv(values::CsvQuotes::AllTexts);
+    for (const Sheet::Column& column : sheet.columns) csv.AddText(column.heading);
+    csv.EndRow();
     for (const auto& row : sheet.rows) {
-        for (size_t i = 0; i < row.size(); ++i) {
-            if (i > 0) text += separator;
-            if (IsNumber(row[i]))
-                text += NumberCell(row[i], sheet.columns[i].isPrice, decimal);
-            else if (row[i].GetKind() == Value::Kind::Text)
-                text += InQuotes(GuardedCell(row[i].ToText()).toUtf8());
+        for (size_t i = 0; i < row.size(); ++i)
+            if (row[i].GetKind() == Value::Kind::Text)
+                csv.AddText(row[i].ToText());
             else
-                text += WriteValue(row[i]);
-        }
-        text += "\r\n";
+                csv.AddPlain(QString::fromLatin1(IsNumber(row[i]) ? NumberCell(row[i], sheet.columns[i].isPrice)
+                                                                  : WriteValue(row[i])));
+        csv.EndRow();
     }
-    return text;
+    return csv.Text();
 }
 
 void WriteCsv(const QString& path, const Sheet& sheet) {
