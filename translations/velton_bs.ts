@@ -2111,6 +2111,33 @@ Yes: look at it again. No: print all the same.</source>
     </message>
 </context>
 <context>
+    <name>UnitsStep</name>
+    <message>
+        <source>The till counts one piece of pcs at each scan, and asks for the quantity of every other unit. A short name can be changed until a product has it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;hort name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Na&amp;me:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ne&amp;w</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>UserEntry</name>
     <message>
         <source>UserID:</source>
@@ -5708,6 +5735,26 @@ The try of %2 failed: %3</source>
         <source>The printer was told to cut.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>File %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File %1 in the folder of the register</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printer on the network at %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The usual device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Device %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>manager::PriceList</name>
@@ -6000,23 +6047,27 @@ The try of %2 failed: %3</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>3 Password</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>4 Users</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>5 Register</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Save what was changed?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3 Units</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>4 Password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>5 Users</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>6 Register</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -6075,6 +6126,53 @@ The try of %2 failed: %3</source>
     </message>
     <message numerus="yes">
         <source>%n product(s) belong to this tax.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>manager::UnitsStep</name>
+    <message>
+        <source>Short name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The unit needs a short name, such as kg.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The unit needs a name, such as kilogram.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a unit with this short name already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the unit &quot;%1&quot;?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A short name has no apostrophe.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A short name has at most %1 letters; paper has no more room.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The till sells by the piece what has this unit, so it stays.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n product(s) have this unit.</source>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
@@ -7856,10 +7954,6 @@ ports.ini has no other printer for %2.</source>
             <numerusform></numerusform>
         </translation>
     </message>
-    <message>
-        <source>Choose one of today&apos;s taxes for them under Settings, Products, or add the tax on the page Set-up.</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message numerus="yes">
         <source>Products with another rate than that of their tax: %n.</source>
         <translation type="unfinished">
@@ -7880,10 +7974,6 @@ ports.ini has no other printer for %2.</source>
             <numerusform></numerusform>
         </translation>
     </message>
-    <message>
-        <source>Choose their tax under Settings, Products, and save.</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message numerus="yes">
         <source>Products without a price, which can&apos;t be sold: %n.</source>
         <translation type="unfinished">
@@ -7891,10 +7981,6 @@ ports.ini has no other printer for %2.</source>
             <numerusform></numerusform>
             <numerusform></numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Give them a price under Settings, Products, or take them in anew on the page Goods.</source>
-        <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
         <source>Products with an apostrophe in the code, which the till can&apos;t look up: %n.</source>
@@ -7940,10 +8026,6 @@ ports.ini has no other printer for %2.</source>
             <numerusform></numerusform>
         </translation>
     </message>
-    <message>
-        <source>Receipts cut it. Shorten it to 40 characters under Settings, Products.</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message numerus="yes">
         <source>Products with a unit that the till does not know: %n.</source>
         <translation type="unfinished">
@@ -7951,10 +8033,6 @@ ports.ini has no other printer for %2.</source>
             <numerusform></numerusform>
             <numerusform></numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Choose one of the units under Settings, Products.</source>
-        <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
         <source>Products with a stock below zero: %n.</source>
@@ -7964,10 +8042,6 @@ ports.ini has no other printer for %2.</source>
             <numerusform></numerusform>
         </translation>
     </message>
-    <message>
-        <source>More was sold than was entered. Enter the delivery, or count them and correct the stock under Settings, Products.</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message numerus="yes">
         <source>Products on a touch button that is not there: %n.</source>
         <translation type="unfinished">
@@ -7975,10 +8049,6 @@ ports.ini has no other printer for %2.</source>
             <numerusform></numerusform>
             <numerusform></numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Give them another button under Settings, Click table.</source>
-        <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
         <source>Touch buttons with more than one product: %n.</source>
@@ -7988,10 +8058,6 @@ ports.ini has no other printer for %2.</source>
             <numerusform></numerusform>
         </translation>
     </message>
-    <message>
-        <source>The button sells one of them alone. Give the others another button under Settings, Click table.</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message numerus="yes">
         <source>Products that compositions name and that are gone: %n.</source>
         <translation type="unfinished">
@@ -7999,10 +8065,6 @@ ports.ini has no other printer for %2.</source>
             <numerusform></numerusform>
             <numerusform></numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Selling such a composition takes nothing from the stock of what is gone. Open the composition under Settings, Products and mend it.</source>
-        <translation type="unfinished"></translation>
     </message>
     <message numerus="yes">
         <source>Small tables with more or fewer rows than in a new shop: %n.</source>
@@ -8586,6 +8648,42 @@ ports.ini has no other printer for %2.</source>
     </message>
     <message>
         <source>This is a store, not a table.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose one of today&apos;s taxes for them at the till under Products, View - Edit - Delete Products, or add the tax on the page Set-up.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose their tax at the till under Products, View - Edit - Delete Products, and save.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give them a price at the till under Products, View - Edit - Delete Products, or take them in anew on the page Goods.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Receipts cut it. Shorten it to 40 characters at the till under Products, View - Edit - Delete Products.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose one of the units for them at the till under Products, View - Edit - Delete Products, or add the unit on the page Set-up.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More was sold than was entered. Enter the delivery, or count them and correct the stock at the till under Products, View - Edit - Delete Products.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give them another button at the till under Settings, Click Table.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The button sells one of them alone. Give the others another button at the till under Settings, Click Table.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selling such a composition takes nothing from the stock of what is gone. Open the composition at the till under Products, View - Edit - Delete Products, and mend it.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -2112,6 +2112,33 @@ Ja: noch einmal prüfen. Nein: trotzdem drucken.</translation>
         </message>
     </context>
     <context>
+        <name>UnitsStep</name>
+        <message>
+            <source>The till counts one piece of pcs at each scan, and asks for the quantity of every other unit. A short name can be changed until a product has it.</source>
+            <translation>Von pcs zählt die Kasse bei jedem Scannen ein Stück, bei jeder anderen Einheit fragt sie nach der Menge. Ein Kurzname kann geändert werden, solange kein Artikel ihn hat.</translation>
+        </message>
+        <message>
+            <source>Units</source>
+            <translation>Einheiten</translation>
+        </message>
+        <message>
+            <source>S&amp;hort name:</source>
+            <translation>&amp;Kurzname:</translation>
+        </message>
+        <message>
+            <source>Na&amp;me:</source>
+            <translation>Na&amp;me:</translation>
+        </message>
+        <message>
+            <source>Ne&amp;w</source>
+            <translation>Ne&amp;u</translation>
+        </message>
+        <message>
+            <source>Remo&amp;ve</source>
+            <translation>&amp;Entfernen</translation>
+        </message>
+    </context>
+    <context>
         <name>UserEntry</name>
         <message>
             <source>UserID:</source>
@@ -5718,6 +5745,26 @@ Der Versuch vom %2 ist misslungen: %3</translation>
             <source>The printer was told to cut.</source>
             <translation>Der Befehl zum Abschneiden wurde gesendet.</translation>
         </message>
+        <message>
+            <source>File %1</source>
+            <translation>Datei %1</translation>
+        </message>
+        <message>
+            <source>File %1 in the folder of the register</source>
+            <translation>Datei %1 im Ordner der Kasse</translation>
+        </message>
+        <message>
+            <source>Printer on the network at %1</source>
+            <translation>Drucker im Netz unter %1</translation>
+        </message>
+        <message>
+            <source>The usual device</source>
+            <translation>Das übliche Gerät</translation>
+        </message>
+        <message>
+            <source>Device %1</source>
+            <translation>Gerät %1</translation>
+        </message>
     </context>
     <context>
         <name>manager::PriceList</name>
@@ -6008,24 +6055,28 @@ Der Versuch vom %2 ist misslungen: %3</translation>
             <translation>2 Steuern</translation>
         </message>
         <message>
-            <source>3 Password</source>
-            <translation>3 Passwort</translation>
-        </message>
-        <message>
-            <source>4 Users</source>
-            <translation>4 Benutzer</translation>
-        </message>
-        <message>
-            <source>5 Register</source>
-            <translation>5 Kasse</translation>
-        </message>
-        <message>
             <source>Save what was changed?</source>
             <translation>Änderungen speichern?</translation>
         </message>
         <message>
             <source>Saved.</source>
             <translation>Gespeichert.</translation>
+        </message>
+        <message>
+            <source>3 Units</source>
+            <translation>3 Einheiten</translation>
+        </message>
+        <message>
+            <source>4 Password</source>
+            <translation>4 Passwort</translation>
+        </message>
+        <message>
+            <source>5 Users</source>
+            <translation>5 Benutzer</translation>
+        </message>
+        <message>
+            <source>6 Register</source>
+            <translation>6 Kasse</translation>
         </message>
     </context>
     <context>
@@ -6086,6 +6137,52 @@ Der Versuch vom %2 ist misslungen: %3</translation>
             <translation>
                 <numerusform>%n Artikel gehört zu dieser Steuer.</numerusform>
                 <numerusform>%n Artikel gehören zu dieser Steuer.</numerusform>
+            </translation>
+        </message>
+    </context>
+    <context>
+        <name>manager::UnitsStep</name>
+        <message>
+            <source>Short name</source>
+            <translation>Kurzname</translation>
+        </message>
+        <message>
+            <source>Name</source>
+            <translation>Name</translation>
+        </message>
+        <message>
+            <source>The unit needs a short name, such as kg.</source>
+            <translation>Die Einheit braucht einen Kurznamen, zum Beispiel kg.</translation>
+        </message>
+        <message>
+            <source>The unit needs a name, such as kilogram.</source>
+            <translation>Die Einheit braucht einen Namen, zum Beispiel Kilogramm.</translation>
+        </message>
+        <message>
+            <source>There is a unit with this short name already.</source>
+            <translation>Eine Einheit mit diesem Kurznamen gibt es schon.</translation>
+        </message>
+        <message>
+            <source>Remove the unit "%1"?</source>
+            <translation>Die Einheit „%1“ löschen?</translation>
+        </message>
+        <message>
+            <source>A short name has no apostrophe.</source>
+            <translation>Ein Kurzname hat keinen Apostroph.</translation>
+        </message>
+        <message>
+            <source>A short name has at most %1 letters; paper has no more room.</source>
+            <translation>Ein Kurzname hat höchstens %1 Zeichen; mehr Platz ist auf dem Papier nicht.</translation>
+        </message>
+        <message>
+            <source>The till sells by the piece what has this unit, so it stays.</source>
+            <translation>Was diese Einheit hat, verkauft die Kasse nach Stück, daher bleibt sie.</translation>
+        </message>
+        <message numerus="yes">
+            <source>%n product(s) have this unit.</source>
+            <translation>
+                <numerusform>%n Artikel hat diese Einheit.</numerusform>
+                <numerusform>%n Artikel haben diese Einheit.</numerusform>
             </translation>
         </message>
     </context>
@@ -7854,10 +7951,6 @@ In ports.ini gibt es keinen anderen Drucker für %2.</translation>
                 <numerusform>Artikel mit einer Steuer, die es nicht gibt: %n.</numerusform>
             </translation>
         </message>
-        <message>
-            <source>Choose one of today's taxes for them under Settings, Products, or add the tax on the page Set-up.</source>
-            <translation>Unter Einstellungen, Artikel eine der heutigen Steuern wählen oder die Steuer auf der Seite „Einrichtung“ anlegen.</translation>
-        </message>
         <message numerus="yes">
             <source>Products with another rate than that of their tax: %n.</source>
             <translation>
@@ -7876,20 +7969,12 @@ In ports.ini gibt es keinen anderen Drucker für %2.</translation>
                 <numerusform>Artikel ohne Steuersatz, die nicht verkauft werden können: %n.</numerusform>
             </translation>
         </message>
-        <message>
-            <source>Choose their tax under Settings, Products, and save.</source>
-            <translation>Unter Einstellungen, Artikel ihre Steuer wählen und speichern.</translation>
-        </message>
         <message numerus="yes">
             <source>Products without a price, which can't be sold: %n.</source>
             <translation>
                 <numerusform>Artikel ohne Preis, die nicht verkauft werden können: %n.</numerusform>
                 <numerusform>Artikel ohne Preis, die nicht verkauft werden können: %n.</numerusform>
             </translation>
-        </message>
-        <message>
-            <source>Give them a price under Settings, Products, or take them in anew on the page Goods.</source>
-            <translation>Unter Einstellungen, Artikel einen Preis eingeben oder sie auf der Seite „Artikel“ neu einlesen.</translation>
         </message>
         <message numerus="yes">
             <source>Products with an apostrophe in the code, which the till can't look up: %n.</source>
@@ -7931,20 +8016,12 @@ In ports.ini gibt es keinen anderen Drucker für %2.</translation>
                 <numerusform>Artikel, deren Name länger ist als das Feld der Kasse: %n.</numerusform>
             </translation>
         </message>
-        <message>
-            <source>Receipts cut it. Shorten it to 40 characters under Settings, Products.</source>
-            <translation>Kassenbons schneiden ihn ab. Unter Einstellungen, Artikel auf 40 Zeichen kürzen.</translation>
-        </message>
         <message numerus="yes">
             <source>Products with a unit that the till does not know: %n.</source>
             <translation>
                 <numerusform>Artikel mit einer Einheit, die die Kasse nicht kennt: %n.</numerusform>
                 <numerusform>Artikel mit einer Einheit, die die Kasse nicht kennt: %n.</numerusform>
             </translation>
-        </message>
-        <message>
-            <source>Choose one of the units under Settings, Products.</source>
-            <translation>Unter Einstellungen, Artikel eine der Einheiten wählen.</translation>
         </message>
         <message numerus="yes">
             <source>Products with a stock below zero: %n.</source>
@@ -7953,20 +8030,12 @@ In ports.ini gibt es keinen anderen Drucker für %2.</translation>
                 <numerusform>Artikel mit einem Bestand unter null: %n.</numerusform>
             </translation>
         </message>
-        <message>
-            <source>More was sold than was entered. Enter the delivery, or count them and correct the stock under Settings, Products.</source>
-            <translation>Es wurde mehr verkauft als eingegeben. Die Lieferung eingeben, oder zählen und den Bestand unter Einstellungen, Artikel berichtigen.</translation>
-        </message>
         <message numerus="yes">
             <source>Products on a touch button that is not there: %n.</source>
             <translation>
                 <numerusform>Artikel auf einer Taste, die es nicht gibt: %n.</numerusform>
                 <numerusform>Artikel auf einer Taste, die es nicht gibt: %n.</numerusform>
             </translation>
-        </message>
-        <message>
-            <source>Give them another button under Settings, Click table.</source>
-            <translation>Unter Einstellungen, Tastenfeld eine andere Taste vergeben.</translation>
         </message>
         <message numerus="yes">
             <source>Touch buttons with more than one product: %n.</source>
@@ -7975,20 +8044,12 @@ In ports.ini gibt es keinen anderen Drucker für %2.</translation>
                 <numerusform>Tasten mit mehr als einem Artikel: %n.</numerusform>
             </translation>
         </message>
-        <message>
-            <source>The button sells one of them alone. Give the others another button under Settings, Click table.</source>
-            <translation>Die Taste verkauft nur einen davon. Den anderen unter Einstellungen, Tastenfeld eine andere Taste geben.</translation>
-        </message>
         <message numerus="yes">
             <source>Products that compositions name and that are gone: %n.</source>
             <translation>
                 <numerusform>Artikel, die in Rezepturen stehen und die es nicht mehr gibt: %n.</numerusform>
                 <numerusform>Artikel, die in Rezepturen stehen und die es nicht mehr gibt: %n.</numerusform>
             </translation>
-        </message>
-        <message>
-            <source>Selling such a composition takes nothing from the stock of what is gone. Open the composition under Settings, Products and mend it.</source>
-            <translation>Beim Verkauf nach einer solchen Rezeptur wird vom Fehlenden kein Bestand abgezogen. Die Rezeptur unter Einstellungen, Artikel öffnen und berichtigen.</translation>
         </message>
         <message numerus="yes">
             <source>Small tables with more or fewer rows than in a new shop: %n.</source>
@@ -8565,6 +8626,42 @@ In ports.ini gibt es keinen anderen Drucker für %2.</translation>
         <message>
             <source>This is a store, not a table.</source>
             <translation>Das ist eine Datenbank, keine Tabelle.</translation>
+        </message>
+        <message>
+            <source>Choose one of today's taxes for them at the till under Products, View - Edit - Delete Products, or add the tax on the page Set-up.</source>
+            <translation>An der Kasse unter Artikel, Artikel ansehen - ändern - löschen eine der heutigen Steuern wählen oder die Steuer auf der Seite „Einrichtung“ anlegen.</translation>
+        </message>
+        <message>
+            <source>Choose their tax at the till under Products, View - Edit - Delete Products, and save.</source>
+            <translation>An der Kasse unter Artikel, Artikel ansehen - ändern - löschen ihre Steuer wählen und speichern.</translation>
+        </message>
+        <message>
+            <source>Give them a price at the till under Products, View - Edit - Delete Products, or take them in anew on the page Goods.</source>
+            <translation>An der Kasse unter Artikel, Artikel ansehen - ändern - löschen einen Preis eingeben oder sie auf der Seite „Artikel“ neu einlesen.</translation>
+        </message>
+        <message>
+            <source>Receipts cut it. Shorten it to 40 characters at the till under Products, View - Edit - Delete Products.</source>
+            <translation>Kassenbons schneiden ihn ab. An der Kasse unter Artikel, Artikel ansehen - ändern - löschen auf 40 Zeichen kürzen.</translation>
+        </message>
+        <message>
+            <source>Choose one of the units for them at the till under Products, View - Edit - Delete Products, or add the unit on the page Set-up.</source>
+            <translation>An der Kasse unter Artikel, Artikel ansehen - ändern - löschen eine der Einheiten wählen oder die Einheit auf der Seite „Einrichtung“ anlegen.</translation>
+        </message>
+        <message>
+            <source>More was sold than was entered. Enter the delivery, or count them and correct the stock at the till under Products, View - Edit - Delete Products.</source>
+            <translation>Es wurde mehr verkauft als eingegeben. Die Lieferung eingeben, oder zählen und den Bestand an der Kasse unter Artikel, Artikel ansehen - ändern - löschen berichtigen.</translation>
+        </message>
+        <message>
+            <source>Give them another button at the till under Settings, Click Table.</source>
+            <translation>An der Kasse unter Einstellungen, Tastenfeld eine andere Taste vergeben.</translation>
+        </message>
+        <message>
+            <source>The button sells one of them alone. Give the others another button at the till under Settings, Click Table.</source>
+            <translation>Die Taste verkauft nur einen davon. Den anderen an der Kasse unter Einstellungen, Tastenfeld eine andere Taste geben.</translation>
+        </message>
+        <message>
+            <source>Selling such a composition takes nothing from the stock of what is gone. Open the composition at the till under Products, View - Edit - Delete Products, and mend it.</source>
+            <translation>Beim Verkauf nach einer solchen Rezeptur wird vom Fehlenden kein Bestand abgezogen. Die Rezeptur an der Kasse unter Artikel, Artikel ansehen - ändern - löschen öffnen und berichtigen.</translation>
         </message>
     </context>
     <context>

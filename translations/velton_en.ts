@@ -2112,6 +2112,33 @@ Yes: look at it again. No: print all the same.</translation>
         </message>
     </context>
     <context>
+        <name>UnitsStep</name>
+        <message>
+            <source>The till counts one piece of pcs at each scan, and asks for the quantity of every other unit. A short name can be changed until a product has it.</source>
+            <translation>The till counts one piece of pcs at each scan, and asks for the quantity of every other unit. A short name can be changed until a product has it.</translation>
+        </message>
+        <message>
+            <source>Units</source>
+            <translation>Units</translation>
+        </message>
+        <message>
+            <source>S&amp;hort name:</source>
+            <translation>S&amp;hort name:</translation>
+        </message>
+        <message>
+            <source>Na&amp;me:</source>
+            <translation>Na&amp;me:</translation>
+        </message>
+        <message>
+            <source>Ne&amp;w</source>
+            <translation>Ne&amp;w</translation>
+        </message>
+        <message>
+            <source>Remo&amp;ve</source>
+            <translation>Remo&amp;ve</translation>
+        </message>
+    </context>
+    <context>
         <name>UserEntry</name>
         <message>
             <source>UserID:</source>
@@ -5718,6 +5745,26 @@ The try of %2 failed: %3</translation>
             <source>The printer was told to cut.</source>
             <translation>The printer was told to cut.</translation>
         </message>
+        <message>
+            <source>File %1</source>
+            <translation>File %1</translation>
+        </message>
+        <message>
+            <source>File %1 in the folder of the register</source>
+            <translation>File %1 in the folder of the register</translation>
+        </message>
+        <message>
+            <source>Printer on the network at %1</source>
+            <translation>Printer on the network at %1</translation>
+        </message>
+        <message>
+            <source>The usual device</source>
+            <translation>The usual device</translation>
+        </message>
+        <message>
+            <source>Device %1</source>
+            <translation>Device %1</translation>
+        </message>
     </context>
     <context>
         <name>manager::PriceList</name>
@@ -6008,24 +6055,28 @@ The try of %2 failed: %3</translation>
             <translation>2 Taxes</translation>
         </message>
         <message>
-            <source>3 Password</source>
-            <translation>3 Password</translation>
-        </message>
-        <message>
-            <source>4 Users</source>
-            <translation>4 Users</translation>
-        </message>
-        <message>
-            <source>5 Register</source>
-            <translation>5 Register</translation>
-        </message>
-        <message>
             <source>Save what was changed?</source>
             <translation>Save what was changed?</translation>
         </message>
         <message>
             <source>Saved.</source>
             <translation>Saved.</translation>
+        </message>
+        <message>
+            <source>3 Units</source>
+            <translation>3 Units</translation>
+        </message>
+        <message>
+            <source>4 Password</source>
+            <translation>4 Password</translation>
+        </message>
+        <message>
+            <source>5 Users</source>
+            <translation>5 Users</translation>
+        </message>
+        <message>
+            <source>6 Register</source>
+            <translation>6 Register</translation>
         </message>
     </context>
     <context>
@@ -6086,6 +6137,52 @@ The try of %2 failed: %3</translation>
             <translation>
                 <numerusform>%n product belongs to this tax.</numerusform>
                 <numerusform>%n products belong to this tax.</numerusform>
+            </translation>
+        </message>
+    </context>
+    <context>
+        <name>manager::UnitsStep</name>
+        <message>
+            <source>Short name</source>
+            <translation>Short name</translation>
+        </message>
+        <message>
+            <source>Name</source>
+            <translation>Name</translation>
+        </message>
+        <message>
+            <source>The unit needs a short name, such as kg.</source>
+            <translation>The unit needs a short name, such as kg.</translation>
+        </message>
+        <message>
+            <source>The unit needs a name, such as kilogram.</source>
+            <translation>The unit needs a name, such as kilogram.</translation>
+        </message>
+        <message>
+            <source>There is a unit with this short name already.</source>
+            <translation>There is a unit with this short name already.</translation>
+        </message>
+        <message>
+            <source>Remove the unit "%1"?</source>
+            <translation>Remove the unit "%1"?</translation>
+        </message>
+        <message>
+            <source>A short name has no apostrophe.</source>
+            <translation>A short name has no apostrophe.</translation>
+        </message>
+        <message>
+            <source>A short name has at most %1 letters; paper has no more room.</source>
+            <translation>A short name has at most %1 letters; paper has no more room.</translation>
+        </message>
+        <message>
+            <source>The till sells by the piece what has this unit, so it stays.</source>
+            <translation>The till sells by the piece what has this unit, so it stays.</translation>
+        </message>
+        <message numerus="yes">
+            <source>%n product(s) have this unit.</source>
+            <translation>
+                <numerusform>%n product has this unit.</numerusform>
+                <numerusform>%n products have this unit.</numerusform>
             </translation>
         </message>
     </context>
@@ -7854,10 +7951,6 @@ ports.ini has no other printer for %2.</translation>
                 <numerusform>Products with a tax that is not there: %n.</numerusform>
             </translation>
         </message>
-        <message>
-            <source>Choose one of today's taxes for them under Settings, Products, or add the tax on the page Set-up.</source>
-            <translation>Choose one of today's taxes for them under Settings, Products, or add the tax on the page Set-up.</translation>
-        </message>
         <message numerus="yes">
             <source>Products with another rate than that of their tax: %n.</source>
             <translation>
@@ -7876,20 +7969,12 @@ ports.ini has no other printer for %2.</translation>
                 <numerusform>Products without a tax rate, which can't be sold: %n.</numerusform>
             </translation>
         </message>
-        <message>
-            <source>Choose their tax under Settings, Products, and save.</source>
-            <translation>Choose their tax under Settings, Products, and save.</translation>
-        </message>
         <message numerus="yes">
             <source>Products without a price, which can't be sold: %n.</source>
             <translation>
                 <numerusform>Products without a price, which can't be sold: %n.</numerusform>
                 <numerusform>Products without a price, which can't be sold: %n.</numerusform>
             </translation>
-        </message>
-        <message>
-            <source>Give them a price under Settings, Products, or take them in anew on the page Goods.</source>
-            <translation>Give them a price under Settings, Products, or take them in anew on the page Goods.</translation>
         </message>
         <message numerus="yes">
             <source>Products with an apostrophe in the code, which the till can't look up: %n.</source>
@@ -7931,20 +8016,12 @@ ports.ini has no other printer for %2.</translation>
                 <numerusform>Products whose name is longer than the till's box takes: %n.</numerusform>
             </translation>
         </message>
-        <message>
-            <source>Receipts cut it. Shorten it to 40 characters under Settings, Products.</source>
-            <translation>Receipts cut it. Shorten it to 40 characters under Settings, Products.</translation>
-        </message>
         <message numerus="yes">
             <source>Products with a unit that the till does not know: %n.</source>
             <translation>
                 <numerusform>Products with a unit that the till does not know: %n.</numerusform>
                 <numerusform>Products with a unit that the till does not know: %n.</numerusform>
             </translation>
-        </message>
-        <message>
-            <source>Choose one of the units under Settings, Products.</source>
-            <translation>Choose one of the units under Settings, Products.</translation>
         </message>
         <message numerus="yes">
             <source>Products with a stock below zero: %n.</source>
@@ -7953,20 +8030,12 @@ ports.ini has no other printer for %2.</translation>
                 <numerusform>Products with a stock below zero: %n.</numerusform>
             </translation>
         </message>
-        <message>
-            <source>More was sold than was entered. Enter the delivery, or count them and correct the stock under Settings, Products.</source>
-            <translation>More was sold than was entered. Enter the delivery, or count them and correct the stock under Settings, Products.</translation>
-        </message>
         <message numerus="yes">
             <source>Products on a touch button that is not there: %n.</source>
             <translation>
                 <numerusform>Products on a touch button that is not there: %n.</numerusform>
                 <numerusform>Products on a touch button that is not there: %n.</numerusform>
             </translation>
-        </message>
-        <message>
-            <source>Give them another button under Settings, Click table.</source>
-            <translation>Give them another button under Settings, Click table.</translation>
         </message>
         <message numerus="yes">
             <source>Touch buttons with more than one product: %n.</source>
@@ -7975,20 +8044,12 @@ ports.ini has no other printer for %2.</translation>
                 <numerusform>Touch buttons with more than one product: %n.</numerusform>
             </translation>
         </message>
-        <message>
-            <source>The button sells one of them alone. Give the others another button under Settings, Click table.</source>
-            <translation>The button sells one of them alone. Give the others another button under Settings, Click table.</translation>
-        </message>
         <message numerus="yes">
             <source>Products that compositions name and that are gone: %n.</source>
             <translation>
                 <numerusform>Products that compositions name and that are gone: %n.</numerusform>
                 <numerusform>Products that compositions name and that are gone: %n.</numerusform>
             </translation>
-        </message>
-        <message>
-            <source>Selling such a composition takes nothing from the stock of what is gone. Open the composition under Settings, Products and mend it.</source>
-            <translation>Selling such a composition takes nothing from the stock of what is gone. Open the composition under Settings, Products and mend it.</translation>
         </message>
         <message numerus="yes">
             <source>Small tables with more or fewer rows than in a new shop: %n.</source>
@@ -8565,6 +8626,42 @@ ports.ini has no other printer for %2.</translation>
         <message>
             <source>This is a store, not a table.</source>
             <translation>This is a store, not a table.</translation>
+        </message>
+        <message>
+            <source>Choose one of today's taxes for them at the till under Products, View - Edit - Delete Products, or add the tax on the page Set-up.</source>
+            <translation>Choose one of today's taxes for them at the till under Products, View - edit - delete products, or add the tax on the page Set-up.</translation>
+        </message>
+        <message>
+            <source>Choose their tax at the till under Products, View - Edit - Delete Products, and save.</source>
+            <translation>Choose their tax at the till under Products, View - edit - delete products, and save.</translation>
+        </message>
+        <message>
+            <source>Give them a price at the till under Products, View - Edit - Delete Products, or take them in anew on the page Goods.</source>
+            <translation>Give them a price at the till under Products, View - edit - delete products, or take them in anew on the page Goods.</translation>
+        </message>
+        <message>
+            <source>Receipts cut it. Shorten it to 40 characters at the till under Products, View - Edit - Delete Products.</source>
+            <translation>Receipts cut it. Shorten it to 40 characters at the till under Products, View - edit - delete products.</translation>
+        </message>
+        <message>
+            <source>Choose one of the units for them at the till under Products, View - Edit - Delete Products, or add the unit on the page Set-up.</source>
+            <translation>Choose one of the units for them at the till under Products, View - edit - delete products, or add the unit on the page Set-up.</translation>
+        </message>
+        <message>
+            <source>More was sold than was entered. Enter the delivery, or count them and correct the stock at the till under Products, View - Edit - Delete Products.</source>
+            <translation>More was sold than was entered. Enter the delivery, or count them and correct the stock at the till under Products, View - edit - delete products.</translation>
+        </message>
+        <message>
+            <source>Give them another button at the till under Settings, Click Table.</source>
+            <translation>Give them another button at the till under Settings, Touch table.</translation>
+        </message>
+        <message>
+            <source>The button sells one of them alone. Give the others another button at the till under Settings, Click Table.</source>
+            <translation>The button sells one of them alone. Give the others another button at the till under Settings, Touch table.</translation>
+        </message>
+        <message>
+            <source>Selling such a composition takes nothing from the stock of what is gone. Open the composition at the till under Products, View - Edit - Delete Products, and mend it.</source>
+            <translation>Selling such a composition takes nothing from the stock of what is gone. Open the composition at the till under Products, View - edit - delete products, and mend it.</translation>
         </message>
     </context>
     <context>

@@ -2113,6 +2113,33 @@ Da: provjeri ponovno. Ne: svejedno ispiši.</translation>
     </message>
 </context>
 <context>
+    <name>UnitsStep</name>
+    <message>
+        <source>The till counts one piece of pcs at each scan, and asks for the quantity of every other unit. A short name can be changed until a product has it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;hort name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Na&amp;me:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ne&amp;w</source>
+        <translation type="unfinished">N&amp;ovi</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve</source>
+        <translation type="unfinished">&amp;Ukloni</translation>
+    </message>
+</context>
+<context>
     <name>UserEntry</name>
     <message>
         <source>UserID:</source>
@@ -5728,6 +5755,26 @@ Pokušaj od %2 nije uspio: %3</translation>
         <source>The printer was told to cut.</source>
         <translation>Pisaču je poslana naredba za rezanje.</translation>
     </message>
+    <message>
+        <source>File %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File %1 in the folder of the register</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printer on the network at %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The usual device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Device %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>manager::PriceList</name>
@@ -6020,24 +6067,28 @@ Pokušaj od %2 nije uspio: %3</translation>
         <translation>2 Porezi</translation>
     </message>
     <message>
-        <source>3 Password</source>
-        <translation>3 Lozinka</translation>
-    </message>
-    <message>
-        <source>4 Users</source>
-        <translation>4 Korisnici</translation>
-    </message>
-    <message>
-        <source>5 Register</source>
-        <translation>5 Blagajna</translation>
-    </message>
-    <message>
         <source>Save what was changed?</source>
         <translation>Spremiti promjene?</translation>
     </message>
     <message>
         <source>Saved.</source>
         <translation>Spremljeno.</translation>
+    </message>
+    <message>
+        <source>3 Units</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>4 Password</source>
+        <translation type="unfinished">3 Lozinka {4 ?}</translation>
+    </message>
+    <message>
+        <source>5 Users</source>
+        <translation type="unfinished">4 Korisnici {5 ?}</translation>
+    </message>
+    <message>
+        <source>6 Register</source>
+        <translation type="unfinished">5 Blagajna {6 ?}</translation>
     </message>
 </context>
 <context>
@@ -6099,6 +6150,53 @@ Pokušaj od %2 nije uspio: %3</translation>
             <numerusform>%n artikl pripada ovom porezu.</numerusform>
             <numerusform>%n artikla pripadaju ovom porezu.</numerusform>
             <numerusform>%n artikala pripada ovom porezu.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>manager::UnitsStep</name>
+    <message>
+        <source>Short name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished">Naziv</translation>
+    </message>
+    <message>
+        <source>The unit needs a short name, such as kg.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The unit needs a name, such as kilogram.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a unit with this short name already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the unit &quot;%1&quot;?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A short name has no apostrophe.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A short name has at most %1 letters; paper has no more room.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The till sells by the piece what has this unit, so it stays.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n product(s) have this unit.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
         </translation>
     </message>
 </context>
@@ -7881,10 +7979,6 @@ U datoteci ports.ini nema drugog pisača za %2.</translation>
             <numerusform>Artikli s porezom kojeg nema: %n.</numerusform>
         </translation>
     </message>
-    <message>
-        <source>Choose one of today&apos;s taxes for them under Settings, Products, or add the tax on the page Set-up.</source>
-        <translation>Odaberite im jedan od današnjih poreza u izborniku Artikli ili dodajte porez na stranici Priprema.</translation>
-    </message>
     <message numerus="yes">
         <source>Products with another rate than that of their tax: %n.</source>
         <translation>
@@ -7905,10 +7999,6 @@ U datoteci ports.ini nema drugog pisača za %2.</translation>
             <numerusform>Artikli bez stope poreza, koji se ne mogu prodavati: %n.</numerusform>
         </translation>
     </message>
-    <message>
-        <source>Choose their tax under Settings, Products, and save.</source>
-        <translation>Odaberite im porez u izborniku Artikli i spremite.</translation>
-    </message>
     <message numerus="yes">
         <source>Products without a price, which can&apos;t be sold: %n.</source>
         <translation>
@@ -7916,10 +8006,6 @@ U datoteci ports.ini nema drugog pisača za %2.</translation>
             <numerusform>Artikli bez cijene, koji se ne mogu prodavati: %n.</numerusform>
             <numerusform>Artikli bez cijene, koji se ne mogu prodavati: %n.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Give them a price under Settings, Products, or take them in anew on the page Goods.</source>
-        <translation>Upišite im cijenu u izborniku Artikli ili ih ponovno preuzmite na stranici Roba.</translation>
     </message>
     <message numerus="yes">
         <source>Products with an apostrophe in the code, which the till can&apos;t look up: %n.</source>
@@ -7965,10 +8051,6 @@ U datoteci ports.ini nema drugog pisača za %2.</translation>
             <numerusform>Artikli kojima je naziv dulji nego što stane u polje blagajne: %n.</numerusform>
         </translation>
     </message>
-    <message>
-        <source>Receipts cut it. Shorten it to 40 characters under Settings, Products.</source>
-        <translation>Na računima se skraćuje. Skratite ga na 40 znakova u izborniku Artikli.</translation>
-    </message>
     <message numerus="yes">
         <source>Products with a unit that the till does not know: %n.</source>
         <translation>
@@ -7976,10 +8058,6 @@ U datoteci ports.ini nema drugog pisača za %2.</translation>
             <numerusform>Artikli s jedinicom mjere koju blagajna ne poznaje: %n.</numerusform>
             <numerusform>Artikli s jedinicom mjere koju blagajna ne poznaje: %n.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Choose one of the units under Settings, Products.</source>
-        <translation>Odaberite jednu od jedinica mjere u izborniku Artikli.</translation>
     </message>
     <message numerus="yes">
         <source>Products with a stock below zero: %n.</source>
@@ -7989,10 +8067,6 @@ U datoteci ports.ini nema drugog pisača za %2.</translation>
             <numerusform>Artikli sa zalihom ispod nule: %n.</numerusform>
         </translation>
     </message>
-    <message>
-        <source>More was sold than was entered. Enter the delivery, or count them and correct the stock under Settings, Products.</source>
-        <translation>Prodano je više nego što je upisano. Upišite isporuku ili ih prebrojite i ispravite zalihu u izborniku Artikli.</translation>
-    </message>
     <message numerus="yes">
         <source>Products on a touch button that is not there: %n.</source>
         <translation>
@@ -8000,10 +8074,6 @@ U datoteci ports.ini nema drugog pisača za %2.</translation>
             <numerusform>Artikli na tipki koje nema: %n.</numerusform>
             <numerusform>Artikli na tipki koje nema: %n.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Give them another button under Settings, Click table.</source>
-        <translation>Dajte im drugu tipku u izborniku Postavke, Tablica tipki.</translation>
     </message>
     <message numerus="yes">
         <source>Touch buttons with more than one product: %n.</source>
@@ -8013,10 +8083,6 @@ U datoteci ports.ini nema drugog pisača za %2.</translation>
             <numerusform>Tipke s više artikala: %n.</numerusform>
         </translation>
     </message>
-    <message>
-        <source>The button sells one of them alone. Give the others another button under Settings, Click table.</source>
-        <translation>Tipka prodaje samo jedan od njih. Ostalima dajte drugu tipku u izborniku Postavke, Tablica tipki.</translation>
-    </message>
     <message numerus="yes">
         <source>Products that compositions name and that are gone: %n.</source>
         <translation>
@@ -8024,10 +8090,6 @@ U datoteci ports.ini nema drugog pisača za %2.</translation>
             <numerusform>Artikli koji su u normativima, a više ih nema: %n.</numerusform>
             <numerusform>Artikli koji su u normativima, a više ih nema: %n.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Selling such a composition takes nothing from the stock of what is gone. Open the composition under Settings, Products and mend it.</source>
-        <translation>Prodaja po takvom normativu ne skida sa zalihe ono čega nema. Otvorite normativ u izborniku Artikli i ispravite ga.</translation>
     </message>
     <message numerus="yes">
         <source>Small tables with more or fewer rows than in a new shop: %n.</source>
@@ -8611,6 +8673,42 @@ U datoteci ports.ini nema drugog pisača za %2.</translation>
     </message>
     <message>
         <source>This is a store, not a table.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose one of today&apos;s taxes for them at the till under Products, View - Edit - Delete Products, or add the tax on the page Set-up.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose their tax at the till under Products, View - Edit - Delete Products, and save.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give them a price at the till under Products, View - Edit - Delete Products, or take them in anew on the page Goods.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Receipts cut it. Shorten it to 40 characters at the till under Products, View - Edit - Delete Products.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose one of the units for them at the till under Products, View - Edit - Delete Products, or add the unit on the page Set-up.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More was sold than was entered. Enter the delivery, or count them and correct the stock at the till under Products, View - Edit - Delete Products.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give them another button at the till under Settings, Click Table.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The button sells one of them alone. Give the others another button at the till under Settings, Click Table.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selling such a composition takes nothing from the stock of what is gone. Open the composition at the till under Products, View - Edit - Delete Products, and mend it.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
