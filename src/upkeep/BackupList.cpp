@@ -105,13 +105,16 @@ BackupFacts ReadBackup(const QString& path, const QString& registerFolder) {
     return facts;
 }
 
-QList<BackupFacts> ListBackups(const QString& folder, const QString& registerFolder) {
+QList<BackupFacts> ListBackups(const QString& folder, const QString& registerFolder, const Progress& progress) {
     QList<BackupFacts> backups;
     const QDir registers(folder);
     for (const QString& owner : registers.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
         const QDir own(registers.filePath(owner));
-        for (const QString& name : own.entryList({backup::Prefix + u"*"_s}, QDir::Dirs))
-            if (!name.endsWith(backup::Unfinished)) backups += ReadBackup(own.filePath(name), registerFolder);
+        for (const QString& name : own.entryList({backup::Prefix + u"*"_s}, QDir::Dirs)) {
+            if (name.endsWith(backup::Unfinished)) continue;
+            GoOn(progress, Words::tr("Reading %1").arg(name));
+            backups += ReadBackup(own.filePath(name), registerFolder);
+        }
     }
     std::ranges::stable_sort(backups, std::greater(), &BackupFacts::made);
     return backups;

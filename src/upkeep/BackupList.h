@@ -6,6 +6,7 @@
 
 #include "upkeep/DayTotals.h"
 #include "upkeep/FileCopy.h"
+#include "upkeep/Progress.h"
 
 namespace upkeep {
 
@@ -47,7 +48,7 @@ QByteArray WriteFacts(const BackupFacts& facts);
 // Looks at one; sizes are compared, not contents.
 BackupFacts ReadBackup(const QString& path, const QString& registerFolder);
 // All that a folder holds, of all registers, the newest first.
-QList<BackupFacts> ListBackups(const QString& folder, const QString& registerFolder);
+QList<BackupFacts> ListBackups(const QString& folder, const QString& registerFolder, const Progress& progress = {});
 DayTotals DaysOf(const BackupFacts& backup);
 
 }  // namespace upkeep

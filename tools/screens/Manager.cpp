@@ -90,7 +90,9 @@ QString OnAnyMachine(QString report) {
 
 // So does the folder that each run makes for itself.
 void NameFoldersAsUsual(const QWidget& window, const QString& made) {
-    const auto usual = [&made](QString text) { return text.replace(made, u"/home/shop"_s); };
+    const auto usual = [&made](QString text) {
+        return text.replace(made + u"/older"_s, u"/home/shop"_s).replace(made, u"/home/shop"_s);
+    };
     for (auto* label : window.findChildren<QLabel*>())
         if (auto* line = qobject_cast<forms::ElidedLabel*>(label); line && line->toolTip().contains(made))
             line->ShowWhole(usual(line->toolTip()));
@@ -273,7 +275,7 @@ void LookAtManager(const QString& shop, const Cashier::Camera& takePicture) {
         if (entry.className == u"SetupPage") ShowSteps(window, camera);
         if (entry.className == u"BackupPage") ShowRestore(shop, camera);
     }
-    LookAtOlderShop(shop + u"-of-weeks"_s, shop, camera);
+    LookAtOlderShop(QFileInfo(shop).path() + u"/older/VELTON"_s, shop, camera);
 }
 
 }  // namespace screens

@@ -32,7 +32,6 @@ BackupPage::BackupPage(QWidget* parent) : Page(parent) {
                                {tr("Last day"), Qt::AlignLeft, 100},
                                {tr("Its takings"), Qt::AlignRight, 110},
                                {tr("State"), Qt::AlignLeft, -1}});
-    ui.lstBackups->SetEmptyText(tr("There are no backups yet."));
     On(ui.cmdChoose, &BackupPage::cmdChoose_Click);
     On(ui.cmdSave, &BackupPage::cmdSave_Click);
     On(ui.cmdBackup, &BackupPage::cmdBackup_Click);
@@ -50,8 +49,12 @@ void BackupPage::Form_Activate() {
 }
 
 void BackupPage::ShowAll() {
+    const int row = ui.lstBackups->Selected();
+    const QString chosen = row < 0 ? QString() : backups_[row].path;
+    ReadFolder();
+    ShowFolder();
     ShowState();
-    ShowBackups();
+    ShowBackups(chosen);
     Q_EMIT ShopChanged();
 }
 
@@ -61,11 +64,33 @@ void BackupPage::ShowPlan() {
     ui.spnWeeks->setValue(plan.weeks);
     ui.spnMonths->setValue(plan.months);
     ui.cmdBackup->setEnabled(!plan.folder.isEmpty());
+}
+
+// It may lie on a share that is slow, or gone.
+void BackupPage::ReadFolder() {
+    const QString folder = TheInstallation.backup.folder;
+    backups_.clear();
+    ui.lstBackups->Clear();
+    ui.lstBackups->SetEmptyText(tr("There are no backups yet."));
+    if (folder.isEmpty()) return;
+    try {
+        RunBeside(this, tr("The folder of the backups is being read."), [&](const upkeep::Progress& progress) {
+            isOnSameDisk_ = upkeep::IsOnSameDisk(folder, ProgramFolder());
+            backups_ = upkeep::ListBackups(folder, ProgramFolder(), progress);
+        });
+    } catch (const store::StoreError& error) {
+        if (error.Number() != store::Cancelled) throw;
+        ui.lstBackups->SetEmptyText(tr("The folder was not read to its end."));
+    }
+}
+
+void BackupPage::ShowFolder() {
+    const BackupPlan& plan = TheInstallation.backup;
     if (plan.folder.isEmpty())
         ui.lblFolder->setText(
             tr("No folder has been chosen yet, and the till makes no backups. Choose one on a second "
                "disk, on a stick or in the network."));
-    else if (upkeep::IsOnSameDisk(plan.folder, ProgramFolder()))
+    else if (isOnSameDisk_)
         ui.lblFolder->setText(
             tr("Backups go to %1, on the same disk as the shop: if it breaks, both are lost.").arg(plan.folder));
     else
@@ -82,13 +107,7 @@ void BackupPage::ShowState() {
     ui.lblState->setToolTip(ui.lblState->text());
 }
 
-void BackupPage::ShowBackups() {
-    const int row = ui.lstBackups->Selected();
-    const QString chosen = row < 0 ? QString() : backups_[row].path;
-    backups_.clear();
-    if (!TheInstallation.backup.folder.isEmpty())
-        backups_ = upkeep::ListBackups(TheInstallation.backup.folder, ProgramFolder());
-    ui.lstBackups->Clear();
+void BackupPage::ShowBackups(const QString& chosen) {
     for (const BackupFacts& backup : std::as_const(backups_)) {
         const bool hasSold = backup.lastDay.day.isValid();
         const QString state = !backup.fault.isEmpty() ? backup.fault

@@ -27,11 +27,14 @@ private:
 
     void ShowAll();
     void ShowPlan();
+    void ReadFolder();
+    void ShowFolder();
     void ShowState();
-    void ShowBackups();
+    void ShowBackups(const QString& chosen);
     void Restore(const upkeep::BackupFacts& backup);
 
     QList<upkeep::BackupFacts> backups_;
+    bool isOnSameDisk_ = false;
 };
 
 }  // namespace manager
