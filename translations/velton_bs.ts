@@ -4723,6 +4723,14 @@ The try of %2 failed: %3</source>
         <source>The backup is being brought back.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The folder of the backups is being read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder was not read to its end.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>manager::BackupWords</name>

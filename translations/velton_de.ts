@@ -4742,6 +4742,14 @@ Der Versuch vom %2 ist misslungen: %3</translation>
             <source>The backup is being brought back.</source>
             <translation>Die Sicherung wird zurückgespielt.</translation>
         </message>
+        <message>
+            <source>The folder of the backups is being read.</source>
+            <translation>Der Ordner der Sicherungen wird gelesen.</translation>
+        </message>
+        <message>
+            <source>The folder was not read to its end.</source>
+            <translation>Der Ordner wurde nicht zu Ende gelesen.</translation>
+        </message>
     </context>
     <context>
         <name>manager::BackupWords</name>

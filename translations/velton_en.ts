@@ -4742,6 +4742,14 @@ The try of %2 failed: %3</translation>
             <source>The backup is being brought back.</source>
             <translation>The backup is being restored.</translation>
         </message>
+        <message>
+            <source>The folder of the backups is being read.</source>
+            <translation>The folder of the backups is being read.</translation>
+        </message>
+        <message>
+            <source>The folder was not read to its end.</source>
+            <translation>The folder was not read to its end.</translation>
+        </message>
     </context>
     <context>
         <name>manager::BackupWords</name>

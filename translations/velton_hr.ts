@@ -4743,6 +4743,14 @@ Pokušaj od %2 nije uspio: %3</translation>
         <source>The backup is being brought back.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The folder of the backups is being read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder was not read to its end.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>manager::BackupWords</name>
