@@ -527,27 +527,27 @@
         </message>
         <message>
             <source>Side by side:</source>
-            <translation>Nebeneinander:</translation>
+            <translation>Spalten:</translation>
         </message>
         <message>
             <source>One below other:</source>
-            <translation>Untereinander:</translation>
+            <translation>Reihen:</translation>
         </message>
         <message>
             <source>From the left:</source>
-            <translation>Von links:</translation>
+            <translation>Rand links:</translation>
         </message>
         <message>
             <source>From the top:</source>
-            <translation>Von oben:</translation>
+            <translation>Rand oben:</translation>
         </message>
         <message>
             <source>Gap beside:</source>
-            <translation>Abstand seitlich:</translation>
+            <translation>Lücke rechts:</translation>
         </message>
         <message>
             <source>Gap below:</source>
-            <translation>Abstand darunter:</translation>
+            <translation>Lücke unten:</translation>
         </message>
         <message>
             <source>A sheet that is used already: press its first free label in the picture.</source>

@@ -28,7 +28,7 @@ public:
         new Swipe(this, [] {});
     }
 
-    QSize sizeHint() const override { return widget()->sizeHint(); }
+    QSize sizeHint() const override { return widget()->sizeHint().expandedTo(minimumSizeHint()); }
     QSize minimumSizeHint() const override {
         const int bar = verticalScrollBar()->isVisible() ? verticalScrollBar()->sizeHint().width() : 0;
         return {widget()->minimumSizeHint().width() + bar, 0};

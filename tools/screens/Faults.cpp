@@ -62,7 +62,7 @@ private:
         if (const auto* area = qobject_cast<const QScrollArea*>(&control);
             area && area->widget() && area->horizontalScrollBarPolicy() == Qt::ScrollBarAlwaysOff &&
             area->widget()->width() > area->viewport()->width() + Tolerance)
-            Tell(*area->widget(), u"is wider than the area that it is in"_s);
+            Tell(*area->parentWidget(), u"is narrower than what it holds"_s);
         for (const QWidget* around = control.parentWidget(); around && around != &window_;
              around = around->parentWidget())
             if (qobject_cast<const QAbstractScrollArea*>(around)) return;
