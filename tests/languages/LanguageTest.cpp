@@ -15,8 +15,8 @@ namespace {
 struct Message {
     QString context;
     QString source;
-    QString remark;      // for translators
-    QStringList texts;   // one, or a form for each kind of number
+    QString remark;       // for translators
+    QStringList texts;    // one, or a form for each kind of number
     bool isWhole = true;  // finished, and still in the sources
 
     std::string Name() const { return (context + u": "_s + source).toStdString(); }
@@ -29,7 +29,8 @@ std::vector<Message> MessagesOf(const QString& language) {
     QString context;
     QXmlStreamReader xml(&file);
     while (!xml.atEnd()) {
-        if (!xml.readNextStartElement()) continue;
+        xml.readNext();
+        if (!xml.isStartElement()) continue;
         const auto name = xml.name();
         if (name == u"name") context = xml.readElementText();
         if (name == u"message") messages.push_back({.context = context, .source = {}, .remark = {}, .texts = {}});
