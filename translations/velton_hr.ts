@@ -2116,7 +2116,7 @@ Da: provjeri ponovno. Ne: svejedno ispiši.</translation>
     <name>UnitsStep</name>
     <message>
         <source>The till counts one piece of pcs at each scan, and asks for the quantity of every other unit. A short name can be changed until a product has it.</source>
-        <translation>Roba s jedinicom pcs prodaje se po komad pri svakom očitanju, a za svaku drugu jedinicu blagajna pita za količinu. Kratica se može mijenjati dok je nema nijedan artikl.</translation>
+        <translation>Roba s jedinicom pcs prodaje se po jedan komad pri svakom očitanju, a za svaku drugu jedinicu blagajna pita za količinu. Kratica se može mijenjati dok je nema nijedan artikl.</translation>
     </message>
     <message>
         <source>Units</source>
@@ -3998,7 +3998,7 @@ Do you want to delete the customer?</source>
     </message>
     <message>
         <source>TaxID</source>
-        <translation>Šif. poreza</translation>
+        <translation>Šifra</translation>
     </message>
     <message>
         <source>Tax type</source>
@@ -4006,7 +4006,7 @@ Do you want to delete the customer?</source>
     </message>
     <message>
         <source>Tax rate</source>
-        <translation>Stopa poreza</translation>
+        <translation>Stopa</translation>
     </message>
     <message>
         <source>Date</source>
@@ -4018,11 +4018,11 @@ Do you want to delete the customer?</source>
     </message>
     <message>
         <source>Iznos poreza</source>
-        <translation>Iznos poreza</translation>
+        <translation>Porez</translation>
     </message>
     <message>
         <source>Iznos sa porezom-PDVom</source>
-        <translation>Iznos s porezom</translation>
+        <translation>S porezom</translation>
     </message>
     <message>
         <source>Base:</source>

@@ -3998,7 +3998,7 @@ Do you want to delete the customer?</source>
     </message>
     <message>
         <source>TaxID</source>
-        <translation>Šifra PDV</translation>
+        <translation>Šifra</translation>
     </message>
     <message>
         <source>Tax type</source>
@@ -4006,7 +4006,7 @@ Do you want to delete the customer?</source>
     </message>
     <message>
         <source>Tax rate</source>
-        <translation>Stopa PDV</translation>
+        <translation>Stopa</translation>
     </message>
     <message>
         <source>Date</source>
@@ -4018,11 +4018,11 @@ Do you want to delete the customer?</source>
     </message>
     <message>
         <source>Iznos poreza</source>
-        <translation>Iznos poreza</translation>
+        <translation>PDV</translation>
     </message>
     <message>
         <source>Iznos sa porezom-PDVom</source>
-        <translation>Iznos sa PDV</translation>
+        <translation>Sa PDV</translation>
     </message>
     <message>
         <source>Base:</source>
