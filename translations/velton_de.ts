@@ -4763,6 +4763,13 @@ Der Versuch vom %2 ist misslungen: %3</translation>
     </message>
 </context>
 <context>
+    <name>manager::BoxesPage</name>
+    <message>
+        <source>Save what was changed?</source>
+        <translation>Änderungen speichern?</translation>
+    </message>
+</context>
+<context>
     <name>manager::ColumnChart</name>
     <message>
         <source>%1: %2</source>

@@ -4763,6 +4763,13 @@ The try of %2 failed: %3</translation>
     </message>
 </context>
 <context>
+    <name>manager::BoxesPage</name>
+    <message>
+        <source>Save what was changed?</source>
+        <translation>Save what was changed?</translation>
+    </message>
+</context>
+<context>
     <name>manager::ColumnChart</name>
     <message>
         <source>%1: %2</source>

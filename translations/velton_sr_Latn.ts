@@ -4764,6 +4764,13 @@ Pokušaj od %2 nije uspeo: %3</translation>
     </message>
 </context>
 <context>
+    <name>manager::BoxesPage</name>
+    <message>
+        <source>Save what was changed?</source>
+        <translation>Sačuvati izmene?</translation>
+    </message>
+</context>
+<context>
     <name>manager::ColumnChart</name>
     <message>
         <source>%1: %2</source>

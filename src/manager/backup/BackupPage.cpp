@@ -22,7 +22,7 @@ using upkeep::BackupPlan;
 
 namespace manager {
 
-BackupPage::BackupPage(QWidget* parent) : Page(parent) {
+BackupPage::BackupPage(QWidget* parent) : BoxesPage(parent) {
     ui.setupUi(this);
     ui.spnDays->setRange(BackupPlan::LeastDays, BackupPlan::Most);
     for (QSpinBox* count : {ui.spnWeeks, ui.spnMonths}) count->setRange(0, BackupPlan::Most);
@@ -40,7 +40,7 @@ BackupPage::BackupPage(QWidget* parent) : Page(parent) {
 }
 
 void BackupPage::Form_Load() {
-    ShowPlan();
+    FillBoxes();
 }
 
 // A till may have made one meanwhile.
@@ -58,7 +58,7 @@ void BackupPage::ShowAll() {
     Q_EMIT ShopChanged();
 }
 
-void BackupPage::ShowPlan() {
+void BackupPage::Fill() {
     const BackupPlan& plan = TheInstallation.backup;
     ui.spnDays->setValue(plan.days);
     ui.spnWeeks->setValue(plan.weeks);
@@ -128,16 +128,19 @@ void BackupPage::cmdChoose_Click() {
     if (folder.isEmpty()) return;
     upkeep::ChooseBackupFolder(folder, ProgramFolder());
     ReadInstallation();
-    ShowPlan();
+    ui.cmdBackup->setEnabled(true);
     ShowAll();
 }
 
 void BackupPage::cmdSave_Click() {
+    StoreBoxes();
+}
+
+void BackupPage::Store() {
     upkeep::KeepSoMany(
         {.folder = {}, .days = ui.spnDays->value(), .weeks = ui.spnWeeks->value(), .months = ui.spnMonths->value()},
         ProgramFolder());
     ReadInstallation();
-    ShowPlan();
 }
 
 void BackupPage::cmdBackup_Click() {
@@ -181,7 +184,7 @@ void BackupPage::Restore(const BackupFacts& backup) {
         why = error.Description();
     }
     OpenShop();
-    ShowPlan();
+    FillBoxes();
     ShowAll();
     if (!why.isEmpty()) return forms::Tell(tr("Nothing was restored. %1").arg(why), forms::Icon::Warning, Caption());
     forms::Inform(tr("The shop is as it was in the backup of %1, with %2 invoices. What was replaced is kept in %3.")

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "manager/Page.h"
+#include "manager/BoxesPage.h"
 #include "ui_BackupPage.h"
 #include "upkeep/BackupList.h"
 
 namespace manager {
 
 // Where the backups go and how many are kept, which there are, one made at once, and the way back.
-class BackupPage : public Page {
+class BackupPage : public BoxesPage {
     Q_OBJECT
 
 public:
@@ -18,6 +18,8 @@ public:
 protected:
     void Form_Load() override;
     void Form_Activate() override;
+    void Fill() override;
+    void Store() override;
 
 private:
     void cmdChoose_Click();
@@ -26,7 +28,6 @@ private:
     void cmdRestore_Click();
 
     void ShowAll();
-    void ShowPlan();
     void ReadFolder();
     void ShowFolder();
     void ShowState();

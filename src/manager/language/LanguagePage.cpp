@@ -23,7 +23,7 @@ void SetLanguage(values::IniEdit& ini, const QString& key, const QString& code) 
 
 }  // namespace
 
-LanguagePage::LanguagePage(QWidget* parent) : Page(parent) {
+LanguagePage::LanguagePage(QWidget* parent) : BoxesPage(parent) {
     ui.setupUi(this);
     for (QComboBox* box : {ui.cboScreens, ui.cboPaper}) {
         box->addItem(tr("As delivered"), QString());
@@ -34,9 +34,13 @@ LanguagePage::LanguagePage(QWidget* parent) : Page(parent) {
 }
 
 void LanguagePage::Form_Load() {
+    FillBoxes();
+    ShowReceipt();
+}
+
+void LanguagePage::Fill() {
     ui.cboScreens->setCurrentIndex(ui.cboScreens->findData(TheInstallation.screens));
     ui.cboPaper->setCurrentIndex(ui.cboPaper->findData(TheInstallation.paper));
-    ShowReceipt();
 }
 
 void LanguagePage::Form_Activate() {
@@ -50,6 +54,11 @@ void LanguagePage::ShowReceipt() {
 }
 
 void LanguagePage::cmdStore_Click() {
+    StoreBoxes();
+    ui.lblSaid->setText(tr("It is kept. The till and this program have it from their next start."));
+}
+
+void LanguagePage::Store() {
     const QString screens = ui.cboScreens->currentData().toString(), paper = ui.cboPaper->currentData().toString();
     values::IniEdit ini(output::InProgramFolder(u"velton.ini"_s));
     SetLanguage(ini, u"screens"_s, screens);
@@ -58,7 +67,6 @@ void LanguagePage::cmdStore_Click() {
     TheInstallation.screens = screens;
     TheInstallation.paper = paper;
     values::UseLanguage(values::Shown::OnPaper, paper);
-    ui.lblSaid->setText(tr("It is kept. The till and this program have it from their next start."));
 }
 
 }  // namespace manager

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "manager/Page.h"
+#include "manager/BoxesPage.h"
 #include "ui_LanguagePage.h"
 
 class QComboBox;
@@ -8,7 +8,7 @@ class QComboBox;
 namespace manager {
 
 // Which language the till's screens, and which its receipts and reports have.
-class LanguagePage : public Page {
+class LanguagePage : public BoxesPage {
     Q_OBJECT
 
 public:
@@ -20,6 +20,8 @@ protected:
     void Form_Load() override;
     // The head of the receipt may be another by now.
     void Form_Activate() override;
+    void Fill() override;
+    void Store() override;
 
 private:
     void cmdStore_Click();

@@ -34,7 +34,7 @@ void Choose(QComboBox& box, const QString& value) {
 
 }  // namespace
 
-PrintersPage::PrintersPage(QWidget* parent) : Page(parent) {
+PrintersPage::PrintersPage(QWidget* parent) : BoxesPage(parent) {
     ui.setupUi(this);
     for (QComboBox* box : {ui.cboReceipts, ui.cboReports}) {
         box->addItem(tr("Port 1"), u"1"_s);
@@ -56,13 +56,17 @@ PrintersPage::PrintersPage(QWidget* parent) : Page(parent) {
 }
 
 void PrintersPage::Form_Load() {
+    FillBoxes();
+    TellOfPagePrinter();
+}
+
+void PrintersPage::Fill() {
     auto options = OptionsStore().OpenRecordset(OptionsQuery);
     Choose(*ui.cboReceipts, options[u"PrinterZaRacun"].TextOrEmpty());
     Choose(*ui.cboReports, options[u"PrinterZaIzvjestaj"].TextOrEmpty());
     Choose(*ui.cboFamily, options[u"Emulacija"].TextOrEmpty());
     ui.chkCutter->setChecked(options[u"RezacPapira"].TextOrEmpty() == u"1");
     for (PortPanel* port : ports_) port->Fill(Devices());
-    TellOfPagePrinter();
 }
 
 output::PrinterFamily PrintersPage::Family() const {
@@ -77,6 +81,11 @@ void PrintersPage::TellOfPagePrinter() {
 
 void PrintersPage::cmdSave_Click() {
     ui.lblSaved->clear();
+    StoreBoxes();
+    ui.lblSaved->setText(tr("Saved."));
+}
+
+void PrintersPage::Store() {
     values::IniEdit ini(output::InProgramFolder(u"ports.ini"_s));
     for (const PortPanel* port : ports_) {
         const output::PortEntry entry = port->Entry();
@@ -93,7 +102,6 @@ void PrintersPage::cmdSave_Click() {
     options[u"RezacPapira"] = ui.chkCutter->isChecked() ? u"1"_s : u"0"_s;
     options.Update();
     ini.PutInPlace();
-    ui.lblSaved->setText(tr("Saved."));
 }
 
 // What is typed stays.

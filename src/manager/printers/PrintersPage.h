@@ -1,13 +1,13 @@
 #pragma once
 
-#include "manager/Page.h"
+#include "manager/BoxesPage.h"
 #include "manager/printers/PortPanel.h"
 #include "ui_PrintersPage.h"
 
 namespace manager {
 
 // Where receipts and reports go, and whether what stands there prints.
-class PrintersPage : public Page {
+class PrintersPage : public BoxesPage {
     Q_OBJECT
 
 public:
@@ -17,6 +17,8 @@ public:
 
 protected:
     void Form_Load() override;
+    void Fill() override;
+    void Store() override;
 
 private:
     void cmdSave_Click();
