@@ -22,7 +22,7 @@ using upkeep::BackupPlan;
 
 namespace manager {
 
-BackupPage::BackupPage(QWidget* parent) : BoxesPage(parent) {
+BackupPage::BackupPage(QWidget* parent) : PageOfBoxes(parent) {
     ui.setupUi(this);
     ui.spnDays->setRange(BackupPlan::LeastDays, BackupPlan::Most);
     for (QSpinBox* count : {ui.spnWeeks, ui.spnMonths}) count->setRange(0, BackupPlan::Most);
@@ -136,11 +136,12 @@ void BackupPage::cmdSave_Click() {
     StoreBoxes();
 }
 
-void BackupPage::Store() {
+bool BackupPage::Store() {
     upkeep::KeepSoMany(
         {.folder = {}, .days = ui.spnDays->value(), .weeks = ui.spnWeeks->value(), .months = ui.spnMonths->value()},
         ProgramFolder());
     ReadInstallation();
+    return true;
 }
 
 void BackupPage::cmdBackup_Click() {

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "manager/BoxesPage.h"
+#include "manager/PageOfBoxes.h"
 #include "ui_BackupPage.h"
 #include "upkeep/BackupList.h"
 
 namespace manager {
 
 // Where the backups go and how many are kept, which there are, one made at once, and the way back.
-class BackupPage : public BoxesPage {
+class BackupPage : public PageOfBoxes {
     Q_OBJECT
 
 public:
@@ -19,7 +19,7 @@ protected:
     void Form_Load() override;
     void Form_Activate() override;
     void Fill() override;
-    void Store() override;
+    bool Store() override;
 
 private:
     void cmdChoose_Click();

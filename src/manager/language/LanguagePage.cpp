@@ -23,7 +23,7 @@ void SetLanguage(values::IniEdit& ini, const QString& key, const QString& code) 
 
 }  // namespace
 
-LanguagePage::LanguagePage(QWidget* parent) : BoxesPage(parent) {
+LanguagePage::LanguagePage(QWidget* parent) : PageOfBoxes(parent) {
     ui.setupUi(this);
     for (QComboBox* box : {ui.cboScreens, ui.cboPaper}) {
         box->addItem(tr("As delivered"), QString());
@@ -58,7 +58,7 @@ void LanguagePage::cmdStore_Click() {
     ui.lblSaid->setText(tr("It is kept. The till and this program have it from their next start."));
 }
 
-void LanguagePage::Store() {
+bool LanguagePage::Store() {
     const QString screens = ui.cboScreens->currentData().toString(), paper = ui.cboPaper->currentData().toString();
     values::IniEdit ini(output::InProgramFolder(u"velton.ini"_s));
     SetLanguage(ini, u"screens"_s, screens);
@@ -67,6 +67,7 @@ void LanguagePage::Store() {
     TheInstallation.screens = screens;
     TheInstallation.paper = paper;
     values::UseLanguage(values::Shown::OnPaper, paper);
+    return true;
 }
 
 }  // namespace manager

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "manager/BoxesPage.h"
+#include "manager/PageOfBoxes.h"
 #include "ui_LanguagePage.h"
 
 class QComboBox;
@@ -8,7 +8,7 @@ class QComboBox;
 namespace manager {
 
 // Which language the till's screens, and which its receipts and reports have.
-class LanguagePage : public BoxesPage {
+class LanguagePage : public PageOfBoxes {
     Q_OBJECT
 
 public:
@@ -21,7 +21,7 @@ protected:
     // The head of the receipt may be another by now.
     void Form_Activate() override;
     void Fill() override;
-    void Store() override;
+    bool Store() override;
 
 private:
     void cmdStore_Click();

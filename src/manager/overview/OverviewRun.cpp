@@ -45,7 +45,7 @@ void OverviewRun::Work(const std::stop_token& stop, const upkeep::OverviewWish& 
     QString fault;
     try {
         // Open no longer than it is read, for a restore needs the shop alone.
-        const auto main = store::Database::Open(store::MainPlace(output::ProgramFolder()), store::MainSchema());
+        const auto main = store::OpenMain(output::ProgramFolder());
         const store::Watch watch(*main, [&stop] { return !stop.stop_requested(); });
         auto whole = upkeep::ReadOverview(*main, wish, [&](const upkeep::Overview& overview) {
             Hand(std::make_shared<const upkeep::Overview>(overview));

@@ -34,7 +34,7 @@ void Choose(QComboBox& box, const QString& value) {
 
 }  // namespace
 
-PrintersPage::PrintersPage(QWidget* parent) : BoxesPage(parent) {
+PrintersPage::PrintersPage(QWidget* parent) : PageOfBoxes(parent) {
     ui.setupUi(this);
     for (QComboBox* box : {ui.cboReceipts, ui.cboReports}) {
         box->addItem(tr("Port 1"), u"1"_s);
@@ -85,7 +85,7 @@ void PrintersPage::cmdSave_Click() {
     ui.lblSaved->setText(tr("Saved."));
 }
 
-void PrintersPage::Store() {
+bool PrintersPage::Store() {
     values::IniEdit ini(output::InProgramFolder(u"ports.ini"_s));
     for (const PortPanel* port : ports_) {
         const output::PortEntry entry = port->Entry();
@@ -102,6 +102,7 @@ void PrintersPage::Store() {
     options[u"RezacPapira"] = ui.chkCutter->isChecked() ? u"1"_s : u"0"_s;
     options.Update();
     ini.PutInPlace();
+    return true;
 }
 
 // What is typed stays.

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "manager/BoxesPage.h"
+#include "manager/PageOfBoxes.h"
 #include "manager/printers/PortPanel.h"
 #include "ui_PrintersPage.h"
 
 namespace manager {
 
 // Where receipts and reports go, and whether what stands there prints.
-class PrintersPage : public BoxesPage {
+class PrintersPage : public PageOfBoxes {
     Q_OBJECT
 
 public:
@@ -18,7 +18,7 @@ public:
 protected:
     void Form_Load() override;
     void Fill() override;
-    void Store() override;
+    bool Store() override;
 
 private:
     void cmdSave_Click();

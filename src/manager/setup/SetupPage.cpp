@@ -3,7 +3,6 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
-#include "forms/MsgBox.h"
 #include "manager/setup/HeadingStep.h"
 #include "manager/setup/PasswordStep.h"
 #include "manager/setup/RegisterStep.h"
@@ -13,16 +12,16 @@
 
 namespace manager {
 
-SetupPage::SetupPage(QWidget* parent) : Page(parent) {
+SetupPage::SetupPage(QWidget* parent) : PageOfBoxes(parent) {
     ui.setupUi(this);
     const std::pair<SetupStep*, QString> steps[] = {
         {new HeadingStep, tr("1 Receipt")},   {new TaxesStep, tr("2 Taxes")}, {new UnitsStep, tr("3 Units")},
         {new PasswordStep, tr("4 Password")}, {new UsersStep, tr("5 Users")}, {new RegisterStep, tr("6 Register")}};
     for (const auto& [step, name] : steps) {
         ui.tabSteps->addTab(step, name);
-        step->mayLeave = [this] { return LeaveStep(); };
-        connect(step, &SetupStep::Filled, this, [this, step = step] {
-            filled_ = step->Boxes();
+        step->mayLeave = [this] { return MayLeave(); };
+        connect(step, &SetupStep::Filled, this, [this] {
+            NoteBoxes();
             ui.lblSaved->clear();
         });
         // On a button Enter presses it.
@@ -38,55 +37,32 @@ SetupPage::SetupPage(QWidget* parent) : Page(parent) {
 }
 
 void SetupPage::Form_Load() {
-    FillStep();
+    FillBoxes();
 }
 
 // A till, or another page, may have changed what an untouched step shows.
 void SetupPage::Form_Activate() {
-    if (!IsChanged()) FillStep();
-}
-
-// What was not to be saved is gone, so that nobody is asked for it again.
-bool SetupPage::MayLeave() {
-    if (!LeaveStep()) return false;
-    if (IsChanged()) FillStep();
-    return true;
+    if (!IsChanged()) FillBoxes();
 }
 
 SetupStep& SetupPage::Step() const {
     return static_cast<SetupStep&>(*ui.tabSteps->widget(shown_));
 }
 
-bool SetupPage::IsChanged() const {
-    return filled_ != Step().Boxes();
-}
-
-void SetupPage::FillStep() {
-    Step().Fill();
-    filled_ = Step().Boxes();
-}
-
-bool SetupPage::LeaveStep() {
-    if (!IsChanged()) return true;
-    if (!forms::Ask(tr("Save what was changed?"), Caption())) return true;
-    return Step().Store();
-}
-
 void SetupPage::tabSteps_Changed() {
-    if (!LeaveStep()) {
+    if (!MayLeave()) {
         const QSignalBlocker blocker(ui.tabSteps);
         return ui.tabSteps->setCurrentIndex(shown_);
     }
     ui.lblSaved->clear();
     shown_ = ui.tabSteps->currentIndex();
-    FillStep();
+    FillBoxes();
     ui.cmdNext->setEnabled(shown_ + 1 < ui.tabSteps->count());
 }
 
 void SetupPage::cmdSave_Click() {
     ui.lblSaved->clear();
-    if (!Step().Store()) return;
-    filled_ = Step().Boxes();
+    if (!StoreBoxes()) return;
     ui.lblSaved->setText(tr("Saved."));
 }
 

@@ -1,25 +1,26 @@
 #pragma once
 
-#include "manager/Page.h"
+#include "manager/PageOfBoxes.h"
 #include "manager/setup/SetupStep.h"
 #include "ui_SetupPage.h"
 
 namespace manager {
 
 // What a shop is set up with, in steps that can each be left out and done again.
-class SetupPage : public Page {
+class SetupPage : public PageOfBoxes {
     Q_OBJECT
 
 public:
     explicit SetupPage(QWidget* parent);
-
-    bool MayLeave() override;
 
     Ui::SetupPage ui;
 
 protected:
     void Form_Load() override;
     void Form_Activate() override;
+    void Fill() override { Step().Fill(); }
+    bool Store() override { return Step().Store(); }
+    const QWidget& Part() const override { return Step(); }
 
 private:
     SetupStep& Step() const;
@@ -27,12 +28,6 @@ private:
     void cmdSave_Click();
     void cmdNext_Click();
 
-    void FillStep();
-    // Asks whether to store what was changed and is not stored yet; false when it can't be.
-    bool LeaveStep();
-    bool IsChanged() const;
-
-    QStringList filled_;
     int shown_ = 0;
 };
 

@@ -16,9 +16,6 @@ public:
     // Says in a box what cannot be stored, and gives false.
     virtual bool Store() = 0;
 
-    // What stands in the boxes, to be compared with what Fill showed.
-    QStringList Boxes() const;
-
     // Asked before the step shows something else in its boxes; false when it must not.
     std::function<bool()> mayLeave;
 

@@ -1,4 +1,4 @@
-#include "manager/BoxesPage.h"
+#include "manager/PageOfBoxes.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -8,6 +8,8 @@
 #include "forms/MsgBox.h"
 
 namespace manager {
+
+namespace {
 
 QStringList BoxesOf(const QWidget& part) {
     QStringList boxes;
@@ -19,20 +21,32 @@ QStringList BoxesOf(const QWidget& part) {
     return boxes;
 }
 
-void BoxesPage::FillBoxes() {
-    Fill();
-    filled_ = BoxesOf(*this);
+}  // namespace
+
+void PageOfBoxes::NoteBoxes() {
+    stored_ = BoxesOf(Part());
 }
 
-void BoxesPage::StoreBoxes() {
-    Store();
-    filled_ = BoxesOf(*this);
+bool PageOfBoxes::IsChanged() const {
+    return stored_ != BoxesOf(Part());
+}
+
+void PageOfBoxes::FillBoxes() {
+    Fill();
+    NoteBoxes();
+}
+
+bool PageOfBoxes::StoreBoxes() {
+    if (!Store()) return false;
+    NoteBoxes();
+    return true;
 }
 
 // What was not to be saved is gone, so that nobody is asked for it again.
-bool BoxesPage::MayLeave() {
-    if (BoxesOf(*this) == filled_) return true;
-    forms::Ask(tr("Save what was changed?"), Caption()) ? StoreBoxes() : FillBoxes();
+bool PageOfBoxes::MayLeave() {
+    if (!IsChanged()) return true;
+    if (forms::Ask(tr("Save what was changed?"), Caption())) return StoreBoxes();
+    FillBoxes();
     return true;
 }
 

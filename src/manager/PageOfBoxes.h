@@ -4,11 +4,8 @@
 
 namespace manager {
 
-// What stands in the boxes of a part of a page, to be held against what was shown there.
-QStringList BoxesOf(const QWidget& part);
-
 // A page whose boxes are stored together. What was changed and not stored is asked for once before the page is left.
-class BoxesPage : public Page {
+class PageOfBoxes : public Page {
     Q_OBJECT
 
 public:
@@ -19,13 +16,19 @@ protected:
 
     // Shows in the boxes what is stored.
     virtual void Fill() = 0;
-    virtual void Store() = 0;
+    // Says what cannot be stored, and gives false.
+    virtual bool Store() = 0;
+    // Where these boxes are.
+    virtual const QWidget& Part() const { return *this; }
 
     void FillBoxes();
-    void StoreBoxes();
+    bool StoreBoxes();
+    // What they hold now is what is stored.
+    void NoteBoxes();
+    bool IsChanged() const;
 
 private:
-    QStringList filled_;
+    QStringList stored_;
 };
 
 }  // namespace manager
