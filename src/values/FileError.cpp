@@ -72,9 +72,6 @@ QString SentenceOf(FileWork work) {
 FileError::FileError(const QFileDevice& file, FileWork work, const QString& path)
     : Error(NumberOfFailure(file), SentenceOf(work).arg(path.isEmpty() ? file.fileName() : path, file.errorString())) {}
 
-FileError::FileError(const QFileDevice& file, const QString& doing)
-    : Error(NumberOfFailure(file), Words::tr("Cannot %1: %2").arg(doing, file.errorString())) {}
-
 void SaveFile(const QString& path, const QByteArray& bytes) {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())

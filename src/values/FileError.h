@@ -18,8 +18,6 @@ public:
     using Error::Error;
     // What the file itself tells about its last failure; `path` is that of the file unless another is meant.
     FileError(const QFileDevice& file, FileWork work, const QString& path = {});
-    // The same of any other attempt, `doing`, such as "make 'x'".
-    FileError(const QFileDevice& file, const QString& doing);
 };
 
 // Writes a whole file; where that fails it throws a FileError, and a file that was there stays as it was.

@@ -12,7 +12,7 @@ namespace {
 
 void LoadDemoTable(store::Database& main, const QString& table) {
     QFile lines(u":/delivery/demo/%1.tsv"_s.arg(table));
-    if (!lines.open(QIODevice::ReadOnly)) throw values::FileError(lines, u"read the demo shop's %1"_s.arg(table));
+    if (!lines.open(QIODevice::ReadOnly)) throw values::FileError(lines, values::FileWork::Reading);
     upkeep::LoadRows(main, table, lines);
 }
 

@@ -50,7 +50,7 @@ public:
         const QString target = folder_ + u'/' + name;
         MakeFolder(QFileInfo(target).absolutePath());
         QFile file(from);
-        if (!file.rename(target)) throw values::FileError(file, u"make '%1'"_s.arg(target));
+        if (!file.rename(target)) throw values::FileError(file, values::FileWork::Writing, target);
         made_.append(target);
     }
 
@@ -132,7 +132,7 @@ void WriteFile(const QString& path, const QByteArray& content) {
     QDir().mkpath(QFileInfo(path).absolutePath());
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly, OwnerAlone) || file.write(content) != content.size() || !file.flush())
-        throw values::FileError(file, u"write '%1'"_s.arg(path));
+        throw values::FileError(file, values::FileWork::Writing);
 }
 
 // A register that joins the store of a server finds all rows there.
@@ -164,7 +164,7 @@ QStringList WriteSupplies(const QString& folder) {
     QStringList names;
     for (QDirIterator files(root, QDir::Files, QDirIterator::Subdirectories); files.hasNext();) {
         QFile supply(files.next());
-        if (!supply.open(QIODevice::ReadOnly)) throw values::FileError(supply, u"read '%1'"_s.arg(supply.fileName()));
+        if (!supply.open(QIODevice::ReadOnly)) throw values::FileError(supply, values::FileWork::Reading);
         names.append(supply.fileName().mid(root.size()));
         WriteFile(folder + u'/' + names.last(), supply.readAll());
     }
@@ -177,11 +177,11 @@ void CopyProgram(const QString& from, const QString& folder) {
     const QString target = folder + u'/' + Program;
     QFile program(from);
     if (!program.copy(target) || !QFile::setPermissions(target, OwnerAlone | QFile::ExeOwner))
-        throw values::FileError(program, u"copy the program"_s);
+        throw values::FileError(program, values::FileWork::Copying);
     const auto time = QFileInfo(from).lastModified();
     QFile copy(target);
     if (!copy.open(QIODevice::ReadOnly) || !copy.setFileTime(time, QFileDevice::FileModificationTime))
-        throw values::FileError(copy, u"date '%1'"_s.arg(target));
+        throw values::FileError(copy, values::FileWork::Writing);
 }
 
 }  // namespace

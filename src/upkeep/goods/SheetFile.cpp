@@ -119,7 +119,7 @@ private:
 void WriteWorkbook(const QString& path, const Sheet& sheet) {
     // Beside its place until it is whole; made here, so that what is wrong with the place is told in our words.
     QFile part(path + u".part"_s);
-    if (!part.open(QIODevice::WriteOnly)) throw values::FileError(part, Words::tr("write '%1'").arg(path));
+    if (!part.open(QIODevice::WriteOnly)) throw values::FileError(part, values::FileWork::Writing, path);
     part.close();
     const QString error = Workbook(QFile::encodeName(part.fileName()), sheet).Close();
     if (error.isEmpty() &&

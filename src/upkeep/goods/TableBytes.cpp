@@ -54,9 +54,9 @@ QByteArray ReadTableBytes(const QString& path) {
     QFile file(path);
     // A pipe or a device has no end that could be waited for.
     if (const QFileInfo info(path); info.exists() && !info.isFile()) Refuse(Words::tr("'%1' is no file.").arg(path));
-    if (!file.open(QIODevice::ReadOnly)) throw values::FileError(file, Words::tr("read '%1'").arg(path));
+    if (!file.open(QIODevice::ReadOnly)) throw values::FileError(file, values::FileWork::Reading, path);
     const QByteArray bytes = file.read(LargestTable + 1);
-    if (file.error() != QFileDevice::NoError) throw values::FileError(file, Words::tr("read '%1'").arg(path));
+    if (file.error() != QFileDevice::NoError) throw values::FileError(file, values::FileWork::Reading, path);
     if (bytes.trimmed().isEmpty()) Refuse(Words::tr("The file is empty."));
     RefuseOtherKinds(bytes);
     if (bytes.size() > LargestTable)

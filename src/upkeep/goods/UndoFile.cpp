@@ -41,8 +41,7 @@ public:
     explicit UndoReader(const QString& path) : file_(path) {}
 
     UndoRecord Read() {
-        if (!file_.open(QIODevice::ReadOnly))
-            throw values::FileError(file_, Words::tr("read '%1'").arg(file_.fileName()));
+        if (!file_.open(QIODevice::ReadOnly)) throw values::FileError(file_, values::FileWork::Reading);
         const QByteArrayList lines = file_.readAll().split('\n');
         if (lines.size() < 4 || lines[0] != Head || lines[lines.size() - 2] != "end") Refuse();
         UndoRecord record{.path = file_.fileName(),
