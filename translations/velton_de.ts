@@ -103,6 +103,10 @@
         <source>The setting %1 can&apos;t be used. %2</source>
         <translation>Die Einstellung %1 ist unbrauchbar. %2</translation>
     </message>
+    <message>
+        <source>The program that makes it can&apos;t be started.</source>
+        <translation>Das Programm, das sie anlegt, kann nicht gestartet werden.</translation>
+    </message>
 </context>
 <context>
     <name>CustomerEntry</name>
@@ -4763,13 +4767,6 @@ Der Versuch vom %2 ist misslungen: %3</translation>
     </message>
 </context>
 <context>
-    <name>manager::BoxesPage</name>
-    <message>
-        <source>Save what was changed?</source>
-        <translation>Änderungen speichern?</translation>
-    </message>
-</context>
-<context>
     <name>manager::ColumnChart</name>
     <message>
         <source>%1: %2</source>
@@ -5645,6 +5642,13 @@ Der Versuch vom %2 ist misslungen: %3</translation>
     </message>
 </context>
 <context>
+    <name>manager::PageOfBoxes</name>
+    <message>
+        <source>Save what was changed?</source>
+        <translation>Änderungen speichern?</translation>
+    </message>
+</context>
+<context>
     <name>manager::Pages</name>
     <message>
         <source>Overview</source>
@@ -6068,10 +6072,6 @@ Der Versuch vom %2 ist misslungen: %3</translation>
     <message>
         <source>2 Taxes</source>
         <translation>2 Steuern</translation>
-    </message>
-    <message>
-        <source>Save what was changed?</source>
-        <translation>Änderungen speichern?</translation>
     </message>
     <message>
         <source>Saved.</source>
@@ -7641,10 +7641,6 @@ In ports.ini gibt es keinen anderen Drucker für %2.</translation>
         <translation>Eine Spalte kann nicht „%1“ sein, nur %2 oder keine.</translation>
     </message>
     <message>
-        <source>write &apos;%1&apos;</source>
-        <translation>Schreiben von „%1“</translation>
-    </message>
-    <message>
         <source>Cannot write &apos;%1&apos;. %2</source>
         <translation>„%1“ kann nicht geschrieben werden. %2</translation>
     </message>
@@ -7679,10 +7675,6 @@ In ports.ini gibt es keinen anderen Drucker für %2.</translation>
     <message>
         <source>&apos;%1&apos; is no file.</source>
         <translation>„%1“ ist keine Datei.</translation>
-    </message>
-    <message>
-        <source>read &apos;%1&apos;</source>
-        <translation>Lesen von „%1“</translation>
     </message>
     <message>
         <source>The file is empty.</source>
@@ -8704,10 +8696,6 @@ In ports.ini gibt es keinen anderen Drucker für %2.</translation>
     <message>
         <source>Cannot copy &apos;%1&apos;: %2</source>
         <translation>„%1“ lässt sich nicht kopieren: %2</translation>
-    </message>
-    <message>
-        <source>Cannot %1: %2</source>
-        <translation>Fehler beim %1: %2</translation>
     </message>
     <message>
         <source>The folder %1 can&apos;t be opened.</source>

@@ -103,6 +103,10 @@
         <source>The setting %1 can&apos;t be used. %2</source>
         <translation>The setting %1 can&apos;t be used. %2</translation>
     </message>
+    <message>
+        <source>The program that makes it can&apos;t be started.</source>
+        <translation>The program that makes it can&apos;t be started.</translation>
+    </message>
 </context>
 <context>
     <name>CustomerEntry</name>
@@ -4763,13 +4767,6 @@ The try of %2 failed: %3</translation>
     </message>
 </context>
 <context>
-    <name>manager::BoxesPage</name>
-    <message>
-        <source>Save what was changed?</source>
-        <translation>Save what was changed?</translation>
-    </message>
-</context>
-<context>
     <name>manager::ColumnChart</name>
     <message>
         <source>%1: %2</source>
@@ -5645,6 +5642,13 @@ The try of %2 failed: %3</translation>
     </message>
 </context>
 <context>
+    <name>manager::PageOfBoxes</name>
+    <message>
+        <source>Save what was changed?</source>
+        <translation>Save what was changed?</translation>
+    </message>
+</context>
+<context>
     <name>manager::Pages</name>
     <message>
         <source>Overview</source>
@@ -6068,10 +6072,6 @@ The try of %2 failed: %3</translation>
     <message>
         <source>2 Taxes</source>
         <translation>2 Taxes</translation>
-    </message>
-    <message>
-        <source>Save what was changed?</source>
-        <translation>Save what was changed?</translation>
     </message>
     <message>
         <source>Saved.</source>
@@ -7641,10 +7641,6 @@ ports.ini has no other printer for %2.</translation>
         <translation>A column can&apos;t be &apos;%1&apos;. It can be %2 or none.</translation>
     </message>
     <message>
-        <source>write &apos;%1&apos;</source>
-        <translation>write &apos;%1&apos;</translation>
-    </message>
-    <message>
         <source>Cannot write &apos;%1&apos;. %2</source>
         <translation>Cannot write &apos;%1&apos;. %2</translation>
     </message>
@@ -7679,10 +7675,6 @@ ports.ini has no other printer for %2.</translation>
     <message>
         <source>&apos;%1&apos; is no file.</source>
         <translation>&apos;%1&apos; is no file.</translation>
-    </message>
-    <message>
-        <source>read &apos;%1&apos;</source>
-        <translation>read &apos;%1&apos;</translation>
     </message>
     <message>
         <source>The file is empty.</source>
@@ -8704,10 +8696,6 @@ ports.ini has no other printer for %2.</translation>
     <message>
         <source>Cannot copy &apos;%1&apos;: %2</source>
         <translation>Cannot copy &apos;%1&apos;: %2</translation>
-    </message>
-    <message>
-        <source>Cannot %1: %2</source>
-        <translation>Cannot %1: %2</translation>
     </message>
     <message>
         <source>The folder %1 can&apos;t be opened.</source>

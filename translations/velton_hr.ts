@@ -103,6 +103,10 @@
         <source>The setting %1 can&apos;t be used. %2</source>
         <translation>Postavka %1 ne može se upotrijebiti. %2</translation>
     </message>
+    <message>
+        <source>The program that makes it can&apos;t be started.</source>
+        <translation>Program koji je izrađuje ne može se pokrenuti.</translation>
+    </message>
 </context>
 <context>
     <name>CustomerEntry</name>
@@ -4764,13 +4768,6 @@ Pokušaj od %2 nije uspio: %3</translation>
     </message>
 </context>
 <context>
-    <name>manager::BoxesPage</name>
-    <message>
-        <source>Save what was changed?</source>
-        <translation>Spremiti promjene?</translation>
-    </message>
-</context>
-<context>
     <name>manager::ColumnChart</name>
     <message>
         <source>%1: %2</source>
@@ -5655,6 +5652,13 @@ Pokušaj od %2 nije uspio: %3</translation>
     </message>
 </context>
 <context>
+    <name>manager::PageOfBoxes</name>
+    <message>
+        <source>Save what was changed?</source>
+        <translation>Spremiti promjene?</translation>
+    </message>
+</context>
+<context>
     <name>manager::Pages</name>
     <message>
         <source>Overview</source>
@@ -6080,10 +6084,6 @@ Pokušaj od %2 nije uspio: %3</translation>
     <message>
         <source>2 Taxes</source>
         <translation>2 Porezi</translation>
-    </message>
-    <message>
-        <source>Save what was changed?</source>
-        <translation>Spremiti promjene?</translation>
     </message>
     <message>
         <source>Saved.</source>
@@ -7655,10 +7655,6 @@ U datoteci ports.ini nema drugog pisača za %2.</translation>
         <translation>Stupac ne može biti &apos;%1&apos;. Može biti %2 ili nijedan.</translation>
     </message>
     <message>
-        <source>write &apos;%1&apos;</source>
-        <translation>zapisati &apos;%1&apos;</translation>
-    </message>
-    <message>
         <source>Cannot write &apos;%1&apos;. %2</source>
         <translation>&apos;%1&apos; se ne može zapisati. %2</translation>
     </message>
@@ -7693,10 +7689,6 @@ U datoteci ports.ini nema drugog pisača za %2.</translation>
     <message>
         <source>&apos;%1&apos; is no file.</source>
         <translation>&apos;%1&apos; nije datoteka.</translation>
-    </message>
-    <message>
-        <source>read &apos;%1&apos;</source>
-        <translation>pročitati &apos;%1&apos;</translation>
     </message>
     <message>
         <source>The file is empty.</source>
@@ -8752,10 +8744,6 @@ U datoteci ports.ini nema drugog pisača za %2.</translation>
     <message>
         <source>Cannot copy &apos;%1&apos;: %2</source>
         <translation>&apos;%1&apos; se ne može kopirati: %2</translation>
-    </message>
-    <message>
-        <source>Cannot %1: %2</source>
-        <translation>Nije moguće %1: %2</translation>
     </message>
     <message>
         <source>The folder %1 can&apos;t be opened.</source>

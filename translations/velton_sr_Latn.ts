@@ -103,6 +103,10 @@
         <source>The setting %1 can&apos;t be used. %2</source>
         <translation>Podešavanje %1 ne može da se koristi. %2</translation>
     </message>
+    <message>
+        <source>The program that makes it can&apos;t be started.</source>
+        <translation>Program koji je pravi ne može da se pokrene.</translation>
+    </message>
 </context>
 <context>
     <name>CustomerEntry</name>
@@ -4764,13 +4768,6 @@ Pokušaj od %2 nije uspeo: %3</translation>
     </message>
 </context>
 <context>
-    <name>manager::BoxesPage</name>
-    <message>
-        <source>Save what was changed?</source>
-        <translation>Sačuvati izmene?</translation>
-    </message>
-</context>
-<context>
     <name>manager::ColumnChart</name>
     <message>
         <source>%1: %2</source>
@@ -5655,6 +5652,13 @@ Pokušaj od %2 nije uspeo: %3</translation>
     </message>
 </context>
 <context>
+    <name>manager::PageOfBoxes</name>
+    <message>
+        <source>Save what was changed?</source>
+        <translation>Sačuvati izmene?</translation>
+    </message>
+</context>
+<context>
     <name>manager::Pages</name>
     <message>
         <source>Overview</source>
@@ -6080,10 +6084,6 @@ Pokušaj od %2 nije uspeo: %3</translation>
     <message>
         <source>2 Taxes</source>
         <translation>2 Porezi</translation>
-    </message>
-    <message>
-        <source>Save what was changed?</source>
-        <translation>Sačuvati izmene?</translation>
     </message>
     <message>
         <source>Saved.</source>
@@ -7655,10 +7655,6 @@ ports.ini nema drugi štampač za %2.</translation>
         <translation>Kolona ne može biti &apos;%1&apos;. Može biti %2 ili ništa.</translation>
     </message>
     <message>
-        <source>write &apos;%1&apos;</source>
-        <translation>upisati &apos;%1&apos;</translation>
-    </message>
-    <message>
         <source>Cannot write &apos;%1&apos;. %2</source>
         <translation>Nije moguće upisati &apos;%1&apos;. %2</translation>
     </message>
@@ -7693,10 +7689,6 @@ ports.ini nema drugi štampač za %2.</translation>
     <message>
         <source>&apos;%1&apos; is no file.</source>
         <translation>&apos;%1&apos; nije datoteka.</translation>
-    </message>
-    <message>
-        <source>read &apos;%1&apos;</source>
-        <translation>pročitati &apos;%1&apos;</translation>
     </message>
     <message>
         <source>The file is empty.</source>
@@ -8752,10 +8744,6 @@ ports.ini nema drugi štampač za %2.</translation>
     <message>
         <source>Cannot copy &apos;%1&apos;: %2</source>
         <translation>Nije moguće kopirati &apos;%1&apos;: %2</translation>
-    </message>
-    <message>
-        <source>Cannot %1: %2</source>
-        <translation>Nije moguće %1: %2</translation>
     </message>
     <message>
         <source>The folder %1 can&apos;t be opened.</source>

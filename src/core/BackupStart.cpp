@@ -1,6 +1,7 @@
 #include "core/BackupStart.h"
 
 #include "core/AccessLevels.h"
+#include "core/CoreWords.h"
 #include "core/Installation.h"
 #include "core/dbModule.h"
 #include "forms/MsgBox.h"
@@ -32,7 +33,8 @@ void StartBackup() {
     const QString folder = output::ProgramFolder();
     const QDateTime now = values::Now();
     upkeep::NoteAsked(folder, now);
-    if (!startProgram(folder)) upkeep::NoteFailure(folder, now, u"The program that makes it can't be started."_s);
+    if (!startProgram(folder))
+        upkeep::NoteFailure(folder, now, CoreWords::tr("The program that makes it can't be started."));
 }
 
 void StartBackupOfTheDay() {
