@@ -41,8 +41,9 @@ void OpenOptionsStore() {
 
 void OpenMainStore() {
     mainPatience.reset();
-    isMainOnServer = store::MainPlace(output::ProgramFolder()).IsServer();
-    mainStore = store::OpenMain(output::ProgramFolder());
+    const store::Place place = store::MainPlace(output::ProgramFolder());
+    isMainOnServer = place.IsServer();
+    mainStore = store::Database::Open(place, store::MainSchema());
 }
 
 QString WaitsForMainStore() {

@@ -329,8 +329,7 @@ void ListView::LayOutColumns() {
         }
     for (size_t i = 0; i < flexible.size(); ++i) {
         const int share = rest / static_cast<int>(flexible.size() - i);
-        header()->resizeSection(flexible[i],
-                                qMax(share, qMax(Scaled(narrowestFlexibleColumn), HeadingOf(flexible[i]))));
+        header()->resizeSection(flexible[i], qMax(share, NarrowestOf(flexible[i])));
         rest -= share;
     }
 }
@@ -353,9 +352,14 @@ int ListView::NeedOf(int column) const {
     return qMax(longest, HeadingOf(column));
 }
 
-// A heading and a date are shown whole, of a name so much that it can be told from others.
+// With its heading whole: this is never given up.
+int ListView::NarrowestOf(int column) const {
+    return qMax(Scaled(narrowestFlexibleColumn), HeadingOf(column));
+}
+
+// What others make room for: a date is shown whole, and of a name so much that it can be told from others.
 int ListView::LeastOf(int column) const {
-    return qMax(HeadingOf(column), qBound(Scaled(narrowestFlexibleColumn), NeedOf(column), Scaled(widthOfADate)));
+    return qMax(NarrowestOf(column), qMin(NeedOf(column), Scaled(widthOfADate)));
 }
 
 // A hidden first column would not do as the current cell: the view could not scroll to it.

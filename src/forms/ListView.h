@@ -100,6 +100,7 @@ private:
     int WidthOf(int column) const;
     int HeadingOf(int column) const;
     int NeedOf(int column) const;
+    int NarrowestOf(int column) const;
     int LeastOf(int column) const;
     int FirstShownColumn() const;
 

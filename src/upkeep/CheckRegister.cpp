@@ -92,11 +92,9 @@ Findings CheckRegister(const QString& folder, const Progress& progress) {
     // Before the store, so that what is printed meanwhile is in the store already.
     const std::vector<Receipt> ribbon = RibbonOf(folder);
     const StorePointer main = CheckStore(
-        Words::tr("Main store"), [&] { return store::Database::Open(store::MainPlace(folder), store::MainSchema()); },
-        course, findings);
+        Words::tr("Main store"), [&] { return store::OpenMain(folder); }, course, findings);
     const StorePointer options = CheckStore(
-        Words::tr("Options store"),
-        [&] { return store::Database::Open(store::OptionsPlace(folder), store::OptionsSchema()); }, course, findings);
+        Words::tr("Options store"), [&] { return store::OpenOptions(folder); }, course, findings);
     if (main) {
         const auto watch = course.WatchOver(*main);
         course.Begin(Words::tr("The sales are read."));

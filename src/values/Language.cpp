@@ -11,6 +11,15 @@ using namespace Qt::StringLiterals;
 
 namespace values {
 
+const std::vector<Language>& Languages() {
+    static const std::vector<Language> all = {{u"bs"_s, u"Bosanski"_s},
+                                              {u"de"_s, u"Deutsch"_s},
+                                              {u"en"_s, u"English"_s},
+                                              {u"hr"_s, u"Hrvatski"_s},
+                                              {u"sr_Latn"_s, u"Srpski (latinica)"_s}};
+    return all;
+}
+
 namespace {
 
 // Of one language's texts those of the paper, or all the others.
@@ -36,19 +45,6 @@ InUse& InUseFor(Shown where) {
     static InUse screens, paper;
     return where == Shown::OnPaper ? paper : screens;
 }
-
-}  // namespace
-
-const std::vector<Language>& Languages() {
-    static const std::vector<Language> all = {{u"bs"_s, u"Bosanski"_s},
-                                              {u"de"_s, u"Deutsch"_s},
-                                              {u"en"_s, u"English"_s},
-                                              {u"hr"_s, u"Hrvatski"_s},
-                                              {u"sr_Latn"_s, u"Srpski (latinica)"_s}};
-    return all;
-}
-
-namespace {
 
 // As it is written in the names of files; empty when there is none.
 QString Known(const QString& code) {

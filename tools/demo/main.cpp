@@ -34,7 +34,7 @@ void ClearFolder(const QString& path) {
 }
 
 void SwitchOnFiscalRecords(const QString& path) {
-    const auto options = store::Database::Open(store::OptionsPlace(path), store::OptionsSchema());
+    const auto options = store::OpenOptions(path);
     options->Execute(u"UPDATE Options SET FiskalniRacunDA = '1'"_s);
 }
 

@@ -186,7 +186,7 @@ T& PageOf(manager::ManagerWindow& window, const QString& className) {
 void LookAtOlderShop(const QString& shop, const QString& likeShop, const Cashier::Camera& camera) {
     delivery::MakeProgramFolder(shop, {.withDemo = true});
     QFile::copy(likeShop + u"/velton.ini"_s, shop + u"/velton.ini"_s);
-    delivery::TradeForWeeks(*store::Database::Open(store::MainPlace(shop), store::MainSchema()), values::Today());
+    delivery::TradeForWeeks(*store::OpenMain(shop), values::Today());
     auto& window = LogIn(shop, {});
     QStringList views{u"manager-invoices"_s, u"manager-receipt"_s};
     const drivers::ModalWatch watch(

@@ -33,7 +33,7 @@ void MakeShop(const QString& path, const QString& language) {
     delivery::MakeProgramFolder(path, {.withDemo = true});
     if (!language.isEmpty())
         values::SaveFile(path + u"/velton.ini"_s, u"[language]\nscreens=%1\npaper=%1\n"_s.arg(language).toUtf8());
-    const auto options = store::Database::Open(store::OptionsPlace(path), store::OptionsSchema());
+    const auto options = store::OpenOptions(path);
     options->Execute(u"UPDATE Options SET FiskalniRacunDA = '1', Kupac = True"_s);
     output::SetProgramFolder(path);
 }
