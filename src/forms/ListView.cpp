@@ -221,6 +221,7 @@ void ListView::rowsInserted(const QModelIndex& parent, int first, int last) {
         QTreeView::rowsInserted(parent, first, last);
     }
     SelectFirst();
+    FitRows();
 }
 
 void ListView::keyPressEvent(QKeyEvent* event) {
@@ -236,6 +237,7 @@ QModelIndex ListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modi
 void ListView::resizeEvent(QResizeEvent* event) {
     QTreeView::resizeEvent(event);
     LayOutColumns();
+    FitRows();
 }
 
 void ListView::focusInEvent(QFocusEvent* event) {
@@ -265,6 +267,17 @@ bool ListView::viewportEvent(QEvent* event) {
 void ListView::SetRowHeight(int pixels) {
     rows_->SetRowHeight(pixels);
     if (isVisible()) scheduleDelayedItemsLayout();
+}
+
+void ListView::KeepRowsInView(int lowest) {
+    lowestRow_ = lowest;
+    FitRows();
+}
+
+void ListView::FitRows() {
+    if (lowestRow_ == 0 || rows_->rowCount() == 0) return;
+    const int usual = TheTokens().RowHeight;
+    SetRowHeight(qBound(qMin(lowestRow_, usual), viewport()->height() / rows_->rowCount(), usual));
 }
 
 void ListView::MakeTight() {

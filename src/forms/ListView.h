@@ -59,6 +59,8 @@ public:
     void LayOutColumns();
     // Of every row; without it as the look has it.
     void SetRowHeight(int pixels);
+    // Rows get lower, down to so many pixels, where the list is too low to have all of them in view.
+    void KeepRowsInView(int lowest);
     // Low rows below a low heading, for few rows that nobody chooses.
     void MakeTight();
     // What an empty list says in the place of its rows.
@@ -103,6 +105,7 @@ private:
     int NarrowestOf(int column) const;
     int LeastOf(int column) const;
     int FirstShownColumn() const;
+    void FitRows();
 
     RowModel* rows_;
     std::vector<ListColumn> columns_;
@@ -110,6 +113,7 @@ private:
     int selectedBefore_ = -1;  // the last press
     QTimer comingIn_;
     bool selectsFirst_ = false;
+    int lowestRow_ = 0;  // 0: rows keep their height
 };
 
 }  // namespace forms

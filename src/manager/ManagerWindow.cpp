@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "core/Installation.h"
+#include "forms/Theme.h"
 #include "manager/backup/BackupWords.h"
 #include "output/Folder.h"
 
@@ -16,6 +17,7 @@ ManagerWindow::ManagerWindow() {
     ui.setupUi(this);
     setWindowFlags(Qt::Window);
     ui.lstPages->SetColumns({{u""_s, Qt::AlignLeft, -1}});
+    ui.lstPages->KeepRowsInView(forms::Scaled(32));
     connect(ui.lstPages, &forms::ListView::RowChosen, this, Guarded(&ManagerWindow::lstPages_Chosen));
     for (const auto& [key, step] : {std::pair{Qt::Key_PageDown, 1}, std::pair{Qt::Key_PageUp, -1}})
         connect(new QShortcut(QKeyCombination(Qt::ControlModifier, key), this), &QShortcut::activated, this,
