@@ -131,7 +131,7 @@ void SqliteEngine::RetireFor(const Place& successor) {
         isLost_ = true;
     }
     if (::rename(QFile::encodeName(successor.Path()).constData(), place.constData()) != 0)
-        throw StoreError(DiskError, u"The store %1 cannot be renamed."_s.arg(successor.Path()));
+        throw StoreError(DiskError, Words::tr("The store %1 cannot be renamed.").arg(successor.Path()));
     if (InTransaction()) sqlite3_exec(Handle(), "ROLLBACK", nullptr, nullptr, nullptr);
 }
 
