@@ -2002,6 +2002,77 @@ Da: provjeri ponovo. Ne: svejedno štampaj.</translation>
     </message>
 </context>
 <context>
+    <name>TillsPage</name>
+    <message>
+        <source>Several tills</source>
+        <translation>Više kasa</translation>
+    </message>
+    <message>
+        <source>Tills on several machines share one shop when it lies on a PostgreSQL server. Whoever looks after the server tells you what belongs into the boxes.</source>
+        <translation>Kase na više računara dijele jednu radnju kad ona leži na serveru PostgreSQL. Šta se upisuje u polja, reći će Vam ko održava server.</translation>
+    </message>
+    <message>
+        <source>&amp;Server</source>
+        <translation>&amp;Server</translation>
+    </message>
+    <message>
+        <source>such as 192.168.1.10</source>
+        <translation>npr. 192.168.1.10</translation>
+    </message>
+    <message>
+        <source>&amp;Database</source>
+        <translation>&amp;Baza podataka</translation>
+    </message>
+    <message>
+        <source>&amp;User</source>
+        <translation>&amp;Korisnik</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>&amp;Lozinka</translation>
+    </message>
+    <message>
+        <source>as kept before</source>
+        <translation>kao što je sačuvana</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the shop there</source>
+        <translation>&amp;Naziv radnje tamo</translation>
+    </message>
+    <message>
+        <source>&amp;Encryption</source>
+        <translation>Š&amp;ifriranje</translation>
+    </message>
+    <message>
+        <source>&amp;Look at the server</source>
+        <translation>P&amp;ogledaj server</translation>
+    </message>
+    <message>
+        <source>&amp;Move this shop there</source>
+        <translation>Pr&amp;eseli radnju tamo</translation>
+    </message>
+    <message>
+        <source>&amp;Join the shop there</source>
+        <translation>Pri&amp;druži se radnji tamo</translation>
+    </message>
+    <message>
+        <source>&amp;Back into this folder…</source>
+        <translation>&amp;Vrati u ovaj folder…</translation>
+    </message>
+    <message>
+        <source>The pictures on touch buttons lie in the folder of each register. Carry them from one to the other by a stick or a share.</source>
+        <translation>Slike na tipkama leže u folderu svake kase. Prenesite ih s jedne na drugu USB stickom ili preko mreže.</translation>
+    </message>
+    <message>
+        <source>&amp;Take pictures from…</source>
+        <translation>Preuz&amp;mi slike iz…</translation>
+    </message>
+    <message>
+        <source>&amp;Copy pictures to…</source>
+        <translation>Kopira&amp;j slike u…</translation>
+    </message>
+</context>
+<context>
     <name>ToolWords</name>
     <message>
         <source>A copy goes into a file, not to the standard output.</source>
@@ -5704,6 +5775,10 @@ Pokušaj od %2 nije uspio: %3</translation>
         <source>Health</source>
         <translation>Stanje podataka</translation>
     </message>
+    <message>
+        <source>Several tills</source>
+        <translation>Više kasa</translation>
+    </message>
 </context>
 <context>
     <name>manager::PasswordStep</name>
@@ -6166,6 +6241,121 @@ Pokušaj od %2 nije uspio: %3</translation>
             <numerusform>%n artikla pripadaju ovom porezu.</numerusform>
             <numerusform>%n artikala pripada ovom porezu.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>manager::TillsPage</name>
+    <message>
+        <source>The old store is kept as %1.</source>
+        <translation>Stara baza podataka čuva se kao %1.</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Uvijek</translation>
+    </message>
+    <message>
+        <source>Always, and the certificate is checked</source>
+        <translation>Uvijek, uz provjeru certifikata</translation>
+    </message>
+    <message>
+        <source>Where the server offers it</source>
+        <translation>Ako ga server nudi</translation>
+    </message>
+    <message>
+        <source>The shop lies on the server %1. Tills on other machines join it there.</source>
+        <translation>Radnja leži na serveru %1. Kase na drugim računarima pridružuju joj se tamo.</translation>
+    </message>
+    <message>
+        <source>The shop lies in the file %1, and serves the tills of this machine.</source>
+        <translation>Radnja leži u datoteci %1 i služi kasama na ovom računaru.</translation>
+    </message>
+    <message>
+        <source>Look at the server first, then move the shop there or join the one that is there.</source>
+        <translation>Prvo pogledajte server, zatim preselite radnju na njega ili se pridružite onoj koja je tamo.</translation>
+    </message>
+    <message>
+        <source>The server is there and has no shop of this name yet: this one can move there.</source>
+        <translation>Server je tu i još nema radnju tog naziva: ova se može preseliti na njega.</translation>
+    </message>
+    <message>
+        <source>A shop is there, which has sold nothing yet. Its products: %1.</source>
+        <translation>Tamo je radnja koja još ništa nije prodala. Njeni artikli: %1.</translation>
+    </message>
+    <message>
+        <source>A shop is there, and sold last on %1. Its invoices: %2, its products: %3.</source>
+        <translation>Tamo je radnja koja je zadnji put prodavala %1. Njeni računi: %2, njeni artikli: %3.</translation>
+    </message>
+    <message>
+        <source>Fill in the server, the database, the user and the name of the shop.</source>
+        <translation>Upišite server, bazu podataka, korisnika i naziv radnje.</translation>
+    </message>
+    <message>
+        <source>The server is being asked.</source>
+        <translation>Server se pita.</translation>
+    </message>
+    <message>
+        <source>Close the tills of this shop. Is it to move to %1? Its other registers then join it there.</source>
+        <translation>Zatvorite kase ove radnje. Treba li je preseliti na %1? Njene druge kase joj se zatim tamo pridružuju.</translation>
+    </message>
+    <message>
+        <source>The shop is moving.</source>
+        <translation>Radnja se seli.</translation>
+    </message>
+    <message>
+        <source>Close the till of this register. Is it to work on the shop on %1 from now on, and no longer on its own?</source>
+        <translation>Zatvorite program ove kase. Treba li ona od sada raditi u radnji na %1, a ne više u svojoj?</translation>
+    </message>
+    <message>
+        <source>The register is joining the shop.</source>
+        <translation>Kasa se pridružuje radnji.</translation>
+    </message>
+    <message>
+        <source>Close all tills of this shop. Is it to come back into the folder of this register? The tills on other machines have no shop then.</source>
+        <translation>Zatvorite sve kase ove radnje. Treba li je vratiti u folder ove kase? Kase na drugim računarima tada nemaju radnju.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed. %1</source>
+        <translation>Ništa nije promijenjeno. %1</translation>
+    </message>
+    <message>
+        <source>The folder of another register, or a stick with its pictures</source>
+        <translation>Folder druge kase ili USB stick s njenim slikama</translation>
+    </message>
+    <message>
+        <source>The folder of another register, or a stick</source>
+        <translation>Folder druge kase ili USB stick</translation>
+    </message>
+    <message>
+        <source>The pictures are being compared.</source>
+        <translation>Slike se upoređuju.</translation>
+    </message>
+    <message>
+        <source>Some pictures differ from those of the same name there: %1. Replace those?</source>
+        <translation>Neke slike se razlikuju od istoimenih koje su tamo: %1. Treba li ih zamijeniti?</translation>
+    </message>
+    <message>
+        <source>There is no picture to be copied.</source>
+        <translation>Nema slika za kopiranje.</translation>
+    </message>
+    <message>
+        <source>The pictures are being copied.</source>
+        <translation>Slike se kopiraju.</translation>
+    </message>
+    <message>
+        <source>Pictures that were copied: %1.</source>
+        <translation>Kopirane slike: %1.</translation>
+    </message>
+    <message>
+        <source>The shop lies on the server now: %1 rows of %2 tables, compared with those here.</source>
+        <translation>Radnja je sada na serveru: redova %1 u tabelama %2, upoređeno s ovdašnjim.</translation>
+    </message>
+    <message>
+        <source>This register works on the shop on the server now.</source>
+        <translation>Ova kasa sada radi u radnji na serveru.</translation>
+    </message>
+    <message>
+        <source>The shop lies in the folder of this register now: %1 rows of %2 tables, compared with those on the server.</source>
+        <translation>Radnja je sada u folderu ove kase: redova %1 u tabelama %2, upoređeno s onima na serveru.</translation>
     </message>
 </context>
 <context>
@@ -8717,6 +8907,14 @@ U datoteci ports.ini nema drugog printera za %2.</translation>
     <message>
         <source>Selling such a composition takes nothing from the stock of what is gone. Open the composition at the till under Products, View - Edit - Delete Products, and mend it.</source>
         <translation>Prodaja po takvom normativu ne skida sa zalihe ono čega nema. Otvorite normativ na kasi pod Artikli, Pregled - uređivanje - brisanje artikala i ispravite ga.</translation>
+    </message>
+    <message>
+        <source>Comparing the copy</source>
+        <translation>Upoređuje se kopija</translation>
+    </message>
+    <message>
+        <source>There are no pictures in %1: it has no folder %2.</source>
+        <translation>U %1 nema slika: nema foldera %2.</translation>
     </message>
 </context>
 <context>

@@ -2002,6 +2002,77 @@ Ja: noch einmal prüfen. Nein: trotzdem drucken.</translation>
     </message>
 </context>
 <context>
+    <name>TillsPage</name>
+    <message>
+        <source>Several tills</source>
+        <translation>Mehrere Kassen</translation>
+    </message>
+    <message>
+        <source>Tills on several machines share one shop when it lies on a PostgreSQL server. Whoever looks after the server tells you what belongs into the boxes.</source>
+        <translation>Kassen auf mehreren Rechnern teilen sich ein Geschäft, wenn es auf einem PostgreSQL-Server liegt. Was in die Felder gehört, weiß, wer den Server betreut.</translation>
+    </message>
+    <message>
+        <source>&amp;Server</source>
+        <translation>&amp;Server</translation>
+    </message>
+    <message>
+        <source>such as 192.168.1.10</source>
+        <translation>etwa 192.168.1.10</translation>
+    </message>
+    <message>
+        <source>&amp;Database</source>
+        <translation>&amp;Datenbank</translation>
+    </message>
+    <message>
+        <source>&amp;User</source>
+        <translation>&amp;Benutzer</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>&amp;Passwort</translation>
+    </message>
+    <message>
+        <source>as kept before</source>
+        <translation>wie bisher gemerkt</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the shop there</source>
+        <translation>&amp;Name des Geschäfts dort</translation>
+    </message>
+    <message>
+        <source>&amp;Encryption</source>
+        <translation>V&amp;erschlüsselung</translation>
+    </message>
+    <message>
+        <source>&amp;Look at the server</source>
+        <translation>Server &amp;ansehen</translation>
+    </message>
+    <message>
+        <source>&amp;Move this shop there</source>
+        <translation>Geschäft dorthin &amp;umziehen</translation>
+    </message>
+    <message>
+        <source>&amp;Join the shop there</source>
+        <translation>Dem Geschäft dort beitre&amp;ten</translation>
+    </message>
+    <message>
+        <source>&amp;Back into this folder…</source>
+        <translation>&amp;Zurück in diesen Ordner…</translation>
+    </message>
+    <message>
+        <source>The pictures on touch buttons lie in the folder of each register. Carry them from one to the other by a stick or a share.</source>
+        <translation>Die Bilder der Tasten liegen im Ordner jeder Kasse. Von einer zur anderen kommen sie auf einem Stick oder über eine Freigabe.</translation>
+    </message>
+    <message>
+        <source>&amp;Take pictures from…</source>
+        <translation>Bilder &amp;holen von…</translation>
+    </message>
+    <message>
+        <source>&amp;Copy pictures to…</source>
+        <translation>Bilder &amp;kopieren nach…</translation>
+    </message>
+</context>
+<context>
     <name>ToolWords</name>
     <message>
         <source>A copy goes into a file, not to the standard output.</source>
@@ -5694,6 +5765,10 @@ Der Versuch vom %2 ist misslungen: %3</translation>
         <source>Health</source>
         <translation>Prüfung</translation>
     </message>
+    <message>
+        <source>Several tills</source>
+        <translation>Mehrere Kassen</translation>
+    </message>
 </context>
 <context>
     <name>manager::PasswordStep</name>
@@ -6153,6 +6228,121 @@ Der Versuch vom %2 ist misslungen: %3</translation>
             <numerusform>%n Artikel gehört zu dieser Steuer.</numerusform>
             <numerusform>%n Artikel gehören zu dieser Steuer.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>manager::TillsPage</name>
+    <message>
+        <source>The old store is kept as %1.</source>
+        <translation>Die alte Datenbank bleibt als %1 erhalten.</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Immer</translation>
+    </message>
+    <message>
+        <source>Always, and the certificate is checked</source>
+        <translation>Immer, mit Prüfung des Zertifikats</translation>
+    </message>
+    <message>
+        <source>Where the server offers it</source>
+        <translation>Wenn der Server sie anbietet</translation>
+    </message>
+    <message>
+        <source>The shop lies on the server %1. Tills on other machines join it there.</source>
+        <translation>Das Geschäft liegt auf dem Server %1. Kassen auf anderen Rechnern treten ihm dort bei.</translation>
+    </message>
+    <message>
+        <source>The shop lies in the file %1, and serves the tills of this machine.</source>
+        <translation>Das Geschäft liegt in der Datei %1 und dient den Kassen auf diesem Rechner.</translation>
+    </message>
+    <message>
+        <source>Look at the server first, then move the shop there or join the one that is there.</source>
+        <translation>Zuerst den Server ansehen, dann das Geschäft dorthin umziehen oder dem beitreten, das dort liegt.</translation>
+    </message>
+    <message>
+        <source>The server is there and has no shop of this name yet: this one can move there.</source>
+        <translation>Der Server ist da und hat noch kein Geschäft dieses Namens: Dieses kann dorthin umziehen.</translation>
+    </message>
+    <message>
+        <source>A shop is there, which has sold nothing yet. Its products: %1.</source>
+        <translation>Dort liegt ein Geschäft, das noch nichts verkauft hat. Seine Artikel: %1.</translation>
+    </message>
+    <message>
+        <source>A shop is there, and sold last on %1. Its invoices: %2, its products: %3.</source>
+        <translation>Dort liegt ein Geschäft, das zuletzt am %1 verkauft hat. Seine Rechnungen: %2, seine Artikel: %3.</translation>
+    </message>
+    <message>
+        <source>Fill in the server, the database, the user and the name of the shop.</source>
+        <translation>Bitte Server, Datenbank, Benutzer und Namen des Geschäfts ausfüllen.</translation>
+    </message>
+    <message>
+        <source>The server is being asked.</source>
+        <translation>Der Server wird gefragt.</translation>
+    </message>
+    <message>
+        <source>Close the tills of this shop. Is it to move to %1? Its other registers then join it there.</source>
+        <translation>Bitte die Kassen dieses Geschäfts schließen. Soll es nach %1 umziehen? Seine anderen Kassen treten ihm danach dort bei.</translation>
+    </message>
+    <message>
+        <source>The shop is moving.</source>
+        <translation>Das Geschäft zieht um.</translation>
+    </message>
+    <message>
+        <source>Close the till of this register. Is it to work on the shop on %1 from now on, and no longer on its own?</source>
+        <translation>Bitte das Programm dieser Kasse schließen. Soll sie ab jetzt im Geschäft auf %1 arbeiten und nicht mehr in ihrem eigenen?</translation>
+    </message>
+    <message>
+        <source>The register is joining the shop.</source>
+        <translation>Die Kasse tritt dem Geschäft bei.</translation>
+    </message>
+    <message>
+        <source>Close all tills of this shop. Is it to come back into the folder of this register? The tills on other machines have no shop then.</source>
+        <translation>Bitte alle Kassen dieses Geschäfts schließen. Soll es in den Ordner dieser Kasse zurückkommen? Die Kassen auf anderen Rechnern haben dann kein Geschäft.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed. %1</source>
+        <translation>Es wurde nichts geändert. %1</translation>
+    </message>
+    <message>
+        <source>The folder of another register, or a stick with its pictures</source>
+        <translation>Der Ordner einer anderen Kasse oder ein Stick mit ihren Bildern</translation>
+    </message>
+    <message>
+        <source>The folder of another register, or a stick</source>
+        <translation>Der Ordner einer anderen Kasse oder ein Stick</translation>
+    </message>
+    <message>
+        <source>The pictures are being compared.</source>
+        <translation>Die Bilder werden verglichen.</translation>
+    </message>
+    <message>
+        <source>Some pictures differ from those of the same name there: %1. Replace those?</source>
+        <translation>Einige Bilder weichen von den gleichnamigen dort ab: %1. Sollen diese ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>There is no picture to be copied.</source>
+        <translation>Es gibt kein Bild zu kopieren.</translation>
+    </message>
+    <message>
+        <source>The pictures are being copied.</source>
+        <translation>Die Bilder werden kopiert.</translation>
+    </message>
+    <message>
+        <source>Pictures that were copied: %1.</source>
+        <translation>Kopierte Bilder: %1.</translation>
+    </message>
+    <message>
+        <source>The shop lies on the server now: %1 rows of %2 tables, compared with those here.</source>
+        <translation>Das Geschäft liegt jetzt auf dem Server: %1 Zeilen aus %2 Tabellen, mit denen hier verglichen.</translation>
+    </message>
+    <message>
+        <source>This register works on the shop on the server now.</source>
+        <translation>Diese Kasse arbeitet jetzt im Geschäft auf dem Server.</translation>
+    </message>
+    <message>
+        <source>The shop lies in the folder of this register now: %1 rows of %2 tables, compared with those on the server.</source>
+        <translation>Das Geschäft liegt jetzt im Ordner dieser Kasse: %1 Zeilen aus %2 Tabellen, mit denen auf dem Server verglichen.</translation>
     </message>
 </context>
 <context>
@@ -8669,6 +8859,14 @@ In ports.ini gibt es keinen anderen Drucker für %2.</translation>
     <message>
         <source>Selling such a composition takes nothing from the stock of what is gone. Open the composition at the till under Products, View - Edit - Delete Products, and mend it.</source>
         <translation>Beim Verkauf nach einer solchen Rezeptur wird vom Fehlenden kein Bestand abgezogen. Die Rezeptur an der Kasse unter Artikel, Artikel ansehen - ändern - löschen öffnen und berichtigen.</translation>
+    </message>
+    <message>
+        <source>Comparing the copy</source>
+        <translation>Die Kopie wird verglichen</translation>
+    </message>
+    <message>
+        <source>There are no pictures in %1: it has no folder %2.</source>
+        <translation>In %1 sind keine Bilder: Der Ordner %2 fehlt.</translation>
     </message>
 </context>
 <context>

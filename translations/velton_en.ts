@@ -2002,6 +2002,77 @@ Yes: look at it again. No: print all the same.</translation>
     </message>
 </context>
 <context>
+    <name>TillsPage</name>
+    <message>
+        <source>Several tills</source>
+        <translation>Several tills</translation>
+    </message>
+    <message>
+        <source>Tills on several machines share one shop when it lies on a PostgreSQL server. Whoever looks after the server tells you what belongs into the boxes.</source>
+        <translation>Tills on several machines share one shop when it lies on a PostgreSQL server. Whoever looks after the server tells you what belongs into the boxes.</translation>
+    </message>
+    <message>
+        <source>&amp;Server</source>
+        <translation>&amp;Server</translation>
+    </message>
+    <message>
+        <source>such as 192.168.1.10</source>
+        <translation>such as 192.168.1.10</translation>
+    </message>
+    <message>
+        <source>&amp;Database</source>
+        <translation>&amp;Database</translation>
+    </message>
+    <message>
+        <source>&amp;User</source>
+        <translation>&amp;User</translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation>&amp;Password</translation>
+    </message>
+    <message>
+        <source>as kept before</source>
+        <translation>as kept before</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the shop there</source>
+        <translation>&amp;Name of the shop there</translation>
+    </message>
+    <message>
+        <source>&amp;Encryption</source>
+        <translation>&amp;Encryption</translation>
+    </message>
+    <message>
+        <source>&amp;Look at the server</source>
+        <translation>&amp;Look at the server</translation>
+    </message>
+    <message>
+        <source>&amp;Move this shop there</source>
+        <translation>&amp;Move this shop there</translation>
+    </message>
+    <message>
+        <source>&amp;Join the shop there</source>
+        <translation>&amp;Join the shop there</translation>
+    </message>
+    <message>
+        <source>&amp;Back into this folder…</source>
+        <translation>&amp;Back into this folder…</translation>
+    </message>
+    <message>
+        <source>The pictures on touch buttons lie in the folder of each register. Carry them from one to the other by a stick or a share.</source>
+        <translation>The pictures on touch buttons lie in the folder of each register. Carry them from one to the other by a stick or a share.</translation>
+    </message>
+    <message>
+        <source>&amp;Take pictures from…</source>
+        <translation>&amp;Take pictures from…</translation>
+    </message>
+    <message>
+        <source>&amp;Copy pictures to…</source>
+        <translation>&amp;Copy pictures to…</translation>
+    </message>
+</context>
+<context>
     <name>ToolWords</name>
     <message>
         <source>A copy goes into a file, not to the standard output.</source>
@@ -5694,6 +5765,10 @@ The try of %2 failed: %3</translation>
         <source>Health</source>
         <translation>Health</translation>
     </message>
+    <message>
+        <source>Several tills</source>
+        <translation>Several tills</translation>
+    </message>
 </context>
 <context>
     <name>manager::PasswordStep</name>
@@ -6153,6 +6228,121 @@ The try of %2 failed: %3</translation>
             <numerusform>%n product belongs to this tax.</numerusform>
             <numerusform>%n products belong to this tax.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>manager::TillsPage</name>
+    <message>
+        <source>The old store is kept as %1.</source>
+        <translation>The old store is kept as %1.</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Always</translation>
+    </message>
+    <message>
+        <source>Always, and the certificate is checked</source>
+        <translation>Always, and the certificate is checked</translation>
+    </message>
+    <message>
+        <source>Where the server offers it</source>
+        <translation>Where the server offers it</translation>
+    </message>
+    <message>
+        <source>The shop lies on the server %1. Tills on other machines join it there.</source>
+        <translation>The shop lies on the server %1. Tills on other machines join it there.</translation>
+    </message>
+    <message>
+        <source>The shop lies in the file %1, and serves the tills of this machine.</source>
+        <translation>The shop lies in the file %1, and serves the tills of this machine.</translation>
+    </message>
+    <message>
+        <source>Look at the server first, then move the shop there or join the one that is there.</source>
+        <translation>Look at the server first, then move the shop there or join the one that is there.</translation>
+    </message>
+    <message>
+        <source>The server is there and has no shop of this name yet: this one can move there.</source>
+        <translation>The server is there and has no shop of this name yet: this one can move there.</translation>
+    </message>
+    <message>
+        <source>A shop is there, which has sold nothing yet. Its products: %1.</source>
+        <translation>A shop is there, which has sold nothing yet. Its products: %1.</translation>
+    </message>
+    <message>
+        <source>A shop is there, and sold last on %1. Its invoices: %2, its products: %3.</source>
+        <translation>A shop is there, and sold last on %1. Its invoices: %2, its products: %3.</translation>
+    </message>
+    <message>
+        <source>Fill in the server, the database, the user and the name of the shop.</source>
+        <translation>Fill in the server, the database, the user and the name of the shop.</translation>
+    </message>
+    <message>
+        <source>The server is being asked.</source>
+        <translation>The server is being asked.</translation>
+    </message>
+    <message>
+        <source>Close the tills of this shop. Is it to move to %1? Its other registers then join it there.</source>
+        <translation>Close the tills of this shop. Is it to move to %1? Its other registers then join it there.</translation>
+    </message>
+    <message>
+        <source>The shop is moving.</source>
+        <translation>The shop is moving.</translation>
+    </message>
+    <message>
+        <source>Close the till of this register. Is it to work on the shop on %1 from now on, and no longer on its own?</source>
+        <translation>Close the till of this register. Is it to work on the shop on %1 from now on, and no longer on its own?</translation>
+    </message>
+    <message>
+        <source>The register is joining the shop.</source>
+        <translation>The register is joining the shop.</translation>
+    </message>
+    <message>
+        <source>Close all tills of this shop. Is it to come back into the folder of this register? The tills on other machines have no shop then.</source>
+        <translation>Close all tills of this shop. Is it to come back into the folder of this register? The tills on other machines have no shop then.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed. %1</source>
+        <translation>Nothing was changed. %1</translation>
+    </message>
+    <message>
+        <source>The folder of another register, or a stick with its pictures</source>
+        <translation>The folder of another register, or a stick with its pictures</translation>
+    </message>
+    <message>
+        <source>The folder of another register, or a stick</source>
+        <translation>The folder of another register, or a stick</translation>
+    </message>
+    <message>
+        <source>The pictures are being compared.</source>
+        <translation>The pictures are being compared.</translation>
+    </message>
+    <message>
+        <source>Some pictures differ from those of the same name there: %1. Replace those?</source>
+        <translation>Some pictures differ from those of the same name there: %1. Replace those?</translation>
+    </message>
+    <message>
+        <source>There is no picture to be copied.</source>
+        <translation>There is no picture to be copied.</translation>
+    </message>
+    <message>
+        <source>The pictures are being copied.</source>
+        <translation>The pictures are being copied.</translation>
+    </message>
+    <message>
+        <source>Pictures that were copied: %1.</source>
+        <translation>Pictures that were copied: %1.</translation>
+    </message>
+    <message>
+        <source>The shop lies on the server now: %1 rows of %2 tables, compared with those here.</source>
+        <translation>The shop lies on the server now: %1 rows of %2 tables, compared with those here.</translation>
+    </message>
+    <message>
+        <source>This register works on the shop on the server now.</source>
+        <translation>This register works on the shop on the server now.</translation>
+    </message>
+    <message>
+        <source>The shop lies in the folder of this register now: %1 rows of %2 tables, compared with those on the server.</source>
+        <translation>The shop lies in the folder of this register now: %1 rows of %2 tables, compared with those on the server.</translation>
     </message>
 </context>
 <context>
@@ -8669,6 +8859,14 @@ ports.ini has no other printer for %2.</translation>
     <message>
         <source>Selling such a composition takes nothing from the stock of what is gone. Open the composition at the till under Products, View - Edit - Delete Products, and mend it.</source>
         <translation>Selling such a composition takes nothing from the stock of what is gone. Open the composition at the till under Products, View - edit - delete products, and mend it.</translation>
+    </message>
+    <message>
+        <source>Comparing the copy</source>
+        <translation>Comparing the copy</translation>
+    </message>
+    <message>
+        <source>There are no pictures in %1: it has no folder %2.</source>
+        <translation>There are no pictures in %1: it has no folder %2.</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,10 @@
 #include "manager/Page.h"
 
+#include <exception>
+
+#include "manager/Beside.h"
+#include "manager/Start.h"
+
 namespace manager {
 
 void Page::TabLast(std::initializer_list<QWidget*> controls) {
@@ -10,6 +15,22 @@ void Page::TabLast(std::initializer_list<QWidget*> controls) {
         setTabOrder(before, control);
         before = control;
     }
+}
+
+bool Page::RunWithoutShop(const QString& doing, const std::function<void(const upkeep::Progress&)>& work) {
+    bool goes = true;
+    Q_EMIT ShopGoes(&goes);
+    if (!goes) return false;
+    CloseShop();
+    std::exception_ptr failure;
+    try {
+        RunBeside(this, doing, work);
+    } catch (...) {
+        failure = std::current_exception();
+    }
+    OpenShop();
+    if (failure) std::rethrow_exception(failure);
+    return true;
 }
 
 }  // namespace manager

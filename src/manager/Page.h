@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/Form.h"
+#include "upkeep/Progress.h"
 
 namespace manager {
 
@@ -30,6 +31,10 @@ protected:
     // Puts these behind all others of the page in the order of the Tab key, in which parts that are added in code come
     // last.
     void TabLast(std::initializer_list<QWidget*> controls);
+
+    // Works on the shop's folder beside the window (Beside.h) while neither this program nor a page of it has the
+    // stores open; whatever becomes of it, they are opened again. False when another page has to stay.
+    bool RunWithoutShop(const QString& doing, const std::function<void(const upkeep::Progress&)>& work);
 };
 
 }  // namespace manager

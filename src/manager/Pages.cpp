@@ -13,6 +13,7 @@
 #include "manager/printers/PrintersPage.h"
 #include "manager/reports/ReportsPage.h"
 #include "manager/setup/SetupPage.h"
+#include "manager/tills/TillsPage.h"
 
 using namespace Qt::StringLiterals;
 
@@ -42,6 +43,7 @@ std::vector<PageEntry> AllPages() {
         {u"PrintersPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Printers")), Make<PrintersPage>},
         {u"LanguagePage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Language")), Make<LanguagePage>},
         {u"SetupPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Set-up")), Make<SetupPage>},
+        {u"TillsPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Several tills")), Make<TillsPage>},
         {u"BackupPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Backup")), Make<BackupPage>},
         {u"HealthPage"_s, Named(QT_TRANSLATE_NOOP("manager::Pages", "Health")), Make<HealthPage>},
     };

@@ -4,6 +4,7 @@
 
 #include "store/Creation.h"
 #include "store/StorePath.h"
+#include "upkeep/ClosedTill.h"
 #include "upkeep/DayTotals.h"
 #include "upkeep/Words.h"
 #include "values/IniEdit.h"
@@ -37,22 +38,39 @@ void RequireSame(const Totals& before, const Totals& after) {
     throw store::StoreError(store::NotAStore, Words::tr("The copy of the store is not the same; nothing was changed."));
 }
 
+// The store.ini of a register, ready to point to a server, or into the folder where the address is empty.
+class StoreIni : public values::IniEdit {
+public:
+    StoreIni(const QString& folder, const QString& address) : IniEdit(QDir(folder).filePath(u"store.ini"_s)) {
+        const bool toServer = !address.isEmpty();
+        Remove(u"main"_s, toServer ? u"path"_s : u"url"_s);
+        Set(u"main"_s, toServer ? u"url"_s : u"path"_s, toServer ? address : QString(store::MainFile));
+        Prepare();
+    }
+};
+
+bool LiesIn(const QString& folder, const store::Place& place) {
+    return !place.IsServer() && QFileInfo(place.Path()).absoluteDir() == QDir(QDir(folder).absolutePath());
+}
+
 }  // namespace
 
-Moved MoveMainStore(const QString& folder, const QString& address) {
+Moved MoveMainStore(const QString& folder, const QString& address, const Progress& progress) {
     const store::Place target =
         address.isEmpty() ? store::Place(QDir(folder).filePath(store::MainFile)) : store::Place::Server(address);
     const auto source = store::OpenMain(folder);
     source->TakeAlone();
     const Totals before = TotalsOf(*source);
     store::Creation creation(target, store::MainSchema());
-    creation.Store().AddAllOf(*source);
+    {
+        const auto goesOn = [&progress] { return !progress || progress(Words::tr("Copying the shop")); };
+        const store::Watch reading(*source, goesOn), writing(creation.Store(), goesOn);
+        creation.Store().AddAllOf(*source);
+    }
+    GoOn(progress, Words::tr("Comparing the copy"));
     RequireSame(before, TotalsOf(creation.Store()));
-    values::IniEdit ini(QDir(folder).filePath(u"store.ini"_s));
-    const bool toServer = target.IsServer();
-    ini.Remove(u"main"_s, toServer ? u"path"_s : u"url"_s);
-    ini.Set(u"main"_s, toServer ? u"url"_s : u"path"_s, toServer ? address : QString(store::MainFile));
-    ini.Prepare();
+    GoOn(progress, Words::tr("Putting the shop in its place"));
+    StoreIni ini(folder, address);
     const QString keptAs = source->PrepareToRetire();
     creation.Finish();
     ini.PutInPlace();
@@ -61,6 +79,22 @@ Moved MoveMainStore(const QString& folder, const QString& address) {
             .rows = before.rows,
             .days = static_cast<int>(before.days.size()),
             .keptAs = keptAs};
+}
+
+QString JoinShop(const QString& folder, const QString& address) {
+    store::Database::Open(store::Place::Server(address), store::MainSchema());
+    const ClosedTill till(folder);  // an open one would go on selling into the old store
+    StoreIni ini(folder, address);
+    std::unique_ptr<store::Database> own;
+    QString keptAs;
+    if (LiesIn(folder, store::MainPlace(folder))) {
+        own = store::OpenMain(folder);
+        own->TakeAlone();
+        keptAs = own->PrepareToRetire();
+    }
+    ini.PutInPlace();
+    if (own) own->Retire();
+    return keptAs;
 }
 
 }  // namespace upkeep

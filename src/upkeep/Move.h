@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include "upkeep/Progress.h"
 
 namespace upkeep {
 
@@ -16,6 +16,11 @@ struct Moved {
 // place, and the old store is put aside. Nobody else may have the store open (3218; on a server its tills find it
 // gone). When it fails before the end, all stays as it was. Other registers of the store have to be told of its new
 // place.
-Moved MoveMainStore(const QString& folder, const QString& address);
+Moved MoveMainStore(const QString& folder, const QString& address, const Progress& progress = {});
+
+// Has a register work on a shop that lies on a server already. A store in its own folder is put aside, and the name
+// under which it is kept comes back; nobody may have it open (3218). One that lies elsewhere stays there for its other
+// registers, and nothing comes back.
+QString JoinShop(const QString& folder, const QString& address);
 
 }  // namespace upkeep

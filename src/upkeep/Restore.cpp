@@ -8,6 +8,7 @@
 #include "store/StorePath.h"
 #include "upkeep/BackupPlace.h"
 #include "upkeep/BackupPlan.h"
+#include "upkeep/ClosedTill.h"
 #include "upkeep/ManagerStore.h"
 #include "upkeep/RestoreSteps.h"
 #include "upkeep/Words.h"
@@ -229,9 +230,7 @@ RestorePreview PreviewRestore(const QString& registerFolder, const BackupFacts& 
 Restored RestoreBackup(const QString& registerFolder, const BackupFacts& backup, const Progress& progress) {
     if (!backup.fault.isEmpty()) throw store::StoreError(store::NotAStore, backup.fault);
     EndBrokenRestore(registerFolder);
-    const values::FileLock till(registerFolder, values::FileLock::On::Folder);
-    if (!till.IsHeld())
-        throw store::StoreError(store::StoreLocked, Words::tr("The till of this register is open. Close it first."));
+    const ClosedTill till(registerFolder);
     const values::FileLock backups(BackupLock(registerFolder));
     if (!backups.IsHeld())
         throw store::StoreError(store::StoreLocked,

@@ -1,8 +1,14 @@
+#include <QLineEdit>
+
 #include "manager/ManagerWindow.h"
 #include "manager/Start.h"
+#include "store/Creation.h"
+#include "support/Rows.h"
 #include "support/ScreenCase.h"
+#include "support/Server.h"
 #include "support/ValueOf.h"
 #include "upkeep/Overview.h"
+#include "upkeep/server/ServerAddress.h"
 #include "values/Clock.h"
 
 using drivers::ScreenCase;
@@ -130,6 +136,26 @@ void Restore(ScreenCase& at, const QString& text, const Step&) {
     drivers::Click(drivers::Get<QWidget>(at.Form(), u"cmdRestore"));
 }
 
+// `address`: the page of several tills is told of a place on a server that has no shop yet; of one that has been made
+// there, with one product, where `with-a-shop` stands behind it.
+void FillAddress(ScreenCase& at, const QString& rest, const Step&) {
+    const auto place = store::Place::Server(drivers::Server::Running().NewShop());
+    if (rest == u"with-a-shop") {
+        store::Creation shop(place, store::MainSchema());
+        drivers::AddRows(shop.Store(), u"Products"_s, {u"ProdCode=there"_s});
+        shop.Finish();
+    }
+    qputenv("PGPASSFILE", at.Path(u"passwords"_s).toUtf8());
+    const auto address = upkeep::ServerAddress::Of(place);
+    const auto fill = [&at](const QString& box, const QString& text) {
+        drivers::Get<QLineEdit>(at.Form(), box)->setText(text);
+    };
+    fill(u"txtServer"_s, address.host);
+    fill(u"txtDatabase"_s, address.database);
+    fill(u"txtUser"_s, address.user);
+    fill(u"txtSchema"_s, address.schema);
+}
+
 [[maybe_unused]] const bool added = ScreenCase::AddWords(
     {
         {u"manager"_s, [](ScreenCase& at, const QString&, const Step&) { StartManager(at); }},
@@ -138,6 +164,7 @@ void Restore(ScreenCase& at, const QString& text, const Step&) {
         {u"figures"_s, CheckFigures},
         {u"tail"_s, CheckTail},
         {u"restore"_s, Restore},
+        {u"address"_s, FillAddress},
     },
     {u"figures"_s, u"tail"_s});
 
@@ -145,4 +172,4 @@ void Restore(ScreenCase& at, const QString& text, const Step&) {
 
 INSTANTIATE_SCREEN_CASES(Manager, u"manager-backup"_s, u"manager-drawer"_s, u"manager-figures"_s, u"manager-goods"_s,
                          u"manager-health"_s, u"manager-labels"_s, u"manager-overview"_s, u"manager-printers"_s,
-                         u"manager-reports"_s, u"manager-setup"_s, u"manager-start"_s);
+                         u"manager-reports"_s, u"manager-setup"_s, u"manager-start"_s, u"manager-tills"_s);

@@ -4,7 +4,6 @@
 #include "forms/FileDialog.h"
 #include "forms/MsgBox.h"
 #include "manager/Beside.h"
-#include "manager/Start.h"
 #include "manager/Texts.h"
 #include "manager/backup/BackupWords.h"
 #include "manager/backup/RestoreForm.h"
@@ -169,22 +168,17 @@ void BackupPage::cmdRestore_Click() {
     if (question.IsAgreed()) Restore(backup);
 }
 
-// The window works on the same stores; whatever becomes of them, they are opened again.
 void BackupPage::Restore(const BackupFacts& backup) {
-    bool goes = true;
-    Q_EMIT ShopGoes(&goes);
-    if (!goes) return;
     upkeep::Restored restored;
     QString why;
-    CloseShop();
     try {
-        RunBeside(this, tr("The backup is being brought back."), [&](const upkeep::Progress& progress) {
+        const bool isDone = RunWithoutShop(tr("The backup is being brought back."), [&](const auto& progress) {
             restored = upkeep::RestoreBackup(ProgramFolder(), backup, progress);
         });
+        if (!isDone) return;
     } catch (const values::Error& error) {
         why = error.Description();
     }
-    OpenShop();
     FillBoxes();
     ShowAll();
     if (!why.isEmpty()) return forms::Tell(tr("Nothing was restored. %1").arg(why), forms::Icon::Warning, Caption());
