@@ -113,9 +113,8 @@ std::string ExprEmitter::Value(const BoundExpr& expr, Type untyped) {
             return "(-" + Value(arg()) + ')';
         case Form::Binary:
             return Arithmetic(expr);
-        case Form::Val:
-            return IsNumber(arg().type) ? Value(arg()) + "::double precision"
-                                        : Call("velton_val", Value(arg(), Type::Text));
+        case Form::Val:  // a cast would bear the column's own name, by which ORDER BY would find it
+            return Call(IsNumber(arg().type) ? "float8" : "velton_val", Value(arg(), Type::Text));
         case Form::Sum:
         case Form::Max:
         case Form::Min:
