@@ -38,18 +38,19 @@ Type TypeOf(Target target) {
     }
 }
 
-// What has no type is null; aggregates still count as such.
-bool IsNothing(const BoundExpr& expr) {
-    return expr.type == Type::Null && !IsAggregate(Aliased(expr));
+std::string Call(const char* function, const std::string& argument) {
+    return function + ('(' + argument + ')');
+}
+
+// What has no type is null; an aggregate of it still makes one row of all.
+std::string NullSql(const BoundExpr& expr, Type type) {
+    const std::string null = std::string("NULL::") + TypeSql(type);
+    return HoldsAggregate(expr) ? Call("max", null) : null;
 }
 
 Type CommonType(const BoundExpr& expr) {
     const bool hasText = std::ranges::any_of(expr.args, [](const BoundPtr& arg) { return arg->type == Type::Text; });
     return hasText ? Type::Text : Type::Whole;
-}
-
-std::string Call(const char* function, const std::string& argument) {
-    return function + ('(' + argument + ')');
 }
 
 // What may outgrow 64 bits on the way is calculated without a bound.
@@ -91,7 +92,7 @@ bool ExprEmitter::IsGrouped(const BoundExpr& expr) const {
 
 // Of the texts that are one to a group any may stand for it.
 std::string ExprEmitter::Value(const BoundExpr& expr, Type untyped) {
-    if (IsNothing(expr)) return std::string("NULL::") + TypeSql(untyped);
+    if (expr.type == Type::Null) return NullSql(expr, untyped);
     if (IsGrouped(expr)) {
         const auto* groups = std::exchange(groups_, nullptr);
         const std::string value = Value(expr);
