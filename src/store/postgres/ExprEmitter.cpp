@@ -111,7 +111,9 @@ std::string ExprEmitter::Value(const BoundExpr& expr, Type untyped) {
         case Form::Alias:
             return Value(arg());
         case Form::Negate:
-            return "(-" + Value(arg()) + ')';
+            return "(-" +
+                   (expr.type == Type::Double || arg().form == Form::Literal ? Value(arg()) : Unbounded(Value(arg()))) +
+                   ')';
         case Form::Binary:
             return Arithmetic(expr);
         case Form::Val:  // a cast would bear the column's own name, by which ORDER BY would find it
