@@ -183,13 +183,14 @@ std::string ExprEmitter::Compared(const BoundExpr& expr) {
     return '(' + arg(0) + negation + " IN (" + list + "))";
 }
 
-// The pattern is read once a statement: it comes as one of the server's own, for its LIKE or, behind a ~, its regular
-// expressions.
+// The pattern becomes one of the server's own, for its LIKE or, behind a ~, its regular expressions. Each SELECT is
+// made once a statement, not for every row, where the pattern is a literal.
 std::string ExprEmitter::Like(const BoundExpr& expr) {
     const std::string text = Key(*expr.args[0], Type::Text);
-    const std::string pattern = "(SELECT velton_pattern(" + Value(*expr.args[1], Type::Text) + "))";
-    return std::string(expr.negated ? "(NOT " : "(") + "CASE WHEN left(" + pattern + ", 1) = '~' THEN " + text +
-           " ~ substr(" + pattern + ", 2) ELSE " + text + " LIKE substr(" + pattern + ", 2) END)";
+    const std::string pattern = "velton_pattern(" + Value(*expr.args[1], Type::Text) + ')';
+    const std::string behind = "(SELECT substr(" + pattern + ", 2))";
+    return std::string(expr.negated ? "(NOT " : "(") + "CASE WHEN (SELECT left(" + pattern + ", 1) = '~') THEN " +
+           text + " ~ " + behind + " ELSE " + text + " LIKE " + behind + " END)";
 }
 
 std::string ExprEmitter::Aggregate(const BoundExpr& expr) {
