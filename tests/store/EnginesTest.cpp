@@ -176,4 +176,17 @@ TEST_F(EnginesTest, AnswerMadeUpTextsAlike) {
     EXPECT_GT(answered_, 1500);
 }
 
+// A server keeps 2000 statements ready, and is told to forget them behind that.
+TEST_F(EnginesTest, ABatchGoesOnBehindRefusalsOfManyShapes) {
+    Database::Batch batch(*server);
+    server->Execute(u"UPDATE Company SET Tel = 'kept'"_s);
+    for (int shape = 0; shape < 2100; ++shape) {
+        QString text = u"UPDATE Tax SET TaxID = 'same' WHERE Percent IS NOT NULL"_s;
+        for (int bit = 0; bit < 12; ++bit) text += (shape >> bit & 1) != 0 ? u" OR Del = True"_s : u" OR Del = False"_s;
+        ASSERT_EQ(ErrorOf([&] { server->Execute(text); }), DuplicateKey) << shape;
+    }
+    batch.Commit();
+    EXPECT_EQ(RowsOf(*server, u"SELECT Tel FROM Company WHERE Tel <> 'kept'"_s), QStringList());
+}
+
 }  // namespace store::test

@@ -24,6 +24,11 @@ bool IsAggregate(const BoundExpr& expr) {
     return expr.form == Form::Sum || expr.form == Form::Max || expr.form == Form::Min || expr.form == Form::Count;
 }
 
+bool HoldsAggregate(const BoundExpr& expr) {
+    return IsAggregate(expr) ||
+           std::any_of(expr.args.begin(), expr.args.end(), [](const BoundPtr& arg) { return HoldsAggregate(*arg); });
+}
+
 bool IsCondition(const BoundExpr& expr) {
     switch (expr.form) {
         case Form::Not:

@@ -72,6 +72,7 @@ BoundPtr Make(BoundExpr expr);
 // What a chain of aliases stands for.
 const BoundExpr& Aliased(const BoundExpr& expr);
 bool IsAggregate(const BoundExpr& expr);
+bool HoldsAggregate(const BoundExpr& expr);  // or is one
 // Gives true or false by itself, not as the value of a field.
 bool IsCondition(const BoundExpr& expr);
 // Whether two expressions are the same but for their places in the text.

@@ -13,11 +13,6 @@ namespace store::dialect {
 
 namespace {
 
-bool HoldsAggregate(const BoundExpr& expr) {
-    return IsAggregate(expr) ||
-           std::any_of(expr.args.begin(), expr.args.end(), [](const BoundPtr& arg) { return HoldsAggregate(*arg); });
-}
-
 Target TargetOf(const LiteralExpr& literal) {
     switch (literal.type) {
         case Type::Whole:

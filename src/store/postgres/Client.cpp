@@ -123,7 +123,8 @@ Answer Client::Make(const Trip& trip) {
     stoppedAt_.reset();
     askedAt_ = 0;
     sinceSent_.start();
-    if (names_.size() > MostStatements) {
+    // Behind a refusal a batch takes nothing but the way back.
+    if (names_.size() > MostStatements && PQtransactionStatus(connection_.get()) != PQTRANS_INERROR) {
         static const std::string forget = "DEALLOCATE ALL";
         names_.clear();
         Send({forget, {}}, false);

@@ -38,18 +38,19 @@ Type TypeOf(Target target) {
     }
 }
 
-// What has no type is null; aggregates still count as such.
-bool IsNothing(const BoundExpr& expr) {
-    return expr.type == Type::Null && !IsAggregate(Aliased(expr));
+std::string Call(const char* function, const std::string& argument) {
+    return function + ('(' + argument + ')');
+}
+
+// What has no type is null; an aggregate of it still makes one row of all.
+std::string NullSql(const BoundExpr& expr, Type type) {
+    const std::string null = std::string("NULL::") + TypeSql(type);
+    return HoldsAggregate(expr) ? Call("max", null) : null;
 }
 
 Type CommonType(const BoundExpr& expr) {
     const bool hasText = std::ranges::any_of(expr.args, [](const BoundPtr& arg) { return arg->type == Type::Text; });
     return hasText ? Type::Text : Type::Whole;
-}
-
-std::string Call(const char* function, const std::string& argument) {
-    return function + ('(' + argument + ')');
 }
 
 // What may outgrow 64 bits on the way is calculated without a bound.
@@ -91,7 +92,7 @@ bool ExprEmitter::IsGrouped(const BoundExpr& expr) const {
 
 // Of the texts that are one to a group any may stand for it.
 std::string ExprEmitter::Value(const BoundExpr& expr, Type untyped) {
-    if (IsNothing(expr)) return std::string("NULL::") + TypeSql(untyped);
+    if (expr.type == Type::Null) return NullSql(expr, untyped);
     if (IsGrouped(expr)) {
         const auto* groups = std::exchange(groups_, nullptr);
         const std::string value = Value(expr);
@@ -110,12 +111,13 @@ std::string ExprEmitter::Value(const BoundExpr& expr, Type untyped) {
         case Form::Alias:
             return Value(arg());
         case Form::Negate:
-            return "(-" + Value(arg()) + ')';
+            return "(-" +
+                   (expr.type == Type::Double || arg().form == Form::Literal ? Value(arg()) : Unbounded(Value(arg()))) +
+                   ')';
         case Form::Binary:
             return Arithmetic(expr);
-        case Form::Val:
-            return IsNumber(arg().type) ? Value(arg()) + "::double precision"
-                                        : Call("velton_val", Value(arg(), Type::Text));
+        case Form::Val:  // a cast would bear the column's own name, by which ORDER BY would find it
+            return Call(IsNumber(arg().type) ? "float8" : "velton_val", Value(arg(), Type::Text));
         case Form::Sum:
         case Form::Max:
         case Form::Min:
@@ -181,13 +183,14 @@ std::string ExprEmitter::Compared(const BoundExpr& expr) {
     return '(' + arg(0) + negation + " IN (" + list + "))";
 }
 
-// The pattern is read once a statement: it comes as one of the server's own, for its LIKE or, behind a ~, its regular
-// expressions.
+// The pattern becomes one of the server's own, for its LIKE or, behind a ~, its regular expressions. Each SELECT is
+// made once a statement, not for every row, where the pattern is a literal.
 std::string ExprEmitter::Like(const BoundExpr& expr) {
     const std::string text = Key(*expr.args[0], Type::Text);
-    const std::string pattern = "(SELECT velton_pattern(" + Value(*expr.args[1], Type::Text) + "))";
-    return std::string(expr.negated ? "(NOT " : "(") + "CASE WHEN left(" + pattern + ", 1) = '~' THEN " + text +
-           " ~ substr(" + pattern + ", 2) ELSE " + text + " LIKE substr(" + pattern + ", 2) END)";
+    const std::string pattern = "velton_pattern(" + Value(*expr.args[1], Type::Text) + ')';
+    const std::string behind = "(SELECT substr(" + pattern + ", 2))";
+    return std::string(expr.negated ? "(NOT " : "(") + "CASE WHEN (SELECT left(" + pattern + ", 1) = '~') THEN " +
+           text + " ~ " + behind + " ELSE " + text + " LIKE " + behind + " END)";
 }
 
 std::string ExprEmitter::Aggregate(const BoundExpr& expr) {

@@ -26,8 +26,7 @@ std::string InsertSql(const Table& table, std::span<const FieldChange> fields) {
         AppendTo(names, Quoted(column.name));
         AppendTo(values, Parameter(++parameter, column));
         if (!column.selfNumbering) continue;
-        const std::string sequence =
-            "pg_get_serial_sequence('" + Quoted(table.name) + "', '" + column.name.toStdString() + "')";
+        const std::string sequence = SequenceSql(table);
         numbered = " FROM (SELECT setval(" + sequence + ", greatest(" + Parameter(parameter, column) +
                    ", COALESCE(pg_sequence_last_value(" + sequence + "), 1)))) AS numbered";
     }

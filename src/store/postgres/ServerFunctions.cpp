@@ -67,7 +67,7 @@ BEGIN
     BEGIN
         RETURN (plain || COALESCE(power, ''))::double precision;
     EXCEPTION WHEN numeric_value_out_of_range THEN
-        IF power ~ '-' OR plain ~ '^[+-]?0*(\.|$)' THEN
+        IF log(abs(plain::numeric)) + COALESCE(substr(power, 2), '0')::numeric < 0 THEN
             RETURN 0;
         END IF;
         RAISE;
