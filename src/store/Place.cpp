@@ -39,7 +39,9 @@ void RefusePassword(const QString& address) {
 
 bool IsOwnSchema(const QString& name) {
     constexpr int longestName = 63;
-    return !name.isEmpty() && name.toUtf8().size() <= longestName && name != u"public" && !name.startsWith(u"pg_");
+    // The server would take the role's name for the last.
+    const bool isServers = name == u"public" || name.startsWith(u"pg_") || name == u"$user";
+    return !name.isEmpty() && name.toUtf8().size() <= longestName && !isServers;
 }
 
 }  // namespace
