@@ -3,6 +3,7 @@
 #include <poll.h>
 
 #include <QRegularExpression>
+#include <algorithm>
 #include <thread>
 
 #include "store/Words.h"
@@ -69,13 +70,17 @@ QString WhyNotConnected(PGconn* connection) {
     if (connection == nullptr) return Words::tr("it does not answer");
     if (PQconnectionNeedsPassword(connection) != 0)
         return Words::tr("it asks for a password, and ~/.pgpass has none for it");
-    // A line a server, the last of them tried last, and words that explain it.
+    // A line an attempt, "WHERE: WHY", the last server last, and words that explain it.
     QStringList lines = QString::fromUtf8(PQerrorMessage(connection)).split(u'\n', Qt::SkipEmptyParts);
     lines.removeIf([](const QString& line) {
         return line.startsWith(u'\t') || line.startsWith(u"DETAIL:") || line.startsWith(u"HINT:") ||
                line.startsWith(u"password retrieved");
     });
-    return OneSentence(lines.isEmpty() ? QString() : lines.last());
+    if (const QStringList attempts = lines.filter(u": "_s); !attempts.isEmpty()) lines = attempts;
+    if (lines.isEmpty()) return {};
+    // A server that refused was asked once more without TLS, which it may refuse whatever the matter is.
+    const QString where = lines.last().section(u": "_s, 0, 0);
+    return OneSentence(*std::ranges::find_if(lines, [&](const QString& line) { return line.startsWith(where); }));
 }
 
 void CheckAddress(const Place& place) {
