@@ -23,7 +23,7 @@ constexpr size_t MostStatements = 2'000;  // kept on the server
 using Attempt = std::unique_ptr<PGconn, decltype(&PQfinish)>;
 
 // A server that is gone is to be noticed within seconds; an address may say otherwise, since what stands behind counts.
-Attempt Connect(const QByteArray& address) {
+Attempt Connect(const QByteArray& address, const char* settings) {
     // Of several servers the one that takes changes is meant, whichever that is today.
     static const QRegularExpression list(u"^[^?]*,|[?&]host(addr)?=[^&]*(,|%2C)"_s,
                                          QRegularExpression::CaseInsensitiveOption);
@@ -36,7 +36,7 @@ Attempt Connect(const QByteArray& address) {
         {"tcp_user_timeout", "8000"},
         {"target_session_attrs", areSeveral ? "read-write" : "any"},
         {"fallback_application_name", "velton"},
-        {"options", "-c client_min_messages=error"},  // the library would print the server's warnings
+        {"options", settings},  // the library would print the server's warnings
         {"dbname", address.constData()},
         {"client_encoding", "UTF8"},
         {nullptr, nullptr}};
@@ -46,6 +46,13 @@ Attempt Connect(const QByteArray& address) {
         values.push_back(value);
     }
     return {PQconnectdbParams(names.data(), values.data(), 1), &PQfinish};
+}
+
+// A pooler in between may take no settings.
+Attempt Connect(const QByteArray& address) {
+    Attempt attempt = Connect(address, "-c client_min_messages=error");
+    const bool isRefused = QByteArrayView(PQerrorMessage(attempt.get())).contains("unsupported startup parameter");
+    return isRefused ? Connect(address, "") : std::move(attempt);
 }
 
 // Names may be looked up for long and hosts be silent, so the attempt has a thread, which is left alone when nobody
