@@ -39,7 +39,9 @@ void RefusePassword(const QString& address) {
 
 bool IsOwnSchema(const QString& name) {
     constexpr int longestName = 63;
-    return !name.isEmpty() && name.toUtf8().size() <= longestName && name != u"public" && !name.startsWith(u"pg_");
+    // The server would take the role's name for the last.
+    const bool isServers = name == u"public" || name.startsWith(u"pg_") || name == u"$user";
+    return !name.isEmpty() && name.toUtf8().size() <= longestName && !isServers;
 }
 
 }  // namespace
@@ -71,8 +73,9 @@ Place Place::WithSchema(const QString& name) const {
 
 QString Place::Shown() const {
     if (!IsServer()) return path_;
-    const QString behindUser = address_.section(u'?', 0, 0).section(u"://"_s, 1).section(u'@', -1);
-    return u"%1 (%2)"_s.arg(behindUser.startsWith(u'/') ? behindUser.sliced(1) : behindUser, schema_);
+    QString behindUser = address_.section(u'?', 0, 0).section(u"://"_s, 1).section(u'@', -1);
+    if (behindUser.startsWith(u'/')) behindUser.remove(0, 1);
+    return behindUser.isEmpty() ? schema_ : u"%1 (%2)"_s.arg(behindUser, schema_);  // a service file may say the rest
 }
 
 }  // namespace store

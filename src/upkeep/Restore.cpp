@@ -162,11 +162,12 @@ private:
 
     // In a schema of its own until it is whole.
     void ReplaceOnServer(store::Database* live) {
-        const auto source = store::Database::Open(comingStore_, store::MainSchema());
+        auto source = store::Database::Open(comingStore_, store::MainSchema());
         const QString apart = u"velton_restored_"_s + QUuid::createUuid().toString(QUuid::Id128).first(16);
         const store::Place place = live != nullptr ? place_.WithSchema(apart) : place_;
         store::Creation creation(place, store::MainSchema());
         creation.Store().AddAllOf(*source);
+        source.reset();  // its log would come into the register's folder
         if (ReadDayTotals(creation.Store()) != days_)
             throw store::StoreError(store::NotAStore, Words::tr("The days on the server are not those of the backup."));
         steps_.Begin(comingStore_, {}, keptAs_);

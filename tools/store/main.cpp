@@ -50,6 +50,13 @@ QStringList Texts(const std::vector<std::string>& list) {
     return texts;
 }
 
+// An empty one, as of a variable that is not set, must not stand for a file.
+QString ServerOf(const Arguments& arguments) {
+    QString address = Text(arguments.server);
+    store::Place::Server(address);
+    return address;
+}
+
 // From the folder on, errors are told in the language of its register.
 void AddFolder(CLI::App* call, std::string& folder) {
     const auto speak = [](const std::string& named) { values::UseLanguageOf(Text(named)); };
@@ -140,8 +147,10 @@ void AddSheetCalls(CLI::App& app, SheetArguments& a) {
 void AddCalls(CLI::App& app, Arguments& a) {
     CLI::App* call = AddCall(app, a, "new", "Makes a program folder: program, stores, pictures, help, ports.ini");
     call->add_flag("--demo", a.withDemo, "With the demo shop");
-    call->add_option("--server", a.server, "The main store lies on a server: postgresql://USER@HOST/DATABASE");
-    call->callback([&a] { tool::New(Text(a.folder), a.withDemo, Text(a.server)); });
+    const CLI::Option* server =
+        call->add_option("--server", a.server, "The main store lies on a server: postgresql://USER@HOST/DATABASE");
+    call->callback(
+        [&a, server] { tool::New(Text(a.folder), a.withDemo, server->count() > 0 ? ServerOf(a) : QString()); });
 
     call =
         AddCall(app, a, "sql", "Runs one query text; rows are printed as tab-separated lines under the column names");
@@ -174,7 +183,7 @@ void AddCalls(CLI::App& app, Arguments& a) {
     where->add_option("--to", a.server, "The server: postgresql://USER@HOST/DATABASE");
     where->add_flag("--to-file", a.toFile, "Into the folder");
     where->require_option(1);
-    call->callback([&a] { tool::Move(Text(a.folder), Text(a.server)); });
+    call->callback([&a] { tool::Move(Text(a.folder), a.toFile ? QString() : ServerOf(a)); });
 }
 
 int Run(int argc, char** argv) {

@@ -3,6 +3,7 @@
 #include <poll.h>
 
 #include <QRegularExpression>
+#include <algorithm>
 #include <thread>
 
 #include "store/Words.h"
@@ -22,7 +23,7 @@ constexpr size_t MostStatements = 2'000;  // kept on the server
 using Attempt = std::unique_ptr<PGconn, decltype(&PQfinish)>;
 
 // A server that is gone is to be noticed within seconds; an address may say otherwise, since what stands behind counts.
-Attempt Connect(const QByteArray& address) {
+Attempt Connect(const QByteArray& address, const char* settings) {
     // Of several servers the one that takes changes is meant, whichever that is today.
     static const QRegularExpression list(u"^[^?]*,|[?&]host(addr)?=[^&]*(,|%2C)"_s,
                                          QRegularExpression::CaseInsensitiveOption);
@@ -35,7 +36,7 @@ Attempt Connect(const QByteArray& address) {
         {"tcp_user_timeout", "8000"},
         {"target_session_attrs", areSeveral ? "read-write" : "any"},
         {"fallback_application_name", "velton"},
-        {"options", "-c client_min_messages=error"},  // the library would print the server's warnings
+        {"options", settings},  // the library would print the server's warnings
         {"dbname", address.constData()},
         {"client_encoding", "UTF8"},
         {nullptr, nullptr}};
@@ -45,6 +46,13 @@ Attempt Connect(const QByteArray& address) {
         values.push_back(value);
     }
     return {PQconnectdbParams(names.data(), values.data(), 1), &PQfinish};
+}
+
+// A pooler in between may take no settings.
+Attempt Connect(const QByteArray& address) {
+    Attempt attempt = Connect(address, "-c client_min_messages=error");
+    const bool isRefused = QByteArrayView(PQerrorMessage(attempt.get())).contains("unsupported startup parameter");
+    return isRefused ? Connect(address, "") : std::move(attempt);
 }
 
 // Names may be looked up for long and hosts be silent, so the attempt has a thread, which is left alone when nobody
@@ -69,13 +77,17 @@ QString WhyNotConnected(PGconn* connection) {
     if (connection == nullptr) return Words::tr("it does not answer");
     if (PQconnectionNeedsPassword(connection) != 0)
         return Words::tr("it asks for a password, and ~/.pgpass has none for it");
-    // A line a server, the last of them tried last, and words that explain it.
+    // A line an attempt, "WHERE: WHY", the last server last, and words that explain it.
     QStringList lines = QString::fromUtf8(PQerrorMessage(connection)).split(u'\n', Qt::SkipEmptyParts);
     lines.removeIf([](const QString& line) {
         return line.startsWith(u'\t') || line.startsWith(u"DETAIL:") || line.startsWith(u"HINT:") ||
                line.startsWith(u"password retrieved");
     });
-    return OneSentence(lines.isEmpty() ? QString() : lines.last());
+    if (const QStringList attempts = lines.filter(u": "_s); !attempts.isEmpty()) lines = attempts;
+    if (lines.isEmpty()) return {};
+    // A server that refused was asked once more without TLS, which it may refuse whatever the matter is.
+    const QString where = lines.last().section(u": "_s, 0, 0);
+    return OneSentence(*std::ranges::find_if(lines, [&](const QString& line) { return line.startsWith(where); }));
 }
 
 void CheckAddress(const Place& place) {

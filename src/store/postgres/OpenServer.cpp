@@ -56,7 +56,7 @@ int CheckKind(Connection& connection, const Schema& schema) {
 // A shop may keep tables of its own beside these.
 void CheckRights(Connection& connection, const Schema& schema) {
     static const std::string sql =
-        "SELECT c.relname FROM pg_class c WHERE c.relnamespace = current_schema()::regnamespace AND "
+        "SELECT c.relname FROM pg_class c WHERE c.relnamespace = quote_ident(current_schema())::regnamespace AND "
         "(c.relname = ANY($1::text[]) AND NOT (has_table_privilege(c.oid, 'SELECT') AND "
         "has_table_privilege(c.oid, 'INSERT') AND has_table_privilege(c.oid, 'UPDATE') AND "
         "has_table_privilege(c.oid, 'DELETE')) OR c.relname = 'velton_burst' AND "

@@ -100,7 +100,7 @@ std::vector<std::string> MigrationSql(const Schema& schema, int fromVersion) {
 QStringList MissingColumns(Connection& connection, const Schema& schema) {
     static const std::string columns =
         "SELECT c.relname || '.' || a.attname FROM pg_attribute a JOIN pg_class c ON c.oid = a.attrelid "
-        "WHERE c.relnamespace = current_schema()::regnamespace AND a.attnum > 0 AND NOT a.attisdropped";
+        "WHERE c.relnamespace = quote_ident(current_schema())::regnamespace AND a.attnum > 0 AND NOT a.attisdropped";
     const QSet<QString> present = NamesOf(connection, columns);
     QStringList missing;
     for (const Table& table : schema.tables)
@@ -112,7 +112,7 @@ QStringList MissingColumns(Connection& connection, const Schema& schema) {
 QStringList MissingIndexes(Connection& connection, const Schema& schema) {
     static const std::string indexes =
         "SELECT c.relname FROM pg_index i JOIN pg_class c ON c.oid = i.indexrelid "
-        "WHERE c.relnamespace = current_schema()::regnamespace AND i.indisvalid";
+        "WHERE c.relnamespace = quote_ident(current_schema())::regnamespace AND i.indisvalid";
     const QSet<QString> present = NamesOf(connection, indexes);
     QStringList missing;
     for (const Table& table : schema.tables)
