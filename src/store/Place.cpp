@@ -29,7 +29,8 @@ void RefusePassword(const QString& address) {
     const QString authority = address.section(u"://"_s, 1).section(u'/', 0, 0).section(u'?', 0, 0);
     const QString user = authority.contains(u'@') ? authority.section(u'@', 0, -2) : QString();
     static const QRegularExpression hosts(u"^((\\[[0-9a-fA-F:.]+\\]|[^\\[\\]:,@]*)(:[0-9]+)?(,|$))*$"_s);
-    const bool hasPassword = user.contains(u':') || user.contains(u'@') || address.contains(u"password="_s);
+    const bool hasPassword = user.contains(u':') || user.contains(u'@') ||
+                             QUrl::fromPercentEncoding(address.toUtf8()).contains(u"password="_s);
     if (hasPassword)
         throw StoreError(
             IniNotReadable,

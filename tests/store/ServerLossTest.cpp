@@ -84,6 +84,17 @@ TEST_F(ServerLossTest, ABatchIsLostWholeAndSaysSoUntilItEnds) {
     EXPECT_EQ(Count(*store, u"Tax"_s), 0);
     AddTax(*store, u"A"_s);
     EXPECT_EQ(Count(*store, u"Tax"_s), 1);
+    // A commit that cannot have reached the server leaves no doubt.
+    Database::Batch batch(*store);
+    AddTax(*store, u"B"_s);
+    server_.Kill();
+    server_.Start();
+    try {
+        batch.Commit();
+        ADD_FAILURE() << "a lost batch is stored";
+    } catch (const ServerLost& error) {
+        EXPECT_TRUE(error.Description().contains(u"none of them is"));
+    }
 }
 
 TEST_F(ServerLossTest, ABurstDoesNotGoOnAsIfItsCommitsWereThere) {

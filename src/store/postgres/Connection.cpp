@@ -241,6 +241,11 @@ void Connection::Begin() {
 void Connection::Commit() {
     if (std::exchange(batchIsLost_, false)) ThrowBatchLost();
     if (!inTransaction_) throw StoreError(NotSupported, Words::tr("No batch is open."));
+    if (!client_->IsAlive()) {
+        Lose();
+        batchIsLost_ = false;
+        ThrowBatchLost();
+    }
     inTransaction_ = false;  // so that a loss on the way is told as what it is
     try {
         Make(Kind::Write, {{CommitSql, None}}, 0);

@@ -90,6 +90,7 @@ void PostgresEngine::AddRows(const Table& table, const StoredRows& rows) {
     if (!rows.keys.empty()) commands.emplace_back(sql, arrays);
     if (rows.lastKey > 0) commands.emplace_back(sequence, last);
     if (commands.empty()) return;
+    if (filled_.empty() || filled_.back() != &table) filled_.push_back(&table);
     try {
         connection_->WriteAll(commands);
     } catch (const ServerLost&) {

@@ -31,8 +31,8 @@ public:
     qint64 Execute(const dialect::Query& action) override;
 
     void Begin() override { connection_->Begin(); }
-    void Commit() override { connection_->Commit(); }
-    void Rollback() noexcept override { connection_->Rollback(); }
+    void Commit() override;
+    void Rollback() noexcept override;
     bool InTransaction() const override { return connection_->InTransaction(); }
 
     void BeginBurst() override { connection_->BeginBurst(); }
@@ -77,6 +77,7 @@ private:
     std::unique_ptr<Connection> connection_;
     const Schema schema_;
     std::map<WriteShape, std::string> writes_;  // their texts
+    std::vector<const Table*> filled_;          // by AddRows, in the open batch
 };
 
 }  // namespace store::postgres

@@ -82,6 +82,18 @@ bool PostgresEngine::Remove(const Table& table, qint64 row) {
     return connection_->Write(Right::ToWriteOne, nullptr, sql, Arguments(row)).Affected() > 0;
 }
 
+// Of tables that were filled at once the server would know for a minute only that they were empty, and read them whole.
+void PostgresEngine::Commit() {
+    for (const Table* table : std::exchange(filled_, {}))
+        connection_->Write(Right::ToWriteMany, table, "ANALYZE " + Quoted(table->name), {});
+    connection_->Commit();
+}
+
+void PostgresEngine::Rollback() noexcept {
+    filled_.clear();
+    connection_->Rollback();
+}
+
 qint64 PostgresEngine::Execute(const dialect::Query& action) {
     const ServerQuery& prepared = PreparedOf(action);
     return connection_->Write(Right::ToWriteMany, nullptr, prepared.whole, Bound(action, prepared.slots.size()))
