@@ -75,7 +75,11 @@ QString WhyNotConnected(PGconn* connection) {
         return line.startsWith(u'\t') || line.startsWith(u"DETAIL:") || line.startsWith(u"HINT:") ||
                line.startsWith(u"password retrieved");
     });
-    return OneSentence(lines.isEmpty() ? QString() : lines.last());
+    if (lines.isEmpty()) return {};
+    // Where one server was asked, its name stands before; which way led to which refusal matters for several alone.
+    static const QRegularExpression way(u"^connection to server .*? failed: "_s);
+    if (lines.size() == 1) lines.last().remove(way);
+    return OneSentence(lines.last().remove(u"FATAL:  "_s));
 }
 
 void CheckAddress(const Place& place) {
