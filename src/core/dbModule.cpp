@@ -46,6 +46,10 @@ void OpenMainStore() {
     mainStore = store::Database::Open(place, store::MainSchema());
 }
 
+bool IsMainStoreOnServer() {
+    return isMainOnServer;
+}
+
 QString WaitsForMainStore() {
     return isMainOnServer
                ? CoreWords::tr("Waiting for the server of the store, or for another register that is writing there.")

@@ -9,6 +9,8 @@
 
 void OpenOptionsStore();
 void OpenMainStore();
+// Whether it is to be opened on a server, which may not have given it.
+bool IsMainStoreOnServer();
 // From now on a screen says when it waits for the main store, and the user can leave the wait (3218, 3059).
 void ShowWaitsOfMainStore();
 // What it says then: that another register holds the store, or that the server does not answer.

@@ -67,7 +67,7 @@ void frmLogin::Form_Load() {
             forms::EndProgram();
         }
         forms::Inform(forms::ErrorText(error), Caption());
-        isWithoutServer_ = dynamic_cast<const store::ServerLost*>(&error) != nullptr;
+        isWithoutShop_ = IsMainStoreOnServer();
     }
 }
 
@@ -116,7 +116,7 @@ void frmLogin::Timer1_Timer() {
 
 void frmLogin::cmdOK_Click() {
     const QString name = ui.txtUserName->currentText();
-    if (isWithoutServer_) TryServerAgain();
+    if (isWithoutShop_) TryServerAgain();
     rsUsers_ = MainStore().OpenRecordset(UsersQuery);
     rsUsers_.FindFirst(UserCriteria.arg(name));
     // One answer for both, so that nobody learns which of the two was wrong.
@@ -142,11 +142,11 @@ void frmLogin::cmdOK_Click() {
     if (afterwards_) afterwards_(accLevel);
 }
 
-// What the start could not do; the user need not start the program again when the server is back.
+// What the start could not do; the user need not start the program again when the server is back, or put right.
 void frmLogin::TryServerAgain() {
     const QString name = ui.txtUserName->currentText();
     OpenShop();
-    isWithoutServer_ = false;
+    isWithoutShop_ = false;
     ui.txtUserName->setCurrentText(name);
 }
 

@@ -41,9 +41,9 @@ private:
     store::Recordset rsUsers_;
     store::Recordset rsLogin_;
     qint16 nextLogin_ = 0;
-    int countdown_ = 0;             // the limit that the frame's caption promises; nothing counts it down
-    bool isWithoutServer_ = false;  // the start ended for it
-    bool done_ = false;             // cancelled or logged in: nothing else closes the window
+    int countdown_ = 0;           // the limit that the frame's caption promises; nothing counts it down
+    bool isWithoutShop_ = false;  // the server did not give it at the start
+    bool done_ = false;           // cancelled or logged in: nothing else closes the window
     std::function<void()> loggedIn_;
     std::function<void(const QString&)> afterwards_;
 };

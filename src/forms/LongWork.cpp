@@ -18,7 +18,6 @@ namespace forms {
 namespace {
 
 constexpr int NoticeAfterWork = 500;  // milliseconds
-constexpr int NoticeAfterWait = 1000;
 constexpr int BetweenLooks = 40;
 
 constexpr int WidestNotice = 640;  // pixels

@@ -19,6 +19,8 @@ class LongWork : public QObject {
     Q_OBJECT
 
 public:
+    static constexpr int NoticeAfterWait = 1000;  // milliseconds
+
     // The notice lies over the form, or over the window in front where none is given or it is not to be seen. The time
     // counts from here.
     explicit LongWork(QWidget* form);

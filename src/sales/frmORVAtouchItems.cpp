@@ -1,9 +1,12 @@
 // Item entry of the sales screen: from a code to a product, its quantity, and what the line would come to.
 
+#include <QElapsedTimer>
+
 #include "core/Session.h"
 #include "core/Settings.h"
 #include "core/mdiORVA.h"
 #include "forms/Controls.h"
+#include "forms/LongWork.h"
 #include "forms/Sound.h"
 #include "masterdata/products/frmArtikli.h"
 #include "sales/frmORVAtouch.h"
@@ -49,11 +52,18 @@ void frmORVAtouch::ToggleAddButton() {
     boxes_.ToggleAddButton();
 }
 
-// A query text that a typed character breaks is passed over: the fields keep what they had.
+// A query text that a typed character breaks is passed over: the fields keep what they had. That the server is gone is
+// told once the code is whole, unless its rest was typed into a wait's notice, and lost.
 void frmORVAtouch::txtProdCode_Change() {
     ToggleAddButton();
+    QElapsedTimer sinceTyped;
+    sinceTyped.start();
     try {
         if (boxes_.LookUp()) SetQuantity(u"1"_s);
+    } catch (const store::ServerLost&) {
+        if (sinceTyped.elapsed() < forms::LongWork::NoticeAfterWait) return;
+        forms::SelectAll(ui.txtProdCode);
+        throw;
     } catch (const values::Error&) {
     }
 }
@@ -64,6 +74,7 @@ void frmORVAtouch::txtProdCode_LostFocus() {
 
 void frmORVAtouch::CheckProductFound() {
     if (ui.txtProdCode->text().isEmpty() || !ui.txtDescription->text().isEmpty()) return;
+    if (boxes_.IsUnanswered() && boxes_.LookUp()) return SetQuantity(u"1"_s);
     Refuse(UnknownProduct(), mdiORVA::Window().Caption());
     ui.txtProdCode->clear();
 }

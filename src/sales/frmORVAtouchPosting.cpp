@@ -69,7 +69,12 @@ void frmORVAtouch::StoreInvoice() {
     rsInvoices_[u"Bank"] = Banko_;
     rsInvoices_[u"Kupac"] = ui.txtKupac->text();
     rsInvoices_[u"IB"] = ui.txtIB->text();
-    rsInvoices_.Update();
+    try {
+        rsInvoices_.Update();
+    } catch (const store::ServerLost& error) {
+        if (error.MayHaveStored()) throw MayBeStored(error);
+        throw;
+    }
 }
 
 // From here on a failure leaves something behind, which the cashier must know before pressing F5 again.

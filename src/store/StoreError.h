@@ -57,8 +57,14 @@ public:
 // was under way may have been stored or not, and nobody knows.
 class ServerLost : public StoreError {
 public:
-    explicit ServerLost(QString description) : StoreError(DiskError, std::move(description)) {}
+    enum class Write { None, UnderWay };
+    explicit ServerLost(QString description, Write write = Write::None)
+        : StoreError(DiskError, std::move(description)), write_(write) {}
     bool ForbidsRetry() const override { return true; }
+    bool MayHaveStored() const { return write_ == Write::UnderWay; }
+
+private:
+    Write write_;
 };
 
 // A place in a query text, in UTF-16 units from its start.

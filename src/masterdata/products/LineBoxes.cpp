@@ -25,13 +25,22 @@ void LineBoxes::Show(store::Recordset& product) const {
         box->setText(isFigure ? Format(product[field], u"0.00") : product[field].TextOrEmpty());
 }
 
-bool LineBoxes::LookUp() const {
-    if (!code_->text().isEmpty()) {
-        auto product = Find(code_->text());
-        if (!product.AtEOF()) {
-            Show(product);
-            return true;
+bool LineBoxes::LookUp() {
+    isUnanswered_ = false;
+    try {
+        if (!code_->text().isEmpty()) {
+            auto product = Find(code_->text());
+            if (!product.AtEOF()) {
+                Show(product);
+                return true;
+            }
         }
+    } catch (const store::QueryError&) {
+        throw;
+    } catch (const store::StoreError&) {
+        isUnanswered_ = true;
+        Empty();
+        throw;
     }
     Empty();
     return false;

@@ -36,8 +36,11 @@ public:
     static store::Recordset Find(const QString& code);
     // All of the product but a quantity, which the screen sets.
     void Show(store::Recordset& product) const;
-    // Shows the product of the code; false when there is none, and the boxes are empty.
-    bool LookUp() const;
+    // Shows the product of the code; false when there is none, and the boxes are empty. They are so, too, when the
+    // store did not answer.
+    bool LookUp();
+    // Whether the store did not answer, so that it is not known what the code stands for.
+    bool IsUnanswered() const { return isUnanswered_; }
 
     // Whether code, quantity and product are there; the button follows.
     bool IsComplete() const;
@@ -71,4 +74,5 @@ private:
     QLineEdit* taxAmount_ = nullptr;
     QPushButton* addItem_ = nullptr;
     std::vector<Shown> shown_;
+    bool isUnanswered_ = false;
 };

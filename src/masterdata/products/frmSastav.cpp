@@ -108,6 +108,7 @@ void frmSastav::SetOne() {
 
 void frmSastav::CheckComponentCode() {
     if (ui.txtProdCode->text().isEmpty() || !ui.txtDescription->text().isEmpty()) return;
+    if (boxes_.IsUnanswered() && boxes_.LookUp()) return SetOne();
     forms::Inform(tr("Product with this code-barcode does not exist."), mdiORVA::Window().Caption());
     ui.txtProdCode->setFocus();
     forms::SelectAll(ui.txtProdCode);

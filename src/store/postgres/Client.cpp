@@ -87,7 +87,12 @@ QString WhyNotConnected(PGconn* connection) {
     if (lines.isEmpty()) return {};
     // A server that refused was asked once more without TLS, which it may refuse whatever the matter is.
     const QString where = lines.last().section(u": "_s, 0, 0);
-    return OneSentence(*std::ranges::find_if(lines, [&](const QString& line) { return line.startsWith(where); }));
+    const auto isFromThere = [&where](const QString& line) { return line.startsWith(where); };
+    QString why = *std::ranges::find_if(lines, isFromThere);
+    // The message names the server already; which of several refused has to be said.
+    static const QRegularExpression way(u"^connection to server .*? failed: "_s);
+    if (std::ranges::all_of(lines, isFromThere)) why.remove(way);
+    return OneSentence(why.remove(u"FATAL:  "_s));
 }
 
 void CheckAddress(const Place& place) {

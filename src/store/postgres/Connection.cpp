@@ -129,12 +129,14 @@ Answer Connection::Make(Kind kind, const std::vector<Command>& commands, size_t 
         throw ServerLost(
             Words::tr("The server of the store %1 was lost while the last change was being stored; whether "
                       "it is, is not known.")
-                .arg(place_.Shown()));
+                .arg(place_.Shown()),
+            ServerLost::Write::UnderWay);
     } catch (const ServerLost& error) {
         const bool isOpen = kind == Kind::Write && !inTransaction_;
         Lose();
         if (!isOpen) throw;
-        throw ServerLost(Words::tr("%1 Whether the last change is stored is not known.").arg(error.Description()));
+        throw ServerLost(Words::tr("%1 Whether the last change is stored is not known.").arg(error.Description()),
+                         ServerLost::Write::UnderWay);
     }
 }
 

@@ -60,7 +60,9 @@ void ThrowRefused(const PGresult* result) {
         throw FilesLost(Words::tr("The store was moved away on the server, with all that was stored until then (%1).")
                             .arg(message));
     const int number = NumberOf(code);
-    throw StoreError(number, u"%1 (%2)."_s.arg(RefusalOf(number), message));
+    // Of these the server adds only how or where it noticed.
+    const bool saysAll = code == "55P03" || code == "53100";
+    throw StoreError(number, saysAll ? RefusalOf(number) + u'.' : u"%1 (%2)."_s.arg(RefusalOf(number), message));
 }
 
 }  // namespace store::postgres
