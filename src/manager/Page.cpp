@@ -2,8 +2,11 @@
 
 #include <exception>
 
+#include "forms/MsgBox.h"
+#include "forms/Program.h"
 #include "manager/Beside.h"
 #include "manager/Start.h"
+#include "values/Error.h"
 
 namespace manager {
 
@@ -28,7 +31,11 @@ bool Page::RunWithoutShop(const QString& doing, const std::function<void(const u
     } catch (...) {
         failure = std::current_exception();
     }
-    OpenShop();
+    try {
+        OpenShop();
+    } catch (const values::Error& error) {  // which says nothing of the work
+        forms::Tell(forms::ErrorText(error), forms::Icon::Warning, Caption());
+    }
     if (failure) std::rethrow_exception(failure);
     return true;
 }
