@@ -42,7 +42,12 @@ void ValFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
     const QByteArrayView text = TextOf(arguments[0]);
     if (sqlite3_int64 whole; ReadShortDigits(text, whole)) return sqlite3_result_int64(context, whole);
 
-    const double number = values::Val(QString::fromUtf8(text));
+    double number = 0;
+    try {
+        number = values::Val(QString::fromUtf8(text));
+    } catch (const values::Error&) {  // too large a number, which must not be thrown through the library
+        return sqlite3_result_error(context, "integer overflow", -1);
+    }
     if (number == std::trunc(number) && std::abs(number) <= largestExact)
         sqlite3_result_int64(context, static_cast<sqlite3_int64>(number));
     else
