@@ -316,7 +316,16 @@ QItemSelectionModel::SelectionFlags ListView::selectionCommand(const QModelIndex
     return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
 }
 
+// Before a bar would have to come, headings go on two lines, for which all but a tight list has the height.
 void ListView::LayOutColumns() {
+    wrapsHeadings_ = false;
+    ShareWidth();
+    if (header()->length() <= viewport()->width() || property("tight").toBool()) return;
+    wrapsHeadings_ = true;
+    ShareWidth();
+}
+
+void ListView::ShareWidth() {
     int rest = viewport()->width();
     std::vector<int> flexible;
     for (int column = 0; column < static_cast<int>(columns_.size()); ++column) {
@@ -356,7 +365,13 @@ int ListView::WidthOf(int column) const {
 }
 
 int ListView::HeadingOf(int column) const {
-    return header()->fontMetrics().horizontalAdvance(columns_[static_cast<size_t>(column)].heading) + cellPadding;
+    const QString& heading = columns_[static_cast<size_t>(column)].heading;
+    const QFontMetrics metrics = header()->fontMetrics();
+    int widest = metrics.horizontalAdvance(heading);
+    for (qsizetype blank = heading.indexOf(u' '); blank > 0 && wrapsHeadings_; blank = heading.indexOf(u' ', blank + 1))
+        widest = qMin(widest, qMax(metrics.horizontalAdvance(heading.first(blank)),
+                                   metrics.horizontalAdvance(heading.sliced(blank + 1))));
+    return widest + cellPadding;
 }
 
 // What shows all that the column holds, its heading too.

@@ -101,6 +101,7 @@ private:
     void Report(const std::exception_ptr& why);
     int WidthOf(int column) const;
     int HeadingOf(int column) const;
+    void ShareWidth();
     int NeedOf(int column) const;
     int NarrowestOf(int column) const;
     int LeastOf(int column) const;
@@ -114,6 +115,7 @@ private:
     QTimer comingIn_;
     bool selectsFirst_ = false;
     int lowestRow_ = 0;  // 0: rows keep their height
+    bool wrapsHeadings_ = false;
 };
 
 }  // namespace forms

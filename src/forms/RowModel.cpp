@@ -205,7 +205,7 @@ QVariant RowModel::data(const QModelIndex& index, int role) const {
         if (!index.isValid() || index.row() >= published_ || !HasColumn(index.column())) return {};
         return LookedAt(index.row(), index.column());
     }
-    if (role == Qt::TextAlignmentRole) return headerData(index.column(), Qt::Horizontal, role);
+    if (role == Qt::TextAlignmentRole && HasColumn(index.column())) return AlignmentOf(index.column());
     // From here and not from the style sheet, which a list that is filled before it is shown does not have yet.
     if (role == Qt::SizeHintRole) return QSize(0, RowHeight());
     return {};
@@ -220,8 +220,12 @@ QVariant RowModel::headerData(int section, Qt::Orientation orientation, int role
     if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) return {};
     const ListColumn& column = headings_[static_cast<size_t>(section)];
     if (role == Qt::DisplayRole) return column.heading;
-    if (role == Qt::TextAlignmentRole) return int((column.align & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter);
+    if (role == Qt::TextAlignmentRole) return AlignmentOf(section) | Qt::TextWordWrap;
     return {};
+}
+
+int RowModel::AlignmentOf(int column) const {
+    return int((headings_[static_cast<size_t>(column)].align & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter);
 }
 
 Qt::ItemFlags RowModel::flags(const QModelIndex& index) const {

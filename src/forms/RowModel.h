@@ -89,6 +89,7 @@ private:
     };
 
     int RowHeight() const;
+    int AlignmentOf(int column) const;
     size_t Width() const { return headings_.size(); }
     size_t PlaceOf(int row, int column) const;
     bool HasCell(int row, int column);

@@ -124,10 +124,12 @@ private:
 
     void LookAtHeadings(const QTreeView& list) {
         const QHeaderView& heads = *list.header();
+        if (list.isHeaderHidden()) return;
         for (int column = 0; column < heads.count(); ++column) {
             if (heads.isSectionHidden(column)) continue;
             const QString text = list.model()->headerData(column, Qt::Horizontal).toString();
-            if (heads.fontMetrics().horizontalAdvance(text) + PaddingOfHeading > heads.sectionSize(column))
+            const QRect room(0, 0, heads.sectionSize(column) - PaddingOfHeading, heads.height());
+            if (!room.contains(heads.fontMetrics().boundingRect(room, Qt::TextWordWrap, text)))
                 Tell(list, u"has a heading that is cut: "_s + text);
         }
     }
