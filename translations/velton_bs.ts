@@ -2178,6 +2178,10 @@ Da: provjeri ponovo. Ne: svejedno štampaj.</translation>
         <source>%1: %2 invoices, %3 become %4, %5</source>
         <translation>%1: računi %2, promet %3, postaje %4, %5</translation>
     </message>
+    <message>
+        <source>The old store could not be put aside, and no till may work on it any more. %1</source>
+        <translation>Stara baza podataka nije se mogla skloniti, a nijedna kasa više ne smije raditi na njoj. %1</translation>
+    </message>
 </context>
 <context>
     <name>TouchButton</name>
@@ -6356,6 +6360,10 @@ Pokušaj od %2 nije uspio: %3</translation>
     <message>
         <source>The shop lies in the folder of this register now: %1 rows of %2 tables, compared with those on the server.</source>
         <translation>Radnja je sada u folderu ove kase: redova %1 u tabelama %2, upoređeno s onima na serveru.</translation>
+    </message>
+    <message>
+        <source>The old store could not be put aside, and no till may work on it any more. %1</source>
+        <translation>Stara baza podataka nije se mogla skloniti, a nijedna kasa više ne smije raditi na njoj. %1</translation>
     </message>
 </context>
 <context>

@@ -2177,6 +2177,10 @@ Ja: noch einmal prüfen. Nein: trotzdem drucken.</translation>
         <source>%1: %2 invoices, %3 become %4, %5</source>
         <translation>%1: aus %2 Rechnungen, %3 werden %4, %5</translation>
     </message>
+    <message>
+        <source>The old store could not be put aside, and no till may work on it any more. %1</source>
+        <translation>Die alte Datenbank konnte nicht beiseitegelegt werden; keine Kasse darf noch mit ihr arbeiten. %1</translation>
+    </message>
 </context>
 <context>
     <name>TouchButton</name>
@@ -6343,6 +6347,10 @@ Der Versuch vom %2 ist misslungen: %3</translation>
     <message>
         <source>The shop lies in the folder of this register now: %1 rows of %2 tables, compared with those on the server.</source>
         <translation>Das Geschäft liegt jetzt im Ordner dieser Kasse: %1 Zeilen aus %2 Tabellen, mit denen auf dem Server verglichen.</translation>
+    </message>
+    <message>
+        <source>The old store could not be put aside, and no till may work on it any more. %1</source>
+        <translation>Die alte Datenbank konnte nicht beiseitegelegt werden; keine Kasse darf noch mit ihr arbeiten. %1</translation>
     </message>
 </context>
 <context>

@@ -2177,6 +2177,10 @@ Yes: look at it again. No: print all the same.</translation>
         <source>%1: %2 invoices, %3 become %4, %5</source>
         <translation>%1: %2 invoices, %3 become %4, %5</translation>
     </message>
+    <message>
+        <source>The old store could not be put aside, and no till may work on it any more. %1</source>
+        <translation>The old store could not be put aside, and no till may work on it any more. %1</translation>
+    </message>
 </context>
 <context>
     <name>TouchButton</name>
@@ -6343,6 +6347,10 @@ The try of %2 failed: %3</translation>
     <message>
         <source>The shop lies in the folder of this register now: %1 rows of %2 tables, compared with those on the server.</source>
         <translation>The shop lies in the folder of this register now: %1 rows of %2 tables, compared with those on the server.</translation>
+    </message>
+    <message>
+        <source>The old store could not be put aside, and no till may work on it any more. %1</source>
+        <translation>The old store could not be put aside, and no till may work on it any more. %1</translation>
     </message>
 </context>
 <context>

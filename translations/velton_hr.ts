@@ -2178,6 +2178,10 @@ Da: provjeri ponovno. Ne: svejedno ispiši.</translation>
         <source>%1: %2 invoices, %3 become %4, %5</source>
         <translation>%1: računa %2, promet %3; poslije računa %4, promet %5</translation>
     </message>
+    <message>
+        <source>The old store could not be put aside, and no till may work on it any more. %1</source>
+        <translation>Stara baza podataka nije se mogla skloniti, a nijedna blagajna više ne smije raditi na njoj. %1</translation>
+    </message>
 </context>
 <context>
     <name>TouchButton</name>
@@ -6356,6 +6360,10 @@ Pokušaj od %2 nije uspio: %3</translation>
     <message>
         <source>The shop lies in the folder of this register now: %1 rows of %2 tables, compared with those on the server.</source>
         <translation>Trgovina je sada u mapi ove blagajne: redaka %1 u tablicama %2, uspoređeno s onima na poslužitelju.</translation>
+    </message>
+    <message>
+        <source>The old store could not be put aside, and no till may work on it any more. %1</source>
+        <translation>Stara baza podataka nije se mogla skloniti, a nijedna blagajna više ne smije raditi na njoj. %1</translation>
     </message>
 </context>
 <context>

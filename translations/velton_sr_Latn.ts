@@ -2178,6 +2178,10 @@ Da: proveri ponovo. Ne: ipak štampaj.</translation>
         <source>%1: %2 invoices, %3 become %4, %5</source>
         <translation>%1: računa %2, promet %3; posle računa %4, promet %5</translation>
     </message>
+    <message>
+        <source>The old store could not be put aside, and no till may work on it any more. %1</source>
+        <translation>Stara baza nije mogla da se skloni, a nijedna kasa više ne sme da radi na njoj. %1</translation>
+    </message>
 </context>
 <context>
     <name>TouchButton</name>
@@ -6356,6 +6360,10 @@ Pokušaj od %2 nije uspeo: %3</translation>
     <message>
         <source>The shop lies in the folder of this register now: %1 rows of %2 tables, compared with those on the server.</source>
         <translation>Radnja je sada u fascikli ove kase: redova %1 u tabelama %2, upoređeno sa onima na serveru.</translation>
+    </message>
+    <message>
+        <source>The old store could not be put aside, and no till may work on it any more. %1</source>
+        <translation>Stara baza nije mogla da se skloni, a nijedna kasa više ne sme da radi na njoj. %1</translation>
     </message>
 </context>
 <context>

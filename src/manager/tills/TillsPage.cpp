@@ -21,8 +21,12 @@ namespace manager {
 
 namespace {
 
-QString WithKept(const QString& done, const QString& keptAs) {
-    return keptAs.isEmpty() ? done : done + u' ' + TillsPage::tr("The old store is kept as %1.").arg(keptAs);
+QString WithOld(const QString& done, const upkeep::OldStore& old) {
+    if (!old.whyStays.isEmpty())
+        return done + u' ' +
+               TillsPage::tr("The old store could not be put aside, and no till may work on it any more. %1")
+                   .arg(old.whyStays);
+    return old.keptAs.isEmpty() ? done : done + u' ' + TillsPage::tr("The old store is kept as %1.").arg(old.keptAs);
 }
 
 }  // namespace
@@ -138,9 +142,9 @@ void TillsPage::cmdMove_Click() {
         return;
     Change(tr("The shop is moving."), [&url](const upkeep::Progress& progress) {
         const upkeep::Moved moved = upkeep::MoveMainStore(ProgramFolder(), url, progress);
-        return WithKept(tr("The shop lies on the server now: %1 rows of %2 tables, compared with those here.")
-                            .arg(QString::number(moved.rows), QString::number(moved.tables)),
-                        moved.keptAs);
+        return WithOld(tr("The shop lies on the server now: %1 rows of %2 tables, compared with those here.")
+                           .arg(QString::number(moved.rows), QString::number(moved.tables)),
+                       moved.old);
     });
 }
 
@@ -152,8 +156,8 @@ void TillsPage::cmdJoin_Click() {
                     Caption()))
         return;
     Change(tr("The register is joining the shop."), [&url](const upkeep::Progress&) {
-        return WithKept(tr("This register works on the shop on the server now."),
-                        upkeep::JoinShop(ProgramFolder(), url));
+        return WithOld(tr("This register works on the shop on the server now."),
+                       upkeep::JoinShop(ProgramFolder(), url));
     });
 }
 
@@ -165,11 +169,11 @@ void TillsPage::cmdBack_Click() {
         return;
     Change(tr("The shop is moving."), [](const upkeep::Progress& progress) {
         const upkeep::Moved moved = upkeep::MoveMainStore(ProgramFolder(), {}, progress);
-        return WithKept(
+        return WithOld(
             tr("The shop lies in the folder of this register now: %1 rows of %2 tables, compared with those on the "
                "server.")
                 .arg(QString::number(moved.rows), QString::number(moved.tables)),
-            moved.keptAs);
+            moved.old);
     });
 }
 
