@@ -204,19 +204,24 @@ void TillsPage::cmdGive_Click() {
 }
 
 void TillsPage::BringPictures(const QString& there, const QString& here) {
-    upkeep::PictureDifference difference;
-    RunBeside(this, tr("The pictures are being compared."),
-              [&](const upkeep::Progress&) { difference = upkeep::ComparePictures(there, here); });
-    QStringList names = difference.missing;
-    if (!difference.different.isEmpty() &&
-        forms::Ask(tr("Some pictures differ from those of the same name there: %1. Replace those?")
-                       .arg(difference.different.join(u", "_s)),
-                   Caption()))
-        names += difference.different;
-    if (names.isEmpty()) return forms::Inform(tr("There is no picture to be copied."), Caption());
-    RunBeside(this, tr("The pictures are being copied."),
-              [&](const upkeep::Progress&) { upkeep::CopyPictures(there, here, names); });
-    forms::Inform(tr("Pictures that were copied: %1.").arg(names.size()), Caption());
+    try {
+        upkeep::PictureDifference difference;
+        RunBeside(this, tr("The pictures are being compared."), [&](const upkeep::Progress& progress) {
+            difference = upkeep::ComparePictures(there, here, progress);
+        });
+        QStringList names = difference.missing;
+        if (!difference.different.isEmpty() &&
+            forms::Ask(tr("Some pictures differ from those of the same name there: %1. Replace those?")
+                           .arg(difference.different.join(u", "_s)),
+                       Caption()))
+            names += difference.different;
+        if (names.isEmpty()) return forms::Inform(tr("There is no picture to be copied."), Caption());
+        RunBeside(this, tr("The pictures are being copied."),
+                  [&](const upkeep::Progress& progress) { upkeep::CopyPictures(there, here, names, progress); });
+        forms::Inform(tr("Pictures that were copied: %1.").arg(names.size()), Caption());
+    } catch (const store::StoreError& error) {
+        if (error.Number() != store::Cancelled) throw;
+    }
 }
 
 }  // namespace manager
