@@ -6334,10 +6334,6 @@ Pokušaj od %2 nije uspio: %3</translation>
         <translation>Slike se upoređuju.</translation>
     </message>
     <message>
-        <source>Some pictures differ from those of the same name there: %1. Replace those?</source>
-        <translation>Neke slike se razlikuju od istoimenih koje su tamo: %1. Treba li ih zamijeniti?</translation>
-    </message>
-    <message>
         <source>There is no picture to be copied.</source>
         <translation>Nema slika za kopiranje.</translation>
     </message>
@@ -6364,6 +6360,10 @@ Pokušaj od %2 nije uspio: %3</translation>
     <message>
         <source>The old store could not be put aside, and no till may work on it any more. %1</source>
         <translation>Stara baza podataka nije se mogla skloniti, a nijedna kasa više ne smije raditi na njoj. %1</translation>
+    </message>
+    <message>
+        <source>Some pictures would replace others of the same name: %1. Replace them?</source>
+        <translation>Neke slike bi zamijenile druge istog imena: %1. Treba li ih zamijeniti?</translation>
     </message>
 </context>
 <context>

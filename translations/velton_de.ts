@@ -6321,10 +6321,6 @@ Der Versuch vom %2 ist misslungen: %3</translation>
         <translation>Die Bilder werden verglichen.</translation>
     </message>
     <message>
-        <source>Some pictures differ from those of the same name there: %1. Replace those?</source>
-        <translation>Einige Bilder weichen von den gleichnamigen dort ab: %1. Sollen diese ersetzt werden?</translation>
-    </message>
-    <message>
         <source>There is no picture to be copied.</source>
         <translation>Es gibt kein Bild zu kopieren.</translation>
     </message>
@@ -6351,6 +6347,10 @@ Der Versuch vom %2 ist misslungen: %3</translation>
     <message>
         <source>The old store could not be put aside, and no till may work on it any more. %1</source>
         <translation>Die alte Datenbank konnte nicht beiseitegelegt werden; keine Kasse darf noch mit ihr arbeiten. %1</translation>
+    </message>
+    <message>
+        <source>Some pictures would replace others of the same name: %1. Replace them?</source>
+        <translation>Einige Bilder würden andere gleichen Namens ersetzen: %1. Sollen sie ersetzt werden?</translation>
     </message>
 </context>
 <context>

@@ -6321,10 +6321,6 @@ The try of %2 failed: %3</translation>
         <translation>The pictures are being compared.</translation>
     </message>
     <message>
-        <source>Some pictures differ from those of the same name there: %1. Replace those?</source>
-        <translation>Some pictures differ from those of the same name there: %1. Replace those?</translation>
-    </message>
-    <message>
         <source>There is no picture to be copied.</source>
         <translation>There is no picture to be copied.</translation>
     </message>
@@ -6351,6 +6347,10 @@ The try of %2 failed: %3</translation>
     <message>
         <source>The old store could not be put aside, and no till may work on it any more. %1</source>
         <translation>The old store could not be put aside, and no till may work on it any more. %1</translation>
+    </message>
+    <message>
+        <source>Some pictures would replace others of the same name: %1. Replace them?</source>
+        <translation>Some pictures would replace others of the same name: %1. Replace them?</translation>
     </message>
 </context>
 <context>

@@ -211,7 +211,7 @@ void TillsPage::BringPictures(const QString& there, const QString& here) {
         });
         QStringList names = difference.missing;
         if (!difference.different.isEmpty() &&
-            forms::Ask(tr("Some pictures differ from those of the same name there: %1. Replace those?")
+            forms::Ask(tr("Some pictures would replace others of the same name: %1. Replace them?")
                            .arg(difference.different.join(u", "_s)),
                        Caption()))
             names += difference.different;
