@@ -98,7 +98,7 @@ void TillsPage::ShowFound() {
 }
 
 ServerAddress TillsPage::Address() const {
-    return {.host = ui.txtServer->text().trimmed(),
+    return {.host = ui.txtServer->text().remove(u' '),  // behind the commas of several
             .database = ui.txtDatabase->text().trimmed(),
             .user = ui.txtUser->text().trimmed(),
             .schema = ui.txtSchema->text().trimmed(),
