@@ -6295,7 +6295,7 @@ Pokušaj od %2 nije uspio: %3</translation>
     </message>
     <message>
         <source>The server is being asked.</source>
-        <translation>Server se pita.</translation>
+        <translation>Čeka se odgovor servera.</translation>
     </message>
     <message>
         <source>Close the tills of this shop. Is it to move to %1? Its other registers then join it there.</source>

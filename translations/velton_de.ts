@@ -2049,7 +2049,7 @@ Ja: noch einmal prüfen. Nein: trotzdem drucken.</translation>
     </message>
     <message>
         <source>&amp;Move this shop there</source>
-        <translation>Geschäft dorthin &amp;umziehen</translation>
+        <translation>Geschäft dorthin ver&amp;legen</translation>
     </message>
     <message>
         <source>&amp;Join the shop there</source>
@@ -6262,7 +6262,7 @@ Der Versuch vom %2 ist misslungen: %3</translation>
     </message>
     <message>
         <source>Look at the server first, then move the shop there or join the one that is there.</source>
-        <translation>Zuerst den Server ansehen, dann das Geschäft dorthin umziehen oder dem beitreten, das dort liegt.</translation>
+        <translation>Zuerst den Server ansehen, dann das Geschäft dorthin verlegen oder dem beitreten, das dort liegt.</translation>
     </message>
     <message>
         <source>The server is there and has no shop of this name yet: this one can move there.</source>

@@ -6263,7 +6263,7 @@ Pokušaj od %2 nije uspio: %3</translation>
     </message>
     <message>
         <source>Where the server offers it</source>
-        <translation>Ako je poslužitelj nudi</translation>
+        <translation>Ako ga poslužitelj nudi</translation>
     </message>
     <message>
         <source>The shop lies on the server %1. Tills on other machines join it there.</source>
@@ -6295,7 +6295,7 @@ Pokušaj od %2 nije uspio: %3</translation>
     </message>
     <message>
         <source>The server is being asked.</source>
-        <translation>Poslužitelj se pita.</translation>
+        <translation>Čeka se odgovor poslužitelja.</translation>
     </message>
     <message>
         <source>Close the tills of this shop. Is it to move to %1? Its other registers then join it there.</source>
