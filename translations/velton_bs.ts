@@ -2178,6 +2178,10 @@ Da: provjeri ponovo. Ne: svejedno štampaj.</translation>
         <source>%1: %2 invoices, %3 become %4, %5</source>
         <translation>%1: računi %2, promet %3, postaje %4, %5</translation>
     </message>
+    <message>
+        <source>The old store could not be put aside, and no till may work on it any more. %1</source>
+        <translation>Stara baza podataka nije se mogla skloniti, a nijedna kasa više ne smije raditi na njoj. %1</translation>
+    </message>
 </context>
 <context>
     <name>TouchButton</name>
@@ -6291,7 +6295,7 @@ Pokušaj od %2 nije uspio: %3</translation>
     </message>
     <message>
         <source>The server is being asked.</source>
-        <translation>Server se pita.</translation>
+        <translation>Čeka se odgovor servera.</translation>
     </message>
     <message>
         <source>Close the tills of this shop. Is it to move to %1? Its other registers then join it there.</source>
@@ -6330,10 +6334,6 @@ Pokušaj od %2 nije uspio: %3</translation>
         <translation>Slike se upoređuju.</translation>
     </message>
     <message>
-        <source>Some pictures differ from those of the same name there: %1. Replace those?</source>
-        <translation>Neke slike se razlikuju od istoimenih koje su tamo: %1. Treba li ih zamijeniti?</translation>
-    </message>
-    <message>
         <source>There is no picture to be copied.</source>
         <translation>Nema slika za kopiranje.</translation>
     </message>
@@ -6356,6 +6356,14 @@ Pokušaj od %2 nije uspio: %3</translation>
     <message>
         <source>The shop lies in the folder of this register now: %1 rows of %2 tables, compared with those on the server.</source>
         <translation>Radnja je sada u folderu ove kase: redova %1 u tabelama %2, upoređeno s onima na serveru.</translation>
+    </message>
+    <message>
+        <source>The old store could not be put aside, and no till may work on it any more. %1</source>
+        <translation>Stara baza podataka nije se mogla skloniti, a nijedna kasa više ne smije raditi na njoj. %1</translation>
+    </message>
+    <message>
+        <source>Some pictures would replace others of the same name: %1. Replace them?</source>
+        <translation>Neke slike bi zamijenile druge istog imena: %1. Treba li ih zamijeniti?</translation>
     </message>
 </context>
 <context>

@@ -2049,7 +2049,7 @@ Ja: noch einmal prüfen. Nein: trotzdem drucken.</translation>
     </message>
     <message>
         <source>&amp;Move this shop there</source>
-        <translation>Geschäft dorthin &amp;umziehen</translation>
+        <translation>Geschäft dorthin ver&amp;legen</translation>
     </message>
     <message>
         <source>&amp;Join the shop there</source>
@@ -2176,6 +2176,10 @@ Ja: noch einmal prüfen. Nein: trotzdem drucken.</translation>
     <message>
         <source>%1: %2 invoices, %3 become %4, %5</source>
         <translation>%1: aus %2 Rechnungen, %3 werden %4, %5</translation>
+    </message>
+    <message>
+        <source>The old store could not be put aside, and no till may work on it any more. %1</source>
+        <translation>Die alte Datenbank konnte nicht beiseitegelegt werden; keine Kasse darf noch mit ihr arbeiten. %1</translation>
     </message>
 </context>
 <context>
@@ -6258,7 +6262,7 @@ Der Versuch vom %2 ist misslungen: %3</translation>
     </message>
     <message>
         <source>Look at the server first, then move the shop there or join the one that is there.</source>
-        <translation>Zuerst den Server ansehen, dann das Geschäft dorthin umziehen oder dem beitreten, das dort liegt.</translation>
+        <translation>Zuerst den Server ansehen, dann das Geschäft dorthin verlegen oder dem beitreten, das dort liegt.</translation>
     </message>
     <message>
         <source>The server is there and has no shop of this name yet: this one can move there.</source>
@@ -6317,10 +6321,6 @@ Der Versuch vom %2 ist misslungen: %3</translation>
         <translation>Die Bilder werden verglichen.</translation>
     </message>
     <message>
-        <source>Some pictures differ from those of the same name there: %1. Replace those?</source>
-        <translation>Einige Bilder weichen von den gleichnamigen dort ab: %1. Sollen diese ersetzt werden?</translation>
-    </message>
-    <message>
         <source>There is no picture to be copied.</source>
         <translation>Es gibt kein Bild zu kopieren.</translation>
     </message>
@@ -6343,6 +6343,14 @@ Der Versuch vom %2 ist misslungen: %3</translation>
     <message>
         <source>The shop lies in the folder of this register now: %1 rows of %2 tables, compared with those on the server.</source>
         <translation>Das Geschäft liegt jetzt im Ordner dieser Kasse: %1 Zeilen aus %2 Tabellen, mit denen auf dem Server verglichen.</translation>
+    </message>
+    <message>
+        <source>The old store could not be put aside, and no till may work on it any more. %1</source>
+        <translation>Die alte Datenbank konnte nicht beiseitegelegt werden; keine Kasse darf noch mit ihr arbeiten. %1</translation>
+    </message>
+    <message>
+        <source>Some pictures would replace others of the same name: %1. Replace them?</source>
+        <translation>Einige Bilder würden andere gleichen Namens ersetzen: %1. Sollen sie ersetzt werden?</translation>
     </message>
 </context>
 <context>

@@ -2177,6 +2177,10 @@ Yes: look at it again. No: print all the same.</translation>
         <source>%1: %2 invoices, %3 become %4, %5</source>
         <translation>%1: %2 invoices, %3 become %4, %5</translation>
     </message>
+    <message>
+        <source>The old store could not be put aside, and no till may work on it any more. %1</source>
+        <translation>The old store could not be put aside, and no till may work on it any more. %1</translation>
+    </message>
 </context>
 <context>
     <name>TouchButton</name>
@@ -6317,10 +6321,6 @@ The try of %2 failed: %3</translation>
         <translation>The pictures are being compared.</translation>
     </message>
     <message>
-        <source>Some pictures differ from those of the same name there: %1. Replace those?</source>
-        <translation>Some pictures differ from those of the same name there: %1. Replace those?</translation>
-    </message>
-    <message>
         <source>There is no picture to be copied.</source>
         <translation>There is no picture to be copied.</translation>
     </message>
@@ -6343,6 +6343,14 @@ The try of %2 failed: %3</translation>
     <message>
         <source>The shop lies in the folder of this register now: %1 rows of %2 tables, compared with those on the server.</source>
         <translation>The shop lies in the folder of this register now: %1 rows of %2 tables, compared with those on the server.</translation>
+    </message>
+    <message>
+        <source>The old store could not be put aside, and no till may work on it any more. %1</source>
+        <translation>The old store could not be put aside, and no till may work on it any more. %1</translation>
+    </message>
+    <message>
+        <source>Some pictures would replace others of the same name: %1. Replace them?</source>
+        <translation>Some pictures would replace others of the same name: %1. Replace them?</translation>
     </message>
 </context>
 <context>

@@ -53,6 +53,16 @@ bool LiesIn(const QString& folder, const store::Place& place) {
     return !place.IsServer() && QFileInfo(place.Path()).absoluteDir() == QDir(QDir(folder).absolutePath());
 }
 
+// Behind store.ini the shop is in its new place, whatever becomes of the old store.
+OldStore PutAside(store::Database& old, const QString& keptAs) {
+    try {
+        old.Retire();
+    } catch (const store::StoreError& error) {
+        return {.keptAs = {}, .whyStays = error.Description()};
+    }
+    return {.keptAs = keptAs, .whyStays = {}};
+}
+
 }  // namespace
 
 Moved MoveMainStore(const QString& folder, const QString& address, const Progress& progress) {
@@ -74,14 +84,13 @@ Moved MoveMainStore(const QString& folder, const QString& address, const Progres
     const QString keptAs = source->PrepareToRetire();
     creation.Finish();
     ini.PutInPlace();
-    source->Retire();
     return {.tables = static_cast<int>(before.tables.size()),
             .rows = before.rows,
             .days = static_cast<int>(before.days.size()),
-            .keptAs = keptAs};
+            .old = PutAside(*source, keptAs)};
 }
 
-QString JoinShop(const QString& folder, const QString& address) {
+OldStore JoinShop(const QString& folder, const QString& address) {
     store::Database::Open(store::Place::Server(address), store::MainSchema());
     const ClosedTill till(folder);  // an open one would go on selling into the old store
     StoreIni ini(folder, address);
@@ -93,8 +102,7 @@ QString JoinShop(const QString& folder, const QString& address) {
         keptAs = own->PrepareToRetire();
     }
     ini.PutInPlace();
-    if (own) own->Retire();
-    return keptAs;
+    return own ? PutAside(*own, keptAs) : OldStore();
 }
 
 }  // namespace upkeep

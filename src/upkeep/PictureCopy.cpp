@@ -1,6 +1,7 @@
 #include "upkeep/PictureCopy.h"
 
 #include <QDirIterator>
+#include <QFile>
 
 #include "upkeep/FileCopy.h"
 #include "upkeep/Words.h"
@@ -16,19 +17,21 @@ const auto PictureFolder = u"img"_s;
 
 QDir PicturesOf(const QString& folder) {
     const QDir whole(folder), pictures(whole.filePath(PictureFolder));
-    if (pictures.exists()) return pictures;
-    if (whole.dirName() == PictureFolder) return whole;
-    throw values::FileError(values::PathNotFound,
-                            Words::tr("There are no pictures in %1: it has no folder %2.").arg(folder, PictureFolder));
+    return whole.dirName() == PictureFolder && !pictures.exists() ? whole : pictures;
 }
 
 }  // namespace
 
-PictureDifference ComparePictures(const QString& there, const QString& here) {
-    const QDir theirs = PicturesOf(there), ours(QDir(here).filePath(PictureFolder));
+PictureDifference ComparePictures(const QString& there, const QString& here, const Progress& progress) {
+    const QDir theirs = PicturesOf(there), ours = PicturesOf(here);
+    if (!theirs.exists())
+        throw values::FileError(
+            values::PathNotFound,
+            Words::tr("There are no pictures in %1: it has no folder %2.").arg(there, PictureFolder));
     PictureDifference difference;
     for (QDirIterator files(theirs.path(), QDir::Files, QDirIterator::Subdirectories); files.hasNext();) {
         const QString name = theirs.relativeFilePath(files.next());
+        GoOn(progress, Words::tr("Looking at %1").arg(name));
         if (!ours.exists(name))
             difference.missing << name;
         else if (FingerprintOf(theirs.filePath(name)) != FingerprintOf(ours.filePath(name)))
@@ -39,14 +42,20 @@ PictureDifference ComparePictures(const QString& there, const QString& here) {
     return difference;
 }
 
-void CopyPictures(const QString& there, const QString& here, const QStringList& names) {
-    const QDir theirs = PicturesOf(there), ours(QDir(here).filePath(PictureFolder));
+void CopyPictures(const QString& there, const QString& here, const QStringList& names, const Progress& progress) {
+    const QDir theirs = PicturesOf(there), ours = PicturesOf(here);
     MakeFolder(ours.path());
     for (const QString& name : names) {
+        GoOn(progress, Words::tr("Copying %1").arg(name));
         MakeFoldersOf(ours.path(), name);
         const QString coming = ours.filePath(name) + u".part"_s;
-        CopyToDisk(theirs.filePath(name), coming);
-        Rename(coming, ours.filePath(name));
+        try {
+            CopyToDisk(theirs.filePath(name), coming);
+            Rename(coming, ours.filePath(name));
+        } catch (const values::Error&) {
+            QFile::remove(coming);
+            throw;
+        }
     }
     SyncFolder(ours.path());
 }

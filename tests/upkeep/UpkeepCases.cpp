@@ -1,8 +1,12 @@
+#include <QFile>
+#include <QTemporaryDir>
+
 #include "support/CaseText.h"
 #include "support/ValueOf.h"
 #include "upkeep/labels/Barcode.h"
 #include "upkeep/labels/LabelSheet.h"
 #include "upkeep/labels/UnitPrice.h"
+#include "upkeep/server/ServerAddress.h"
 
 using namespace Qt::StringLiterals;
 using namespace upkeep;
@@ -65,6 +69,36 @@ QString Corners(const QRectF& place) {
                                    Number(place.bottom()));
 }
 
+const QStringList Encryptions{u"offered"_s, u"always"_s, u"checked"_s};
+
+QString UrlText(At at) {
+    const ServerAddress address{
+        .host = at[0],
+        .database = at[1],
+        .user = at[2],
+        .schema = at[3],
+        .encryption = static_cast<ServerAddress::Encryption>(Encryptions.indexOf(at[4])),
+    };
+    return address.Url();
+}
+
+QString BoxesText(At at) {
+    const ServerAddress address = ServerAddress::Of(store::Place::Server(at[0]));
+    const QString& encryption = Encryptions[static_cast<int>(address.encryption)];
+    return QStringList{address.host, address.database, address.user, address.schema, encryption}.join(u"; "_s);
+}
+
+QString PasswordLines(At at) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"passwords"_s);
+    qputenv("PGPASSFILE", QFile::encodeName(path));
+    KeepPassword(ServerAddress::Of(store::Place::Server(at[0])), at[1]);
+    QFile file(path);
+    const bool isRead = file.open(QIODevice::ReadOnly);
+    const bool isShared = file.permissions().testAnyFlags(QFile::ReadGroup | QFile::ReadOther);
+    return !isRead || isShared ? u"not for its user alone"_s : QString::fromUtf8(file.readAll());
+}
+
 const QMap<QString, drivers::Function> Functions{
     {u"Check digit"_s, [](At at) { return EndsWithCheckDigit(at[0]) ? u"right"_s : u"wrong"_s; }},
     {u"Barcode"_s, BarcodeName},
@@ -72,6 +106,9 @@ const QMap<QString, drivers::Function> Functions{
     {u"Unit price"_s, UnitPriceText},
     {u"Cell"_s, [](At at) { return Corners(CellOf(SheetOf(at[0]), at[1].toInt())); }},
     {u"Printable"_s, [](At at) { return Corners(PrintableOf(SheetOf(at[0]), at[1].toInt())); }},
+    {u"Address"_s, UrlText},
+    {u"Boxes"_s, BoxesText},
+    {u"Password lines"_s, PasswordLines},
     {u"Sheets"_s, [](At at) { return QString::number(SheetsFor(SheetOf(at[0]), at[1].toInt(), at[2].toInt())); }},
     {u"Fault"_s,
      [](At at) {
@@ -88,7 +125,8 @@ TEST_P(UpkeepCase, GivesWhatItsRowsSay) {
     for (const drivers::Step& step : GetParam().steps.inner) CheckRows(step, Functions);
 }
 
-INSTANTIATE_TEST_SUITE_P(Upkeep, UpkeepCase, testing::ValuesIn(drivers::ReadCases(u"upkeep"_s, {u"labels"_s})),
+INSTANTIATE_TEST_SUITE_P(Upkeep, UpkeepCase,
+                         testing::ValuesIn(drivers::ReadCases(u"upkeep"_s, {u"labels"_s, u"server"_s})),
                          [](const auto& info) { return info.param.name.toStdString(); });
 
 // What is sold as a sheet fits its paper, and its labels lie apart.

@@ -13,7 +13,11 @@ void Move(const QString& folder, const QString& address) {
                          .arg(moved.rows)
                          .arg(moved.tables)
                          .arg(moved.days));
-    output.WriteLine(ToolWords::tr("The old store is kept as %1.").arg(moved.keptAs));
+    if (moved.old.whyStays.isEmpty())
+        output.WriteLine(ToolWords::tr("The old store is kept as %1.").arg(moved.old.keptAs));
+    else
+        output.WriteLine(ToolWords::tr("The old store could not be put aside, and no till may work on it any more. %1")
+                             .arg(moved.old.whyStays));
     output.Finish();
 }
 

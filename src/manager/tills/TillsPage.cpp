@@ -21,8 +21,12 @@ namespace manager {
 
 namespace {
 
-QString WithKept(const QString& done, const QString& keptAs) {
-    return keptAs.isEmpty() ? done : done + u' ' + TillsPage::tr("The old store is kept as %1.").arg(keptAs);
+QString WithOld(const QString& done, const upkeep::OldStore& old) {
+    if (!old.whyStays.isEmpty())
+        return done + u' ' +
+               TillsPage::tr("The old store could not be put aside, and no till may work on it any more. %1")
+                   .arg(old.whyStays);
+    return old.keptAs.isEmpty() ? done : done + u' ' + TillsPage::tr("The old store is kept as %1.").arg(old.keptAs);
 }
 
 }  // namespace
@@ -94,7 +98,7 @@ void TillsPage::ShowFound() {
 }
 
 ServerAddress TillsPage::Address() const {
-    return {.host = ui.txtServer->text().trimmed(),
+    return {.host = ui.txtServer->text().remove(u' '),  // behind the commas of several
             .database = ui.txtDatabase->text().trimmed(),
             .user = ui.txtUser->text().trimmed(),
             .schema = ui.txtSchema->text().trimmed(),
@@ -138,9 +142,9 @@ void TillsPage::cmdMove_Click() {
         return;
     Change(tr("The shop is moving."), [&url](const upkeep::Progress& progress) {
         const upkeep::Moved moved = upkeep::MoveMainStore(ProgramFolder(), url, progress);
-        return WithKept(tr("The shop lies on the server now: %1 rows of %2 tables, compared with those here.")
-                            .arg(QString::number(moved.rows), QString::number(moved.tables)),
-                        moved.keptAs);
+        return WithOld(tr("The shop lies on the server now: %1 rows of %2 tables, compared with those here.")
+                           .arg(QString::number(moved.rows), QString::number(moved.tables)),
+                       moved.old);
     });
 }
 
@@ -152,8 +156,8 @@ void TillsPage::cmdJoin_Click() {
                     Caption()))
         return;
     Change(tr("The register is joining the shop."), [&url](const upkeep::Progress&) {
-        return WithKept(tr("This register works on the shop on the server now."),
-                        upkeep::JoinShop(ProgramFolder(), url));
+        return WithOld(tr("This register works on the shop on the server now."),
+                       upkeep::JoinShop(ProgramFolder(), url));
     });
 }
 
@@ -165,11 +169,11 @@ void TillsPage::cmdBack_Click() {
         return;
     Change(tr("The shop is moving."), [](const upkeep::Progress& progress) {
         const upkeep::Moved moved = upkeep::MoveMainStore(ProgramFolder(), {}, progress);
-        return WithKept(
+        return WithOld(
             tr("The shop lies in the folder of this register now: %1 rows of %2 tables, compared with those on the "
                "server.")
                 .arg(QString::number(moved.rows), QString::number(moved.tables)),
-            moved.keptAs);
+            moved.old);
     });
 }
 
@@ -200,19 +204,24 @@ void TillsPage::cmdGive_Click() {
 }
 
 void TillsPage::BringPictures(const QString& there, const QString& here) {
-    upkeep::PictureDifference difference;
-    RunBeside(this, tr("The pictures are being compared."),
-              [&](const upkeep::Progress&) { difference = upkeep::ComparePictures(there, here); });
-    QStringList names = difference.missing;
-    if (!difference.different.isEmpty() &&
-        forms::Ask(tr("Some pictures differ from those of the same name there: %1. Replace those?")
-                       .arg(difference.different.join(u", "_s)),
-                   Caption()))
-        names += difference.different;
-    if (names.isEmpty()) return forms::Inform(tr("There is no picture to be copied."), Caption());
-    RunBeside(this, tr("The pictures are being copied."),
-              [&](const upkeep::Progress&) { upkeep::CopyPictures(there, here, names); });
-    forms::Inform(tr("Pictures that were copied: %1.").arg(names.size()), Caption());
+    try {
+        upkeep::PictureDifference difference;
+        RunBeside(this, tr("The pictures are being compared."), [&](const upkeep::Progress& progress) {
+            difference = upkeep::ComparePictures(there, here, progress);
+        });
+        QStringList names = difference.missing;
+        if (!difference.different.isEmpty() &&
+            forms::Ask(tr("Some pictures would replace others of the same name: %1. Replace them?")
+                           .arg(difference.different.join(u", "_s)),
+                       Caption()))
+            names += difference.different;
+        if (names.isEmpty()) return forms::Inform(tr("There is no picture to be copied."), Caption());
+        RunBeside(this, tr("The pictures are being copied."),
+                  [&](const upkeep::Progress& progress) { upkeep::CopyPictures(there, here, names, progress); });
+        forms::Inform(tr("Pictures that were copied: %1.").arg(names.size()), Caption());
+    } catch (const store::StoreError& error) {
+        if (error.Number() != store::Cancelled) throw;
+    }
 }
 
 }  // namespace manager

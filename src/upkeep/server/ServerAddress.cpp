@@ -2,6 +2,7 @@
 
 #include <QUrl>
 #include <QUrlQuery>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -11,9 +12,10 @@ namespace {
 
 using Encryption = ServerAddress::Encryption;
 
-// The words of the client library; what it does without one is to take encryption where it is offered.
-const std::pair<Encryption, QString> Modes[] = {{Encryption::Always, u"require"_s},
-                                                {Encryption::Checked, u"verify-full"_s}};
+// The words of the client library, the first of a kind to be written; what it does without one is to take encryption
+// where it is offered.
+const std::pair<Encryption, QString> Modes[] = {
+    {Encryption::Always, u"require"_s}, {Encryption::Checked, u"verify-full"_s}, {Encryption::Checked, u"verify-ca"_s}};
 
 QString InUrl(const QString& text) {
     return QString::fromLatin1(QUrl::toPercentEncoding(text));
@@ -32,8 +34,8 @@ bool IsFolder(const QString& host) {
 QString ServerAddress::Url() const {
     QStringList parameters;
     if (IsFolder(host)) parameters << u"host="_s + InUrl(host);
-    for (const auto& [mode, word] : Modes)
-        if (mode == encryption) parameters << u"sslmode="_s + word;
+    const auto* mode = std::ranges::find(Modes, encryption, &std::pair<Encryption, QString>::first);
+    if (mode != std::end(Modes)) parameters << u"sslmode="_s + mode->second;
     if (schema != ServerAddress().schema) parameters << u"schema="_s + InUrl(schema);
     return u"postgresql://%1@%2/%3"_s.arg(InUrl(user), IsFolder(host) ? QString() : host, InUrl(database)) +
            (parameters.isEmpty() ? QString() : u'?' + parameters.join(u'&'));
@@ -44,13 +46,15 @@ ServerAddress ServerAddress::Of(const store::Place& place) {
     const QString path = behindScheme.section(u'?', 0, 0);
     const QString authority = path.section(u'/', 0, 0);
     const QUrlQuery parameters(behindScheme.section(u'?', 1));
-    ServerAddress address;
-    address.host = authority.section(u'@', -1);
-    if (authority.contains(u'@')) address.user = FromUrl(authority.section(u'@', 0, -2));
-    if (path.contains(u'/')) address.database = FromUrl(path.section(u'/', 1));
-    if (address.host.isEmpty()) address.host = parameters.queryItemValue(u"host"_s, QUrl::FullyDecoded);
-    address.schema = place.SchemaName();
-    address.encryption = Encryption::WhenOffered;
+    // What may stand in its place or behind the "?".
+    const auto said = [&parameters](const QString& inPlace, const QString& name) {
+        return inPlace.isEmpty() ? parameters.queryItemValue(name, QUrl::FullyDecoded) : inPlace;
+    };
+    ServerAddress address{.host = said(authority.section(u'@', -1), u"host"_s),
+                          .database = said(FromUrl(path.section(u'/', 1)), u"dbname"_s),
+                          .user = said(FromUrl(authority.section(u'@', 0, -2)), u"user"_s),
+                          .schema = place.SchemaName(),
+                          .encryption = Encryption::WhenOffered};
     for (const auto& [mode, word] : Modes)
         if (parameters.queryItemValue(u"sslmode"_s) == word) address.encryption = mode;
     return address;
