@@ -6365,6 +6365,10 @@ Pokušaj od %2 nije uspio: %3</translation>
         <source>Some pictures would replace others of the same name: %1. Replace them?</source>
         <translation>Neke slike bi zamijenile druge istog imena: %1. Treba li ih zamijeniti?</translation>
     </message>
+    <message>
+        <source>There is no shop at %1 any more. Join it where it lies now.</source>
+        <translation>Radnje na %1 više nema. Pridružite joj se tamo gdje je sada.</translation>
+    </message>
 </context>
 <context>
     <name>manager::UnitsStep</name>

@@ -6352,6 +6352,10 @@ Der Versuch vom %2 ist misslungen: %3</translation>
         <source>Some pictures would replace others of the same name: %1. Replace them?</source>
         <translation>Einige Bilder würden andere gleichen Namens ersetzen: %1. Sollen sie ersetzt werden?</translation>
     </message>
+    <message>
+        <source>There is no shop at %1 any more. Join it where it lies now.</source>
+        <translation>In %1 liegt kein Geschäft mehr. Treten Sie ihm dort bei, wo es jetzt liegt.</translation>
+    </message>
 </context>
 <context>
     <name>manager::UnitsStep</name>

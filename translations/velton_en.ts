@@ -6352,6 +6352,10 @@ The try of %2 failed: %3</translation>
         <source>Some pictures would replace others of the same name: %1. Replace them?</source>
         <translation>Some pictures would replace others of the same name: %1. Replace them?</translation>
     </message>
+    <message>
+        <source>There is no shop at %1 any more. Join it where it lies now.</source>
+        <translation>There is no shop at %1 any more. Join it where it lies now.</translation>
+    </message>
 </context>
 <context>
     <name>manager::UnitsStep</name>

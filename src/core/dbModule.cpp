@@ -68,6 +68,10 @@ store::Database& MainStore() {
     return Opened(mainStore);
 }
 
+bool IsMainStoreOpen() {
+    return mainStore != nullptr;
+}
+
 void CloseStores() {
     mainPatience.reset();
     mainStore.reset();

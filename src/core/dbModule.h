@@ -18,6 +18,7 @@ QString WaitsForMainStore();
 // The open stores; before they are opened a store error.
 store::Database& OptionsStore();
 store::Database& MainStore();
+bool IsMainStoreOpen();
 // Tests close them between two starts.
 void CloseStores();
 

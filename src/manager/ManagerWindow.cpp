@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace manager {
 
-ManagerWindow::ManagerWindow() {
+ManagerWindow::ManagerWindow(std::vector<PageEntry> pages) : entries_(std::move(pages)) {
     ui.setupUi(this);
     setWindowFlags(Qt::Window);
     ui.lstPages->SetColumns({{u""_s, Qt::AlignLeft, -1}});

@@ -10,7 +10,7 @@ class ManagerWindow : public forms::Form {
     Q_OBJECT
 
 public:
-    ManagerWindow();
+    explicit ManagerWindow(std::vector<PageEntry> pages);
 
     // By the name of its class.
     void ShowPage(const QString& className);
@@ -32,7 +32,7 @@ private:
     void TellOfShop();
     void DropOthers(const Page* page, bool* goes);
 
-    const std::vector<PageEntry> entries_ = AllPages();
+    const std::vector<PageEntry> entries_;
     std::vector<Page*> pages_{entries_.size()};
 };
 

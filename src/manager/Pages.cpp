@@ -49,4 +49,10 @@ std::vector<PageEntry> AllPages() {
     };
 }
 
+std::vector<PageEntry> PagesWithoutShop() {
+    std::vector<PageEntry> pages = AllPages();
+    std::erase_if(pages, [](const PageEntry& page) { return page.className != u"TillsPage"; });
+    return pages;
+}
+
 }  // namespace manager

@@ -16,5 +16,7 @@ struct PageEntry {
 
 // In the order in which they stand.
 std::vector<PageEntry> AllPages();
+// Those that work without the main store.
+std::vector<PageEntry> PagesWithoutShop();
 
 }  // namespace manager

@@ -16,6 +16,7 @@
 #include "manager/ManagerLogin.h"
 #include "manager/ManagerWindow.h"
 #include "output/Folder.h"
+#include "store/StoreError.h"
 #include "upkeep/Restore.h"
 #include "values/Language.h"
 
@@ -47,11 +48,41 @@ void UseLanguages() {
     values::UseLanguage(values::Shown::OnPaper, TheInstallation.paper);
 }
 
-ManagerWindow* ShowWindow() {
-    auto* window = forms::Open<ManagerWindow>();
+ManagerWindow* ShowWindow(const std::vector<PageEntry>& pages = AllPages()) {
+    auto* window = forms::Open<ManagerWindow>(pages);
     QObject::connect(window, &forms::Form::Unloaded, [] { forms::Run([] { forms::EndProgram(); }, Title); });
     window->Show();
     return window;
+}
+
+void OpenRegister() {
+    upkeep::EndBrokenRestore(output::ProgramFolder());
+    const QStringList refused = ReadInstallation();
+    UseLanguages();
+    forms::UseContrast(TheInstallation.contrast);
+    if (!refused.isEmpty()) forms::Inform(refused.join(u'\n'), Title);
+    OpenOptionsStore();
+    auto options = OptionsStore().OpenRecordset(u"SELECT * FROM Options"_s);
+    options.MoveFirst();
+    ReadSettings(options);
+    static_cast<Heading&>(TheSettings) = TheInstallation.heading;
+}
+
+void OpenMain() {
+    OpenMainStore();
+    ShowWaitsOfMainStore();
+}
+
+// One that has moved away can be joined where it lies now; whoever did that logs in there at the next start.
+bool HasShop() {
+    try {
+        OpenMain();
+        return true;
+    } catch (const store::StoreError& error) {
+        if (error.Number() != store::FileNotFound) throw;
+        forms::Inform(forms::ErrorText(error), Title);
+        return false;
+    }
 }
 
 }  // namespace
@@ -70,18 +101,8 @@ void PrepareManager() {
 }
 
 void OpenShop() {
-    upkeep::EndBrokenRestore(output::ProgramFolder());
-    const QStringList refused = ReadInstallation();
-    UseLanguages();
-    forms::UseContrast(TheInstallation.contrast);
-    if (!refused.isEmpty()) forms::Inform(refused.join(u'\n'), Title);
-    OpenOptionsStore();
-    auto options = OptionsStore().OpenRecordset(u"SELECT * FROM Options"_s);
-    options.MoveFirst();
-    ReadSettings(options);
-    static_cast<Heading&>(TheSettings) = TheInstallation.heading;
-    OpenMainStore();
-    ShowWaitsOfMainStore();
+    OpenRegister();
+    OpenMain();
 }
 
 bool StartManager(const QString& folder) {
@@ -90,7 +111,8 @@ bool StartManager(const QString& folder) {
     KeepErrors(u"velton-manager"_s);
     forms::Run(
         [] {
-            OpenShop();
+            OpenRegister();
+            if (!HasShop()) return void(ShowWindow(PagesWithoutShop()));
             if (IsAsDelivered()) return ShowWindow()->BeginIn(u"SetupPage"_s);
             forms::Open<ManagerLogin>([] { ShowWindow(); })->Show();
         },

@@ -96,7 +96,7 @@ OldStore JoinShop(const QString& folder, const QString& address) {
     StoreIni ini(folder, address);
     std::unique_ptr<store::Database> own;
     QString keptAs;
-    if (LiesIn(folder, store::MainPlace(folder))) {
+    if (const auto place = store::MainPlace(folder); LiesIn(folder, place) && QFileInfo::exists(place.Path())) {
         own = store::OpenMain(folder);
         own->TakeAlone();
         keptAs = own->PrepareToRetire();

@@ -25,7 +25,8 @@ struct Moved {
 Moved MoveMainStore(const QString& folder, const QString& address, const Progress& progress = {});
 
 // Has a register work on a shop that lies on a server already. A store in its own folder is put aside; nobody may have
-// it open (3218). One that lies elsewhere stays there for its other registers.
+// it open (3218). One that lies elsewhere stays there for its other
+// registers, and it may be gone.
 OldStore JoinShop(const QString& folder, const QString& address);
 
 }  // namespace upkeep

@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 
+#include "core/dbModule.h"
 #include "forms/FileDialog.h"
 #include "forms/MsgBox.h"
 #include "forms/Scrollable.h"
@@ -68,10 +69,11 @@ void TillsPage::Form_Activate() {
 void TillsPage::ShowPlace() {
     const store::Place place = store::MainPlace(ProgramFolder());
     ui.lblPlace->setText(
-        place.IsServer()
+        !IsMainStoreOpen() ? tr("There is no shop at %1 any more. Join it where it lies now.").arg(place.Shown())
+        : place.IsServer()
             ? tr("The shop lies on the server %1. Tills on other machines join it there.").arg(place.Shown())
             : tr("The shop lies in the file %1, and serves the tills of this machine.").arg(place.Shown()));
-    ui.cmdBack->setEnabled(place.IsServer());
+    ui.cmdBack->setEnabled(place.IsServer() && IsMainStoreOpen());
     ShowFound();
 }
 
@@ -82,7 +84,7 @@ void TillsPage::Address_Change() {
 
 void TillsPage::ShowFound() {
     const bool isNew = found_ && !found_->isThere;
-    ui.cmdMove->setEnabled(isNew);
+    ui.cmdMove->setEnabled(isNew && IsMainStoreOpen());
     ui.cmdJoin->setEnabled(found_ && found_->isThere);
     if (!found_)
         ui.lblFound->setText(tr("Look at the server first, then move the shop there or join the one that is there."));
@@ -120,7 +122,8 @@ void TillsPage::cmdLook_Click() {
     if (!IsComplete()) return;
     const ServerAddress address = Address();
     const auto place = store::Place::Server(address.Url());
-    if (!ui.txtPassword->text().isEmpty()) upkeep::KeepPassword(address, ui.txtPassword->text());
+    const QString password = ui.txtPassword->text();
+    const QByteArray before = password.isEmpty() ? QByteArray() : upkeep::KeepPassword(address, password);
     found_.reset();
     upkeep::ShopThere found;
     try {
@@ -129,6 +132,7 @@ void TillsPage::cmdLook_Click() {
         found_ = found;
         ShowFound();
     } catch (const store::StoreError& error) {
+        if (!password.isEmpty()) upkeep::PutPasswordsBack(before);  // it may be a wrong one
         ShowFound();
         ui.lblFound->setText(error.Description());
     }

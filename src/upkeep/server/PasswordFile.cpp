@@ -32,30 +32,39 @@ QByteArray PrefixFor(const ServerAddress& address, const QString& host) {
     return QByteArrayList{Field(name), Field(port), Field(address.database), Field(address.user), {}}.join(':');
 }
 
-QByteArrayList LinesOf(const QString& path) {
+QByteArray Read(const QString& path) {
     QFile file(path);
     if (!file.exists()) return {};
     if (!file.open(QIODevice::ReadOnly)) throw values::FileError(file, values::FileWork::Reading);
-    QByteArrayList lines = file.readAll().split('\n');
-    if (lines.last().isEmpty()) lines.removeLast();
-    return lines;
+    const QByteArray content = file.readAll();
+    return content.isNull() ? QByteArray("") : content;
+}
+
+void Write(const QString& path, const QByteArray& content) {
+    QSaveFile file(path);
+    const bool isWritten = file.open(QIODevice::WriteOnly) &&
+                           file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&
+                           file.write(content) == content.size() && file.commit();
+    if (!isWritten) throw values::FileError(file, values::FileWork::Writing);
 }
 
 }  // namespace
 
-void KeepPassword(const ServerAddress& address, const QString& password) {
-    const QString path = PasswordFile();
-    QByteArrayList lines = LinesOf(path);
+QByteArray KeepPassword(const ServerAddress& address, const QString& password) {
+    QByteArray before = Read(PasswordFile());
+    QByteArrayList lines = before.split('\n');
+    if (lines.last().isEmpty()) lines.removeLast();
     for (const QString& host : address.host.split(u',')) {
         const QByteArray prefix = PrefixFor(address, host);
         lines.removeIf([&prefix](const QByteArray& line) { return line.startsWith(prefix); });
         lines.prepend(prefix + Field(password));  // the first line that serves counts
     }
-    QSaveFile file(path);
-    const bool isWritten = file.open(QIODevice::WriteOnly) &&
-                           file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&
-                           file.write(lines.join('\n') + '\n') > 0 && file.commit();
-    if (!isWritten) throw values::FileError(file, values::FileWork::Writing);
+    Write(PasswordFile(), lines.join('\n') + '\n');
+    return before;
+}
+
+void PutPasswordsBack(const QByteArray& before) {
+    before.isNull() ? void(QFile::remove(PasswordFile())) : Write(PasswordFile(), before);
 }
 
 }  // namespace upkeep

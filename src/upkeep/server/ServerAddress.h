@@ -25,7 +25,10 @@ struct ServerAddress {
 
 // Keeps a password where the client library looks for it, in the file that PGPASSFILE names, else in ~/.pgpass: for
 // each host of the address, before and in the place of what stood there for it. All other lines stay, and the file
-// is its user's alone. A FileError when it can't be written.
-void KeepPassword(const ServerAddress& address, const QString& password);
+// is its user's alone. Gives what the file held before, null where there was none. A FileError when it can't be
+// written.
+QByteArray KeepPassword(const ServerAddress& address, const QString& password);
+// Takes that back.
+void PutPasswordsBack(const QByteArray& before);
 
 }  // namespace upkeep
