@@ -49,8 +49,8 @@ BEGIN
 END $velton$)sql"_s.arg(Translated(latin), Translated(cyrillic), Translated(all));
 }
 
-// Powers that no double can hold count as nothing, too large ones are an overflow. Nearly all texts are plain numbers of
-// invoices, which every row of a list asks for.
+// Powers that no double can hold count as nothing, too large ones are an overflow. Nearly all texts are plain numbers
+// of invoices, which every row of a list asks for.
 const auto ValSql =
     uR"sql(
 CREATE FUNCTION velton_val(t text) RETURNS double precision LANGUAGE plpgsql IMMUTABLE STRICT PARALLEL SAFE AS $velton$
