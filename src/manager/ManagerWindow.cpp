@@ -13,11 +13,17 @@ using namespace Qt::StringLiterals;
 
 namespace manager {
 
+namespace {
+
+constexpr int LowestName = 32;  // pixels that a finger still hits
+
+}  // namespace
+
 ManagerWindow::ManagerWindow(std::vector<PageEntry> pages) : entries_(std::move(pages)) {
     ui.setupUi(this);
     setWindowFlags(Qt::Window);
     ui.lstPages->SetColumns({{u""_s, Qt::AlignLeft, -1}});
-    ui.lstPages->KeepRowsInView(forms::Scaled(32));
+    ui.lstPages->KeepRowsInView(forms::Scaled(LowestName));
     connect(ui.lstPages, &forms::ListView::RowChosen, this, Guarded(&ManagerWindow::lstPages_Chosen));
     for (const auto& [key, step] : {std::pair{Qt::Key_PageDown, 1}, std::pair{Qt::Key_PageUp, -1}})
         connect(new QShortcut(QKeyCombination(Qt::ControlModifier, key), this), &QShortcut::activated, this,

@@ -33,7 +33,8 @@ protected:
     void TabLast(std::initializer_list<QWidget*> controls);
 
     // Works on the shop's folder beside the window (Beside.h) while neither this program nor a page of it has the
-    // stores open; whatever becomes of it, they are opened again. False when another page has to stay.
+    // stores open; whatever becomes of it, they are opened again; where that fails, it is told. False when another
+    // page has to stay.
     bool RunWithoutShop(const QString& doing, const std::function<void(const upkeep::Progress&)>& work);
 };
 

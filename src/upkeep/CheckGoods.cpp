@@ -1,6 +1,7 @@
 #include "upkeep/Check.h"
 #include "upkeep/GoodsFaults.h"
 #include "upkeep/KnownKeys.h"
+#include "upkeep/RowCount.h"
 
 using namespace Qt::StringLiterals;
 
@@ -42,8 +43,7 @@ void CheckButtons(store::Database& main, Findings& findings) {
 }
 
 void CheckRowsOf(store::Database& main, const QString& table, int rowsExpected, Findings& findings) {
-    auto rows = main.OpenRecordset(u"SELECT Count(*) AS N FROM [%1]"_s.arg(table));
-    const qint64 found = rows[0].Whole();
+    const qint64 found = CountRows(main, table);
     if (found != rowsExpected)
         findings.Note(QT_TRANSLATE_NOOP("upkeep", "tables with more or fewer rows than delivered"),
                       u"%1 (%2)"_s.arg(table).arg(found), FindingKind::RowsNotAsDelivered);

@@ -6,6 +6,7 @@
 #include "store/StorePath.h"
 #include "upkeep/ClosedTill.h"
 #include "upkeep/DayTotals.h"
+#include "upkeep/RowCount.h"
 #include "upkeep/Words.h"
 #include "values/IniEdit.h"
 
@@ -25,7 +26,7 @@ struct Totals {
 Totals TotalsOf(store::Database& database) {
     Totals totals;
     for (const store::Table& table : database.GetSchema().tables) {
-        const qint64 rows = database.OpenSnapshot(u"SELECT Count(*) AS N FROM [%1]"_s.arg(table.name))[0].Whole();
+        const qint64 rows = CountRows(database, table.name);
         totals.tables += u"%1 %2"_s.arg(table.name).arg(rows);
         totals.rows += rows;
     }

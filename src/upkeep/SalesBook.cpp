@@ -1,5 +1,7 @@
 #include "upkeep/SalesBook.h"
 
+#include "upkeep/RowCount.h"
+
 using namespace Qt::StringLiterals;
 using values::Money;
 
@@ -107,10 +109,6 @@ private:
     ByKey<Invoice> invoices_{book_.invoices};
 };
 
-qint64 CountInvoices(store::Database& main) {
-    return main.OpenRecordset(u"SELECT Count(*) AS N FROM Invoices"_s)[0].Whole();
-}
-
 }  // namespace
 
 Amounts& Amounts::operator+=(const Amounts& other) {
@@ -125,7 +123,7 @@ SalesBook ReadSalesBook(store::Database& main) {
     for (int i = 0; i < tries; ++i) {
         book = {};
         Reader(main, book).Read();
-        if (CountInvoices(main) == static_cast<qint64>(book.rows.size())) break;
+        if (CountRows(main, u"Invoices"_s) == static_cast<qint64>(book.rows.size())) break;
     }
     return book;
 }

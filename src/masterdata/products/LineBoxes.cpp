@@ -28,19 +28,24 @@ void LineBoxes::Show(store::Recordset& product) const {
 bool LineBoxes::LookUp() {
     isUnanswered_ = false;
     try {
-        if (!code_->text().isEmpty()) {
-            auto product = Find(code_->text());
-            if (!product.AtEOF()) {
-                Show(product);
-                return true;
-            }
-        }
+        return ShowFound();
     } catch (const store::QueryError&) {
         throw;
     } catch (const store::StoreError&) {
-        isUnanswered_ = true;
-        Empty();
+        // Beside another code the product of before would be sold.
+        isUnanswered_ = IsMainStoreOnServer();
+        if (isUnanswered_) Empty();
         throw;
+    }
+}
+
+bool LineBoxes::ShowFound() const {
+    if (!code_->text().isEmpty()) {
+        auto product = Find(code_->text());
+        if (!product.AtEOF()) {
+            Show(product);
+            return true;
+        }
     }
     Empty();
     return false;

@@ -36,10 +36,10 @@ public:
     static store::Recordset Find(const QString& code);
     // All of the product but a quantity, which the screen sets.
     void Show(store::Recordset& product) const;
-    // Shows the product of the code; false when there is none, and the boxes are empty. They are so, too, when the
-    // store did not answer.
+    // Shows the product of the code; false when there is none, and the boxes are empty. They are so, too, when a
+    // server did not answer.
     bool LookUp();
-    // Whether the store did not answer, so that it is not known what the code stands for.
+    // Whether the server did not answer, so that it is not known what the code stands for.
     bool IsUnanswered() const { return isUnanswered_; }
 
     // Whether code, quantity and product are there; the button follows.
@@ -64,6 +64,7 @@ private:
         bool isFigure = false;  // "0.00"
     };
     void Empty() const;
+    bool ShowFound() const;
 
     QLineEdit* code_ = nullptr;
     QLineEdit* quantity_ = nullptr;

@@ -28,18 +28,17 @@ Attempt Connect(const QByteArray& address, const char* settings) {
     static const QRegularExpression list(u"^[^?]*,|[?&]host(addr)?=[^&]*(,|%2C)"_s,
                                          QRegularExpression::CaseInsensitiveOption);
     const bool areSeveral = list.match(QString::fromUtf8(address)).hasMatch();
-    const std::pair<const char*, const char*> options[] = {
-        {"connect_timeout", "3"},
-        {"keepalives_idle", "4"},
-        {"keepalives_interval", "2"},
-        {"keepalives_count", "3"},
-        {"tcp_user_timeout", "8000"},
-        {"target_session_attrs", areSeveral ? "read-write" : "any"},
-        {"fallback_application_name", "velton"},
-        {"options", settings},  // the library would print the server's warnings
-        {"dbname", address.constData()},
-        {"client_encoding", "UTF8"},
-        {nullptr, nullptr}};
+    const std::pair<const char*, const char*> options[] = {{"connect_timeout", "3"},
+                                                           {"keepalives_idle", "4"},
+                                                           {"keepalives_interval", "2"},
+                                                           {"keepalives_count", "3"},
+                                                           {"tcp_user_timeout", "8000"},
+                                                           {"target_session_attrs", areSeveral ? "read-write" : "any"},
+                                                           {"fallback_application_name", "velton"},
+                                                           {"options", settings},
+                                                           {"dbname", address.constData()},
+                                                           {"client_encoding", "UTF8"},
+                                                           {nullptr, nullptr}};
     std::vector<const char*> names, values;
     for (const auto& [name, value] : options) {
         names.push_back(name);
@@ -48,7 +47,7 @@ Attempt Connect(const QByteArray& address, const char* settings) {
     return {PQconnectdbParams(names.data(), values.data(), 1), &PQfinish};
 }
 
-// A pooler in between may take no settings.
+// The library would print the server's warnings. A pooler in between may take no settings.
 Attempt Connect(const QByteArray& address) {
     Attempt attempt = Connect(address, "-c client_min_messages=error");
     const bool isRefused = QByteArrayView(PQerrorMessage(attempt.get())).contains("unsupported startup parameter");

@@ -10,6 +10,7 @@
 #include "store/OptionsTable.h"
 #include "store/StorePath.h"
 #include "upkeep/BackupState.h"
+#include "upkeep/RowCount.h"
 #include "upkeep/health/IniReport.h"
 #include "values/Clock.h"
 #include "values/ErrorLog.h"
@@ -87,10 +88,8 @@ void AddSettings(Text& text, store::Database& options) {
 }
 
 void AddTables(Text& text, store::Database& database) {
-    for (const store::Table& table : database.GetSchema().tables) {
-        auto rows = database.OpenSnapshot(u"SELECT Count(*) AS N FROM [%1]"_s.arg(table.name));
-        text.Line(table.name, u"%1 rows"_s.arg(rows[0].Whole()));
-    }
+    for (const store::Table& table : database.GetSchema().tables)
+        text.Line(table.name, u"%1 rows"_s.arg(CountRows(database, table.name)));
 }
 
 // By their texts, which are ours, and how many cases there are; never which.
